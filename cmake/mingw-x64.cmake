@@ -1,0 +1,2 @@
+set(CORVANE_TARGET x86_64-w64-mingw32)
+include(${CMAKE_CURRENT_LIST_DIR}/mingw.cmake)

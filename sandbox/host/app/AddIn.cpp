@@ -1,0 +1,247 @@
+#include "app/AddIn.h"
+
+#include "app/Console.h"
+#include "app/Registry.h"
+#include "automation/Text.h"
+#include "documents/Files.h"
+#include "objects/Application.h"
+#include "objects/Session.h"
+
+namespace host
+{
+namespace
+{
+
+constexpr wchar_t kAddInsKey[] = L"Software\\Microsoft\\Office\\PowerPoint\\Addins";
+constexpr wchar_t kRibbonId[] = L"Microsoft.PowerPoint.Presentation";
+constexpr int kRibbonVersion = 12;
+constexpr DWORD kFailedLoadBehavior = 2;
+constexpr LONG kHostShutdown = 0;
+constexpr long kConnectAtStart = 1;
+
+std::wstring Hex(HRESULT result)
+{
+    wchar_t text[16];
+    ::swprintf_s(text, std::size(text), L"0x%08lX", static_cast<unsigned long>(result));
+    return text;
+}
+
+// The empty array that Office hands over as "custom". Owned by this object.
+class CustomArray
+{
+public:
+    CustomArray() : m_array{::SafeArrayCreateVector(VT_VARIANT, 1, 0)} {}
+    CustomArray(const CustomArray&) = delete;
+    CustomArray& operator=(const CustomArray&) = delete;
+    ~CustomArray() { ::SafeArrayDestroy(m_array); }
+
+    [[nodiscard]] SAFEARRAY** Get() { return &m_array; }
+
+private:
+    SAFEARRAY* m_array;
+};
+
+// What a failed call reported. Owned by this object.
+struct CallReport
+{
+    CallReport() = default;
+    CallReport(const CallReport&) = delete;
+    CallReport& operator=(const CallReport&) = delete;
+    ~CallReport()
+    {
+        ::SysFreeString(info.bstrSource);
+        ::SysFreeString(info.bstrDescription);
+        ::SysFreeString(info.bstrHelpFile);
+    }
+
+    [[nodiscard]] std::wstring Text(HRESULT result)
+    {
+        if (info.pfnDeferredFillIn) info.pfnDeferredFillIn(&info);
+        return Hex(result) + (info.bstrDescription ? std::wstring{L" "} + info.bstrDescription : std::wstring{});
+    }
+
+    EXCEPINFO info{};
+};
+
+} // namespace
+
+std::vector<AddInEntry> RegisteredAddIns()
+{
+    std::vector<AddInEntry> entries;
+    const RegistryKey addIns = RegistryKey::Open(HKEY_CURRENT_USER, kAddInsKey);
+    for (const std::wstring& name : addIns.Children()) {
+        const RegistryKey key = RegistryKey::Open(addIns.Get(), name);
+        entries.push_back({name, key.Text(L"FriendlyName"), key.Text(L"Description"), key.Number(L"LoadBehavior")});
+    }
+    return entries;
+}
+
+AddIn::AddIn(Session& session, ClassLoader& classes, AddInEntry entry)
+    : m_session{session}, m_classes{classes}, m_entry{std::move(entry)},
+      m_registration{MakeObject<ComAddInObject>(m_entry.progId, m_entry.friendlyName)}
+{
+    m_session.AddAddIn(m_registration);
+}
+
+void AddIn::Load()
+{
+    try {
+        Create();
+        Connect();
+        m_state = AddInState::Connected;
+        if (m_session.Settings().MajorVersion() >= kRibbonVersion) ReadRibbonXml();
+        CustomArray custom;
+        if (m_session.Settings().connectMode == kConnectAtStart)
+            ThrowIfFailed(m_extensibility->OnStartupComplete(custom.Get()), L"OnStartupComplete failed");
+    } catch (const AutomationError& error) {
+        Fail(error.Description() + L" (" + Hex(error.Number()) + L")");
+    } catch (const std::exception& error) {
+        Fail(Widen(error.what()));
+    }
+    m_session.Changed();
+}
+
+void AddIn::Create()
+{
+    const CLSID classId = ClassLoader::ClassOf(m_entry.progId);
+    m_registration->SetClass(classId);
+    const ComPtr<IUnknown> object = m_classes.Create(classId);
+    ThrowIfFailed(object->QueryInterface(kExtensibilityId, reinterpret_cast<void**>(m_extensibility.GetAddressOf())),
+                  L"it does not offer IDTExtensibility2");
+    object->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(m_callbacks.GetAddressOf()));
+}
+
+void AddIn::Connect()
+{
+    CustomArray custom;
+    m_registration->SetConnected(true);
+    const auto start = std::chrono::steady_clock::now();
+    const HRESULT connected = m_extensibility->OnConnection(&m_session.Application(), m_session.Settings().connectMode,
+                                                            m_registration.Get(), custom.Get());
+    const auto took = std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
+    ThrowIfFailed(connected, L"OnConnection failed");
+    Print(L"connected " + m_entry.progId + L" in " + std::to_wstring(took.count()) + L" ms");
+}
+
+void AddIn::ReadRibbonXml()
+{
+    ComPtr<IRibbonExtensibility> extensibility;
+    if (FAILED(m_extensibility->QueryInterface(kRibbonExtensibilityId,
+                                               reinterpret_cast<void**>(extensibility.GetAddressOf()))))
+        return;
+    const ComText id{kRibbonId};
+    ComText xml;
+    ThrowIfFailed(extensibility->GetCustomUI(id.Get(), xml.Put()), L"GetCustomUI failed");
+    const std::string text = Narrow(xml.Text());
+    const std::wstring& folder = m_session.Settings().outFolder;
+    if (!folder.empty()) WriteWholeFile(folder + L"\\customUI.xml", text);
+    if (text.empty()) return Print(m_entry.progId + L" hands over no ribbon");
+    m_ribbon = ReadRibbon(text, m_session.Settings().MajorVersion());
+
+    m_ribbonUi = MakeObject<RibbonUiObject>([this] {
+        ReadDynamicStates();
+        m_session.Changed();
+    });
+    if (!m_ribbon->onLoad.empty()) Callback(m_ribbon->onLoad, m_ribbonUi.Get());
+    ReadDynamicStates();
+}
+
+void AddIn::ReadDynamicStates()
+{
+    m_dynamic.clear();
+    if (!m_ribbon) return;
+    for (const auto* part : {&m_ribbon->tabs, &m_ribbon->officeMenu, &m_ribbon->backstage})
+        ReadDynamic(*part);
+}
+
+void AddIn::ReadDynamic(const std::vector<RibbonControl>& controls)
+{
+    for (const RibbonControl& control : controls) {
+        ReadDynamic(control.children);
+        const auto ask = [&](const char* attribute) {
+            const std::string name = control.Attribute(attribute);
+            return name.empty() ? Value{} : Callback(name, ControlObject(control).Get());
+        };
+        DynamicState state;
+        if (const Value label = ask("getLabel"); !label.IsMissing()) state.label = label.Text();
+        if (const Value enabled = ask("getEnabled"); !enabled.IsMissing()) state.enabled = enabled.Boolean();
+        if (const Value visible = ask("getVisible"); !visible.IsMissing()) state.visible = visible.Boolean();
+        if (state.label || state.enabled || state.visible) m_dynamic[control.id] = state;
+    }
+}
+
+const DynamicState* AddIn::Dynamic(const std::string& id) const
+{
+    const auto found = m_dynamic.find(id);
+    return found == m_dynamic.end() ? nullptr : &found->second;
+}
+
+ComPtr<RibbonControlObject> AddIn::ControlObject(const RibbonControl& control) const
+{
+    ComPtr<IDispatch> context;
+    if (PresentationObject* active = m_session.Active()) context = MakeObject<DocumentWindowObject>(active);
+    return MakeObject<RibbonControlObject>(Widen(control.id), Widen(control.Attribute("tag")), context);
+}
+
+void AddIn::Press(const RibbonControl& control)
+{
+    const std::string name = control.Attribute("onAction");
+    if (!name.empty()) Callback(name, ControlObject(control).Get());
+}
+
+Value AddIn::Callback(const std::string& name, IDispatch* argument)
+{
+    const ComPtr<IDispatch> callbacks = m_callbacks; // the add-in may be disconnected meanwhile
+    std::wstring wide = Widen(name);
+    LPOLESTR names[] = {wide.data()};
+    DISPID id = DISPID_UNKNOWN;
+    if (!callbacks || FAILED(callbacks->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id)))
+        throw AutomationError{DISP_E_UNKNOWNNAME, L"the callback " + wide + L" is missing"};
+    const Value value{argument};
+    VARIANT arguments[] = {value.Get()};
+    DISPPARAMS parameters{arguments, nullptr, 1, 0};
+    Value answer;
+    CallReport report;
+    const HRESULT called = callbacks->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters,
+                                             answer.Put(), &report.info, nullptr);
+    if (FAILED(called)) throw AutomationError{called, L"the callback " + wide + L" failed: " + report.Text(called)};
+    return answer;
+}
+
+void AddIn::Disconnect()
+{
+    if (m_extensibility && m_state == AddInState::Connected) {
+        CustomArray custom;
+        m_extensibility->OnBeginShutdown(custom.Get());
+        const HRESULT gone = m_extensibility->OnDisconnection(kHostShutdown, custom.Get());
+        if (FAILED(gone) && onFault) onFault(L"OnDisconnection failed: " + Hex(gone));
+        m_state = AddInState::Disconnected;
+    }
+    if (m_ribbonUi) m_ribbonUi->Disconnect();
+    m_registration->SetConnected(false);
+    m_registration->DropOffered();
+    m_dynamic.clear();
+    m_ribbon.reset();
+    m_ribbonUi.Reset();
+    m_callbacks.Reset();
+    m_extensibility.Reset();
+    m_session.Changed();
+}
+
+void AddIn::Fail(const std::wstring& why)
+{
+    const std::wstring text = m_entry.progId + L": " + why;
+    // With the add-in connected only its user interface is broken; Office keeps it loaded then.
+    if (m_state != AddInState::Connected) {
+        m_state = AddInState::Failed;
+        m_registration->SetConnected(false);
+        m_callbacks.Reset();
+        m_extensibility.Reset();
+        RegistryKey::Create(HKEY_CURRENT_USER, std::wstring{kAddInsKey} + L"\\" + m_entry.progId)
+            .SetNumber(L"LoadBehavior", kFailedLoadBehavior);
+        PrintError(L"the add-in could not be loaded: " + text);
+    }
+    if (onFault) onFault(text);
+}
+
+} // namespace host

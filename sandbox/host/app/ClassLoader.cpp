@@ -1,0 +1,88 @@
+#include "app/ClassLoader.h"
+
+#include "app/Console.h"
+#include "app/Registry.h"
+
+namespace host
+{
+namespace
+{
+
+constexpr wchar_t kUserClasses[] = L"Software\\Classes\\";
+constexpr wchar_t kNotCreated[] = L"its class could not be created";
+
+using GetClassObject = HRESULT(STDMETHODCALLTYPE*)(REFCLSID, REFIID, void**);
+using CanUnloadNow = HRESULT(STDMETHODCALLTYPE*)();
+
+template <class Function> Function FindExport(HMODULE library, const char* name)
+{
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(::GetProcAddress(library, name)));
+}
+
+std::wstring UserLibraryOf(REFCLSID classId)
+{
+    wchar_t text[64] = L"";
+    ::StringFromGUID2(classId, text, static_cast<int>(std::size(text)));
+    return RegistryKey::Open(HKEY_CURRENT_USER, std::wstring{kUserClasses} + L"CLSID\\" + text + L"\\InprocServer32")
+        .Text(nullptr);
+}
+
+} // namespace
+
+ClassLoader::~ClassLoader() = default; // what is still loaded is still needed
+
+CLSID ClassLoader::ClassOf(const std::wstring& progId)
+{
+    CLSID classId{};
+    const std::wstring own =
+        RegistryKey::Open(HKEY_CURRENT_USER, std::wstring{kUserClasses} + progId + L"\\CLSID").Text(nullptr);
+    const HRESULT found = own.empty() ? ::CLSIDFromProgID(progId.c_str(), &classId)
+                                      : ::CLSIDFromString(own.c_str(), &classId);
+    ThrowIfFailed(found, L"its ProgID is not registered");
+    return classId;
+}
+
+ComPtr<IUnknown> ClassLoader::Create(REFCLSID classId)
+{
+    ComPtr<IUnknown> object;
+    const std::wstring library = UserLibraryOf(classId);
+    if (library.empty()) {
+        ThrowIfFailed(::CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown,
+                                         reinterpret_cast<void**>(object.GetAddressOf())),
+                      kNotCreated);
+        return object;
+    }
+    const auto getClassObject = FindExport<GetClassObject>(Load(library), "DllGetClassObject");
+    if (!getClassObject) throw AutomationError{CO_E_ERRORINDLL, L"its library exports no DllGetClassObject"};
+    ComPtr<IClassFactory> factory;
+    ThrowIfFailed(getClassObject(classId, IID_IClassFactory, reinterpret_cast<void**>(factory.GetAddressOf())),
+                  L"its library does not know the class");
+    ThrowIfFailed(factory->CreateInstance(nullptr, IID_IUnknown, reinterpret_cast<void**>(object.GetAddressOf())),
+                  kNotCreated);
+    return object;
+}
+
+void ClassLoader::UnloadUnused()
+{
+    for (auto at = m_libraries.begin(); at != m_libraries.end();) {
+        const auto canUnload = FindExport<CanUnloadNow>(at->second, "DllCanUnloadNow");
+        const bool unused = canUnload && canUnload() == S_OK;
+        Print(std::wstring{L"DllCanUnloadNow: "} + (!canUnload ? L"not exported" : unused ? L"S_OK" : L"S_FALSE"));
+        if (unused) ::FreeLibrary(at->second);
+        at = unused ? m_libraries.erase(at) : std::next(at);
+    }
+    ::CoFreeUnusedLibrariesEx(0, 0);
+}
+
+HMODULE ClassLoader::Load(const std::wstring& path)
+{
+    const auto loaded = m_libraries.find(path);
+    if (loaded != m_libraries.end()) return loaded->second;
+    const HMODULE library = ::LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+    if (!library)
+        throw AutomationError{HRESULT_FROM_WIN32(::GetLastError()), L"its library " + path + L" could not be loaded"};
+    m_libraries.emplace(path, library);
+    return library;
+}
+
+} // namespace host

@@ -1,0 +1,193 @@
+#include "app/Host.h"
+
+#include <commdlg.h>
+
+#include "app/Console.h"
+#include "automation/Text.h"
+#include "objects/CommandBars.h"
+#include "objects/Presentation.h"
+#include "ui/MainWindow.h"
+
+namespace host
+{
+namespace
+{
+
+constexpr int kRibbonVersion = 12;
+constexpr wchar_t kControllerProgId[] = L"CorvaneMSOfficePowerPoint.CController";
+constexpr wchar_t kFileTypes[] = L"Presentations\0*.pptx;*.pptm;*.ppsx;*.ppt\0All files\0*.*\0";
+
+// The path that the user picks, or an empty text.
+std::wstring AskForPath(HWND owner, bool toSave, const std::wstring& proposal)
+{
+    wchar_t path[MAX_PATH] = L"";
+    ::lstrcpynW(path, proposal.c_str(), MAX_PATH);
+    OPENFILENAMEW dialog{};
+    dialog.lStructSize = sizeof dialog;
+    dialog.hwndOwner = owner;
+    dialog.lpstrFilter = kFileTypes;
+    dialog.lpstrFile = path;
+    dialog.nMaxFile = MAX_PATH;
+    dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | (toSave ? OFN_OVERWRITEPROMPT : OFN_FILEMUSTEXIST);
+    const BOOL chosen = toSave ? ::GetSaveFileNameW(&dialog) : ::GetOpenFileNameW(&dialog);
+    return chosen ? path : L"";
+}
+
+} // namespace
+
+Host::Host(Options options) : m_session{std::move(options)}, m_sibling{m_session.Settings().Setting("sibling.login")}
+{
+    m_window = std::make_unique<MainWindow>(*this);
+    m_session.window = m_window->Handle();
+    m_session.onChanged = [this] { m_window->Refresh(); };
+}
+
+Host::~Host() = default;
+
+void Host::Show() { m_window->Show(); }
+
+void Host::LoadAddIns()
+{
+    const auto entries = RegisteredAddIns();
+    if (entries.empty()) Print(L"no add-in is registered for PowerPoint");
+    for (const AddInEntry& entry : entries) {
+        if (!entry.LoadsAtStart()) {
+            Print(entry.progId + L" is registered, but not to be loaded at start-up");
+            continue;
+        }
+        m_addIns.push_back(std::make_unique<AddIn>(m_session, m_classes, entry));
+        m_addIns.back()->onFault = [this](const std::wstring& fault) { AddFault(fault); };
+        m_addIns.back()->Load();
+    }
+    m_loaded = true;
+    m_window->Refresh();
+}
+
+bool Host::RunMessages()
+{
+    MSG message;
+    while (::GetMessageW(&message, nullptr, 0, 0) > 0) {
+        ::TranslateMessage(&message);
+        ::DispatchMessageW(&message);
+    }
+    m_session.onChanged = nullptr;
+    m_window.reset();
+    m_addIns.clear();
+    m_session.Release();
+    const std::wstring living = ObjectCore::Living();
+    if (!living.empty()) PrintError(L"still referenced by the add-in: " + living);
+    return living.empty();
+}
+
+void Host::Quit()
+{
+    while (PresentationObject* active = m_session.Active())
+        m_session.Close(*active);
+    DisconnectAddIns();
+    ::PostQuitMessage(0);
+}
+
+bool Host::HasCommand(const std::string& name) const
+{
+    for (const auto& addIn : m_addIns)
+        if (addIn->Contribution() && addIn->Contribution()->Find(name)) return true;
+    auto& bars = const_cast<Session&>(m_session).CommandBars();
+    return m_session.Settings().MajorVersion() < kRibbonVersion && bars.MenuBar().FindTag(Widen(name));
+}
+
+void Host::Press(const std::string& name)
+{
+    Guarded([&] {
+        for (const auto& addIn : m_addIns) {
+            const RibbonControl* control = addIn->Contribution() ? addIn->Contribution()->Find(name) : nullptr;
+            if (control) return addIn->Press(RibbonControl{*control});
+        }
+        if (BarControlObject* entry = m_session.CommandBars().MenuBar().FindTag(Widen(name))) entry->Press();
+    });
+}
+
+void Host::Perform(HostCommand command)
+{
+    Guarded([&] {
+        PresentationObject* active = m_session.Active();
+        switch (command) {
+        case HostCommand::New: m_session.New(); break;
+        case HostCommand::Open: OpenWithDialog(); break;
+        case HostCommand::Save: active && active->File().HasFile() ? active->Save() : SaveWithName(); break;
+        case HostCommand::SaveAs: SaveWithName(); break;
+        case HostCommand::Close:
+            if (active) m_session.Close(*active);
+            break;
+        case HostCommand::Exit: m_queue.Post([this] { Quit(); }); break;
+        }
+    });
+}
+
+void Host::OpenWithDialog()
+{
+    const std::wstring path = AskForPath(m_window->Handle(), false, {});
+    if (!path.empty()) m_session.Open(path, false);
+}
+
+void Host::SaveWithName()
+{
+    const ComPtr<PresentationObject> active{m_session.Active()};
+    if (!active) return;
+    const std::wstring path = AskForPath(m_window->Handle(), true, active->File().FullName());
+    if (!path.empty()) active->SaveAs(path, kSaveAsDefault);
+}
+
+void Host::CallController(const std::wstring& method)
+{
+    Guarded([&] {
+        const ComPtr<IUnknown> object = m_classes.Create(ClassLoader::ClassOf(kControllerProgId));
+        ComPtr<IDispatch> controller;
+        ThrowIfFailed(object.As(&controller), L"the controller offers no IDispatch");
+        std::wstring name = method;
+        LPOLESTR names[] = {name.data()};
+        DISPID id = DISPID_UNKNOWN;
+        ThrowIfFailed(controller->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id),
+                      L"the controller has no such method");
+        DISPPARAMS none{};
+        ThrowIfFailed(controller->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &none, nullptr, nullptr,
+                                         nullptr),
+                      L"the controller's method failed");
+    });
+}
+
+void Host::DisconnectAddIns()
+{
+    for (const auto& addIn : m_addIns)
+        addIn->Disconnect();
+    m_classes.UnloadUnused();
+}
+
+void Host::Guarded(const std::function<void()>& action)
+{
+    ++m_running;
+    try {
+        action();
+    } catch (const AutomationError& error) {
+        AddFault(error.Description());
+        if (m_session.Settings().playFile.empty())
+            ::MessageBoxW(m_window->Handle(), error.Description().c_str(), L"Stand-in host", MB_ICONEXCLAMATION);
+    } catch (const std::exception& error) {
+        AddFault(Widen(error.what()));
+    }
+    --m_running;
+}
+
+void Host::AddFault(const std::wstring& fault)
+{
+    PrintError(L"fault: " + fault);
+    const std::lock_guard lock{m_faultsMutex};
+    m_faults.push_back(fault);
+}
+
+std::vector<std::wstring> Host::TakeFaults()
+{
+    const std::lock_guard lock{m_faultsMutex};
+    return std::exchange(m_faults, {});
+}
+
+} // namespace host

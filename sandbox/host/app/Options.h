@@ -1,0 +1,31 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "scenario/Script.h"
+
+namespace host
+{
+
+// What the command line asks for. Texts of settings are UTF-8, as scenarios are.
+struct Options
+{
+    std::wstring version = L"16.0";
+    long connectMode = 1;
+    std::wstring playFile;  // empty: a person uses the host
+    std::wstring outFolder; // empty: no files are written
+    Settings settings;
+
+    // The number before the first point of the version.
+    [[nodiscard]] int MajorVersion() const;
+
+    // A setting's value, or an empty text.
+    [[nodiscard]] std::string Setting(std::string_view name) const;
+};
+
+// Reads the words after the program's name. Throws std::invalid_argument with what is wrong.
+[[nodiscard]] Options ParseOptions(const std::vector<std::wstring>& words);
+
+} // namespace host

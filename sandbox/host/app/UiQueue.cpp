@@ -1,0 +1,57 @@
+#include "app/UiQueue.h"
+
+#include <exception>
+#include <future>
+#include <memory>
+
+namespace host
+{
+namespace
+{
+
+constexpr UINT kWork = WM_APP + 1;
+constexpr wchar_t kClassName[] = L"CorvaneHostQueue";
+
+} // namespace
+
+UiQueue::UiQueue() : m_threadId{::GetCurrentThreadId()}
+{
+    WNDCLASSW windowClass{};
+    windowClass.lpfnWndProc = WindowProc;
+    windowClass.hInstance = ::GetModuleHandleW(nullptr);
+    windowClass.lpszClassName = kClassName;
+    ::RegisterClassW(&windowClass);
+    m_window = ::CreateWindowExW(0, kClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, windowClass.hInstance, nullptr);
+}
+
+UiQueue::~UiQueue() { ::DestroyWindow(m_window); }
+
+void UiQueue::Post(std::function<void()> work) const
+{
+    auto owned = std::make_unique<std::function<void()>>(std::move(work));
+    if (::PostMessageW(m_window, kWork, 0, reinterpret_cast<LPARAM>(owned.get()))) owned.release();
+}
+
+bool UiQueue::Run(std::function<void()> work, std::chrono::milliseconds patience) const
+{
+    auto task = std::make_shared<std::packaged_task<void()>>(std::move(work));
+    auto done = task->get_future();
+    Post([task] { (*task)(); });
+    if (done.wait_for(patience) != std::future_status::ready) return false;
+    done.get();
+    return true;
+}
+
+LRESULT CALLBACK UiQueue::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message != kWork) return ::DefWindowProcW(window, message, wParam, lParam);
+    const std::unique_ptr<std::function<void()>> work{reinterpret_cast<std::function<void()>*>(lParam)};
+    try {
+        (*work)();
+    } catch (const std::exception&) {
+        // Work that nobody waits for reports its own failures.
+    }
+    return 0;
+}
+
+} // namespace host

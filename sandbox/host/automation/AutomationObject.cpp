@@ -1,0 +1,96 @@
+#include "automation/AutomationObject.h"
+
+#include <algorithm>
+#include <map>
+#include <new>
+
+#include "automation/Text.h"
+
+namespace host
+{
+namespace
+{
+
+constexpr wchar_t kSource[] = L"Microsoft PowerPoint";
+
+std::map<std::wstring, int>& Ledger()
+{
+    static std::map<std::wstring, int> ledger;
+    return ledger;
+}
+
+bool SameName(std::wstring_view a, std::wstring_view b)
+{
+    return ::CompareStringOrdinal(a.data(), static_cast<int>(a.size()), b.data(), static_cast<int>(b.size()), TRUE) ==
+           CSTR_EQUAL;
+}
+
+HRESULT Report(EXCEPINFO* exception, HRESULT number, const std::wstring& description)
+{
+    if (!exception) return number;
+    *exception = {};
+    exception->scode = number;
+    exception->bstrSource = ::SysAllocString(kSource);
+    exception->bstrDescription = ::SysAllocString(description.c_str());
+    return DISP_E_EXCEPTION;
+}
+
+} // namespace
+
+Value Arguments::At(std::size_t index) const
+{
+    if (index >= Count()) throw AutomationError{DISP_E_BADPARAMCOUNT, L"Wrong number of arguments."};
+    return Value{m_parameters.rgvarg[Count() - 1 - index]};
+}
+
+ObjectCore::ObjectCore(const wchar_t* className) : m_className{className} { ++Ledger()[className]; }
+ObjectCore::~ObjectCore() { --Ledger()[m_className]; }
+
+std::wstring ObjectCore::Living()
+{
+    std::wstring text;
+    for (const auto& [name, count] : Ledger())
+        if (count > 0) text += (text.empty() ? L"" : L", ") + name + L" x" + std::to_wstring(count);
+    return text;
+}
+
+HRESULT ObjectCore::FindNames(LPOLESTR* names, UINT count, DISPID* ids) const noexcept
+{
+    if (!names || !ids || count == 0) return E_INVALIDARG;
+    std::fill(ids, ids + count, DISPID_UNKNOWN);
+    const auto members = Members();
+    const auto found = std::ranges::find_if(members, [&](const Member& m) { return SameName(m.name, names[0]); });
+    if (found == members.end()) return DISP_E_UNKNOWNNAME;
+    ids[0] = found->id;
+    return count == 1 ? S_OK : DISP_E_UNKNOWNNAME; // named arguments are not offered
+}
+
+HRESULT ObjectCore::Call(DISPID id, WORD flags, const DISPPARAMS* parameters, VARIANT* result,
+                         EXCEPINFO* exception) noexcept
+{
+    const auto members = Members();
+    const auto found = std::ranges::find_if(members, [&](const Member& m) { return m.id == id; });
+    if (found == members.end() || !(found->kinds & flags)) return DISP_E_MEMBERNOTFOUND;
+    const DISPPARAMS none{};
+    try {
+        return CallMember(*found, flags, parameters ? *parameters : none, result);
+    } catch (const AutomationError& error) {
+        if (error.Number() == DISP_E_TYPEMISMATCH || error.Number() == DISP_E_BADPARAMCOUNT) return error.Number();
+        return Report(exception, error.Number(), error.Description());
+    } catch (const std::bad_alloc&) {
+        return E_OUTOFMEMORY;
+    } catch (const std::exception& error) {
+        return Report(exception, E_FAIL, Widen(error.what()));
+    }
+}
+
+HRESULT ObjectCore::CallMember(const Member& member, WORD flags, const DISPPARAMS& parameters, VARIANT* result)
+{
+    const Arguments arguments{flags, parameters};
+    if (parameters.cNamedArgs > (arguments.IsPut() ? 1u : 0u)) return DISP_E_NONAMEDARGS;
+    Value answer = member.call(*this, arguments);
+    if (result) *result = answer.Detach();
+    return S_OK;
+}
+
+} // namespace host

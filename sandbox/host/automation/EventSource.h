@@ -1,0 +1,47 @@
+#pragma once
+
+#include <map>
+#include <span>
+#include <vector>
+
+#include <ocidl.h>
+
+#include "automation/AutomationObject.h"
+
+namespace host
+{
+
+// The outgoing side of one object: keeps the sinks that were advised of one event interface and fires to all of them.
+// It is a part of its object and shares the object's reference count, so it lives as long.
+class EventSource final : public IConnectionPointContainer, public IConnectionPoint
+{
+public:
+    EventSource(IUnknown& owner, REFIID events) : m_owner{owner}, m_events{events} {}
+
+    // Calls every sink. The arguments are given in the order in which they are written.
+    void Fire(DISPID event, std::span<VARIANT> arguments);
+
+    [[nodiscard]] bool HasSinks() const { return !m_sinks.empty(); }
+    void DropSinks() { m_sinks.clear(); }
+
+    STDMETHODIMP QueryInterface(REFIID id, void** object) override;
+    STDMETHODIMP_(ULONG) AddRef() override { return m_owner.AddRef(); }
+    STDMETHODIMP_(ULONG) Release() override { return m_owner.Release(); }
+
+    STDMETHODIMP EnumConnectionPoints(IEnumConnectionPoints** points) override;
+    STDMETHODIMP FindConnectionPoint(REFIID id, IConnectionPoint** point) override;
+
+    STDMETHODIMP GetConnectionInterface(IID* id) override;
+    STDMETHODIMP GetConnectionPointContainer(IConnectionPointContainer** container) override;
+    STDMETHODIMP Advise(IUnknown* sink, DWORD* cookie) override;
+    STDMETHODIMP Unadvise(DWORD cookie) override;
+    STDMETHODIMP EnumConnections(IEnumConnections** connections) override;
+
+private:
+    IUnknown& m_owner;
+    IID m_events;
+    std::map<DWORD, ComPtr<IDispatch>> m_sinks;
+    DWORD m_lastCookie = 0;
+};
+
+} // namespace host

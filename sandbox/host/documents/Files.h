@@ -1,0 +1,61 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include <windows.h>
+
+namespace host
+{
+
+// Owns a file handle.
+class FileHandle
+{
+public:
+    FileHandle() = default;
+    explicit FileHandle(HANDLE handle) : m_handle{handle} {}
+    FileHandle(FileHandle&& other) noexcept : m_handle{std::exchange(other.m_handle, INVALID_HANDLE_VALUE)} {}
+    FileHandle& operator=(FileHandle other) noexcept
+    {
+        std::swap(m_handle, other.m_handle);
+        return *this;
+    }
+    ~FileHandle()
+    {
+        if (IsOpen()) ::CloseHandle(m_handle);
+    }
+
+    [[nodiscard]] HANDLE Get() const { return m_handle; }
+    [[nodiscard]] bool IsOpen() const { return m_handle != INVALID_HANDLE_VALUE; }
+
+private:
+    HANDLE m_handle = INVALID_HANDLE_VALUE;
+};
+
+// How a written file is spoilt, to show what an add-in makes of it.
+enum class SaveFault
+{
+    None,
+    Empty,   // no bytes at all
+    Zeros,   // the right length, all zero
+    Growing, // zeros first, the real bytes 2.5 s later
+    Error,   // the save fails
+};
+
+[[nodiscard]] SaveFault SaveFaultNamed(std::string_view name);
+
+// These throw AutomationError with the path and the system's reason.
+[[nodiscard]] std::string ReadWholeFile(const std::wstring& path);
+void WriteWholeFile(const std::wstring& path, std::string_view bytes);
+void WriteDocumentFile(const std::wstring& path, const std::string& bytes, SaveFault fault);
+
+// Holds the file as the real host holds the document that it shows: others may read it, but not write to it.
+[[nodiscard]] FileHandle HoldOpenDocument(const std::wstring& path, bool readOnly);
+
+[[nodiscard]] std::wstring FullPath(const std::wstring& path);
+[[nodiscard]] std::wstring FileName(const std::wstring& path);
+[[nodiscard]] std::wstring FolderOf(const std::wstring& path); // without a closing backslash
+[[nodiscard]] std::wstring Extension(const std::wstring& path); // in lower case, without the point
+
+} // namespace host

@@ -1,0 +1,127 @@
+#include <condition_variable>
+#include <stdexcept>
+#include <thread>
+
+#include <windows.h>
+
+#include <commctrl.h>
+#include <ole2.h>
+#include <shellapi.h>
+
+#include "app/Console.h"
+#include "app/Host.h"
+#include "automation/Text.h"
+#include "documents/Files.h"
+#include "player/Player.h"
+
+namespace
+{
+
+using namespace host;
+using namespace std::chrono_literals;
+
+constexpr int kSuccess = 0;
+constexpr int kFailure = 1;
+constexpr int kUsage = 2;
+constexpr auto kEndPatience = 30s;
+
+std::vector<std::wstring> CommandLineWords()
+{
+    int count = 0;
+    LPWSTR* words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    std::vector<std::wstring> list(words + 1, words + count);
+    ::LocalFree(words);
+    return list;
+}
+
+// Lets the playing thread wait for the end of the user-interface thread, and end the process when it hangs.
+class EndSignal
+{
+public:
+    void Set()
+    {
+        const std::lock_guard lock{m_mutex};
+        m_ended = true;
+        m_changed.notify_all();
+    }
+
+    bool WaitFor(std::chrono::seconds patience)
+    {
+        std::unique_lock lock{m_mutex};
+        return m_changed.wait_for(lock, patience, [this] { return m_ended; });
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    bool m_ended = false;
+};
+
+// A failed scenario leaves modal windows open in the add-in, which no orderly end can pass.
+[[noreturn]] void EndAtOnce(Host& host)
+{
+    host.RemoveTraces();
+    ::TerminateProcess(::GetCurrentProcess(), kFailure);
+    std::abort();
+}
+
+void PlayToTheEnd(Player& player, Host& host, EndSignal& ended)
+{
+    ::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    const bool passed = player.Play();
+    ::CoUninitialize();
+    if (!passed) EndAtOnce(host);
+    if (!player.HasQuit()) player.AskToQuit();
+    if (ended.WaitFor(kEndPatience)) return;
+    PrintError(L"the host did not end in 30 s after the last step");
+    EndAtOnce(host);
+}
+
+int RunForPerson(Host& host) { return host.RunMessages() ? kSuccess : kFailure; }
+
+int RunScenario(Host& host, const std::wstring& path)
+{
+    Player player{host, path};
+    EndSignal ended;
+    std::thread thread{[&] { PlayToTheEnd(player, host, ended); }};
+    const bool clean = host.RunMessages();
+    ended.Set();
+    thread.join();
+    for (const std::wstring& fault : host.TakeFaults()) {
+        PrintError(L"the add-in failed at the end: " + fault);
+        return kFailure;
+    }
+    if (!clean) return kFailure;
+    Print(L"scenario passed: " + FileName(path) + L" (" + std::to_wstring(player.StepCount()) + L" steps)");
+    return kSuccess;
+}
+
+int Run(Options options)
+{
+    const std::wstring script = options.playFile;
+    if (!options.outFolder.empty()) ::CreateDirectoryW(options.outFolder.c_str(), nullptr);
+    Host host{std::move(options)};
+    host.Show();
+    host.Queue().Post([&host] { host.LoadAddIns(); });
+    return script.empty() ? RunForPerson(host) : RunScenario(host, script);
+}
+
+} // namespace
+
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int)
+{
+    try {
+        Options options = ParseOptions(CommandLineWords());
+        const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES};
+        ::InitCommonControlsEx(&controls);
+        if (FAILED(::OleInitialize(nullptr))) return kFailure;
+        const int status = Run(std::move(options));
+        ::OleUninitialize();
+        return status;
+    } catch (const std::exception& error) {
+        PrintError(Widen(error.what()) +
+                   L"\nusage: corvane-host.exe [--version 16.0] [--connect-mode 1] [--play FILE] [--set NAME=VALUE]... "
+                   L"[--out FOLDER]");
+        return kUsage;
+    }
+}

@@ -1,0 +1,137 @@
+#include "objects/CommandBars.h"
+
+#include "automation/OfficeInterfaces.h"
+
+namespace host
+{
+namespace
+{
+
+constexpr DISPID kClick = 1; // of _CommandBarButtonEvents
+
+} // namespace
+
+BarControlObject::BarControlObject(long type, long id, std::wstring caption, CommandBarObject* parent)
+    : AutomationObject{L"CommandBarControl", kCommandBarControlId}, m_type{type}, m_id{id},
+      m_caption{std::move(caption)}, m_parent{parent}, m_clicks{*this, kCommandBarButtonEventsId}
+{
+    if (type == kBarPopup) m_menu = MakeObject<CommandBarObject>(m_caption);
+}
+
+BarControlObject::~BarControlObject() = default;
+
+std::span<const Member> BarControlObject::Members() const
+{
+    using C = BarControlObject;
+    static constexpr Member kMembers[] = {
+        {0, L"Caption", kGetPut, Answer<&C::CaptionProperty>},
+        {1, L"BeginGroup", kGetPut, Answer<&C::BeginGroup>},
+        {2, L"Controls", kGet, Answer<&C::GetControls>},
+        {3, L"CommandBar", kGet, Answer<&C::GetCommandBar>},
+        {4, L"Delete", kMethod, Answer<&C::DoDelete>},
+        {5, L"Enabled", kGetPut, Answer<&C::Enabled>},
+        {6, L"Execute", kMethod, Answer<&C::DoExecute>},
+        {7, L"Id", kGet, Answer<&C::GetId>},
+        {8, L"Index", kGet, Answer<&C::GetIndex>},
+        {9, L"Parameter", kGetPut, Answer<&C::Parameter>},
+        {10, L"Parent", kGet, Answer<&C::GetParent>},
+        {11, L"Style", kGetPut, Answer<&C::Style>},
+        {12, L"Tag", kGetPut, Answer<&C::TagProperty>},
+        {13, L"TooltipText", kGetPut, Answer<&C::TooltipText>},
+        {14, L"Type", kGet, Answer<&C::GetType>},
+        {15, L"Visible", kGetPut, Answer<&C::Visible>},
+    };
+    return kMembers;
+}
+
+void* BarControlObject::Interface(REFIID id)
+{
+    if (id == IID_IConnectionPointContainer && m_type == kBarButton)
+        return static_cast<IConnectionPointContainer*>(&m_clicks);
+    const bool own = id == (m_type == kBarPopup ? kCommandBarPopupId : kCommandBarButtonId);
+    return own ? static_cast<IDispatch*>(this) : nullptr;
+}
+
+void BarControlObject::Press()
+{
+    const ComPtr<BarControlObject> alive{this};
+    VARIANT_BOOL cancel = VARIANT_FALSE;
+    const Value self{this};
+    VARIANT byReference{};
+    byReference.vt = VT_BOOL | VT_BYREF;
+    byReference.pboolVal = &cancel;
+    VARIANT arguments[] = {self.Get(), byReference};
+    m_clicks.Fire(kClick, arguments);
+}
+
+void BarControlObject::Detach()
+{
+    m_parent = nullptr;
+    if (!m_menu) return;
+    const auto entries = m_menu->Entries();
+    for (const auto& entry : entries)
+        m_menu->Remove(*entry.Get());
+}
+
+CommandBarObject& BarControlObject::MenuOrFail()
+{
+    if (!m_menu) throw AutomationError{DISP_E_MEMBERNOTFOUND, L"A button has no controls."};
+    return *m_menu.Get();
+}
+
+Value BarControlObject::TextProperty(const Arguments& arguments, std::wstring& text)
+{
+    if (!arguments.IsPut()) return Value{text};
+    text = arguments.At(0).Text();
+    return {};
+}
+
+Value BarControlObject::FlagProperty(const Arguments& arguments, bool& flag)
+{
+    if (!arguments.IsPut()) return Value::OfBoolean(flag);
+    flag = arguments.At(0).Boolean();
+    return {};
+}
+
+Value BarControlObject::GetType(const Arguments&) { return Value{m_type}; }
+Value BarControlObject::GetId(const Arguments&) { return Value{m_id}; }
+
+Value BarControlObject::GetIndex(const Arguments&)
+{
+    if (!m_parent) throw AutomationError{kInvalidRequest, L"The control was deleted."};
+    return Value{static_cast<long>(m_parent->PositionOf(*this))};
+}
+
+Value BarControlObject::CaptionProperty(const Arguments& arguments) { return TextProperty(arguments, m_caption); }
+Value BarControlObject::TagProperty(const Arguments& arguments) { return TextProperty(arguments, m_tag); }
+Value BarControlObject::Parameter(const Arguments& arguments) { return TextProperty(arguments, m_parameter); }
+Value BarControlObject::TooltipText(const Arguments& arguments) { return TextProperty(arguments, m_tip); }
+Value BarControlObject::Enabled(const Arguments& arguments) { return FlagProperty(arguments, m_enabled); }
+Value BarControlObject::Visible(const Arguments& arguments) { return FlagProperty(arguments, m_visible); }
+Value BarControlObject::BeginGroup(const Arguments& arguments) { return FlagProperty(arguments, m_beginGroup); }
+
+Value BarControlObject::Style(const Arguments& arguments)
+{
+    if (!arguments.IsPut()) return Value{m_style};
+    m_style = arguments.At(0).Number();
+    return {};
+}
+
+Value BarControlObject::GetControls(const Arguments&) { return Value{MenuOrFail().Controls().Get()}; }
+Value BarControlObject::GetCommandBar(const Arguments&) { return Value{&MenuOrFail()}; }
+Value BarControlObject::GetParent(const Arguments&) { return Value{m_parent}; }
+
+Value BarControlObject::DoDelete(const Arguments&)
+{
+    const ComPtr<BarControlObject> alive{this};
+    if (m_parent) m_parent->Remove(*this);
+    return {};
+}
+
+Value BarControlObject::DoExecute(const Arguments&)
+{
+    Press();
+    return {};
+}
+
+} // namespace host

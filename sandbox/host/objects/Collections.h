@@ -1,0 +1,28 @@
+#pragma once
+
+#include <vector>
+
+#include "automation/AutomationObject.h"
+
+namespace host
+{
+
+// A position from an Item argument, 1 for the first; throws AutomationError when it lies outside 1 to count.
+[[nodiscard]] std::size_t ItemPosition(const Value& index, std::size_t count);
+
+// A fixed list of objects with Count and Item by position.
+class ListObject final : public AutomationObject<IDispatch>
+{
+public:
+    ListObject(const wchar_t* className, REFIID id, std::vector<ComPtr<IDispatch>> items);
+
+    [[nodiscard]] std::span<const Member> Members() const override;
+
+private:
+    Value Item(const Arguments& arguments);
+    Value Count(const Arguments&);
+
+    std::vector<ComPtr<IDispatch>> m_items;
+};
+
+} // namespace host

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "automation/AutomationObject.h"
+
+namespace host
+{
+
+class Session;
+
+// What the host knows of one registered add-in, as shown to the add-in itself and to programs.
+class ComAddInObject final : public AutomationObject<IDispatch>
+{
+public:
+    ComAddInObject(std::wstring progId, std::wstring description);
+
+    [[nodiscard]] std::span<const Member> Members() const override;
+
+    [[nodiscard]] const std::wstring& ProgId() const { return m_progId; }
+    void SetClass(REFCLSID classId) { m_classId = classId; }
+    void SetConnected(bool connected) { m_connected = connected; }
+
+    // Forgets the object that the add-in offers to programs.
+    void DropOffered() { m_offered = Value{}; }
+
+private:
+    Value GetDescription(const Arguments&);
+    Value GetProgId(const Arguments&);
+    Value GetGuid(const Arguments&);
+    Value GetConnect(const Arguments&);
+    Value Offered(const Arguments& arguments);
+
+    std::wstring m_progId;
+    std::wstring m_description;
+    CLSID m_classId{};
+    bool m_connected = false;
+    Value m_offered;
+};
+
+// The registered add-ins, by position or ProgID.
+class ComAddInsObject final : public AutomationObject<IDispatch>
+{
+public:
+    explicit ComAddInsObject(Session& session);
+
+    [[nodiscard]] std::span<const Member> Members() const override;
+
+private:
+    Value Item(const Arguments& arguments);
+    Value Count(const Arguments&);
+
+    Session& m_session;
+};
+
+} // namespace host

@@ -1,0 +1,148 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "automation/EventSource.h"
+
+namespace host
+{
+
+class CommandBarObject;
+
+// The numbers of MsoControlType.
+constexpr long kBarButton = 1;
+constexpr long kBarPopup = 10;
+
+// One entry of a menu: a button, or a popup with a menu of its own. It is the menu model itself, so that the object an
+// add-in keeps is the entry that is pressed.
+class BarControlObject final : public AutomationObject<IDispatch>
+{
+public:
+    BarControlObject(long type, long id, std::wstring caption, CommandBarObject* parent);
+    ~BarControlObject() override;
+
+    [[nodiscard]] std::span<const Member> Members() const override;
+    [[nodiscard]] void* Interface(REFIID id) override;
+
+    [[nodiscard]] long Id() const { return m_id; }
+    [[nodiscard]] const std::wstring& Caption() const { return m_caption; }
+    [[nodiscard]] const std::wstring& Tag() const { return m_tag; }
+    [[nodiscard]] bool IsEnabled() const { return m_enabled; }
+    [[nodiscard]] bool IsVisible() const { return m_visible; }
+    [[nodiscard]] CommandBarObject* Menu() { return m_menu.Get(); } // null for a button
+
+    void SetParameter(std::wstring parameter) { m_parameter = std::move(parameter); }
+
+    // Fires Click to whoever listens to this button.
+    void Press();
+
+    // The entry is no longer part of a menu.
+    void Detach();
+
+private:
+    friend class CommandBarObject;
+
+    Value GetType(const Arguments&);
+    Value GetId(const Arguments&);
+    Value GetIndex(const Arguments&);
+    Value CaptionProperty(const Arguments& arguments);
+    Value TagProperty(const Arguments& arguments);
+    Value Parameter(const Arguments& arguments);
+    Value Enabled(const Arguments& arguments);
+    Value Visible(const Arguments& arguments);
+    Value Style(const Arguments& arguments);
+    Value BeginGroup(const Arguments& arguments);
+    Value TooltipText(const Arguments& arguments);
+    Value GetControls(const Arguments&);
+    Value GetCommandBar(const Arguments&);
+    Value GetParent(const Arguments&);
+    Value DoDelete(const Arguments&);
+    Value DoExecute(const Arguments&);
+
+    [[nodiscard]] CommandBarObject& MenuOrFail();
+    Value TextProperty(const Arguments& arguments, std::wstring& text);
+    Value FlagProperty(const Arguments& arguments, bool& flag);
+
+    long m_type;
+    long m_id;
+    std::wstring m_caption;
+    std::wstring m_tag;
+    std::wstring m_parameter;
+    std::wstring m_tip;
+    bool m_enabled = true;
+    bool m_visible = true;
+    bool m_beginGroup = false;
+    long m_style = 0;
+    CommandBarObject* m_parent; // null once detached
+    ComPtr<CommandBarObject> m_menu;
+    EventSource m_clicks;
+};
+
+// A menu bar or a popup's menu with its entries.
+class CommandBarObject final : public AutomationObject<IDispatch>
+{
+public:
+    explicit CommandBarObject(std::wstring name);
+    ~CommandBarObject() override;
+
+    [[nodiscard]] std::span<const Member> Members() const override;
+
+    // Puts in the host's own menus, with the control ids that Office gives them.
+    void FillMenuBar();
+
+    [[nodiscard]] const std::vector<ComPtr<BarControlObject>>& Entries() const { return m_entries; }
+
+    // The first entry with this tag, here or in a menu below, or null.
+    [[nodiscard]] BarControlObject* FindTag(const std::wstring& tag);
+
+    BarControlObject& Insert(long type, long id, const std::wstring& caption, std::size_t position);
+    void Remove(BarControlObject& control);
+    [[nodiscard]] std::size_t PositionOf(const BarControlObject& control) const; // 1 for the first
+
+    [[nodiscard]] ComPtr<IDispatch> Controls();
+
+private:
+    friend class BarControlsObject;
+
+    Value GetName(const Arguments&);
+    Value GetControls(const Arguments&);
+    Value FindControl(const Arguments& arguments);
+
+    std::wstring m_name;
+    std::vector<ComPtr<BarControlObject>> m_entries;
+};
+
+// The Controls collection of a menu.
+class BarControlsObject final : public AutomationObject<IDispatch>
+{
+public:
+    explicit BarControlsObject(CommandBarObject* bar);
+
+    [[nodiscard]] std::span<const Member> Members() const override;
+
+private:
+    Value Item(const Arguments& arguments);
+    Value Count(const Arguments&);
+    Value Add(const Arguments& arguments);
+
+    ComPtr<CommandBarObject> m_bar;
+};
+
+// The host's command bars: the menu bar alone.
+class CommandBarsObject final : public AutomationObject<IDispatch>
+{
+public:
+    CommandBarsObject();
+
+    [[nodiscard]] std::span<const Member> Members() const override;
+    [[nodiscard]] CommandBarObject& MenuBar() { return *m_menuBar.Get(); }
+
+private:
+    Value Item(const Arguments& arguments);
+    Value Count(const Arguments&);
+
+    ComPtr<CommandBarObject> m_menuBar;
+};
+
+} // namespace host

@@ -1,0 +1,136 @@
+#include "objects/DocumentProperties.h"
+
+#include <algorithm>
+
+#include "automation/OfficeInterfaces.h"
+#include "automation/PropertyValue.h"
+#include "automation/Text.h"
+#include "objects/Collections.h"
+#include "objects/Session.h"
+
+namespace host
+{
+namespace
+{
+
+std::vector<CustomProperty>& PropertiesOf(PresentationObject& presentation, PropertySet set)
+{
+    return set == PropertySet::BuiltIn ? presentation.File().BuiltIn() : presentation.File().Custom();
+}
+
+CustomProperty* FindProperty(std::vector<CustomProperty>& properties, const std::string& name)
+{
+    const std::wstring wanted = Widen(name);
+    const auto found = std::ranges::find_if(properties, [&](const CustomProperty& property) {
+        return ::CompareStringOrdinal(Widen(property.name).c_str(), -1, wanted.c_str(), -1, TRUE) == CSTR_EQUAL;
+    });
+    return found == properties.end() ? nullptr : &*found;
+}
+
+CustomProperty& ExistingProperty(std::vector<CustomProperty>& properties, const std::string& name)
+{
+    if (CustomProperty* found = FindProperty(properties, name)) return *found;
+    throw AutomationError{E_INVALIDARG, L"There is no document property named " + Widen(name) + L"."};
+}
+
+void MarkChanged(PresentationObject& presentation)
+{
+    presentation.File().SetSaved(false);
+    presentation.Host().Changed();
+}
+
+} // namespace
+
+DocumentPropertiesObject::DocumentPropertiesObject(PresentationObject* presentation, PropertySet set)
+    : AutomationObject{L"DocumentProperties", kDocumentPropertiesId}, m_presentation{presentation}, m_set{set}
+{
+}
+
+std::span<const Member> DocumentPropertiesObject::Members() const
+{
+    using C = DocumentPropertiesObject;
+    static constexpr Member kMembers[] = {
+        {0, L"Item", kEither, Answer<&C::Item>},
+        {4, L"Count", kGet, Answer<&C::Count>},
+        {5, L"Add", kMethod, Answer<&C::Add>},
+    };
+    return kMembers;
+}
+
+std::vector<CustomProperty>& DocumentPropertiesObject::Properties()
+{
+    return PropertiesOf(*m_presentation.Get(), m_set);
+}
+
+Value DocumentPropertiesObject::Item(const Arguments& arguments)
+{
+    const Value index = arguments.At(0);
+    const CustomProperty& property = index.Type() == VT_BSTR
+                                         ? ExistingProperty(Properties(), Narrow(index.Text()))
+                                         : Properties()[ItemPosition(index, Properties().size()) - 1];
+    return Value{MakeObject<DocumentPropertyObject>(m_presentation.Get(), m_set, property.name).Get()};
+}
+
+Value DocumentPropertiesObject::Count(const Arguments&) { return Value{static_cast<long>(Properties().size())}; }
+
+Value DocumentPropertiesObject::Add(const Arguments& arguments)
+{
+    const std::string name = Narrow(arguments.At(0).Text());
+    if (m_set == PropertySet::BuiltIn) throw AutomationError{E_FAIL, L"A built-in property cannot be added."};
+    if (arguments.At(1).Boolean()) throw AutomationError{E_NOTIMPL, L"Linked properties are not offered."};
+    if (name.empty() || FindProperty(Properties(), name))
+        throw AutomationError{E_INVALIDARG, L"The property name is empty or exists already."};
+    const long type = arguments.Has(2) ? arguments.At(2).Number() : 0;
+    if (type < 1 || type > 5) throw AutomationError{E_INVALIDARG, L"Unknown property type."};
+
+    Properties().push_back(FromValue(name, static_cast<PropertyType>(type), arguments.At(3)));
+    MarkChanged(*m_presentation.Get());
+    return Value{MakeObject<DocumentPropertyObject>(m_presentation.Get(), m_set, name).Get()};
+}
+
+DocumentPropertyObject::DocumentPropertyObject(PresentationObject* presentation, PropertySet set, std::string name)
+    : AutomationObject{L"DocumentProperty", kDocumentPropertyId}, m_presentation{presentation}, m_set{set},
+      m_name{std::move(name)}
+{
+}
+
+std::span<const Member> DocumentPropertyObject::Members() const
+{
+    using P = DocumentPropertyObject;
+    static constexpr Member kMembers[] = {
+        {0, L"Value", kGetPut, Answer<&P::ValueOf>},
+        {2, L"Delete", kMethod, Answer<&P::Delete>},
+        {3, L"Name", kGet, Answer<&P::GetName>},
+        {5, L"Type", kGet, Answer<&P::GetType>},
+    };
+    return kMembers;
+}
+
+CustomProperty& DocumentPropertyObject::Property()
+{
+    return ExistingProperty(PropertiesOf(*m_presentation.Get(), m_set), m_name);
+}
+
+Value DocumentPropertyObject::GetName(const Arguments&) { return Value{Widen(Property().name)}; }
+Value DocumentPropertyObject::GetType(const Arguments&) { return Value{static_cast<long>(Property().type)}; }
+
+Value DocumentPropertyObject::ValueOf(const Arguments& arguments)
+{
+    CustomProperty& property = Property();
+    if (!arguments.IsPut()) return ToValue(property);
+    property = FromValue(property.name, property.type, arguments.At(0));
+    MarkChanged(*m_presentation.Get());
+    return {};
+}
+
+Value DocumentPropertyObject::Delete(const Arguments&)
+{
+    if (m_set == PropertySet::BuiltIn) throw AutomationError{E_FAIL, L"A built-in property cannot be deleted."};
+    auto& properties = PropertiesOf(*m_presentation.Get(), m_set);
+    const std::string name = Property().name;
+    std::erase_if(properties, [&](const CustomProperty& property) { return property.name == name; });
+    MarkChanged(*m_presentation.Get());
+    return {};
+}
+
+} // namespace host

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <string>
+
+#include "objects/Presentation.h"
+
+namespace host
+{
+
+enum class PropertySet
+{
+    BuiltIn,
+    Custom,
+};
+
+// The built-in or the custom properties of a presentation.
+class DocumentPropertiesObject final : public AutomationObject<IDispatch>
+{
+public:
+    DocumentPropertiesObject(PresentationObject* presentation, PropertySet set);
+
+    [[nodiscard]] std::span<const Member> Members() const override;
+
+    // By name, without regard to case, or by position.
+    Value Item(const Arguments& arguments);
+
+private:
+    Value Count(const Arguments&);
+    Value Add(const Arguments& arguments);
+
+    [[nodiscard]] std::vector<CustomProperty>& Properties();
+
+    ComPtr<PresentationObject> m_presentation;
+    PropertySet m_set;
+};
+
+// One property, found by its name each time: it fails once the property is deleted.
+class DocumentPropertyObject final : public AutomationObject<IDispatch>
+{
+public:
+    DocumentPropertyObject(PresentationObject* presentation, PropertySet set, std::string name);
+
+    [[nodiscard]] std::span<const Member> Members() const override;
+
+private:
+    Value GetName(const Arguments&);
+    Value ValueOf(const Arguments& arguments);
+    Value GetType(const Arguments&);
+    Value Delete(const Arguments&);
+
+    [[nodiscard]] CustomProperty& Property();
+
+    ComPtr<PresentationObject> m_presentation;
+    PropertySet m_set;
+    std::string m_name;
+};
+
+} // namespace host

@@ -1,0 +1,188 @@
+#include "package/PresentationPackage.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "package/Xml.h"
+
+namespace host
+{
+namespace
+{
+
+constexpr std::string_view kContentTypes = "[Content_Types].xml";
+constexpr std::string_view kRelations = "_rels/.rels";
+constexpr std::string_view kCustomPart = "docProps/custom.xml";
+constexpr std::string_view kCustomType = "application/vnd.openxmlformats-officedocument.custom-properties+xml";
+constexpr std::string_view kCustomRelation =
+    "http://schemas.openxmlformats.org/officeDocument/2006/relationships/custom-properties";
+
+std::string_view MainContentType(PackageKind kind)
+{
+    switch (kind) {
+    case PackageKind::MacroPresentation: return "application/vnd.ms-powerpoint.presentation.macroEnabled.main+xml";
+    case PackageKind::Template:
+        return "application/vnd.openxmlformats-officedocument.presentationml.template.main+xml";
+    case PackageKind::MacroTemplate: return "application/vnd.ms-powerpoint.template.macroEnabled.main+xml";
+    case PackageKind::Show: return "application/vnd.openxmlformats-officedocument.presentationml.slideshow.main+xml";
+    case PackageKind::MacroShow: return "application/vnd.ms-powerpoint.slideshow.macroEnabled.main+xml";
+    case PackageKind::AddIn: return "application/vnd.ms-powerpoint.addin.macroEnabled.main+xml";
+    case PackageKind::Presentation: break;
+    }
+    return "application/vnd.openxmlformats-officedocument.presentationml.presentation.main+xml";
+}
+
+// Relationship targets are relative to the package's root or begin with "/".
+std::string PartName(std::string_view target)
+{
+    if (target.starts_with("/")) target.remove_prefix(1);
+    return std::string{target};
+}
+
+void CollectText(const XmlElement& element, std::string& text)
+{
+    if (element.LocalName() == "t") text += element.text;
+    for (const XmlElement& child : element.children)
+        CollectText(child, text);
+}
+
+bool HoldsTitlePlaceholder(const XmlElement& element)
+{
+    if (element.LocalName() == "ph") {
+        const std::string type = element.Attribute("type");
+        return type == "title" || type == "ctrTitle";
+    }
+    return std::ranges::any_of(element.children, HoldsTitlePlaceholder);
+}
+
+const XmlElement* FindTitleShape(const XmlElement& element)
+{
+    if (element.LocalName() == "sp" && HoldsTitlePlaceholder(element)) return &element;
+    for (const XmlElement& child : element.children)
+        if (const XmlElement* found = FindTitleShape(child)) return found;
+    return nullptr;
+}
+
+} // namespace
+
+PresentationPackage PresentationPackage::New(std::string_view title, std::string_view author)
+{
+    return PresentationPackage{NewPresentationParts(title, author)};
+}
+
+PresentationPackage PresentationPackage::Parse(std::string_view bytes)
+{
+    PresentationPackage package{Zip::Parse(bytes)};
+    if (!package.m_zip.Find(kContentTypes) || package.PartOfRelation("/officeDocument").empty())
+        throw std::runtime_error{"the archive is not a presentation"};
+    return package;
+}
+
+std::vector<CustomProperty> PresentationPackage::CustomProperties() const
+{
+    const std::string* part = m_zip.Find(PartOfRelation("/custom-properties"));
+    return part ? ReadCustomProperties(*part) : std::vector<CustomProperty>{};
+}
+
+void PresentationPackage::SetCustomProperties(const std::vector<CustomProperty>& properties)
+{
+    std::string part = PartOfRelation("/custom-properties");
+    if (part.empty()) {
+        if (properties.empty()) return;
+        part = kCustomPart;
+        AddRelation(kCustomRelation, part);
+    }
+    SetContentType(part, kCustomType);
+    m_zip.Set(part, WriteCustomProperties(properties));
+}
+
+std::string PresentationPackage::CoreProperty(std::string_view element) const
+{
+    const std::string* part = m_zip.Find(PartOfRelation("/core-properties"));
+    if (!part) return {};
+    const XmlElement root = ParseXml(*part);
+    const XmlElement* found = root.Child(element.substr(element.find(':') + 1));
+    return found ? found->text : std::string{};
+}
+
+void PresentationPackage::SetCoreProperty(std::string_view element, std::string_view value)
+{
+    const std::string part = PartOfRelation("/core-properties");
+    const std::string* text = m_zip.Find(part);
+    if (!text) return;
+    XmlElement root = ParseXml(*text);
+    XmlElement* found = root.Child(element.substr(element.find(':') + 1));
+    if (!found) {
+        root.children.push_back({.name = std::string{element}});
+        found = &root.children.back();
+    }
+    if (found->text == value) return;
+    found->text = value;
+    m_zip.Set(part, WriteXml(root));
+}
+
+std::string PresentationPackage::SlideTitle() const
+{
+    const std::string* part = m_zip.Find("ppt/slides/slide1.xml");
+    if (!part) return {};
+    const XmlElement slide = ParseXml(*part);
+    std::string title;
+    if (const XmlElement* shape = FindTitleShape(slide)) CollectText(*shape, title);
+    return title;
+}
+
+void PresentationPackage::SetKind(PackageKind kind)
+{
+    SetContentType(PartOfRelation("/officeDocument"), MainContentType(kind));
+}
+
+std::string PresentationPackage::PartOfRelation(std::string_view typeEnd) const
+{
+    const std::string* part = m_zip.Find(kRelations);
+    if (!part) return {};
+    for (const XmlElement& relation : ParseXml(*part).children)
+        if (relation.Attribute("Type").ends_with(typeEnd)) return PartName(relation.Attribute("Target"));
+    return {};
+}
+
+void PresentationPackage::AddRelation(std::string_view type, std::string_view target)
+{
+    XmlElement root = ParseXml(*m_zip.Find(kRelations));
+    const auto taken = [&](const std::string& id) {
+        return std::ranges::any_of(root.children, [&](const XmlElement& r) { return r.Attribute("Id") == id; });
+    };
+    int number = 1;
+    while (taken("rId" + std::to_string(number)))
+        ++number;
+    XmlElement relation{.name = "Relationship"};
+    const std::size_t prefix = root.name.find(':');
+    if (prefix != std::string::npos) relation.name.insert(0, root.name, 0, prefix + 1);
+    relation.SetAttribute("Id", "rId" + std::to_string(number));
+    relation.SetAttribute("Type", type);
+    relation.SetAttribute("Target", target);
+    root.children.push_back(std::move(relation));
+    m_zip.Set(kRelations, WriteXml(root));
+}
+
+void PresentationPackage::SetContentType(std::string_view part, std::string_view type)
+{
+    std::string partName{'/'};
+    partName += part;
+    XmlElement root = ParseXml(*m_zip.Find(kContentTypes));
+    const auto found =
+        std::ranges::find_if(root.children, [&](const XmlElement& e) { return e.Attribute("PartName") == partName; });
+    if (found != root.children.end()) {
+        if (found->Attribute("ContentType") == type) return;
+        found->SetAttribute("ContentType", type);
+    } else {
+        XmlElement entry{.name = "Override"};
+        const std::size_t prefix = root.name.find(':');
+        if (prefix != std::string::npos) entry.name.insert(0, root.name, 0, prefix + 1);
+        entry.SetAttribute("PartName", partName);
+        entry.SetAttribute("ContentType", type);
+        root.children.push_back(std::move(entry));
+    }
+    m_zip.Set(kContentTypes, WriteXml(root));
+}
+
+} // namespace host

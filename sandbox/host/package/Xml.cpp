@@ -1,0 +1,278 @@
+#include "package/Xml.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <stdexcept>
+
+namespace host
+{
+namespace
+{
+
+void AppendUtf8(std::string& out, std::uint32_t code)
+{
+    const auto tail = [&](int shift) { out += static_cast<char>(0x80 | ((code >> shift) & 0x3f)); };
+    if (code < 0x80) {
+        out += static_cast<char>(code);
+    } else if (code < 0x800) {
+        out += static_cast<char>(0xc0 | (code >> 6));
+        tail(0);
+    } else if (code < 0x10000) {
+        out += static_cast<char>(0xe0 | (code >> 12));
+        tail(6);
+        tail(0);
+    } else {
+        out += static_cast<char>(0xf0 | (code >> 18));
+        tail(12);
+        tail(6);
+        tail(0);
+    }
+}
+
+std::string Quoted(std::string_view text)
+{
+    std::string quoted{'"'};
+    quoted += text;
+    return quoted += '"';
+}
+
+class Reader
+{
+public:
+    explicit Reader(std::string_view text) : m_text{text}
+    {
+        if (m_text.starts_with("\xef\xbb\xbf")) m_at = 3;
+    }
+
+    XmlElement Document()
+    {
+        SkipMisc();
+        XmlElement root = Element(0);
+        SkipMisc();
+        if (m_at != m_text.size()) Fail("text after the root element");
+        return root;
+    }
+
+private:
+    static constexpr int kDeepest = 200;
+
+    [[noreturn]] void Fail(const std::string& what) const
+    {
+        throw std::runtime_error{what + " at offset " + std::to_string(m_at)};
+    }
+
+    [[nodiscard]] bool At(std::string_view token) const { return m_text.substr(m_at).starts_with(token); }
+
+    bool Take(std::string_view token)
+    {
+        if (!At(token)) return false;
+        m_at += token.size();
+        return true;
+    }
+
+    void Expect(std::string_view token)
+    {
+        if (!Take(token)) Fail(Quoted(token) + " expected");
+    }
+
+    void SkipBlanks() { m_at = std::min(m_text.find_first_not_of(" \t\r\n", m_at), m_text.size()); }
+
+    std::string_view Until(std::string_view token)
+    {
+        const std::size_t end = m_text.find(token, m_at);
+        if (end == std::string_view::npos) Fail(Quoted(token) + " missing");
+        const std::string_view part = m_text.substr(m_at, end - m_at);
+        m_at = end + token.size();
+        return part;
+    }
+
+    void SkipMisc()
+    {
+        for (SkipBlanks(); At("<?") || At("<!--"); SkipBlanks())
+            Until(At("<?") ? "?>" : "-->");
+    }
+
+    std::string Name()
+    {
+        const std::size_t end = std::min(m_text.find_first_of(" \t\r\n=/><\"'&", m_at), m_text.size());
+        if (end == m_at) Fail("a name expected");
+        const std::string name{m_text.substr(m_at, end - m_at)};
+        m_at = end;
+        return name;
+    }
+
+    void AppendReference(std::string& out)
+    {
+        static constexpr std::pair<std::string_view, char> kNamed[] = {
+            {"&amp;", '&'}, {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}, {"&apos;", '\''}};
+        for (const auto& [token, letter] : kNamed)
+            if (Take(token)) {
+                out += letter;
+                return;
+            }
+        Expect("&#");
+        const int base = Take("x") ? 16 : 10;
+        const std::string_view digits = Until(";");
+        std::uint32_t code = 0;
+        const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), code, base);
+        if (error != std::errc{} || end != digits.data() + digits.size() || code > 0x10ffff) Fail("a bad reference");
+        AppendUtf8(out, code);
+    }
+
+    // Character data up to, not including, one of the stop letters.
+    std::string Characters(std::string_view stops)
+    {
+        std::string out;
+        while (m_at < m_text.size() && stops.find(m_text[m_at]) == std::string_view::npos) {
+            if (m_text[m_at] == '&')
+                AppendReference(out);
+            else
+                out += m_text[m_at++];
+        }
+        return out;
+    }
+
+    void Attributes(XmlElement& element)
+    {
+        for (SkipBlanks(); !At(">") && !At("/>"); SkipBlanks()) {
+            const std::string name = Name();
+            SkipBlanks();
+            Expect("=");
+            SkipBlanks();
+            const std::string_view quote = At("'") ? "'" : "\"";
+            Expect(quote);
+            if (std::ranges::any_of(element.attributes, [&](const auto& a) { return a.first == name; }))
+                Fail(Quoted(name) + " is given twice");
+            element.attributes.emplace_back(name, Characters(quote == "'" ? "'<" : "\"<"));
+            Expect(quote);
+        }
+    }
+
+    void Content(XmlElement& element, int depth)
+    {
+        while (!At("</")) {
+            if (m_at >= m_text.size()) Fail(Quoted(element.name) + " is not closed");
+            if (Take("<![CDATA["))
+                element.text += Until("]]>");
+            else if (At("<!--") || At("<?"))
+                Until(At("<?") ? "?>" : "-->");
+            else if (At("<"))
+                element.children.push_back(Element(depth + 1));
+            else
+                element.text += Characters("<");
+        }
+    }
+
+    XmlElement Element(int depth)
+    {
+        if (depth > kDeepest) Fail("elements nested too deep");
+        Expect("<");
+        XmlElement element;
+        element.name = Name();
+        Attributes(element);
+        if (Take("/>")) return element;
+        Expect(">");
+        Content(element, depth);
+        Expect("</");
+        if (Name() != element.name) Fail("the end of " + Quoted(element.name) + " expected");
+        SkipBlanks();
+        Expect(">");
+        return element;
+    }
+
+    std::string_view m_text;
+    std::size_t m_at = 0;
+};
+
+void AppendEscaped(std::string& out, std::string_view text)
+{
+    for (const char c : text) {
+        switch (c) {
+        case '&': out += "&amp;"; break;
+        case '<': out += "&lt;"; break;
+        case '>': out += "&gt;"; break;
+        case '"': out += "&quot;"; break;
+        case '\t': out += "&#9;"; break;
+        case '\n': out += "&#10;"; break;
+        case '\r': out += "&#13;"; break;
+        default: out += c;
+        }
+    }
+}
+
+void AppendElement(std::string& out, const XmlElement& element)
+{
+    out += '<';
+    out += element.name;
+    for (const auto& [name, value] : element.attributes) {
+        out += ' ';
+        out += name;
+        out += "=\"";
+        AppendEscaped(out, value);
+        out += "\"";
+    }
+    if (element.text.empty() && element.children.empty()) {
+        out += "/>";
+        return;
+    }
+    out += ">";
+    AppendEscaped(out, element.text);
+    for (const XmlElement& child : element.children)
+        AppendElement(out, child);
+    out += "</";
+    out += element.name;
+    out += '>';
+}
+
+} // namespace
+
+std::string_view XmlElement::LocalName() const
+{
+    const std::size_t colon = name.find(':');
+    return std::string_view{name}.substr(colon == std::string::npos ? 0 : colon + 1);
+}
+
+std::string XmlElement::Attribute(std::string_view attribute) const
+{
+    const auto found = std::ranges::find_if(attributes, [&](const auto& a) { return a.first == attribute; });
+    return found == attributes.end() ? std::string{} : found->second;
+}
+
+void XmlElement::SetAttribute(std::string_view attribute, std::string_view value)
+{
+    const auto found = std::ranges::find_if(attributes, [&](const auto& a) { return a.first == attribute; });
+    if (found == attributes.end())
+        attributes.emplace_back(attribute, value);
+    else
+        found->second = value;
+}
+
+const XmlElement* XmlElement::Child(std::string_view localName) const
+{
+    const auto found = std::ranges::find_if(children, [&](const XmlElement& c) { return c.LocalName() == localName; });
+    return found == children.end() ? nullptr : &*found;
+}
+
+XmlElement* XmlElement::Child(std::string_view localName)
+{
+    return const_cast<XmlElement*>(std::as_const(*this).Child(localName));
+}
+
+std::string EscapeXml(std::string_view text)
+{
+    std::string out;
+    AppendEscaped(out, text);
+    return out;
+}
+
+XmlElement ParseXml(std::string_view text) { return Reader{text}.Document(); }
+
+std::string WriteXml(const XmlElement& root)
+{
+    std::string out = R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)";
+    AppendElement(out, root);
+    return out;
+}
+
+} // namespace host

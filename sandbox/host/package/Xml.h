@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace host
+{
+
+// An element of an XML document in UTF-8. Names keep their prefixes; comments and processing instructions are dropped.
+struct XmlElement
+{
+    std::string name;
+    std::vector<std::pair<std::string, std::string>> attributes{};
+    std::string text{}; // the character data directly inside, joined
+    std::vector<XmlElement> children{};
+
+    [[nodiscard]] std::string_view LocalName() const;
+
+    // The attribute's value, or an empty text.
+    [[nodiscard]] std::string Attribute(std::string_view attribute) const;
+    void SetAttribute(std::string_view attribute, std::string_view value);
+
+    // The first child of this local name, or null.
+    [[nodiscard]] const XmlElement* Child(std::string_view localName) const;
+    [[nodiscard]] XmlElement* Child(std::string_view localName);
+};
+
+// Returns the root element. Throws std::runtime_error, with the offset, when the text is not well formed.
+// Document type declarations are refused: no package part and no ribbon carries one.
+[[nodiscard]] XmlElement ParseXml(std::string_view text);
+
+// Writes a document with its declaration, on one line as packages do.
+[[nodiscard]] std::string WriteXml(const XmlElement& root);
+
+// The text with the letters that XML reserves, and line ends and tabs, as references.
+[[nodiscard]] std::string EscapeXml(std::string_view text);
+
+} // namespace host

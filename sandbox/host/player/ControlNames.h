@@ -1,0 +1,16 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace host
+{
+
+// The id of a control by the name that the forms' resource header gives it; "IDOK" and the like stand for themselves.
+[[nodiscard]] std::optional<int> ControlIdOf(std::string_view name);
+
+// The name of a control id, or the number as text.
+[[nodiscard]] std::string ControlNameOf(int id);
+
+} // namespace host

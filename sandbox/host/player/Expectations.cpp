@@ -1,0 +1,96 @@
+#include <stdexcept>
+
+#include "automation/Text.h"
+#include "objects/Presentation.h"
+#include "player/Player.h"
+#include "player/Screen.h"
+
+namespace host
+{
+namespace
+{
+
+std::wstring Quoted(const std::optional<std::wstring>& text)
+{
+    return text ? L"\"" + *text + L"\"" : L"a window that does not answer";
+}
+
+struct StateName
+{
+    std::string_view name;
+    bool (*holds)(HWND form, HWND control, HWND focus);
+};
+
+bool IsChecked(HWND control) { return Ask(control, BM_GETCHECK).value_or(BST_INDETERMINATE) == BST_CHECKED; }
+
+constexpr StateName kStates[] = {
+    {"enabled", [](HWND, HWND control, HWND) { return ::IsWindowEnabled(control) != FALSE; }},
+    {"disabled", [](HWND, HWND control, HWND) { return ::IsWindowEnabled(control) == FALSE; }},
+    {"visible", [](HWND, HWND control, HWND) { return ::IsWindowVisible(control) != FALSE; }},
+    {"hidden", [](HWND, HWND control, HWND) { return ::IsWindowVisible(control) == FALSE; }},
+    {"checked", [](HWND, HWND control, HWND) { return IsChecked(control); }},
+    {"unchecked", [](HWND, HWND control, HWND) { return !IsChecked(control); }},
+    {"focused",
+     [](HWND, HWND control, HWND focus) { return focus && (focus == control || ::IsChild(control, focus)); }},
+    {"default", [](HWND form, HWND control, HWND) { return IsDefaultButton(form, control); }},
+    {"notdefault", [](HWND form, HWND control, HWND) { return !IsDefaultButton(form, control); }},
+};
+
+} // namespace
+
+Player::Finding Player::StateFinding(const std::string& control, const std::string& state)
+{
+    const HWND window = Control(control);
+    if (!window) return L"no " + Widen(control) + L" in " + m_form;
+    for (const StateName& row : kStates) {
+        if (row.name != state) continue;
+        return row.holds(Form(), window, FocusOf(m_host.Queue().ThreadId())) ? Finding{} : L"it is not " + Widen(state);
+    }
+    throw std::runtime_error{"no state is named " + state};
+}
+
+void Player::Expect(const Step& step)
+{
+    const std::string what = step.At(0);
+    if (what == "addin") return ExpectAddIn(step);
+    if (what == "document") return ExpectDocument(step);
+    if (!step.words[1].quoted) return WaitFor([&] { return StateFinding(what, step.At(1)); });
+
+    const std::wstring wanted = Widen(step.Lines(1));
+    WaitFor([&]() -> Finding {
+        const HWND window = what == "caption" ? Form() : Control(what);
+        if (!window) return L"no " + Widen(what) + L" in " + m_form;
+        const auto text = what == "caption" ? WindowText(window) : ControlText(window);
+        return text == wanted ? Finding{} : L"it is " + Quoted(text);
+    });
+}
+
+void Player::ExpectDocument(const Step& step)
+{
+    WaitFor([&, wanted = Widen(step.At(1))] {
+        std::wstring name = L"no presentation";
+        OnUi([&] {
+            if (PresentationObject* active = m_host.Documents().Active()) name = active->File().Name();
+        });
+        return name == wanted ? Finding{} : L"it is " + name;
+    });
+}
+
+// A failed add-in is a fault that ends a scenario, unless its first step on the add-in expects it.
+void Player::ExpectAddIn(const Step& step)
+{
+    m_faultsExpected = step.At(1) == "failed";
+    WaitUntilLoaded();
+    std::string state = "absent";
+    OnUi([&] {
+        for (const auto& addIn : m_host.AddIns()) {
+            if (addIn->State() == AddInState::Connected) state = "loaded";
+            if (addIn->State() == AddInState::Failed) state = "failed";
+        }
+    });
+    if (state != step.At(1)) throw std::runtime_error{"the add-in is " + state};
+    static_cast<void>(m_host.TakeFaults()); // they are what was expected
+    m_faultsExpected = false;
+}
+
+} // namespace host

@@ -1,0 +1,242 @@
+#include <algorithm>
+#include <stdexcept>
+
+#include "app/Console.h"
+#include "automation/Text.h"
+#include "player/ControlNames.h"
+#include "player/Keys.h"
+#include "player/Player.h"
+#include "player/Screen.h"
+#include "player/Tree.h"
+
+namespace host
+{
+namespace
+{
+
+constexpr std::size_t kTypedByHand = 2000; // longer texts are pasted; a thread's queue is limited
+constexpr UINT kRepaintPatience = 1000;    // milliseconds
+
+HWND EditOf(HWND control)
+{
+    if (::lstrcmpiW(ClassOf(control).c_str(), WC_COMBOBOXW) != 0) return control;
+    const HWND edit = ::FindWindowExW(control, nullptr, WC_EDITW, nullptr);
+    if (!edit) throw std::runtime_error{"this list takes no typed text"};
+    return edit;
+}
+
+void Notify(HWND control, WORD code)
+{
+    const auto id = static_cast<WORD>(::GetDlgCtrlID(control));
+    ::PostMessageW(::GetParent(control), WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(control));
+}
+
+std::wstring Joined(const std::vector<std::wstring>& texts)
+{
+    std::wstring all;
+    for (const std::wstring& text : texts)
+        all += (all.empty() ? L"\"" : L", \"") + text + L"\"";
+    return all.empty() ? L"nothing" : all;
+}
+
+} // namespace
+
+HWND Player::Form() const
+{
+    if (m_form.empty()) throw std::runtime_error{"no window is addressed yet"};
+    return FindForm(m_form);
+}
+
+// The control, or null while its form or itself is not there.
+HWND Player::Control(const std::string& name) const
+{
+    const auto id = ControlIdOf(name);
+    if (!id) throw std::runtime_error{"no control is named " + name};
+    const HWND form = Form();
+    return form ? FindControl(form, *id) : nullptr;
+}
+
+// Waits until a person could use the control: it and its window are visible and enabled.
+HWND Player::UsableControl(const std::string& name)
+{
+    HWND control = nullptr;
+    WaitFor([&] {
+        control = Control(name);
+        if (!control) return L"no " + Widen(name) + L" in " + m_form;
+        if (!::IsWindowVisible(control)) return Widen(name) + L" is hidden";
+        const bool enabled = ::IsWindowEnabled(control) && ::IsWindowEnabled(Form());
+        return enabled ? Finding{} : Widen(name) + L" is disabled";
+    });
+    return control;
+}
+
+void Player::Focus(HWND control)
+{
+    m_host.Queue().Post([control] { ::SetFocus(control); });
+    Settle();
+}
+
+void Player::Window(const Step& step)
+{
+    m_form = Widen(step.At(0));
+    WaitFor([this] { return FindForm(m_form) ? Finding{} : L"no window " + m_form; });
+}
+
+void Player::Closed(const Step& step)
+{
+    const std::wstring name = Widen(step.At(0));
+    WaitFor([&] { return FindForm(name) ? L"the window " + name + L" is open" : Finding{}; });
+}
+
+void Player::Type(const Step& step)
+{
+    const HWND edit = EditOf(UsableControl(step.At(0)));
+    if (::GetWindowLongPtrW(edit, GWL_STYLE) & ES_READONLY) throw std::runtime_error{"the control is read-only"};
+    std::wstring text = Widen(step.Lines(1));
+    Focus(edit);
+    ::PostMessageW(edit, EM_SETSEL, 0, -1);
+    if (text.empty()) {
+        ::PostMessageW(edit, WM_CHAR, L'\b', 1);
+    } else if (text.size() > kTypedByHand) {
+        m_host.Queue().Post(
+            [edit, text] { ::SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str())); });
+    } else {
+        std::erase(text, L'\n'); // the Enter key sends the carriage return alone
+        for (const wchar_t letter : text)
+            ::PostMessageW(edit, WM_CHAR, letter, 1);
+    }
+    Settle();
+}
+
+void Player::Press(const Step& step)
+{
+    const HWND button = UsableControl(step.At(0));
+    Focus(button);
+    ::PostMessageW(button, BM_CLICK, 0, 0);
+    Settle();
+}
+
+void Player::Check(const Step& step)
+{
+    const bool wanted = step.At(1) == "on";
+    if (!wanted && step.At(1) != "off") throw std::runtime_error{"a box is checked on or off"};
+    const HWND box = UsableControl(step.At(0));
+    const auto isChecked = [&] { return Ask(box, BM_GETCHECK).value_or(BST_INDETERMINATE) == BST_CHECKED; };
+    if (isChecked() != wanted) {
+        Focus(box);
+        ::PostMessageW(box, BM_CLICK, 0, 0);
+    }
+    WaitFor([&] { return isChecked() == wanted ? Finding{} : Finding{L"the box keeps its state"}; });
+}
+
+void Player::ExpandNode(HWND tree, HTREEITEM node)
+{
+    static TVITEMW item; // lives on: see Ask
+    item = {};
+    item.mask = TVIF_STATE | TVIF_HANDLE;
+    item.hItem = node;
+    item.stateMask = TVIS_EXPANDED;
+    if (!Ask(tree, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item)).value_or(FALSE)) return;
+    if (!(item.state & TVIS_EXPANDED)) ::PostMessageW(tree, TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(node));
+    Settle();
+}
+
+void Player::Select(const Step& step)
+{
+    HWND tree = UsableControl(step.At(0));
+    HTREEITEM node = nullptr;
+    bool first = true;
+    for (const std::string& name : SplitTreePath(step.At(1))) {
+        const HTREEITEM parent = node;
+        if (!first) ExpandNode(tree, parent);
+        first = false;
+        WaitFor([&] {
+            node = FindNode(tree, parent, Widen(name));
+            if (node) return Finding{};
+            return L"no node \"" + Widen(name) + L"\"; there is " + Joined(NodeTexts(tree, parent));
+        });
+    }
+    Focus(tree);
+    ::PostMessageW(tree, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(node));
+    WaitFor([&] {
+        return NextNode(tree, TVGN_CARET, nullptr) == node ? Finding{} : Finding{L"the node is not selected"};
+    });
+    Settle();
+}
+
+void Player::Choose(const Step& step)
+{
+    const HWND list = UsableControl(step.At(0));
+    const bool combo = ::lstrcmpiW(ClassOf(list).c_str(), WC_COMBOBOXW) == 0;
+    static std::wstring text; // lives on: see Ask
+    text = Widen(step.At(1));
+    LRESULT index = -1;
+    WaitFor([&] {
+        const UINT find = combo ? CB_FINDSTRINGEXACT : LB_FINDSTRINGEXACT;
+        index = Ask(list, find, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text.c_str())).value_or(-1);
+        return index >= 0 ? Finding{} : L"the list has no entry \"" + text + L"\"";
+    });
+    Focus(list);
+    ::PostMessageW(list, combo ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    Notify(list, combo ? CBN_SELCHANGE : LBN_SELCHANGE);
+    Settle();
+}
+
+void Player::Key(const Step& step)
+{
+    const KeyStroke stroke = ParseKey(step.At(0));
+    HWND target = nullptr;
+    WaitFor([&] {
+        target = FocusOf(m_host.Queue().ThreadId());
+        return target ? Finding{} : Finding{L"no window has the focus"};
+    });
+    PrintError(L"target " + ClassOf(target) + L" " + std::to_wstring(::GetDlgCtrlID(target)));
+    PressKey(m_host.Queue(), target, stroke);
+    Settle();
+    Settle(); // the release and the end of the held keys are posted by the first one's work
+}
+
+void Player::Message(const Step& step)
+{
+    const std::wstring wanted = Widen(CollapseBlanks(step.At(0)));
+    const std::wstring caption = Widen(step.At(1));
+    HWND button = nullptr;
+    HWND found = nullptr;
+    WaitFor([&] {
+        Finding instead = L"no message is open";
+        for (HWND box : MessageBoxes()) {
+            const std::wstring text = Widen(CollapseBlanks(Narrow(MessageText(box))));
+            if (text.find(wanted) != std::wstring::npos) {
+                button = caption.empty() ? nullptr : ButtonWithCaption(box, caption);
+                found = box;
+                return caption.empty() || button ? Finding{} : L"the message has no button " + caption;
+            }
+            instead = L"the message is \"" + text + L"\"";
+        }
+        return instead;
+    });
+    if (!button) return;
+    ::PostMessageW(button, BM_CLICK, 0, 0);
+    WaitFor([&] { return ::IsWindow(found) && ::IsWindowVisible(found) ? Finding{L"the message stays"} : Finding{}; });
+}
+
+void Player::No(const Step& step)
+{
+    if (step.At(0) != "message") throw std::runtime_error{"only \"no message\" is offered"};
+    Settle();
+    const auto boxes = MessageBoxes();
+    if (!boxes.empty()) throw AutomationError{E_FAIL, L"the message is \"" + MessageText(boxes.front()) + L"\""};
+}
+
+void Player::Repainted(const Step& step)
+{
+    const HWND form = FindForm(Widen(step.At(0)));
+    if (!form) throw std::runtime_error{"the window is not open"};
+    ::InvalidateRect(form, nullptr, TRUE);
+    DWORD_PTR result = 0;
+    const LRESULT answered = ::SendMessageTimeoutW(form, WM_PAINT, 0, 0, SMTO_NORMAL, kRepaintPatience, &result);
+    if (!answered || ::GetUpdateRect(form, nullptr, FALSE))
+        throw std::runtime_error{"the window was not painted within a second"};
+}
+
+} // namespace host

@@ -1,0 +1,203 @@
+#include <algorithm>
+#include <optional>
+#include <stdexcept>
+
+#include "automation/PropertyValue.h"
+#include "automation/Text.h"
+#include "objects/Presentation.h"
+#include "player/Player.h"
+#include "player/Screen.h"
+#include "player/Screenshot.h"
+#include "ui/MainWindow.h"
+
+namespace host
+{
+namespace
+{
+
+constexpr DWORD kPaintPatience = 2000; // milliseconds
+constexpr DWORD kPaintPoll = 20;
+
+// Whether any window of this process still waits to be painted.
+bool AwaitsPaint()
+{
+    for (HWND window : VisibleWindows()) {
+        bool waits = ::GetUpdateRect(window, nullptr, FALSE) != FALSE;
+        ::EnumChildWindows(
+            window,
+            [](HWND child, LPARAM result) -> BOOL {
+                if (::IsWindowVisible(child) && ::GetUpdateRect(child, nullptr, FALSE))
+                    *reinterpret_cast<bool*>(result) = true;
+                return TRUE;
+            },
+            reinterpret_cast<LPARAM>(&waits));
+        if (waits) return true;
+    }
+    return false;
+}
+
+std::vector<std::wstring> FilesMatching(const std::wstring& pattern)
+{
+    std::vector<std::wstring> names;
+    WIN32_FIND_DATAW data{};
+    const HANDLE search = ::FindFirstFileW(pattern.c_str(), &data);
+    if (search == INVALID_HANDLE_VALUE) return names;
+    do {
+        if (!(data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)) names.emplace_back(data.cFileName);
+    } while (::FindNextFileW(search, &data));
+    ::FindClose(search);
+    return names;
+}
+
+PresentationObject& ActiveOf(Host& host)
+{
+    if (PresentationObject* active = host.Documents().Active()) return *active;
+    throw std::runtime_error{"no presentation is open"};
+}
+
+} // namespace
+
+void Player::WaitUntilLoaded()
+{
+    WaitFor([this] {
+        bool loaded = false;
+        OnUi([&] { loaded = m_host.IsLoaded(); });
+        return loaded ? Finding{} : Finding{L"the host is still loading its add-ins"};
+    });
+}
+
+void Player::New(const Step&)
+{
+    WaitUntilLoaded();
+    OnUi([this] { m_host.Documents().New(); });
+}
+
+void Player::Open(const Step& step)
+{
+    WaitUntilLoaded();
+    OnUi([this, path = Widen(step.At(0))] { m_host.Documents().Open(path, false); });
+}
+
+void Player::Save(const Step&)
+{
+    OnUi([this] { ActiveOf(m_host).Save(); });
+}
+
+void Player::SaveAs(const Step& step)
+{
+    const long type = step.words.size() > 1 ? std::stol(step.At(1)) : kSaveAsDefault;
+    OnUi([this, type, path = Widen(step.At(0))] { ActiveOf(m_host).SaveAs(path, type); });
+}
+
+void Player::Activate(const Step& step)
+{
+    OnUi([this, name = Widen(step.At(0))] {
+        for (const auto& presentation : m_host.Documents().Presentations())
+            if (presentation->File().Name() == name) return m_host.Documents().Activate(*presentation.Get());
+        throw std::runtime_error{"no presentation of this name is open"};
+    });
+}
+
+void Player::Close(const Step&)
+{
+    OnUi([this] { m_host.Documents().Close(ActiveOf(m_host)); });
+}
+
+void Player::Quit(const Step&)
+{
+    WaitFor([this] {
+        bool busy = false;
+        OnUi([&] { busy = m_host.IsBusy(); });
+        return busy ? Finding{L"a command is still running"} : Finding{};
+    });
+    AskToQuit();
+}
+
+void Player::Disconnect(const Step&)
+{
+    OnUi([this] { m_host.DisconnectAddIns(); });
+}
+
+// The command runs in modal windows that later steps work on, so only its start is waited for.
+void Player::StartCommand(std::function<void()> command)
+{
+    m_host.Queue().Post(std::move(command));
+    Settle();
+}
+
+void Player::Command(const Step& step)
+{
+    WaitUntilLoaded();
+    const std::string name = step.At(0);
+    WaitFor([&] {
+        bool there = false;
+        OnUi([&] { there = m_host.HasCommand(name); });
+        return there ? Finding{} : Finding{L"no control " + Widen(name)};
+    });
+    StartCommand([&host = m_host, name] { host.Press(name); });
+}
+
+void Player::Controller(const Step& step)
+{
+    WaitUntilLoaded();
+    StartCommand([&host = m_host, method = Widen(step.At(0))] { host.CallController(method); });
+}
+
+void Player::Show(const Step& step)
+{
+    WaitUntilLoaded();
+    OnUi([this, page = Widen(step.At(0))] {
+        if (!m_host.Window().ShowPage(page)) throw std::runtime_error{"the ribbon has no such page"};
+    });
+}
+
+Player::Finding Player::PropertyFinding(const std::wstring& name, const std::wstring& wanted)
+{
+    std::optional<std::wstring> value;
+    OnUi([&] {
+        for (const CustomProperty& property : ActiveOf(m_host).File().Custom())
+            if (Widen(property.name) == name) value = ToValue(property).Text();
+    });
+    if (!value) return L"the presentation has no property " + name;
+    return *value == wanted ? Finding{} : Finding{L"the property is \"" + *value + L"\""};
+}
+
+void Player::Property(const Step& step)
+{
+    WaitFor([&] { return PropertyFinding(Widen(step.At(0)), Widen(step.At(1))); });
+}
+
+void Player::Ran(const Step& step)
+{
+    WaitFor([&, macro = Widen(step.At(0))] {
+        bool ran = false;
+        OnUi([&] { ran = std::ranges::count(m_host.Documents().MacrosRun(), macro) > 0; });
+        return ran ? Finding{} : Finding{L"the macro was not run"};
+    });
+}
+
+void Player::File(const Step& step)
+{
+    const bool wanted = step.At(0) == "exists";
+    if (!wanted && step.At(0) != "missing") throw std::runtime_error{"a file exists or is missing"};
+    WaitFor([&] {
+        const auto names = FilesMatching(Widen(step.At(1)));
+        if (names.empty() != wanted) return Finding{};
+        return wanted ? Finding{L"there is no such file"} : L"there is " + names.front();
+    });
+}
+
+void Player::Shot(const Step& step)
+{
+    const std::wstring& folder = m_host.Documents().Settings().outFolder;
+    if (folder.empty()) throw std::runtime_error{"a shot needs --out"};
+    for (DWORD waited = 0; waited < kPaintPatience && AwaitsPaint(); waited += kPaintPoll)
+        ::Sleep(kPaintPoll);
+    // Painted surfaces reach the screen when their thread waits for messages again. A busy thread is shown as it is.
+    for (int i = 0; i < 3; ++i)
+        if (!m_host.Queue().Run([] { ::GdiFlush(); }, std::chrono::seconds{1})) break;
+    ::Sleep(kPaintPoll);
+    SaveScreenshot(folder + L"\\" + Widen(step.At(0)) + L".png");
+}
+
+} // namespace host

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+#include <windows.h>
+
+#include "app/UiQueue.h"
+
+namespace host
+{
+
+// A key with the keys held down meanwhile, as "Ctrl+A", "Alt+S", "Shift+Tab", "F1".
+struct KeyStroke
+{
+    WORD key = 0;
+    bool control = false;
+    bool alt = false;
+    bool shift = false;
+};
+
+// Throws std::runtime_error when the name is unknown.
+[[nodiscard]] KeyStroke ParseKey(const std::string& name);
+
+// Presses and releases the key in the window that has the focus, as key messages that pass through the message loop and
+// its dialog handling. The held keys show in the thread's key state while the messages are handled.
+void PressKey(const UiQueue& queue, HWND target, const KeyStroke& stroke);
+
+} // namespace host

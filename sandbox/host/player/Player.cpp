@@ -1,0 +1,126 @@
+#include "player/Player.h"
+
+#include <stdexcept>
+
+#include "app/Console.h"
+#include "automation/Text.h"
+#include "documents/Files.h"
+#include "player/Screen.h"
+
+namespace host
+{
+namespace
+{
+
+using namespace std::chrono_literals;
+
+constexpr auto kPatience = 30s;
+constexpr auto kPollTime = 20ms;
+
+} // namespace
+
+Player::Player(Host& host, std::wstring scriptPath) : m_host{host}, m_path{std::move(scriptPath)} {}
+
+bool Player::Play()
+{
+    const Step* current = nullptr;
+    try {
+        m_steps = ParseScript(ReadWholeFile(m_path), m_host.Documents().Settings().settings);
+        for (const Step& step : m_steps) {
+            current = &step;
+            Perform(step);
+            if (step.verb != "expect" || step.At(0) != "addin") CheckFaults();
+        }
+        return true;
+    } catch (const ScriptError& error) {
+        PrintError(m_path + L":" + std::to_wstring(error.Line()) + L": " + Widen(error.Source()) + L"\n  " +
+                   Widen(error.what()));
+    } catch (const AutomationError& error) {
+        const std::wstring where =
+            current ? m_path + L":" + std::to_wstring(current->line) + L": " + Widen(current->source) : m_path;
+        PrintError(where + L"\n  " + error.Description() + L"\n" + DescribeScreen());
+    } catch (const std::runtime_error& error) {
+        PrintError(m_path + L":" + std::to_wstring(current ? current->line : 0) + L": " +
+                   Widen(current ? current->source : "") + L"\n  " + Widen(error.what()) + L"\n" + DescribeScreen());
+    }
+    return false;
+}
+
+void Player::Perform(const Step& step)
+{
+    struct Verb
+    {
+        std::string_view name;
+        void (Player::*perform)(const Step&);
+    };
+    static constexpr Verb kVerbs[] = {
+        {"new", &Player::New},
+        {"open", &Player::Open},
+        {"save", &Player::Save},
+        {"saveas", &Player::SaveAs},
+        {"activate", &Player::Activate},
+        {"close", &Player::Close},
+        {"quit", &Player::Quit},
+        {"disconnect", &Player::Disconnect},
+        {"command", &Player::Command},
+        {"controller", &Player::Controller},
+        {"show", &Player::Show},
+        {"property", &Player::Property},
+        {"ran", &Player::Ran},
+        {"file", &Player::File},
+        {"shot", &Player::Shot},
+        {"window", &Player::Window},
+        {"closed", &Player::Closed},
+        {"type", &Player::Type},
+        {"press", &Player::Press},
+        {"select", &Player::Select},
+        {"choose", &Player::Choose},
+        {"check", &Player::Check},
+        {"key", &Player::Key},
+        {"message", &Player::Message},
+        {"no", &Player::No},
+        {"repainted", &Player::Repainted},
+        {"expect", &Player::Expect},
+    };
+    if (m_quit) throw std::runtime_error{"the host has quit"};
+    for (const Verb& verb : kVerbs)
+        if (verb.name == step.verb) return (this->*verb.perform)(step);
+    throw std::runtime_error{"this step is not offered"};
+}
+
+void Player::WaitFor(const std::function<Finding()>& check)
+{
+    const auto end = std::chrono::steady_clock::now() + kPatience;
+    for (Finding finding = check(); !finding.empty(); finding = check()) {
+        CheckFaults();
+        if (std::chrono::steady_clock::now() > end) throw AutomationError{E_FAIL, finding};
+        ::Sleep(static_cast<DWORD>(kPollTime.count()));
+    }
+}
+
+void Player::OnUi(std::function<void()> work)
+{
+    if (!m_host.Queue().Run(std::move(work), kPatience))
+        throw std::runtime_error{"the user interface did not answer in 30 s"};
+}
+
+// Waits until the messages posted so far are handled.
+void Player::Settle()
+{
+    OnUi([] {});
+}
+
+void Player::CheckFaults()
+{
+    if (m_faultsExpected) return;
+    const auto faults = m_host.TakeFaults();
+    if (!faults.empty()) throw AutomationError{E_FAIL, L"the add-in failed: " + faults.front()};
+}
+
+void Player::AskToQuit()
+{
+    m_quit = true;
+    m_host.Queue().Post([&host = m_host] { host.Quit(); });
+}
+
+} // namespace host

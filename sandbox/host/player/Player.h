@@ -1,0 +1,94 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "app/Host.h"
+#include "scenario/Script.h"
+
+namespace host
+{
+
+// Plays a scenario from a thread of its own, as a person and an outside program would: it posts messages to windows and
+// work to the user-interface thread, and waits until what it wants to see is there.
+class Player
+{
+public:
+    Player(Host& host, std::wstring scriptPath);
+
+    // Plays all steps; true when every one passed. Says on the way what failed and what was there instead.
+    [[nodiscard]] bool Play();
+
+    [[nodiscard]] std::size_t StepCount() const { return m_steps.size(); }
+    [[nodiscard]] bool HasQuit() const { return m_quit; }
+    void AskToQuit();
+
+private:
+    // What a step's check found: nothing when it is satisfied, otherwise what is there instead.
+    using Finding = std::wstring;
+
+    void Perform(const Step& step);
+    void WaitFor(const std::function<Finding()>& check);
+    void OnUi(std::function<void()> work);
+    void Settle();
+    void CheckFaults();
+
+    // Steps of the host.
+    void New(const Step&);
+    void Open(const Step& step);
+    void Save(const Step&);
+    void SaveAs(const Step& step);
+    void Activate(const Step& step);
+    void Close(const Step&);
+    void Quit(const Step&);
+    void Disconnect(const Step&);
+    void Command(const Step& step);
+    void Controller(const Step& step);
+    void Show(const Step& step);
+    void Property(const Step& step);
+    void Ran(const Step& step);
+    void File(const Step& step);
+    void Shot(const Step& step);
+    void WaitUntilLoaded();
+    void StartCommand(std::function<void()> command);
+    [[nodiscard]] Finding PropertyFinding(const std::wstring& name, const std::wstring& wanted);
+
+    // Steps on windows.
+    void Window(const Step& step);
+    void Closed(const Step& step);
+    void Type(const Step& step);
+    void Press(const Step& step);
+    void Select(const Step& step);
+    void Choose(const Step& step);
+    void Check(const Step& step);
+    void Key(const Step& step);
+    void Message(const Step& step);
+    void No(const Step& step);
+    void Repainted(const Step& step);
+    [[nodiscard]] HWND Form() const;
+    [[nodiscard]] HWND Control(const std::string& name) const;
+    [[nodiscard]] HWND UsableControl(const std::string& name);
+    void Focus(HWND control);
+    void ExpandNode(HWND tree, HTREEITEM node);
+
+    // Expectations.
+    void Expect(const Step& step);
+    void ExpectAddIn(const Step& step);
+    void ExpectDocument(const Step& step);
+    [[nodiscard]] Finding StateFinding(const std::string& control, const std::string& state);
+
+    Host& m_host;
+    std::wstring m_path;
+    std::vector<Step> m_steps;
+    std::wstring m_form; // the class of the window that steps address
+    bool m_quit = false;
+    bool m_faultsExpected = false;
+};
+
+} // namespace host

@@ -1,0 +1,197 @@
+#include "player/Screen.h"
+
+#include <algorithm>
+
+#include <commctrl.h>
+
+#include "automation/Text.h"
+#include "player/ControlNames.h"
+#include "player/Tree.h"
+
+namespace host
+{
+namespace
+{
+
+constexpr UINT kPatience = 1000; // milliseconds
+constexpr wchar_t kMessageBoxClass[] = L"#32770";
+
+std::vector<HWND> ChildrenOf(HWND window)
+{
+    std::vector<HWND> children;
+    ::EnumChildWindows(
+        window,
+        [](HWND child, LPARAM list) -> BOOL {
+            reinterpret_cast<std::vector<HWND>*>(list)->push_back(child);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&children));
+    return children;
+}
+
+std::wstring WithoutMark(std::wstring text)
+{
+    std::erase(text, L'&');
+    return text;
+}
+
+bool IsClass(HWND window, const wchar_t* name) { return ::lstrcmpiW(ClassOf(window).c_str(), name) == 0; }
+
+// The text that the window writes into the buffer.
+std::optional<std::wstring> Answer(HWND window, UINT message, WPARAM wParam)
+{
+    wchar_t* buffer = AnswerBuffer();
+    *buffer = L'\0';
+    if (!Ask(window, message, wParam, reinterpret_cast<LPARAM>(buffer))) return std::nullopt;
+    buffer[kAnswerLength - 1] = L'\0';
+    return buffer;
+}
+
+std::optional<std::wstring> ListEntry(HWND list)
+{
+    const auto chosen = Ask(list, LB_GETCURSEL);
+    if (!chosen) return std::nullopt;
+    if (*chosen == LB_ERR) return std::wstring{};
+    const auto length = Ask(list, LB_GETTEXTLEN, static_cast<WPARAM>(*chosen));
+    if (!length || *length < 0 || static_cast<std::size_t>(*length) >= kAnswerLength) return std::nullopt;
+    return Answer(list, LB_GETTEXT, static_cast<WPARAM>(*chosen));
+}
+
+std::optional<std::wstring> StatusText(HWND bar)
+{
+    return Answer(bar, SB_GETTEXTW, 0); // a part holds 65535 letters at most
+}
+
+std::wstring DescribeControl(HWND control)
+{
+    const auto text = ControlText(control);
+    std::wstring line = L"    " + Widen(ControlNameOf(::GetDlgCtrlID(control))) + L" " + ClassOf(control) + L" \"" +
+                        text.value_or(L"(does not answer)") + L"\"";
+    if (!::IsWindowEnabled(control)) line += L" disabled";
+    return line + L"\n";
+}
+
+} // namespace
+
+std::optional<LRESULT> Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    DWORD_PTR result = 0;
+    if (!::SendMessageTimeoutW(window, message, wParam, lParam, SMTO_ABORTIFHUNG, kPatience, &result))
+        return std::nullopt;
+    return static_cast<LRESULT>(result);
+}
+
+wchar_t* AnswerBuffer()
+{
+    static wchar_t buffer[kAnswerLength];
+    return buffer;
+}
+
+std::vector<HWND> VisibleWindows()
+{
+    std::vector<HWND> windows;
+    ::EnumWindows(
+        [](HWND window, LPARAM list) -> BOOL {
+            DWORD process = 0;
+            ::GetWindowThreadProcessId(window, &process);
+            if (process == ::GetCurrentProcessId() && ::IsWindowVisible(window))
+                reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&windows));
+    return windows;
+}
+
+HWND FindForm(const std::wstring& className)
+{
+    const auto windows = VisibleWindows();
+    const auto found = std::ranges::find(windows, className, ClassOf);
+    return found == windows.end() ? nullptr : *found;
+}
+
+std::vector<HWND> MessageBoxes()
+{
+    std::vector<HWND> boxes = VisibleWindows();
+    std::erase_if(boxes, [](HWND window) { return ClassOf(window) != kMessageBoxClass; });
+    return boxes;
+}
+
+HWND FindControl(HWND form, int id)
+{
+    for (HWND child : ChildrenOf(form))
+        if (::GetDlgCtrlID(child) == id) return child;
+    return nullptr;
+}
+
+std::wstring ClassOf(HWND window)
+{
+    wchar_t name[128] = L"";
+    ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
+    return name;
+}
+
+std::optional<std::wstring> WindowText(HWND window)
+{
+    return Answer(window, WM_GETTEXT, kAnswerLength);
+}
+
+std::optional<std::wstring> ControlText(HWND control)
+{
+    if (IsClass(control, WC_LISTBOXW)) return ListEntry(control);
+    if (IsClass(control, STATUSCLASSNAMEW)) return StatusText(control);
+    if (IsClass(control, WC_TREEVIEWW)) return ChosenPath(control);
+    if (IsClass(control, PROGRESS_CLASSW)) {
+        const auto position = Ask(control, PBM_GETPOS);
+        return position ? std::optional{std::to_wstring(*position)} : std::nullopt;
+    }
+    return WindowText(control);
+}
+
+std::wstring MessageText(HWND box)
+{
+    std::wstring text;
+    for (HWND child : ChildrenOf(box)) {
+        if (!IsClass(child, WC_STATICW) && !IsClass(child, WC_EDITW)) continue;
+        const std::wstring part = WindowText(child).value_or(L"");
+        if (!part.empty()) text += (text.empty() ? L"" : L" ") + part;
+    }
+    return text;
+}
+
+HWND ButtonWithCaption(HWND box, const std::wstring& caption)
+{
+    for (HWND child : ChildrenOf(box))
+        if (IsClass(child, WC_BUTTONW) &&
+            ::lstrcmpiW(WithoutMark(WindowText(child).value_or(L"")).c_str(), caption.c_str()) == 0)
+            return child;
+    return nullptr;
+}
+
+bool IsDefaultButton(HWND form, HWND button)
+{
+    const auto answer = Ask(form, DM_GETDEFID);
+    if (answer && HIWORD(*answer) == DC_HASDEFID && LOWORD(*answer) == ::GetDlgCtrlID(button)) return true;
+    return (::GetWindowLongPtrW(button, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+}
+
+HWND FocusOf(DWORD threadId)
+{
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    return ::GetGUIThreadInfo(threadId, &info) ? info.hwndFocus : nullptr;
+}
+
+std::wstring DescribeScreen()
+{
+    std::wstring report = L"visible windows:\n";
+    for (HWND window : VisibleWindows()) {
+        report += L"  " + ClassOf(window) + L" \"" + WindowText(window).value_or(L"(does not answer)") + L"\"";
+        if (!::IsWindowEnabled(window)) report += L" disabled";
+        report += L"\n";
+        for (HWND child : ChildrenOf(window))
+            if (::IsWindowVisible(child)) report += DescribeControl(child);
+    }
+    return report;
+}
+
+} // namespace host

@@ -1,0 +1,242 @@
+#include "ui/MainWindow.h"
+
+#include <algorithm>
+
+#include <windowsx.h>
+
+#include "objects/Presentation.h"
+#include "ui/SlideArea.h"
+
+namespace host
+{
+namespace
+{
+
+constexpr wchar_t kClassName[] = L"CorvaneHostWindow";
+constexpr wchar_t kProductName[] = L"PowerPoint (stand-in)";
+constexpr int kRibbonVersion = 12;
+constexpr WORD kIconId = 1;
+
+void RegisterWindowClass(WNDPROC procedure)
+{
+    WNDCLASSEXW windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.style = CS_HREDRAW | CS_VREDRAW;
+    windowClass.lpfnWndProc = procedure;
+    windowClass.hInstance = ::GetModuleHandleW(nullptr);
+    windowClass.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    windowClass.hIcon = ::LoadIconW(windowClass.hInstance, MAKEINTRESOURCEW(kIconId));
+    windowClass.lpszClassName = kClassName;
+    ::RegisterClassExW(&windowClass);
+}
+
+} // namespace
+
+MainWindow::MainWindow(Host& host) : m_host{host}, m_menus{host}
+{
+    RegisterWindowClass(WindowProc);
+    RECT work{};
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    const int margin = m_theme.Scale(16);
+    ::CreateWindowExW(0, kClassName, kProductName, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, work.left + margin,
+                      work.top + margin, work.right - work.left - 2 * margin, work.bottom - work.top - 2 * margin,
+                      nullptr, nullptr, ::GetModuleHandleW(nullptr), this);
+}
+
+MainWindow::~MainWindow()
+{
+    if (m_window) ::DestroyWindow(m_window);
+}
+
+void MainWindow::Show()
+{
+    Refresh();
+    ::ShowWindow(m_window, SW_SHOWNORMAL);
+    ::UpdateWindow(m_window);
+}
+
+void MainWindow::Refresh()
+{
+    PresentationObject* active = m_host.Documents().Active();
+    const std::wstring title = active ? active->File().Name() + L" - " + kProductName : kProductName;
+    ::SetWindowTextW(m_window, title.c_str());
+    if (m_host.Version() < kRibbonVersion) RebuildMenuBar();
+    Layout();
+}
+
+void MainWindow::Layout()
+{
+    m_hovered = nullptr;
+    m_scene = BuildScene(m_host, m_view, m_theme, m_size);
+    ::InvalidateRect(m_window, nullptr, FALSE);
+}
+
+void MainWindow::RebuildMenuBar()
+{
+    const HMENU before = ::GetMenu(m_window);
+    const HMENU bar = ::CreateMenu(); // the window owns it from here on
+    m_menus.Clear();
+    m_menus.FillFromBar(bar, m_host.Documents().CommandBars().MenuBar());
+    ::SetMenu(m_window, bar);
+    if (before) ::DestroyMenu(before);
+}
+
+bool MainWindow::ShowByLabel(const std::wstring& label, std::vector<RibbonControl> Ribbon::* part, bool backstage)
+{
+    for (const auto& addIn : m_host.AddIns()) {
+        if (!addIn->Contribution()) continue;
+        for (const RibbonControl& page : addIn->Contribution()->*part) {
+            if (ShownLabel(*addIn, page) != label) continue;
+            m_view.backstage = backstage;
+            (backstage ? m_view.backstagePage : m_view.tab) = page.id;
+            Layout();
+            return true;
+        }
+    }
+    return false;
+}
+
+bool MainWindow::ShowPage(const std::wstring& page)
+{
+    if (page == L"Presentation") {
+        CloseBackstage();
+        return true;
+    }
+    if (page == L"File" && m_host.Version() >= kRibbonVersion) {
+        OpenBackstage({});
+        return true;
+    }
+    if (page == L"Home") {
+        m_view = {};
+        Layout();
+        return true;
+    }
+    return ShowByLabel(page, &Ribbon::backstage, true) || ShowByLabel(page, &Ribbon::tabs, false);
+}
+
+void MainWindow::CloseBackstage()
+{
+    m_view.backstage = false;
+    Layout();
+}
+
+// Without a page of its own the Backstage shows the first page of an add-in.
+void MainWindow::OpenBackstage(const std::string& page)
+{
+    m_view.backstage = true;
+    m_view.backstagePage = page;
+    for (const auto& addIn : m_host.AddIns())
+        if (m_view.backstagePage.empty() && addIn->Contribution() && !addIn->Contribution()->backstage.empty())
+            m_view.backstagePage = addIn->Contribution()->backstage.front().id;
+    Layout();
+}
+
+void MainWindow::Paint()
+{
+    const PaintBuffer buffer{m_window};
+    if (!m_scene.backstage) PaintSlideArea(buffer.Dc(), m_scene.content, m_theme, m_host.Documents().Active());
+    PaintScene(buffer.Dc(), m_scene, m_theme, m_size, m_hovered);
+}
+
+const SceneItem* MainWindow::ItemAt(POINT at) const
+{
+    const auto found =
+        std::ranges::find_if(m_scene.items, [&](const SceneItem& item) { return ::PtInRect(&item.box, at) != FALSE; });
+    return found == m_scene.items.end() ? nullptr : &*found;
+}
+
+void MainWindow::Hover(POINT at)
+{
+    const SceneItem* item = ItemAt(at);
+    if (item == m_hovered) return;
+    m_hovered = item;
+    ::InvalidateRect(m_window, nullptr, FALSE);
+    TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, m_window, 0};
+    ::TrackMouseEvent(&track);
+}
+
+void MainWindow::Press(const SceneItem& pressed)
+{
+    if (!pressed.enabled) return;
+    const SceneItem item = pressed; // what follows may lay out the window anew
+    switch (item.kind) {
+    case ItemKind::FileTab: return OpenBackstage({});
+    case ItemKind::OfficeButton: return OpenOfficeMenu(item);
+    case ItemKind::Tab: m_view.tab = item.id; return Layout();
+    case ItemKind::MenuButton: return OpenRibbonMenu(item);
+    case ItemKind::BackArrow: return CloseBackstage();
+    case ItemKind::BackstagePage: return OpenBackstage(item.id);
+    case ItemKind::LargeButton:
+    case ItemKind::BackstageCommand:
+    case ItemKind::Task: break;
+    }
+    CloseBackstage();
+    if (item.command)
+        m_host.Perform(*item.command);
+    else
+        m_host.Press(item.id);
+}
+
+void MainWindow::OpenRibbonMenu(const SceneItem& item)
+{
+    for (const auto& addIn : m_host.AddIns()) {
+        const RibbonControl* control = addIn->Contribution() ? addIn->Contribution()->Find(item.id) : nullptr;
+        if (!control) continue;
+        const Menu menu;
+        m_menus.Clear();
+        m_menus.FillFromRibbon(menu.Get(), *addIn, control->children);
+        return TrackMenu(menu.Get(), item.box);
+    }
+}
+
+void MainWindow::OpenOfficeMenu(const SceneItem& item)
+{
+    const Menu menu;
+    m_menus.Clear();
+    m_menus.FillOfficeMenu(menu.Get());
+    TrackMenu(menu.Get(), item.box);
+}
+
+void MainWindow::TrackMenu(HMENU menu, const RECT& below)
+{
+    POINT at{below.left, below.bottom};
+    ::ClientToScreen(m_window, &at);
+    const int chosen = ::TrackPopupMenu(menu, TPM_RETURNCMD | TPM_LEFTALIGN, at.x, at.y, 0, m_window, nullptr);
+    m_menus.Perform(static_cast<UINT>(chosen));
+}
+
+LRESULT MainWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message) {
+    case WM_SIZE:
+        m_size = {LOWORD(lParam), HIWORD(lParam)};
+        Layout();
+        return 0;
+    case WM_ERASEBKGND: return TRUE;
+    case WM_PAINT: Paint(); return 0;
+    case WM_MOUSEMOVE: Hover({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}); return 0;
+    case WM_MOUSELEAVE: Hover({-1, -1}); return 0;
+    case WM_LBUTTONUP:
+        if (const SceneItem* item = ItemAt({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) Press(*item);
+        return 0;
+    case WM_COMMAND: m_menus.Perform(LOWORD(wParam)); return 0;
+    case WM_CLOSE: m_host.Perform(HostCommand::Exit); return 0;
+    case WM_NCDESTROY: m_window = nullptr; return 0;
+    default: return ::DefWindowProcW(m_window, message, wParam, lParam);
+    }
+}
+
+LRESULT CALLBACK MainWindow::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_NCCREATE) {
+        const auto* create = reinterpret_cast<const CREATESTRUCTW*>(lParam);
+        auto* self = static_cast<MainWindow*>(create->lpCreateParams);
+        self->m_window = window;
+        ::SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
+    }
+    auto* self = reinterpret_cast<MainWindow*>(::GetWindowLongPtrW(window, GWLP_USERDATA));
+    return self && self->m_window ? self->Handle(message, wParam, lParam)
+                                  : ::DefWindowProcW(window, message, wParam, lParam);
+}
+
+} // namespace host

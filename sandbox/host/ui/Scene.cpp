@@ -1,0 +1,232 @@
+#include "ui/Scene.h"
+
+#include <algorithm>
+
+#include "automation/Text.h"
+
+namespace host
+{
+namespace
+{
+
+constexpr int kRibbonVersion = 12;
+constexpr int kBackstageVersion = 14;
+constexpr int kStripHeight = 32;
+constexpr int kPanelHeight = 104;
+constexpr int kGroupLabelHeight = 20;
+constexpr int kNavigationWidth = 210;
+
+struct OwnCommand
+{
+    const wchar_t* label;
+    const char* picture;
+    HostCommand command;
+};
+
+constexpr OwnCommand kOwnCommands[] = {
+    {L"New", "FileNew", HostCommand::New},          {L"Open", "FileOpen", HostCommand::Open},
+    {L"Save", "FileSave", HostCommand::Save},       {L"Save As", "FileSaveAs", HostCommand::SaveAs},
+    {L"Close", "FileClose", HostCommand::Close},
+};
+
+// Places items one after the other and counts the room they take.
+class Layout
+{
+public:
+    Layout(const Host& host, const ViewState& view, const Theme& theme, SIZE size)
+        : m_host{host}, m_view{view}, m_theme{theme}, m_size{size}
+    {
+    }
+
+    Scene Build(int version)
+    {
+        m_scene.content = {0, 0, m_size.cx, m_size.cy};
+        m_scene.ribbon = version >= kRibbonVersion;
+        if (!m_scene.ribbon) return std::move(m_scene);
+        m_scene.backstage = m_view.backstage;
+        if (m_scene.backstage) {
+            BuildNavigation();
+            BuildTasks();
+        } else {
+            BuildStrip(version);
+            BuildPanel();
+        }
+        return std::move(m_scene);
+    }
+
+private:
+    [[nodiscard]] int Px(int length) const { return m_theme.Scale(length); }
+
+    void Add(SceneItem item, RECT box)
+    {
+        item.box = box;
+        m_scene.items.push_back(std::move(item));
+    }
+
+    template <class Visit> void ForEachControl(std::vector<RibbonControl> Ribbon::* part, Visit visit)
+    {
+        for (const auto& addIn : m_host.AddIns()) {
+            if (!addIn->Contribution()) continue;
+            for (const RibbonControl& control : addIn->Contribution()->*part)
+                if (IsShown(*addIn, control)) visit(*addIn, control);
+        }
+    }
+
+    void AddTab(ItemKind kind, const std::wstring& label, const std::string& id, bool chosen)
+    {
+        const int width = m_theme.Measure(label, m_theme.Normal()).cx + Px(28);
+        SceneItem item{.kind = kind, .label = label, .id = id, .chosen = chosen};
+        Add(std::move(item), {m_x, 0, m_x + width, Px(kStripHeight)});
+        m_x += width;
+    }
+
+    void BuildStrip(int version)
+    {
+        if (version >= kBackstageVersion) {
+            AddTab(ItemKind::FileTab, L"File", {}, false);
+        } else {
+            SceneItem button{.kind = ItemKind::OfficeButton, .label = L"P"};
+            Add(std::move(button), {Px(6), Px(2), Px(6) + Px(kStripHeight - 4), Px(kStripHeight - 2)});
+            m_x = Px(kStripHeight + 12);
+        }
+        AddTab(ItemKind::Tab, L"Home", {}, m_view.tab.empty());
+        ForEachControl(&Ribbon::tabs, [&](const AddIn& addIn, const RibbonControl& tab) {
+            AddTab(ItemKind::Tab, ShownLabel(addIn, tab), tab.id, m_view.tab == tab.id);
+        });
+        m_scene.content.top = Px(kStripHeight + kPanelHeight);
+    }
+
+    void AddButton(SceneItem item)
+    {
+        const int width = std::max<int>(Px(64), m_theme.Measure(item.label, m_theme.Normal()).cx + Px(20));
+        const int top = Px(kStripHeight) + Px(4);
+        Add(std::move(item), {m_x, top, m_x + width, Px(kStripHeight + kPanelHeight - kGroupLabelHeight - 4)});
+        m_x += width + Px(2);
+    }
+
+    void CloseGroup(int left, const std::wstring& label)
+    {
+        const int width = m_theme.Measure(label, m_theme.Normal()).cx + Px(16);
+        m_x = std::max(m_x, left + width) + Px(6);
+        m_scene.groups.push_back({{left, Px(kStripHeight), m_x, Px(kStripHeight + kPanelHeight)}, label});
+    }
+
+    void BuildPanel()
+    {
+        m_x = Px(6);
+        if (m_view.tab.empty()) {
+            const int left = m_x;
+            for (const OwnCommand& own : kOwnCommands)
+                AddButton({.kind = ItemKind::LargeButton, .label = own.label, .picture = own.picture,
+                           .command = own.command});
+            return CloseGroup(left, L"Presentation");
+        }
+        ForEachControl(&Ribbon::tabs, [&](const AddIn& addIn, const RibbonControl& tab) {
+            if (tab.id != m_view.tab) return;
+            for (const RibbonControl& group : tab.children)
+                if (IsShown(addIn, group)) BuildGroup(addIn, group);
+        });
+    }
+
+    void BuildGroup(const AddIn& addIn, const RibbonControl& group)
+    {
+        const int left = m_x;
+        m_x += Px(4);
+        for (const RibbonControl& control : group.children) {
+            if (!IsShown(addIn, control)) continue;
+            const bool menu = control.kind == "menu";
+            AddButton({.kind = menu ? ItemKind::MenuButton : ItemKind::LargeButton,
+                       .label = ShownLabel(addIn, control),  .picture = control.Attribute("imageMso"),
+                       .id = control.id,  .enabled = IsEnabled(addIn, control)});
+        }
+        CloseGroup(left, ShownLabel(addIn, group));
+    }
+
+    void AddNavigation(SceneItem item)
+    {
+        Add(std::move(item), {0, m_y, Px(kNavigationWidth), m_y + Px(36)});
+        m_y += Px(38);
+    }
+
+    // The host's own commands with the add-in's pages after "Save As", where Office has its print page.
+    void BuildNavigation()
+    {
+        Add({.kind = ItemKind::BackArrow}, {Px(18), Px(14), Px(54), Px(50)});
+        m_y = Px(68);
+        for (const OwnCommand& own : kOwnCommands) {
+            if (own.command == HostCommand::Close)
+                ForEachControl(&Ribbon::backstage, [&](const AddIn& addIn, const RibbonControl& page) {
+                    AddNavigation({.kind = ItemKind::BackstagePage, .label = ShownLabel(addIn, page),   .id = page.id,  .enabled = IsEnabled(addIn, page),
+                                   .chosen = page.id == m_view.backstagePage});
+                });
+            AddNavigation({.kind = ItemKind::BackstageCommand, .label = own.label, .command = own.command});
+        }
+        m_scene.content.left = Px(kNavigationWidth);
+    }
+
+    void BuildTasks()
+    {
+        m_y = Px(36);
+        const int left = m_scene.content.left + Px(40);
+        ForEachControl(&Ribbon::backstage, [&](const AddIn& addIn, const RibbonControl& page) {
+            if (page.id != m_view.backstagePage) return;
+            m_scene.groups.push_back({{left, m_y, m_size.cx, m_y + Px(44)}, ShownLabel(addIn, page)});
+            m_y += Px(60);
+            for (const RibbonControl& child : page.children)
+                AddTasksBelow(addIn, child, left);
+        });
+    }
+
+    void AddTasksBelow(const AddIn& addIn, const RibbonControl& parent, int left)
+    {
+        if (!IsShown(addIn, parent)) return;
+        if (parent.kind == "category") {
+            m_scene.groups.push_back({{left, m_y, m_size.cx - Px(40), m_y + Px(24)}, ShownLabel(addIn, parent)});
+            m_y += Px(34);
+        }
+        if (parent.kind == "task" || parent.kind == "button") {
+            Add({.kind = ItemKind::Task, .label = ShownLabel(addIn, parent),
+                 .note = Widen(parent.Attribute("description")), .picture = parent.Attribute("imageMso"),
+                 .id = parent.id,  .enabled = IsEnabled(addIn, parent)},
+                {left, m_y, left + Px(380), m_y + Px(52)});
+            m_y += Px(58);
+        }
+        for (const RibbonControl& child : parent.children)
+            AddTasksBelow(addIn, child, left);
+    }
+
+    const Host& m_host;
+    const ViewState& m_view;
+    const Theme& m_theme;
+    SIZE m_size;
+    Scene m_scene;
+    int m_x = 0;
+    int m_y = 0;
+};
+
+} // namespace
+
+std::wstring ShownLabel(const AddIn& addIn, const RibbonControl& control)
+{
+    const DynamicState* dynamic = addIn.Dynamic(control.id);
+    return dynamic && dynamic->label ? *dynamic->label : Widen(control.Label());
+}
+
+bool IsShown(const AddIn& addIn, const RibbonControl& control)
+{
+    const DynamicState* dynamic = addIn.Dynamic(control.id);
+    return dynamic && dynamic->visible ? *dynamic->visible : control.Attribute("visible") != "false";
+}
+
+bool IsEnabled(const AddIn& addIn, const RibbonControl& control)
+{
+    const DynamicState* dynamic = addIn.Dynamic(control.id);
+    return dynamic && dynamic->enabled ? *dynamic->enabled : control.Attribute("enabled") != "false";
+}
+
+Scene BuildScene(const Host& host, const ViewState& view, const Theme& theme, SIZE size)
+{
+    return Layout{host, view, theme, size}.Build(host.Version());
+}
+
+} // namespace host

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <filesystem>
+#include <span>
+#include <stdexcept>
+#include <string>
+
+namespace server
+{
+
+struct Options
+{
+    bool help = false;
+    int port = 0;
+    std::filesystem::path data;
+    std::string user;
+    std::filesystem::path log;
+    std::filesystem::path faults;
+};
+
+// What is wrong with the command line, as a sentence for the person who typed it.
+class UsageError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+[[nodiscard]] Options ParseCommandLine(std::span<const char* const> arguments);
+
+[[nodiscard]] const char* UsageText();
+
+} // namespace server

@@ -1,0 +1,69 @@
+#include "shell/Faults.h"
+
+#include <fstream>
+#include <iterator>
+#include <nlohmann/json.hpp>
+#include <stdexcept>
+
+namespace server
+{
+
+namespace
+{
+
+using Json = nlohmann::json;
+
+std::string ReadAll(const std::filesystem::path& path)
+{
+    std::ifstream file{path, std::ios::binary};
+    return {std::istreambuf_iterator<char>{file}, {}};
+}
+
+Drop ParseDrop(const std::string& text)
+{
+    if (text.empty()) return Drop::Nowhere;
+    if (text == "before") return Drop::BeforeAnswer;
+    if (text == "headers") return Drop::WithinHeaders;
+    if (text == "body") return Drop::WithinBody;
+    throw std::runtime_error{"The faults file has an unknown drop '" + text + "'."};
+}
+
+Fault ParseFault(const Json& rule)
+{
+    Fault fault{
+        .delayMs = rule.value("delayMs", 0), .status = {}, .body = {}, .drop = ParseDrop(rule.value("drop", ""))};
+    if (rule.contains("status")) fault.status = rule["status"].get<int>();
+    if (rule.contains("body")) fault.body = rule["body"].get<std::string>();
+    return fault;
+}
+
+bool Matches(const Json& rule, std::string_view target, std::string_view body)
+{
+    const auto part = rule.value("match", "");
+    return target.find(part) != std::string_view::npos || body.find(part) != std::string_view::npos;
+}
+
+} // namespace
+
+std::optional<Fault> Faults::Next(std::string_view target, std::string_view body)
+{
+    if (m_file.empty()) return std::nullopt;
+    const std::lock_guard lock{m_mutex};
+    auto content = ReadAll(m_file);
+    if (content != m_content) {
+        m_content = std::move(content);
+        m_uses.clear();
+    }
+    if (m_content.find_first_not_of(" \t\r\n") == std::string::npos) return std::nullopt;
+    const auto rules = Json::parse(m_content);
+    for (std::size_t at = 0; at < rules.size(); ++at) {
+        const auto& rule = rules.at(at);
+        if (!Matches(rule, target, body)) continue;
+        if (rule.contains("times") && m_uses[at] >= rule["times"].get<int>()) continue;
+        ++m_uses[at];
+        return ParseFault(rule);
+    }
+    return std::nullopt;
+}
+
+} // namespace server

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace server
+{
+
+// Where an answer is cut off by a reset of the connection.
+enum class Drop
+{
+    Nowhere,
+    BeforeAnswer,  // before any byte of an answer; the request is not carried out
+    WithinHeaders, // after the status line and the first header
+    WithinBody,    // after half of the body
+};
+
+struct Fault
+{
+    int delayMs = 0;
+    std::optional<int> status;
+    std::optional<std::string> body;
+    Drop drop = Drop::Nowhere;
+};
+
+// The rules of a faults file. The first rule that matches a request and is not used up applies to it. Thread-safe.
+class Faults
+{
+public:
+    // An empty path means that there are never any.
+    explicit Faults(std::filesystem::path file) : m_file{std::move(file)} {}
+
+    // Reads the file again; uses of a rule count as long as its content stays the same. A missing or empty file means
+    // no rule. Throws std::runtime_error for a file that cannot be understood.
+    [[nodiscard]] std::optional<Fault> Next(std::string_view target, std::string_view body);
+
+private:
+    std::filesystem::path m_file;
+    std::mutex m_mutex;
+    std::string m_content;
+    std::map<std::size_t, int> m_uses;
+};
+
+} // namespace server

@@ -1,0 +1,89 @@
+#include "shell/RequestLog.h"
+
+#include <array>
+#include <chrono>
+#include <cstdint>
+#include <cstdio>
+#include <ctime>
+#include <nlohmann/json.hpp>
+#include <stdexcept>
+
+namespace server
+{
+
+namespace
+{
+
+std::string Latin1ToUtf8(std::string_view bytes)
+{
+    std::string text;
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte >= 0x80) text += static_cast<char>(0xC0 | (byte >> 6));
+        text += static_cast<char>(byte < 0x80 ? byte : 0x80 | (byte & 0x3F));
+    }
+    return text;
+}
+
+std::string Base64(std::string_view bytes)
+{
+    constexpr std::string_view kDigits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    std::string text;
+    text.reserve((bytes.size() + 2) / 3 * 4);
+    const auto byte = [&](std::size_t at) { return at < bytes.size() ? static_cast<unsigned char>(bytes[at]) : 0U; };
+    for (std::size_t at = 0; at < bytes.size(); at += 3) {
+        const std::uint32_t three = (byte(at) << 16) | (byte(at + 1) << 8) | byte(at + 2);
+        for (int shift = 18; shift >= 0; shift -= 6)
+            text += kDigits[(three >> shift) & 0x3F];
+    }
+    if (const auto rest = bytes.size() % 3; rest != 0) text.replace(text.size() - (3 - rest), 3 - rest, 3 - rest, '=');
+    return text;
+}
+
+std::string UtcTime()
+{
+    using namespace std::chrono;
+    const auto now = system_clock::now();
+    const auto seconds = system_clock::to_time_t(now);
+    const auto milliseconds = duration_cast<std::chrono::milliseconds>(now.time_since_epoch()).count() % 1000;
+    std::tm utc{};
+    gmtime_r(&seconds, &utc);
+    std::array<char, 32> text{};
+    const auto length = std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%S", &utc);
+    std::snprintf(text.data() + length, text.size() - length, ".%03dZ", static_cast<int>(milliseconds));
+    return text.data();
+}
+
+} // namespace
+
+std::string LogLine(const Request& request, int status, std::string_view time)
+{
+    auto headers = nlohmann::ordered_json::array();
+    for (const auto& [name, value] : request.headers)
+        headers.push_back({Latin1ToUtf8(name), Latin1ToUtf8(value)});
+    nlohmann::ordered_json line;
+    line["time"] = time;
+    line["method"] = Latin1ToUtf8(request.method);
+    line["target"] = Latin1ToUtf8(request.target);
+    line["headers"] = std::move(headers);
+    line["body"] = Base64(request.body);
+    line["status"] = status;
+    return line.dump();
+}
+
+RequestLog::RequestLog(const std::filesystem::path& file)
+{
+    if (file.empty()) return;
+    m_file.open(file, std::ios::app | std::ios::binary);
+    if (!m_file) throw std::runtime_error{"Cannot write the log file " + file.string()};
+}
+
+void RequestLog::Write(const Request& request, int status)
+{
+    if (!m_file.is_open()) return;
+    const auto line = LogLine(request, status, UtcTime());
+    const std::lock_guard lock{m_mutex};
+    m_file << line << '\n' << std::flush;
+}
+
+} // namespace server

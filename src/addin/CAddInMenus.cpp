@@ -1,0 +1,183 @@
+#include "addin/CAddInMenus.h"
+
+#include "addin/RibbonElement.h"
+#include "addin/RibbonXml.h"
+#include "platform/Error.h"
+#include "platform/Messages.h"
+#include "platform/Procedure.h"
+#include "selection/frmSaveTo.h"
+#include "shared/DocumentProperties.h"
+#include "shared/HostDocument.h"
+#include "shared/HostVersion.h"
+#include "support/CCustomNames.h"
+#include "support/Conversions.h"
+#include "support/Help.h"
+#include "support/frmAbout.h"
+
+namespace corvane
+{
+namespace
+{
+
+// The host's main window, where it tells one.
+HWND WindowOf(const LateBound& application) noexcept
+{
+    HWND window = nullptr;
+    Ignoring([&] { window = reinterpret_cast<HWND>(static_cast<INT_PTR>(application.Number(L"HWND"))); });
+    return window;
+}
+
+LateBound OutlookInspectorOf(const LateBound& application)
+{
+    if (application.Text(L"Name") != kOutlookName) return {};
+    return application.Object(L"ActiveInspector");
+}
+
+} // namespace
+
+std::shared_ptr<CAddInMenus> g_oAddInMenus;
+
+std::shared_ptr<CAddInMenus> AddInMenus()
+{
+    if (g_oAddInMenus == nullptr)
+        throw Error{kErrorObjectNotSet, L"CAddInMenus", L"Object variable or With block variable not set"};
+    return g_oAddInMenus;
+}
+
+int CAddInMenus::HostVersion() const { return MajorVersion(m_oApplication.Text(L"Version")); }
+
+void CAddInMenus::SetUICaptions()
+{
+    const ProcedureScope scope{L"CAddInMenus.SetUICaptions"};
+    CustomNameTable& names = CustomNames().GetAllCustomNames();
+    m_captions = BuildUICaptions([&names](std::wstring_view term) { return names.Item(term); });
+}
+
+std::wstring CAddInMenus::GetOfficeRibbonXML() const noexcept
+{
+    std::wstring xml;
+    AtHostBoundary(L"CAddInMenus.GetOfficeRibbonXML", [&] {
+        const int version = HostVersion();
+        xml = RibbonXmlText(BuildRibbon(version, m_captions, RibbonTab::Shared), CustomUINamespaceFor(version));
+    });
+    return xml;
+}
+
+std::wstring CAddInMenus::GetOutlookRibbonXML() const noexcept
+{
+    std::wstring xml;
+    AtHostBoundary(L"CAddInMenus.GetOutlookRibbonXML", [&] {
+        const int version = HostVersion();
+        xml = RibbonXmlText(BuildRibbon(version, m_captions, RibbonTab::Own), CustomUINamespaceFor(version));
+    });
+    return xml;
+}
+
+void CAddInMenus::RibbonHandler2(const std::wstring& controlId) noexcept
+{
+    switch (RibbonCommandOf(controlId))
+    {
+    case RibbonCommand::None: return;
+    case RibbonCommand::SaveAssignment: return SaveAssignmentClickHelper(L"CAddInMenus.rbnSaveAsAssignment_Click");
+    case RibbonCommand::SaveRelatedDoc: return SaveRelatedDocClickHelper(L"CAddInMenus.rbnSaveAsRelatedDoc_Click");
+    case RibbonCommand::SaveGateDoc: return SaveGateDocClickHelper(L"CAddInMenus.rbnSaveAsGateDoc_Click");
+    case RibbonCommand::HelpTopics: return ShowHelp(L"CAddInMenus.rbnHelpTopics_Click");
+    case RibbonCommand::HelpAbout: return ShowAbout(L"CAddInMenus.rbnHelpAbout_Click");
+    }
+}
+
+void CAddInMenus::ShowHelp(std::wstring_view caller) const noexcept { AtHostBoundary(caller, &ShowHelpContents); }
+
+void CAddInMenus::ShowAbout(std::wstring_view caller) const noexcept
+{
+    AtHostBoundary(caller, [this] {
+        SetHostWindow(WindowOf(m_oApplication));
+        frmAbout about;
+        about.ShowModal();
+    });
+}
+
+void CAddInMenus::InvalidateControls() const noexcept
+{
+    const ProcedureScope scope{L"CAddInMenus.InvalidateControls"};
+    Ignoring([this] {
+        if (rbnRibbonUI) rbnRibbonUI.Call(L"Invalidate");
+    });
+}
+
+void CAddInMenus::RunSave(const SaveCommand& command, std::wstring_view caller) noexcept
+{
+    const std::shared_ptr<CAddInMenus> alive = g_oAddInMenus;
+    bool editing = false;
+    Reporting([&] {
+        SetHostWindow(WindowOf(m_oApplication));
+        editing = IsEditing(m_oApplication);
+        if (editing)
+            ShowMessage(L"You are currently editing a cell or object. Please finish editing before saving to Corvane.",
+                        kStylePlain, L"Save to Corvane");
+    });
+    if (editing) return;
+    const ProcedureScope scope{caller};
+    Reporting([&] {
+        frmBusy busy{m_procedures};
+        const auto failure = Catch([&] { Save(command, busy); });
+        if (failure) ReportError(*failure);
+    });
+    SetExcelInteractive(m_oApplication, true);
+}
+
+void CAddInMenus::Save(const SaveCommand& command, frmBusy& busy)
+{
+    // Loaded once before it is needed, so that it comes up at once.
+    busy.Load();
+    busy.Unload();
+    if (!IsDocumentOpen(m_oApplication))
+    {
+        ShowMessage(L"You must have a file open to save to Corvane", kStylePlain);
+        return;
+    }
+    busy.oOutlookInspector = OutlookInspectorOf(m_oApplication);
+    ReadBindingOfDocument();
+    if (!command.skipsTree(m_binding)) PickTarget(command);
+    if (!command.hasTarget(m_binding)) return;
+    busy.lMethodType = command.methodType;
+    busy.sServer = m_binding.server;
+    busy.lProjectID = m_binding.projectId;
+    busy.lDeliverableID = m_binding.deliverableId;
+    busy.lActivityID = m_binding.activityId;
+    busy.lRelatedDocID = m_binding.relatedFileId;
+    busy.lGateDocID = m_binding.gateDocumentId;
+    busy.oApplication = m_oApplication;
+    busy.ShowModal();
+}
+
+void CAddInMenus::ReadBindingOfDocument()
+{
+    m_binding = ReadBinding(m_oApplication);
+    m_bProjectReport = ToBooleanSafe(GetCustomProperty(m_oApplication, kProjectReportProperty));
+    m_lDocumentKind = ClassifyBoundDocument(m_binding);
+}
+
+void CAddInMenus::PickTarget(const SaveCommand& command)
+{
+    const DocumentBinding start = command.startOf(m_binding);
+    frmSaveTo tree;
+    tree.DialogType = command.dialogType;
+    tree.ServerURL = start.server;
+    tree.ProjectID = start.projectId;
+    tree.DeliverableID = start.deliverableId;
+    tree.ActivityID = start.activityId;
+    tree.RelatedDocID = start.relatedFileId;
+    tree.GateDocumentID = start.gateDocumentId;
+    tree.ShowModal();
+    m_binding.server = tree.ServerURL;
+    m_binding.projectId = tree.ProjectID;
+    m_binding.deliverableId = tree.DeliverableID;
+    m_binding.activityId = tree.ActivityID;
+    m_binding.relatedFileId = tree.RelatedDocID;
+    m_binding.gateDocumentId = tree.GateDocumentID;
+    tree.Unload();
+    SetExcelInteractive(m_oApplication, false);
+}
+
+} // namespace corvane

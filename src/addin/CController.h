@@ -1,0 +1,25 @@
+// The public class through which other code starts the save commands.
+#pragma once
+
+#include "addin.h"
+#include "platform/ComObject.h"
+
+namespace corvane
+{
+
+class CAddInMenus;
+
+// Starts a command of the connected add-in; when there is none it says so in a message of its own.
+class CController final : public ComObject<CController, Dispatched<_CController>>
+{
+public:
+    STDMETHODIMP SaveAsAssignement() noexcept override;
+    STDMETHODIMP SaveGateDoc() noexcept override;
+    STDMETHODIMP SaveRelatedDoc() noexcept override;
+
+private:
+    using Command = void (CAddInMenus::*)(std::wstring_view caller) noexcept;
+    static HRESULT Start(const wchar_t* method, Command command) noexcept;
+};
+
+} // namespace corvane

@@ -1,0 +1,26 @@
+#include "addin/CRbnBtnInfo.h"
+
+#include "platform/Procedure.h"
+
+namespace corvane
+{
+
+HRESULT CRbnBtnInfo::Get(const std::wstring& text, BSTR* value) noexcept
+{
+    if (value == nullptr) return E_POINTER;
+    *value = nullptr;
+    return Catch([&] { *value = Bstr{text}.Detach(); }) ? E_OUTOFMEMORY : S_OK;
+}
+
+HRESULT CRbnBtnInfo::Put(std::wstring& text, BSTR value) noexcept
+{
+    return Catch([&] { text = ViewOf(value); }) ? E_OUTOFMEMORY : S_OK;
+}
+
+STDMETHODIMP CRbnBtnInfo::Clear() noexcept
+{
+    m_button.Clear();
+    return S_OK;
+}
+
+} // namespace corvane

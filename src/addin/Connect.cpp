@@ -1,0 +1,194 @@
+#include "addin/Connect.h"
+
+#include "addin/CAddInMenus.h"
+#include "addin/SaveLaunchers.h"
+#include "addin/UICaptions.h"
+#include "platform/HResult.h"
+#include "platform/Messages.h"
+#include "platform/Procedure.h"
+#include "shared/HostVersion.h"
+#include "support/CCustomNames.h"
+#include "support/CTraceLog.h"
+#include "support/ErrorReport.h"
+#include "support/Help.h"
+#include "webservice/Exchange.h"
+#include "webservice/WebService.h"
+
+namespace corvane
+{
+namespace
+{
+
+constexpr LONG kStartUp = 1; // ext_cm_Startup
+
+// PowerPoint's _Application, its events and the two that are listened to.
+constexpr IID kPowerPointApplication = {0x91493442, 0x5A91, 0x11CF, {0x87, 0x00, 0x00, 0xAA, 0x00, 0x60, 0x26, 0x3B}};
+constexpr IID kPowerPointEvents = {0x914934C2, 0x5A91, 0x11CF, {0x87, 0x00, 0x00, 0xAA, 0x00, 0x60, 0x26, 0x3B}};
+constexpr DISPID kPresentationClose = 2004;
+constexpr DISPID kWindowActivate = 2009;
+
+std::vector<CustomNameRow> FetchCustomNames(const std::wstring& server, const std::wstring& page)
+{
+    std::vector<CustomNameRow> rows;
+    const WebAnswer answer = ExecuteASPWebService(server, page, Operations::kConfigValues, {});
+    for (const XmlNode& row : answer.document->Select(L"//z:row"))
+        rows.push_back({row.Text(L"TokenName"), row.Text(L"Value")});
+    return rows;
+}
+
+void TraceProperty(const wchar_t* label, const LateBound& object, const wchar_t* name)
+{
+    TraceVariable(label, object.Text(name));
+}
+
+HRESULT EmptyText(BSTR* text) noexcept
+{
+    if (text == nullptr) return E_POINTER;
+    *text = ::SysAllocString(L"");
+    return *text == nullptr ? E_OUTOFMEMORY : S_OK;
+}
+
+// An object argument of an event, by its position from the last.
+LateBound ObjectArgument(const DISPPARAMS& arguments, UINT fromLast)
+{
+    if (fromLast >= arguments.cArgs) return {};
+    VARIANT plain{};
+    if (FAILED(::VariantCopyInd(&plain, &arguments.rgvarg[fromLast]))) return {};
+    Variant owner;
+    *owner.Put() = plain;
+    return LateBound{owner.Object()};
+}
+
+} // namespace
+
+STDMETHODIMP Connect::OnConnection(IDispatch* Application, LONG ConnectMode, IDispatch* AddInInst,
+                                   SAFEARRAY** /*custom*/) noexcept
+{
+    Reporting([] {
+        const Settings settings = Settings::Read();
+        g_oTraceLog = std::make_unique<CTraceLog>(settings);
+        SetRequestTimeout(settings.requestTimeout);
+        WatchProcedures();
+    });
+    AtHostBoundary(L"Connect.AddinInstance_OnConnection", [&] {
+        ConnectToHost(LateBound{ComPtr<IDispatch>{Application}}, ConnectMode, LateBound{ComPtr<IDispatch>{AddInInst}});
+    });
+    return S_OK;
+}
+
+void Connect::ConnectToHost(const LateBound& application, LONG connectMode, const LateBound& addInInstance)
+{
+    TraceProperty(L"Application Name", application, L"Name");
+    TraceProperty(L"Application Version", application, L"Version");
+    TraceProperty(L"Application Build", application, L"Build");
+    TraceVariable(L"ConnectMode", std::to_wstring(connectMode));
+    TraceProperty(L"AddinInst.ProgId", addInInstance, L"ProgId");
+    TraceProperty(L"AddinInst.Guid", addInInstance, L"Guid");
+    if (connectMode == kStartUp) StartUp(application);
+}
+
+void Connect::StartUp(const LateBound& application)
+{
+    ComPtr<IDispatch> typed;
+    Check(application.Get()->QueryInterface(kPowerPointApplication, reinterpret_cast<void**>(typed.GetAddressOf())),
+          L"Connect");
+    m_oPowerPointApp = LateBound{std::move(typed)};
+    m_events = EventSubscription{m_oPowerPointApp.Get(), kPowerPointEvents,
+                                 [this](DISPID member, const DISPPARAMS& arguments) {
+                                     OnApplicationEvent(member, arguments);
+                                 }};
+    g_oAddInMenus = std::make_shared<CAddInMenus>(MakeSaveProcedures());
+    g_oAddInMenus->SetApplication(application);
+    g_oCustomNames = std::make_unique<CCustomNames>(&FetchCustomNames);
+    SetHelpFile(Library::Folder() + L"\\CorvaneMSOfficeAddin.chm");
+    SetApplicationTitle(ApplicationTitleFor(CustomName(L"Corvane")));
+    g_oAddInMenus->SetUICaptions();
+    if (!HasRibbon(HostVersion())) g_oAddInMenus->CreateMenus(MenuBar());
+}
+
+int Connect::HostVersion() const { return MajorVersion(m_oPowerPointApp.Text(L"Version")); }
+
+LateBound Connect::MenuBar() const { return m_oPowerPointApp.Object(L"CommandBars", L"Menu Bar"); }
+
+STDMETHODIMP Connect::OnDisconnection(LONG /*RemoveMode*/, SAFEARRAY** /*custom*/) noexcept
+{
+    const ProcedureScope scope{L"Connect.AddinInstance_OnDisconnection"};
+    Reporting([this] {
+        // A connection other than at start-up has nothing to take back.
+        if (m_oPowerPointApp && !HasRibbon(HostVersion())) AddInMenus()->DeleteMenus(MenuBar());
+    });
+    g_oAddInMenus.reset();
+    m_events = EventSubscription{};
+    m_oPowerPointApp.Release();
+    SetHostWindow(nullptr);
+    return S_OK;
+}
+
+STDMETHODIMP Connect::OnAddInsUpdate(SAFEARRAY** /*custom*/) noexcept { return S_OK; }
+
+STDMETHODIMP Connect::OnStartupComplete(SAFEARRAY** /*custom*/) noexcept { return S_OK; }
+
+STDMETHODIMP Connect::OnBeginShutdown(SAFEARRAY** /*custom*/) noexcept { return S_OK; }
+
+STDMETHODIMP Connect::GetCustomUI(BSTR /*RibbonID*/, BSTR* RibbonXml) noexcept
+{
+    if (RibbonXml == nullptr) return E_POINTER;
+    *RibbonXml = nullptr;
+    AtHostBoundary(L"Connect.IRibbonExtensibility_GetCustomUI",
+                   [&] { *RibbonXml = Bstr{AddInMenus()->GetOfficeRibbonXML()}.Detach(); });
+    return *RibbonXml == nullptr ? EmptyText(RibbonXml) : S_OK;
+}
+
+STDMETHODIMP Connect::RibbonHandler(IDispatch* control) noexcept
+{
+    AtHostBoundary(L"Connect.RibbonHandler", [&] {
+        const std::wstring id = LateBound{ComPtr<IDispatch>{control}}.Text(L"Id");
+        TraceVariable(L"Ctrl.Id", id);
+        AddInMenus()->RibbonHandler2(id);
+    });
+    return S_OK;
+}
+
+STDMETHODIMP Connect::GetEnabled(IDispatch* /*control*/, VARIANT_BOOL* enabled) noexcept
+{
+    if (enabled == nullptr) return E_POINTER;
+    *enabled = VARIANT_FALSE;
+    return S_OK;
+}
+
+STDMETHODIMP Connect::GetLabel(IDispatch* /*control*/, BSTR* label) noexcept { return EmptyText(label); }
+
+STDMETHODIMP Connect::GetScreentip(IDispatch* /*control*/, BSTR* screentip) noexcept { return EmptyText(screentip); }
+
+STDMETHODIMP Connect::GetSupertip(IDispatch* /*control*/, BSTR* supertip) noexcept { return EmptyText(supertip); }
+
+STDMETHODIMP Connect::onLoad(IDispatch* ribbon, VARIANT* result) noexcept
+{
+    if (result == nullptr) return E_POINTER;
+    ::VariantInit(result);
+    AtHostBoundary(L"Connect.onLoad", [&] {
+        if (HasRibbon(HostVersion())) AddInMenus()->SetRibbon(LateBound{ComPtr<IDispatch>{ribbon}});
+    });
+    return S_OK;
+}
+
+void Connect::OnApplicationEvent(DISPID member, const DISPPARAMS& arguments) noexcept
+{
+    if (member == kPresentationClose) AtHostBoundary(L"Connect.m_oPowerPointApp_PresentationClose", [] {});
+    if (member == kWindowActivate)
+        AtHostBoundary(L"Connect.m_oPowerPointApp_WindowActivate",
+                       [&] { WindowActivate(ObjectArgument(arguments, 1), ObjectArgument(arguments, 0)); });
+}
+
+void Connect::WindowActivate(const LateBound& presentation, const LateBound& window) const
+{
+    TraceProperty(L"Wn.Caption", window, L"Caption");
+    if (!presentation) return;
+    TraceText(L"Pres parameter is not Nothing");
+    TraceProperty(L"Pres.Name", presentation, L"Name");
+    if (!HasRibbon(HostVersion())) return;
+    TraceText(L"PPT Version > 11");
+    AddInMenus()->InvalidateControls();
+}
+
+} // namespace corvane

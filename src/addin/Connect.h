@@ -1,0 +1,49 @@
+// The class that the host creates: its connection to the add-in.
+#pragma once
+
+#include "addin.h"
+#include "platform/ComObject.h"
+#include "platform/EventSubscription.h"
+#include "platform/LateBound.h"
+
+namespace corvane
+{
+
+// Makes and releases the process-wide objects with the connection, hands the ribbon to the host and leads its callbacks
+// and events on. No error leaves it: each is reported and the host sees success.
+class Connect final
+    : public ComObject<Connect, Dispatched<_Connect>, Dispatched<IDTExtensibility2>, Dispatched<IRibbonExtensibility>>
+{
+public:
+    // IDTExtensibility2
+    STDMETHODIMP OnConnection(IDispatch* Application, LONG ConnectMode, IDispatch* AddInInst,
+                              SAFEARRAY** custom) noexcept override;
+    STDMETHODIMP OnDisconnection(LONG RemoveMode, SAFEARRAY** custom) noexcept override;
+    STDMETHODIMP OnAddInsUpdate(SAFEARRAY** custom) noexcept override;
+    STDMETHODIMP OnStartupComplete(SAFEARRAY** custom) noexcept override;
+    STDMETHODIMP OnBeginShutdown(SAFEARRAY** custom) noexcept override;
+
+    // IRibbonExtensibility
+    STDMETHODIMP GetCustomUI(BSTR RibbonID, BSTR* RibbonXml) noexcept override;
+
+    // Ribbon callbacks. The four tips and states are there for any XML that names them; ours names none.
+    STDMETHODIMP RibbonHandler(IDispatch* control) noexcept override;
+    STDMETHODIMP GetEnabled(IDispatch* control, VARIANT_BOOL* enabled) noexcept override;
+    STDMETHODIMP GetLabel(IDispatch* control, BSTR* label) noexcept override;
+    STDMETHODIMP GetScreentip(IDispatch* control, BSTR* screentip) noexcept override;
+    STDMETHODIMP GetSupertip(IDispatch* control, BSTR* supertip) noexcept override;
+    STDMETHODIMP onLoad(IDispatch* ribbon, VARIANT* result) noexcept override;
+
+private:
+    void ConnectToHost(const LateBound& application, LONG connectMode, const LateBound& addInInstance);
+    void StartUp(const LateBound& application);
+    void OnApplicationEvent(DISPID member, const DISPPARAMS& arguments) noexcept;
+    void WindowActivate(const LateBound& presentation, const LateBound& window) const;
+    [[nodiscard]] int HostVersion() const;
+    [[nodiscard]] LateBound MenuBar() const;
+
+    LateBound m_oPowerPointApp;
+    EventSubscription m_events;
+};
+
+} // namespace corvane

@@ -1,0 +1,116 @@
+#include "addin/Registration.h"
+
+#include "Version.h"
+#include "addin/CController.h"
+#include "addin/CRbnBtnInfo.h"
+#include "addin/Connect.h"
+#include "addin/TraceLogObject.h"
+#include "platform/Procedure.h"
+#include "support/Registry.h"
+
+#include <array>
+
+namespace corvane
+{
+namespace
+{
+
+constexpr const wchar_t* kProject = L"CorvaneMSOfficePowerPoint.";
+constexpr const wchar_t* kClasses = L"Software\\Classes\\";
+constexpr const wchar_t* kAddIns = L"Software\\Microsoft\\Office\\PowerPoint\\Addins\\";
+constexpr const wchar_t* kFriendlyName = L"Corvane for MS Office - PowerPoint";
+constexpr const wchar_t* kDescription = L"Corvane Addin for MS Office Documents - PowerPoint";
+constexpr std::int32_t kLoadAtStartUp = 3;
+
+template<class Object>
+HRESULT Create(REFIID id, void** object) noexcept
+{
+    HRESULT result = E_OUTOFMEMORY;
+    Ignoring([&] { result = MakeObject<Object>()->QueryInterface(id, object); });
+    return result;
+}
+
+const PublicClass kPublicClasses[] = {
+    {L"Connect", CLSID_Connect, &Create<Connect>},
+    {L"CController", CLSID_CController, &Create<CController>},
+    {L"CTraceLog", CLSID_CTraceLog, &Create<TraceLogObject>},
+    {L"CRbnBtnInfo", CLSID_CRbnBtnInfo, &Create<CRbnBtnInfo>},
+};
+
+std::wstring TextOfGuid(const GUID& guid)
+{
+    std::array<wchar_t, 39> text{};
+    ::StringFromGUID2(guid, text.data(), static_cast<int>(text.size()));
+    return text.data();
+}
+
+std::wstring ProgId(const PublicClass& entry) { return std::wstring{kProject} + entry.name; }
+std::wstring ProgIdKey(const PublicClass& entry) { return kClasses + ProgId(entry); }
+std::wstring ClassKey(const PublicClass& entry)
+{
+    return std::wstring{kClasses} + L"CLSID\\" + TextOfGuid(entry.id);
+}
+std::wstring TypeLibraryKey()
+{
+    return std::wstring{kClasses} + L"TypeLib\\" + TextOfGuid(LIBID_CorvaneMSOfficePowerPoint);
+}
+std::wstring AddInKey() { return kAddIns + ProgId(kPublicClasses[0]); }
+
+void RegisterClass(const PublicClass& entry, const std::wstring& library)
+{
+    const std::wstring key = ClassKey(entry);
+    Registry::WriteText(key, L"", ProgId(entry));
+    Registry::WriteText(key + L"\\InprocServer32", L"", library);
+    Registry::WriteText(key + L"\\InprocServer32", L"ThreadingModel", L"Apartment");
+    Registry::WriteText(key + L"\\ProgID", L"", ProgId(entry));
+    Registry::WriteText(key + L"\\TypeLib", L"", TextOfGuid(LIBID_CorvaneMSOfficePowerPoint));
+    Registry::WriteText(ProgIdKey(entry), L"", ProgId(entry));
+    Registry::WriteText(ProgIdKey(entry) + L"\\CLSID", L"", TextOfGuid(entry.id));
+}
+
+void RegisterTypeLibrary(const std::wstring& library)
+{
+    constexpr const wchar_t* kPlatform = sizeof(void*) == 8 ? L"\\0\\win64" : L"\\0\\win32";
+    std::array<wchar_t, 16> version{};
+    ::swprintf(version.data(), version.size(), L"\\%x.%x", kVersionMajor, kVersionMinor);
+    const std::wstring key = TypeLibraryKey() + version.data();
+    Registry::WriteText(key, L"", kFriendlyName);
+    Registry::WriteText(key + kPlatform, L"", library);
+}
+
+} // namespace
+
+const PublicClass* FindClass(REFCLSID id) noexcept
+{
+    for (const PublicClass& entry : kPublicClasses)
+    {
+        if (entry.id == id) return &entry;
+    }
+    return nullptr;
+}
+
+void Register()
+{
+    const std::wstring library = Library::Path();
+    for (const PublicClass& entry : kPublicClasses)
+        RegisterClass(entry, library);
+    RegisterTypeLibrary(library);
+    Registry::WriteText(AddInKey(), L"FriendlyName", kFriendlyName);
+    Registry::WriteText(AddInKey(), L"Description", kDescription);
+    Registry::WriteNumber(AddInKey(), L"LoadBehavior", kLoadAtStartUp);
+}
+
+void Unregister() noexcept
+{
+    Ignoring([] {
+        Registry::DeleteTree(AddInKey());
+        Registry::DeleteTree(TypeLibraryKey());
+        for (const PublicClass& entry : kPublicClasses)
+        {
+            Registry::DeleteTree(ProgIdKey(entry));
+            Registry::DeleteTree(ClassKey(entry));
+        }
+    });
+}
+
+} // namespace corvane

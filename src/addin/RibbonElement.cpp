@@ -1,0 +1,155 @@
+#include "addin/RibbonElement.h"
+
+#include "shared/HostVersion.h"
+#include "support/Conversions.h"
+
+namespace corvane
+{
+namespace
+{
+
+constexpr const wchar_t* kHandler = L"RibbonHandler";
+
+std::wstring Esc(const std::wstring& text) { return EscapeAmpersands(text); }
+
+void FillOfficeMenu(RibbonElement& ribbon, const UICaptions& captions)
+{
+    RibbonElement& menu = ribbon.Add(L"officeMenu").Add(L"menu", {{L"id", L"SaveToCorvane"},
+                                                                  {L"insertAfterMso", L"FileSaveAsMenu"},
+                                                                  {L"label", Esc(captions.saveToCorvane)},
+                                                                  {L"imageMso", L"SaveAndClose"},
+                                                                  {L"title", Esc(captions.saveToCorvaneTitle)},
+                                                                  {L"visible", L"true"},
+                                                                  {L"enabled", L"true"},
+                                                                  {L"itemSize", L"large"}});
+    const struct
+    {
+        const wchar_t* id;
+        std::wstring label;
+        const wchar_t* image;
+        std::wstring description;
+    } kCommands[] = {
+        {L"DelivAct", captions.saveAsDelivActMenu, L"MasterDocument", captions.delivActTip},
+        {L"Related", L"Save as Related Document...", L"ReviewCompareMenu", captions.relatedTip},
+        {L"GateDoc", captions.saveAsGateDocMenu, L"MasterDocument", captions.gateDocTip},
+    };
+    RibbonButton button;
+    for (const auto& [id, label, image, description] : kCommands)
+    {
+        button.id = id;
+        button.label = Esc(label);
+        button.imageMso = image;
+        button.description = description;
+        button.onAction = kHandler;
+        AddButton(menu, button);
+    }
+}
+
+void FillBackstage(RibbonElement& root, const UICaptions& captions)
+{
+    RibbonElement& category = root.Add(L"backstage")
+                                  .Add(L"tab", {{L"id", L"TabSaveToCorvane"},
+                                                {L"label", Esc(captions.saveToCorvane)},
+                                                {L"insertAfterMso", L"TabPrint"}})
+                                  .Add(L"firstColumn")
+                                  .Add(L"taskGroup", {{L"id", L"TaskGroupSaveToCorvane"}, {L"label", L" "}})
+                                  .Add(L"category", {{L"id", L"CategorySaveToCorvane"},
+                                                     {L"label", captions.saveToCorvaneTip}});
+    const auto addTask = [&category](const wchar_t* id, const std::wstring& label, const wchar_t* image) {
+        category.Add(L"task", {{L"id", id},
+                               {L"label", label},
+                               {L"imageMso", image},
+                               {L"onAction", kHandler},
+                               {L"isDefinitive", L"true"}});
+    };
+    addTask(L"DelivAct", captions.saveAsDelivActLabel, L"MasterDocument");
+    addTask(L"Related", L"Save as Related Document", L"ReviewCompareMenu");
+    addTask(L"GateDoc", captions.saveAsGateDocLabel, L"MasterDocument");
+}
+
+void FillHelpTab(RibbonElement& tabs, const UICaptions& captions, RibbonTab kind)
+{
+    const bool shared = kind == RibbonTab::Shared;
+    const std::wstring idName = shared ? L"idQ" : L"id";
+    const auto id = [&](const wchar_t* name) { return std::pair{idName, (shared ? L"a:" : L"") + std::wstring{name}}; };
+
+    RibbonElement& tab = tabs.Add(L"tab", {id(L"CorvaneOffice"), {L"label", Esc(captions.productName)}});
+    RibbonElement& group = tab.Add(L"group", {id(L"MSHelp"), {L"label", Esc(captions.helpLabel)}});
+    if (shared) group.attributes.emplace_back(L"insertAfterQ", L"a:GoToCorvane");
+    group.attributes.emplace_back(L"supertip", captions.helpMenu);
+    RibbonElement& menu = group.Add(L"menu", {id(L"AccHelp"),
+                                              {L"label", Esc(captions.helpMenu)},
+                                              {L"imageMso", L"FunctionsLogicalInsertGallery"},
+                                              {L"size", L"large"}});
+    RibbonButton button;
+    const auto addButton = [&](const wchar_t* buttonId, const std::wstring& label, const wchar_t* image,
+                               const wchar_t* screentip, const std::wstring& supertip) {
+        button.id = buttonId;
+        button.label = Esc(label);
+        button.imageMso = image;
+        button.screentip = Esc(screentip);
+        button.supertip = supertip;
+        button.onAction = kHandler;
+        AddButton(menu, button);
+    };
+    addButton(L"CorvaneOfficeHelp", captions.helpTopicsLabel, L"Help", L"MS Office Add-in Help", captions.helpTopicsTip);
+    addButton(L"AboutCorvaneOffice", captions.aboutLabel, L"Info", L"About MS Office Add-in", captions.aboutTip);
+}
+
+} // namespace
+
+const wchar_t* CustomUINamespaceFor(int hostVersion) noexcept
+{
+    return HasBackstage(hostVersion) ? kCustomUI2010 : kCustomUI2007;
+}
+
+RibbonElement& RibbonElement::Add(std::wstring childName,
+                                  std::vector<std::pair<std::wstring, std::wstring>> childAttributes)
+{
+    return children.emplace_back(RibbonElement{std::move(childName), std::move(childAttributes), {}});
+}
+
+void RibbonButton::Clear()
+{
+    for (std::wstring* text : {&description, &id, &getEnabled, &getLabel, &getSupertip, &getScreentip, &imageMso,
+                               &onAction, &size})
+        text->clear();
+}
+
+void AddButton(RibbonElement& parent, RibbonButton& button)
+{
+    const std::pair<const wchar_t*, const std::wstring&> attributes[] = {
+        {L"id", button.id},
+        {L"label", button.label},
+        {L"imageMso", button.imageMso},
+        {L"description", button.description},
+        {L"screentip", button.screentip},
+        {L"supertip", button.supertip},
+        {L"getEnabled", button.getEnabled},
+        {L"getLabel", button.getLabel},
+        {L"getScreentip", button.getScreentip},
+        {L"getSupertip", button.getSupertip},
+        {L"onAction", button.onAction},
+        {L"size", button.size},
+    };
+    RibbonElement& element = parent.Add(L"button");
+    for (const auto& [name, text] : attributes)
+    {
+        if (!text.empty()) element.attributes.emplace_back(name, text);
+    }
+    button.Clear();
+}
+
+RibbonElement BuildRibbon(int hostVersion, const UICaptions& captions, RibbonTab tab)
+{
+    RibbonElement root{L"customUI", {}, {}};
+    if (tab == RibbonTab::Shared)
+        root.attributes = {{L"xmlns:a", L"CorvaneNameSpace"}, {L"onLoad", L"onLoad"}};
+    RibbonElement& ribbon = root.Add(L"ribbon");
+    if (!HasBackstage(hostVersion)) FillOfficeMenu(ribbon, captions);
+    FillHelpTab(ribbon.Add(L"tabs"), captions, tab);
+    if (HasBackstage(hostVersion)) FillBackstage(root, captions);
+    return root;
+}
+
+} // namespace corvane

@@ -1,0 +1,42 @@
+#include "addin/SaveLaunchers.h"
+
+#include "addin/CAddInMenus.h"
+#include "dialogs/frmSaveAssignment.h"
+#include "platform/Procedure.h"
+#include "support/CCustomNames.h"
+#include "support/Conversions.h"
+#include "webservice/WebService.h"
+
+namespace corvane
+{
+namespace
+{
+
+// What every launch does before its dialog, and what it hands to it.
+void Prepare(SaveDialog& dialog, const frmBusy& busy)
+{
+    CustomNames().RefreshOnce(busy.sServer);
+    AddInMenus()->SetUICaptions();
+    dialog.AutomaticallySetPublishCheckbox = ToBooleanSafe(
+        QueryText(busy.sServer, Operations::kIsAutoSetPublishCheckbox, {std::wstring{L"AutomaticallySetPublishCheckbox"}}));
+    dialog.ServerURL = busy.sServer;
+    dialog.ProjectID = busy.lProjectID;
+    dialog.oApplication = busy.oApplication;
+    dialog.OutlookInspector = busy.oOutlookInspector;
+}
+
+void LaunchSaveAssignment(frmBusy& busy)
+{
+    const ProcedureScope scope{L"SharedCode.LaunchSaveAssignment"};
+    frmSaveAssignment dialog;
+    Prepare(dialog, busy);
+    dialog.DeliverableID = busy.lDeliverableID;
+    dialog.ActivityID = busy.lActivityID;
+    dialog.ShowModal();
+}
+
+} // namespace
+
+SaveProcedures MakeSaveProcedures() { return {&LaunchSaveAssignment, nullptr, nullptr}; }
+
+} // namespace corvane

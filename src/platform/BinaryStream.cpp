@@ -1,0 +1,72 @@
+#include "platform/BinaryStream.h"
+
+#include "platform/HResult.h"
+
+namespace corvane
+{
+
+// _Stream of the platform's data library (00001565-0000-0010-8000-00AA006D2EA4), member by member in its order. Its
+// IDispatch cannot be relied on; its methods can.
+struct DataStream : IDispatch
+{
+    virtual HRESULT STDMETHODCALLTYPE get_Size(long* size) = 0;
+    virtual HRESULT STDMETHODCALLTYPE get_EOS(VARIANT_BOOL* eos) = 0;
+    virtual HRESULT STDMETHODCALLTYPE get_Position(long* position) = 0;
+    virtual HRESULT STDMETHODCALLTYPE put_Position(long position) = 0;
+    virtual HRESULT STDMETHODCALLTYPE get_Type(int* type) = 0;
+    virtual HRESULT STDMETHODCALLTYPE put_Type(int type) = 0;
+    virtual HRESULT STDMETHODCALLTYPE get_LineSeparator(int* separator) = 0;
+    virtual HRESULT STDMETHODCALLTYPE put_LineSeparator(int separator) = 0;
+    virtual HRESULT STDMETHODCALLTYPE get_State(int* state) = 0;
+    virtual HRESULT STDMETHODCALLTYPE get_Mode(int* mode) = 0;
+    virtual HRESULT STDMETHODCALLTYPE put_Mode(int mode) = 0;
+    virtual HRESULT STDMETHODCALLTYPE get_Charset(BSTR* charset) = 0;
+    virtual HRESULT STDMETHODCALLTYPE put_Charset(BSTR charset) = 0;
+    virtual HRESULT STDMETHODCALLTYPE Read(long count, VARIANT* value) = 0;
+    virtual HRESULT STDMETHODCALLTYPE Open(VARIANT source, int mode, int options, BSTR user, BSTR password) = 0;
+    virtual HRESULT STDMETHODCALLTYPE Close() = 0;
+    virtual HRESULT STDMETHODCALLTYPE SkipLine() = 0;
+    virtual HRESULT STDMETHODCALLTYPE Write(VARIANT bytes) = 0;
+    virtual HRESULT STDMETHODCALLTYPE SetEOS() = 0;
+    virtual HRESULT STDMETHODCALLTYPE CopyTo(DataStream* to, long count) = 0;
+    virtual HRESULT STDMETHODCALLTYPE Flush() = 0;
+    virtual HRESULT STDMETHODCALLTYPE SaveToFile(BSTR path, int options) = 0;
+};
+
+namespace
+{
+
+constexpr const wchar_t* kSource = L"ADODB.Stream";
+constexpr IID kStream = {0x00001565, 0x0000, 0x0010, {0x80, 0x00, 0x00, 0xAA, 0x00, 0x6D, 0x2E, 0xA4}};
+constexpr int kTypeBinary = 1;
+constexpr int kModeUnknown = 0;
+constexpr int kOpenUnspecified = -1;
+constexpr int kCreateOverWrite = 2;
+
+} // namespace
+
+BinaryStream::BinaryStream()
+{
+    CLSID classId{};
+    Check(::CLSIDFromProgID(kSource, &classId), kSource);
+    Check(::CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, kStream,
+                             reinterpret_cast<void**>(m_stream.GetAddressOf())),
+          kSource);
+    Check(m_stream->put_Type(kTypeBinary), kSource);
+    const Variant noSource = Variant::Missing();
+    Check(m_stream->Open(noSource.Get(), kModeUnknown, kOpenUnspecified, nullptr, nullptr), kSource);
+}
+
+BinaryStream::BinaryStream(BinaryStream&& other) noexcept = default;
+BinaryStream& BinaryStream::operator=(BinaryStream&& other) noexcept = default;
+BinaryStream::~BinaryStream() = default;
+
+void BinaryStream::Write(const Variant& bytes) { Check(m_stream->Write(bytes.Get()), kSource); }
+
+void BinaryStream::SaveTo(const std::wstring& path)
+{
+    Check(m_stream->put_Position(0), kSource);
+    Check(m_stream->SaveToFile(Bstr{path}.Get(), kCreateOverWrite), kSource);
+}
+
+} // namespace corvane

@@ -1,0 +1,32 @@
+// A block of bytes in the form that Automation passes on: one SAFEARRAY of unsigned bytes.
+#pragma once
+
+#include "platform/Owners.h"
+#include "platform/Variant.h"
+
+#include <cstddef>
+#include <span>
+
+namespace corvane
+{
+
+// Owns the bytes until they are handed to a Variant.
+class ByteArray
+{
+public:
+    // size bytes of zero; throws std::bad_alloc when there is no memory for them.
+    explicit ByteArray(std::size_t size);
+    ByteArray(ByteArray&& other) noexcept;
+    ByteArray& operator=(ByteArray other) noexcept;
+    ~ByteArray();
+
+    [[nodiscard]] std::span<std::byte> Bytes() noexcept;
+
+    // Gives the array away, without a copy, as a value that an Automation call takes.
+    [[nodiscard]] Variant Detach() noexcept;
+
+private:
+    SAFEARRAY* m_array = nullptr;
+};
+
+} // namespace corvane

@@ -1,0 +1,44 @@
+// The one exception of the add-in: what Automation calls an error.
+#pragma once
+
+#include <cstdint>
+#include <exception>
+#include <string>
+#include <utility>
+
+namespace corvane
+{
+
+// Run-time error numbers as Automation clients know them.
+inline constexpr std::int32_t kErrorSubscriptOutOfRange = 9;
+inline constexpr std::int32_t kErrorTypeMismatch = 13;
+inline constexpr std::int32_t kErrorObjectNotSet = 91;
+inline constexpr std::int32_t kErrorInvalidUseOfNull = 94;
+
+// An error with its number, the procedure that raised it and the text shown to the user.
+class Error : public std::exception
+{
+public:
+    Error(std::int32_t number, std::wstring source, std::wstring description)
+        : m_number{number}, m_source{std::move(source)}, m_description{std::move(description)}
+    {}
+
+    [[nodiscard]] std::int32_t Number() const noexcept { return m_number; }
+    [[nodiscard]] const std::wstring& Source() const noexcept { return m_source; }
+    [[nodiscard]] const std::wstring& Description() const noexcept { return m_description; }
+    [[nodiscard]] const char* what() const noexcept override { return "corvane::Error"; }
+
+private:
+    std::int32_t m_number;
+    std::wstring m_source;
+    std::wstring m_description;
+};
+
+// The number a script sees for an HRESULT: its low 16 bits in the facility of Automation errors (0x800A), else itself.
+[[nodiscard]] constexpr std::int32_t ErrorNumberOf(std::int32_t result) noexcept
+{
+    const auto bits = static_cast<std::uint32_t>(result);
+    return (bits >> 16U) == 0x800AU ? static_cast<std::int32_t>(bits & 0xFFFFU) : result;
+}
+
+} // namespace corvane

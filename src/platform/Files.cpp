@@ -1,0 +1,134 @@
+#include "platform/Files.h"
+
+#include "platform/HResult.h"
+
+#include <shlobj.h>
+
+#include <algorithm>
+#include <array>
+
+namespace corvane
+{
+namespace
+{
+
+constexpr std::size_t kPathBuffer = 1024;
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+UniqueFile OpenFile(const std::wstring& path, DWORD access, DWORD disposition) noexcept
+{
+    const HANDLE file =
+        ::CreateFileW(path.c_str(), access, kShareAll, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+    return UniqueFile{file == INVALID_HANDLE_VALUE ? nullptr : file};
+}
+
+} // namespace
+
+std::wstring TemporaryFolder()
+{
+    std::array<wchar_t, kPathBuffer> path{};
+    CheckWin32(::GetTempPathW(static_cast<DWORD>(path.size()), path.data()) != 0, L"TemporaryFolder");
+    std::array<wchar_t, kPathBuffer> longPath{};
+    const DWORD length = ::GetLongPathNameW(path.data(), longPath.data(), static_cast<DWORD>(longPath.size()));
+    std::wstring folder = length == 0 || length >= longPath.size() ? path.data() : longPath.data();
+    while (!folder.empty() && folder.back() == L'\\')
+        folder.pop_back();
+    return folder;
+}
+
+std::wstring DocumentsFolder()
+{
+    std::array<wchar_t, MAX_PATH> path{};
+    Check(::SHGetFolderPathW(nullptr, CSIDL_PERSONAL | CSIDL_FLAG_CREATE, nullptr, SHGFP_TYPE_CURRENT, path.data()),
+          L"DocumentsFolder");
+    return path.data();
+}
+
+std::wstring NewGuidText()
+{
+    GUID guid{};
+    Check(::CoCreateGuid(&guid), L"NewGuidText");
+    std::array<wchar_t, 39> text{};
+    ::StringFromGUID2(guid, text.data(), static_cast<int>(text.size()));
+    return std::wstring{text.data() + 1, 36};
+}
+
+bool FileExists(const std::wstring& path) noexcept
+{
+    return ::GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+std::wstring UnusedPath(const std::wstring& folder, const std::wstring& base, const std::wstring& extension)
+{
+    const std::wstring stem = folder + L"\\" + base;
+    const std::wstring ending = extension.empty() ? L"" : L"." + extension;
+    std::wstring path = stem + ending;
+    for (int number = 2; FileExists(path); ++number)
+        path = stem + L" (" + std::to_wstring(number) + L")" + ending;
+    return path;
+}
+
+bool MayWriteFile(const std::wstring& path) noexcept
+{
+    const DWORD attributes = ::GetFileAttributesW(path.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_READONLY) != 0) return false;
+    // The host may hold the file without sharing: only a refusal of rights counts.
+    return static_cast<bool>(OpenFile(path, GENERIC_WRITE, OPEN_EXISTING)) || ::GetLastError() != ERROR_ACCESS_DENIED;
+}
+
+std::optional<std::uint64_t> FileLength(const std::wstring& path) noexcept
+{
+    const UniqueFile file = OpenFile(path, GENERIC_READ, OPEN_EXISTING);
+    LARGE_INTEGER length{};
+    if (!file || !::GetFileSizeEx(file.Get(), &length)) return std::nullopt;
+    return static_cast<std::uint64_t>(length.QuadPart);
+}
+
+std::size_t ReadFile(const std::wstring& path, std::span<std::byte> into) noexcept
+{
+    const UniqueFile file = OpenFile(path, GENERIC_READ, OPEN_EXISTING);
+    std::size_t total = 0;
+    while (file && total < into.size())
+    {
+        constexpr std::size_t kStep = std::size_t{1} << 26U;
+        DWORD read = 0;
+        const auto step = static_cast<DWORD>(std::min(kStep, into.size() - total));
+        if (!::ReadFile(file.Get(), into.data() + total, step, &read, nullptr) || read == 0) break;
+        total += read;
+    }
+    return total;
+}
+
+void WriteFile(const std::wstring& path, std::span<const std::byte> bytes)
+{
+    const UniqueFile file = OpenFile(path, GENERIC_WRITE, CREATE_ALWAYS);
+    CheckWin32(static_cast<bool>(file), L"WriteFile");
+    DWORD written = 0;
+    CheckWin32(::WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) != FALSE,
+               L"WriteFile");
+}
+
+bool FitsAnsiCodePage(const std::wstring& text)
+{
+    if (text.empty()) return true;
+    const int size = static_cast<int>(text.size());
+    std::string ansi(text.size() * 4, '\0');
+    const int length = ::WideCharToMultiByte(CP_ACP, 0, text.data(), size, ansi.data(), static_cast<int>(ansi.size()),
+                                             nullptr, nullptr);
+    std::wstring back(text.size() * 4, L'\0');
+    const int wide =
+        ::MultiByteToWideChar(CP_ACP, 0, ansi.data(), length, back.data(), static_cast<int>(back.size()));
+    back.resize(static_cast<std::size_t>(wide));
+    return back == text;
+}
+
+TemporaryFile::TemporaryFile(const std::wstring& extension)
+    : m_path{UnusedPath(TemporaryFolder(), NewGuidText(), extension)}
+{}
+
+TemporaryFile::~TemporaryFile()
+{
+    if (!m_path.empty()) ::DeleteFileW(m_path.c_str());
+}
+
+} // namespace corvane

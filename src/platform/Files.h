@@ -1,0 +1,64 @@
+// Files and folders as the add-in needs them.
+#pragma once
+
+#include "platform/Owners.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+
+namespace corvane
+{
+
+// The user's temporary folder in its long form, and the user's Documents folder; without a closing backslash.
+[[nodiscard]] std::wstring TemporaryFolder();
+[[nodiscard]] std::wstring DocumentsFolder();
+
+// A fresh GUID as text, upper case, without braces.
+[[nodiscard]] std::wstring NewGuidText();
+
+// folder\base.extension, numbered ("base (2).extension", ...) until no file has the name. The extension may be empty
+// and comes without its point.
+[[nodiscard]] std::wstring UnusedPath(const std::wstring& folder, const std::wstring& base,
+                                      const std::wstring& extension);
+
+[[nodiscard]] bool FileExists(const std::wstring& path) noexcept;
+
+// False for a file that is marked read-only or that this user may not write.
+[[nodiscard]] bool MayWriteFile(const std::wstring& path) noexcept;
+
+// The file's length in bytes; nothing when it cannot be told.
+[[nodiscard]] std::optional<std::uint64_t> FileLength(const std::wstring& path) noexcept;
+
+// Reads the file from its start, letting others read, write and delete it meanwhile; returns how much was read.
+std::size_t ReadFile(const std::wstring& path, std::span<std::byte> into) noexcept;
+
+// Writes a new file or replaces one; throws Error.
+void WriteFile(const std::wstring& path, std::span<const std::byte> bytes);
+
+// True when the system's ANSI code page can hold every character of the text.
+[[nodiscard]] bool FitsAnsiCodePage(const std::wstring& text);
+
+// Owns a file in the temporary folder under a fresh GUID name; the file is deleted with its owner.
+class TemporaryFile
+{
+public:
+    // Chooses the name only; the caller makes the file. The extension comes without its point.
+    explicit TemporaryFile(const std::wstring& extension);
+    TemporaryFile(TemporaryFile&& other) noexcept : m_path{std::exchange(other.m_path, {})} {}
+    TemporaryFile& operator=(TemporaryFile other) noexcept
+    {
+        m_path.swap(other.m_path);
+        return *this;
+    }
+    ~TemporaryFile();
+
+    [[nodiscard]] const std::wstring& Path() const noexcept { return m_path; }
+
+private:
+    std::wstring m_path;
+};
+
+} // namespace corvane

@@ -1,0 +1,164 @@
+#include "platform/Form.h"
+
+#include "platform/FormWindow.h"
+#include "platform/MessageLoop.h"
+#include "platform/Messages.h"
+#include "platform/Procedure.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace corvane
+{
+namespace
+{
+
+constexpr UINT kActivatedMessage = WM_APP + 1;
+
+// The loaded forms, the last opened at the end.
+std::vector<Form*>& OpenForms()
+{
+    static std::vector<Form*> forms;
+    return forms;
+}
+
+void TakeOut(Form* form) noexcept
+{
+    auto& forms = OpenForms();
+    forms.erase(std::remove(forms.begin(), forms.end(), form), forms.end());
+}
+
+} // namespace
+
+Form::~Form() { Unload(); }
+
+HWND Form::TopWindow() noexcept
+{
+    const auto& forms = OpenForms();
+    const auto top = std::find_if(forms.rbegin(), forms.rend(), [](const Form* form) { return form->m_shown; });
+    return top == forms.rend() ? nullptr : (*top)->m_window;
+}
+
+void Form::UnloadNamed(std::wstring_view name) noexcept
+{
+    const auto& forms = OpenForms();
+    const auto named = std::find_if(forms.begin(), forms.end(), [&](const Form* form) { return form->m_name == name; });
+    if (named != forms.end()) (*named)->Unload();
+}
+
+void Form::CreateWindowFromTemplate(HWND owner)
+{
+    OpenForms().reserve(OpenForms().size() + 1);
+    m_window = CreateFormWindow(m_name, m_templateId, owner, &Form::DialogProcedure, reinterpret_cast<LPARAM>(this));
+    AddDialogWindow(m_window);
+    OpenForms().push_back(this);
+}
+
+void Form::Load()
+{
+    if (m_window != nullptr) return;
+    const auto& forms = OpenForms();
+    const auto owner = std::find_if(forms.rbegin(), forms.rend(),
+                                    [](const Form* form) { return form->m_shown && !form->IsPassing(); });
+    CreateWindowFromTemplate(owner == forms.rend() ? HostWindow() : (*owner)->m_window);
+    Run(L"Form_Load", &Form::Form_Load);
+}
+
+void Form::ShowModal()
+{
+    Load();
+    const HWND owner = ::GetWindow(m_window, GW_OWNER);
+    if (owner != nullptr && !::EnableWindow(owner, FALSE)) m_disabledOwner = owner;
+    CentreOnOwner(m_window);
+    SetShown(true);
+    if (PumpUntil([this] { return !m_shown; }) == WaitEnd::Quit) Hide();
+}
+
+void Form::SetShown(bool shown) noexcept
+{
+    m_shown = shown;
+    ::ShowWindow(m_window, shown ? SW_SHOW : SW_HIDE);
+    if (shown) ::SetForegroundWindow(m_window);
+}
+
+void Form::Hide() noexcept
+{
+    if (!m_shown) return;
+    // The owner comes back to life first, so that it, and not another program, gets the focus.
+    if (m_disabledOwner != nullptr) ::EnableWindow(std::exchange(m_disabledOwner, nullptr), TRUE);
+    SetShown(false);
+}
+
+void Form::Unload() noexcept
+{
+    if (m_window == nullptr) return;
+    Hide();
+    Run(L"Form_Unload", &Form::Form_Unload);
+    TakeOut(this);
+    RemoveDialogWindow(m_window);
+    ::DestroyWindow(std::exchange(m_window, nullptr));
+    ForgetFormClass(m_name);
+}
+
+void Form::Run(const wchar_t* procedure, void (Form::*run)()) noexcept
+{
+    Reporting([&] {
+        const std::wstring name = std::wstring{m_name} + L"." + procedure;
+        AtHostBoundary(name, [&] { (this->*run)(); });
+    });
+}
+
+INT_PTR CALLBACK Form::DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
+{
+    if (message == WM_INITDIALOG)
+    {
+        ::SetWindowLongPtrW(window, DWLP_USER, lParam);
+        return TRUE;
+    }
+    auto* form = reinterpret_cast<Form*>(::GetWindowLongPtrW(window, DWLP_USER));
+    return form == nullptr || form->m_window == nullptr ? FALSE : form->OnMessage(message, wParam, lParam);
+}
+
+INT_PTR Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept
+{
+    switch (message)
+    {
+    case WM_COMMAND: return OnNotification(LOWORD(wParam), HIWORD(wParam)) ? TRUE : FALSE;
+    case WM_NOTIFY:
+    {
+        const auto* header = reinterpret_cast<const NMHDR*>(lParam);
+        return OnNotification(static_cast<int>(header->idFrom), header->code) ? TRUE : FALSE;
+    }
+    case WM_ACTIVATE:
+        // What activation starts may last: it runs from the message loop, not inside the activation.
+        if (LOWORD(wParam) != WA_INACTIVE) ::PostMessageW(m_window, kActivatedMessage, 0, 0);
+        return FALSE;
+    case kActivatedMessage:
+        if (m_shown) Run(L"Form_Activate", &Form::Form_Activate);
+        return TRUE;
+    case WM_TIMER: Run(L"Timer1_Timer", &Form::Timer); return TRUE;
+    case WM_HELP: return OnNotification(HelpControl(), BN_CLICKED) ? TRUE : FALSE;
+    case WM_SETCURSOR:
+        if (!m_hourglass) return FALSE;
+        ::SetCursor(::LoadCursorW(nullptr, IDC_WAIT));
+        ::SetWindowLongPtrW(m_window, DWLP_MSGRESULT, TRUE);
+        return TRUE;
+    default: return FALSE;
+    }
+}
+
+bool Form::OnNotification(int control, UINT notification) noexcept
+{
+    const auto handlers = Handlers();
+    const auto handler = std::find_if(handlers.begin(), handlers.end(), [&](const FormHandler& entry) {
+        return entry.control == control && entry.notification == notification;
+    });
+    if (handler == handlers.end()) return false;
+    // Esc and Enter press their buttons even while these are out of use.
+    const HWND window = Control(control);
+    if (notification == BN_CLICKED && window != nullptr && !(::IsWindowEnabled(window) && IsShown(control))) return true;
+    Run(handler->procedure, handler->run);
+    return true;
+}
+
+} // namespace corvane

@@ -1,0 +1,109 @@
+// Base of the add-in's forms: a window from a dialog template, its loading order, its modal loop and the barrier around
+// everything the system calls it with. It knows no particular form.
+#pragma once
+
+#include <windows.h>
+
+#include <span>
+#include <string>
+
+namespace corvane
+{
+
+class Form;
+
+// A control's notification (WM_COMMAND or WM_NOTIFY code) and the form's procedure that answers it. The procedure is
+// named as in the trace, without the form's name.
+struct FormHandler
+{
+    int control;
+    UINT notification;
+    const wchar_t* procedure;
+    void (Form::*run)();
+};
+
+// Lets a table name a derived form's procedure.
+template<class Derived>
+FormHandler Handle(int control, UINT notification, const wchar_t* procedure, void (Derived::*run)())
+{
+    return {control, notification, procedure, static_cast<void (Form::*)()>(run)};
+}
+
+// A form is made, given its inputs, shown, read and unloaded by its opener. Hiding ends a modal show but keeps the
+// window and what the user put in.
+class Form
+{
+public:
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+    virtual ~Form();
+
+    // Makes the window, hidden, in the user's message font, and runs Form_Load. Does nothing when that is done.
+    // Throws Error when the window cannot be made; an error of Form_Load is reported and the form stays.
+    void Load();
+
+    // Loads the form if need be, shows it centred on its owner and returns when it is hidden or unloaded.
+    void ShowModal();
+    void Hide() noexcept;
+    void Unload() noexcept;
+
+    [[nodiscard]] HWND Window() const noexcept { return m_window; }
+
+    // Unloads the open form of that name, if there is one.
+    static void UnloadNamed(std::wstring_view name) noexcept;
+
+    // The visible form in front of the others, or null.
+    [[nodiscard]] static HWND TopWindow() noexcept;
+
+protected:
+    // The name is the form's class name; its window class carries it too.
+    Form(const wchar_t* name, int templateId) noexcept : m_name{name}, m_templateId{templateId} {}
+
+    [[nodiscard]] virtual std::span<const FormHandler> Handlers() const = 0;
+    virtual void Form_Load() {}
+    virtual void Form_Activate() {}
+    virtual void Form_Unload() {}
+    virtual void Timer() {}
+    // The control that F1 presses; 0 for none.
+    [[nodiscard]] virtual int HelpControl() const noexcept { return 0; }
+    // True for a form that is unloaded while what it opened lives on, and so must not own it.
+    [[nodiscard]] virtual bool IsPassing() const noexcept { return false; }
+
+    [[nodiscard]] HWND Control(int control) const noexcept { return ::GetDlgItem(m_window, control); }
+    [[nodiscard]] std::wstring Text(int control) const;
+    void SetText(int control, const std::wstring& text) const noexcept;
+    void SetCaption(const std::wstring& text) const noexcept;
+    [[nodiscard]] std::wstring Caption() const;
+    void Enable(int control, bool enabled) const noexcept;
+    void SetFocusTo(int control) const noexcept;
+    [[nodiscard]] bool IsShown(int control) const noexcept;
+    void Show(int control, bool shown) const noexcept;
+    [[nodiscard]] bool IsChecked(int control) const noexcept;
+    void Check(int control, bool checked) const noexcept;
+    // Makes a button the one that Enter presses; 0 for none.
+    void SetDefaultButton(int control) const noexcept;
+    // Ctrl+A selects the whole text of this text box.
+    void SelectAllOnCtrlA(int control) const noexcept;
+    // Shows text in the status bar at once.
+    void SetStatus(int statusBar, const std::wstring& text) const noexcept;
+    // The hourglass over the form, or the usual pointer.
+    void SetHourglass(bool on) noexcept;
+    void StartTimer(UINT milliseconds) const noexcept;
+
+private:
+    static INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+    INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+    bool OnNotification(int control, UINT notification) noexcept;
+    void Run(const wchar_t* procedure, void (Form::*run)()) noexcept;
+    void CreateWindowFromTemplate(HWND owner);
+    void SetShown(bool shown) noexcept;
+
+    const wchar_t* m_name;
+    int m_templateId;
+    HWND m_window = nullptr;
+    HWND m_disabledOwner = nullptr;
+    bool m_shown = false;
+    bool m_hourglass = false;
+};
+
+} // namespace corvane

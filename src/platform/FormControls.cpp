@@ -1,0 +1,99 @@
+// What forms do with their controls.
+#include "platform/Form.h"
+
+#include <commctrl.h>
+
+namespace corvane
+{
+namespace
+{
+
+constexpr UINT_PTR kSelectAllSubclass = 1;
+constexpr UINT_PTR kTimer = 1;
+constexpr WPARAM kCtrlA = 1; // the character that Ctrl+A types
+
+std::wstring TextOf(HWND window)
+{
+    std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(::GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
+LRESULT CALLBACK SelectAllProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR)
+{
+    if (message == WM_CHAR && wParam == kCtrlA)
+    {
+        ::SendMessageW(window, EM_SETSEL, 0, -1);
+        return 0;
+    }
+    if (message == WM_NCDESTROY) ::RemoveWindowSubclass(window, &SelectAllProcedure, kSelectAllSubclass);
+    return ::DefSubclassProc(window, message, wParam, lParam);
+}
+
+} // namespace
+
+std::wstring Form::Text(int control) const { return TextOf(Control(control)); }
+
+void Form::SetText(int control, const std::wstring& text) const noexcept
+{
+    ::SetWindowTextW(Control(control), text.c_str());
+}
+
+void Form::SetCaption(const std::wstring& text) const noexcept { ::SetWindowTextW(m_window, text.c_str()); }
+
+std::wstring Form::Caption() const { return TextOf(m_window); }
+
+void Form::Enable(int control, bool enabled) const noexcept
+{
+    const HWND window = Control(control);
+    // The keyboard must not stay in a control that goes out of use.
+    const HWND focus = ::GetFocus();
+    const bool holdsFocus = focus == window || ::IsChild(window, focus);
+    if (!enabled && holdsFocus) ::SendMessageW(m_window, WM_NEXTDLGCTL, 0, FALSE);
+    ::EnableWindow(window, enabled);
+}
+
+void Form::SetFocusTo(int control) const noexcept
+{
+    ::SendMessageW(m_window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(control)), TRUE);
+}
+
+bool Form::IsShown(int control) const noexcept
+{
+    return (::GetWindowLongPtrW(Control(control), GWL_STYLE) & WS_VISIBLE) != 0;
+}
+
+void Form::Show(int control, bool shown) const noexcept { ::ShowWindow(Control(control), shown ? SW_SHOWNA : SW_HIDE); }
+
+bool Form::IsChecked(int control) const noexcept { return ::IsDlgButtonChecked(m_window, control) == BST_CHECKED; }
+
+void Form::Check(int control, bool checked) const noexcept
+{
+    ::CheckDlgButton(m_window, control, checked ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void Form::SetDefaultButton(int control) const noexcept
+{
+    ::SendMessageW(m_window, DM_SETDEFID, static_cast<WPARAM>(control), 0);
+}
+
+void Form::SelectAllOnCtrlA(int control) const noexcept
+{
+    ::SetWindowSubclass(Control(control), &SelectAllProcedure, kSelectAllSubclass, 0);
+}
+
+void Form::SetStatus(int statusBar, const std::wstring& text) const noexcept
+{
+    ::SendMessageW(Control(statusBar), SB_SETTEXTW, 0, reinterpret_cast<LPARAM>(text.c_str()));
+    ::UpdateWindow(Control(statusBar));
+}
+
+void Form::SetHourglass(bool on) noexcept
+{
+    m_hourglass = on;
+    ::SetCursor(::LoadCursorW(nullptr, on ? IDC_WAIT : IDC_ARROW));
+}
+
+void Form::StartTimer(UINT milliseconds) const noexcept { ::SetTimer(m_window, kTimer, milliseconds, nullptr); }
+
+} // namespace corvane

@@ -1,0 +1,49 @@
+#include "platform/FormLayout.h"
+
+namespace corvane
+{
+
+RECT ControlPlace(HWND control) noexcept
+{
+    RECT place{};
+    ::GetWindowRect(control, &place);
+    ::MapWindowPoints(nullptr, ::GetParent(control), reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+void ShiftBelow(HWND form, int y, int delta) noexcept
+{
+    for (HWND control = ::GetWindow(form, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT))
+    {
+        const RECT place = ControlPlace(control);
+        if (place.top < y) continue;
+        ::SetWindowPos(control, nullptr, place.left, place.top + delta, 0, 0,
+                       SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+}
+
+void GrowControl(HWND control, int delta) noexcept
+{
+    const RECT place = ControlPlace(control);
+    ::SetWindowPos(control, nullptr, 0, 0, place.right - place.left, place.bottom - place.top + delta,
+                   SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void GrowForm(HWND form, int delta) noexcept
+{
+    RECT place{};
+    ::GetWindowRect(form, &place);
+    ::SetWindowPos(form, nullptr, 0, 0, place.right - place.left, place.bottom - place.top + delta,
+                   SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+int PixelsOfTwips(int twips) noexcept
+{
+    constexpr int kTwipsPerInch = 1440;
+    const HDC screen = ::GetDC(nullptr);
+    const int pixels = ::MulDiv(twips, ::GetDeviceCaps(screen, LOGPIXELSY), kTwipsPerInch);
+    ::ReleaseDC(nullptr, screen);
+    return pixels;
+}
+
+} // namespace corvane

@@ -1,0 +1,22 @@
+// Moves controls of a form when a row of it comes or goes.
+#pragma once
+
+#include <windows.h>
+
+namespace corvane
+{
+
+// A control's rectangle in the client coordinates of its form.
+[[nodiscard]] RECT ControlPlace(HWND control) noexcept;
+
+// Moves every control of the form whose top lies at or below y by delta pixels.
+void ShiftBelow(HWND form, int y, int delta) noexcept;
+
+// Makes a control, or the form itself, taller by delta pixels.
+void GrowControl(HWND control, int delta) noexcept;
+void GrowForm(HWND form, int delta) noexcept;
+
+// A length in twips (1/1440 inch) as pixels of the screen.
+[[nodiscard]] int PixelsOfTwips(int twips) noexcept;
+
+} // namespace corvane

@@ -1,0 +1,99 @@
+#include "platform/FormWindow.h"
+
+#include "platform/ComObject.h"
+#include "platform/FormTemplate.h"
+#include "platform/HResult.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+namespace corvane
+{
+namespace
+{
+
+constexpr int kPointsPerInch = 72;
+
+int ScreenDotsPerInch() noexcept
+{
+    const HDC screen = ::GetDC(nullptr);
+    const int dots = ::GetDeviceCaps(screen, LOGPIXELSY);
+    ::ReleaseDC(nullptr, screen);
+    return dots;
+}
+
+TemplateFont MessageFont()
+{
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    CheckWin32(::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0) != FALSE, L"MessageFont");
+    const LOGFONTW& font = metrics.lfMessageFont;
+    const int points = ::MulDiv(std::abs(font.lfHeight), kPointsPerInch, ScreenDotsPerInch());
+    return {.pointSize = static_cast<std::uint16_t>(points),
+            .weight = static_cast<std::uint16_t>(font.lfWeight),
+            .italic = font.lfItalic != 0,
+            .charset = font.lfCharSet,
+            .face = reinterpret_cast<const char16_t*>(font.lfFaceName)};
+}
+
+std::span<const std::byte> DialogResource(int templateId)
+{
+    const HINSTANCE module = Library::Module();
+    const HRSRC found = ::FindResourceW(module, MAKEINTRESOURCEW(templateId), RT_DIALOG);
+    CheckWin32(found != nullptr, L"Form");
+    const HGLOBAL loaded = ::LoadResource(module, found);
+    CheckWin32(loaded != nullptr, L"Form");
+    return {static_cast<const std::byte*>(::LockResource(loaded)), ::SizeofResource(module, found)};
+}
+
+void RegisterFormClass(const wchar_t* name) noexcept
+{
+    WNDCLASSW windowClass{};
+    windowClass.lpfnWndProc = ::DefDlgProcW;
+    windowClass.cbWndExtra = DLGWINDOWEXTRA;
+    windowClass.hInstance = Library::Module();
+    windowClass.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    windowClass.lpszClassName = name;
+    ::RegisterClassW(&windowClass); // a second form of the same name shares the class
+}
+
+} // namespace
+
+HWND CreateFormWindow(const wchar_t* name, int templateId, HWND owner, DLGPROC procedure, LPARAM argument)
+{
+    const INITCOMMONCONTROLSEX controls{sizeof controls,
+                                        ICC_STANDARD_CLASSES | ICC_BAR_CLASSES | ICC_TREEVIEW_CLASSES |
+                                            ICC_PROGRESS_CLASS};
+    ::InitCommonControlsEx(&controls);
+    RegisterFormClass(name);
+    const auto dialogTemplate = WithFont(DialogResource(templateId), MessageFont());
+    const HWND window = ::CreateDialogIndirectParamW(
+        Library::Module(), reinterpret_cast<LPCDLGTEMPLATEW>(dialogTemplate.data()), owner, procedure, argument);
+    CheckWin32(window != nullptr, L"Form");
+    return window;
+}
+
+void ForgetFormClass(const wchar_t* name) noexcept { ::UnregisterClassW(name, Library::Module()); }
+
+void CentreOnOwner(HWND window) noexcept
+{
+    const HWND owner = ::GetWindow(window, GW_OWNER);
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    ::GetMonitorInfoW(::MonitorFromWindow(owner != nullptr ? owner : window, MONITOR_DEFAULTTONEAREST), &monitor);
+    const RECT& work = monitor.rcWork;
+    RECT around = work;
+    if (owner != nullptr && !::IsIconic(owner)) ::GetWindowRect(owner, &around);
+    RECT own{};
+    ::GetWindowRect(window, &own);
+    const LONG width = own.right - own.left;
+    const LONG height = own.bottom - own.top;
+    const LONG left = (around.left + around.right - width) / 2;
+    const LONG top = (around.top + around.bottom - height) / 2;
+    ::SetWindowPos(window, nullptr, std::max(work.left, std::min(left, work.right - width)),
+                   std::max(work.top, std::min(top, work.bottom - height)), 0, 0,
+                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+} // namespace corvane

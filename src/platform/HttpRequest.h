@@ -1,0 +1,54 @@
+// One HTTP request through the platform's XMLHTTP component.
+#pragma once
+
+#include "platform/ByteArray.h"
+#include "platform/Owners.h"
+
+#include <msxml2.h>
+
+#include <chrono>
+#include <optional>
+#include <string>
+
+namespace corvane
+{
+
+// A request is opened, given headers, sent once and waited for; then its answer is read. Where a member throws Error,
+// the number is the failed call's HRESULT.
+class HttpRequest
+{
+public:
+    // Throws Error when the machine has no XMLHTTP component.
+    HttpRequest();
+    HttpRequest(const HttpRequest&) = delete;
+    HttpRequest& operator=(const HttpRequest&) = delete;
+    ~HttpRequest(); // a request still under way is abandoned
+
+    // Opens the request asynchronously, without user name and password.
+    void Open(const wchar_t* method, const std::wstring& url);
+    void SetHeader(const wchar_t* name, const std::wstring& value);
+
+    void Send();
+    void Send(const std::wstring& text);
+    void Send(ByteArray bytes);
+    void SendEmptyDocument();
+
+    // Waits for the whole answer while messages are handled. Throws Error when the transport failed, when the limit
+    // passed first, or when the thread is told to end. No limit means waiting for ever.
+    void Wait(std::optional<std::chrono::milliseconds> limit);
+
+    // The answer: its HTTP status, its text (empty when it cannot be read as text) and its bytes.
+    [[nodiscard]] long Status() const noexcept { return m_status; }
+    [[nodiscard]] std::wstring Text() const;
+    [[nodiscard]] Variant Body() const;
+
+private:
+    void SendBody(const Variant& body);
+    [[nodiscard]] long ReadyState() const;
+
+    ComPtr<IXMLHTTPRequest> m_request;
+    long m_status = 0;
+    bool m_underWay = false;
+};
+
+} // namespace corvane

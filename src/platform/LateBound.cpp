@@ -1,0 +1,103 @@
+#include "platform/LateBound.h"
+
+#include "platform/Error.h"
+#include "platform/HResult.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace corvane
+{
+namespace
+{
+
+// Owns the texts of an EXCEPINFO and turns them into an Error.
+class ExceptionInfo
+{
+public:
+    ExceptionInfo() = default;
+    ExceptionInfo(const ExceptionInfo&) = delete;
+    ExceptionInfo& operator=(const ExceptionInfo&) = delete;
+    ~ExceptionInfo()
+    {
+        const Bstr source = Own(m_info.bstrSource);
+        const Bstr description = Own(m_info.bstrDescription);
+        const Bstr helpFile = Own(m_info.bstrHelpFile);
+    }
+
+    [[nodiscard]] EXCEPINFO* Put() noexcept { return &m_info; }
+
+    [[noreturn]] void Throw(std::wstring_view member)
+    {
+        if (m_info.pfnDeferredFillIn != nullptr) m_info.pfnDeferredFillIn(&m_info);
+        const HRESULT result = m_info.scode != 0 ? m_info.scode : static_cast<HRESULT>(0x800A0000U | m_info.wCode);
+        std::wstring source{ViewOf(m_info.bstrSource)};
+        std::wstring description{ViewOf(m_info.bstrDescription)};
+        if (source.empty()) source = member;
+        if (description.empty()) description = MessageOf(result);
+        throw Error{ErrorNumberOf(result), std::move(source), std::move(description)};
+    }
+
+private:
+    static Bstr Own(BSTR text)
+    {
+        Bstr owner;
+        *owner.Put() = text;
+        return owner;
+    }
+
+    EXCEPINFO m_info{};
+};
+
+} // namespace
+
+LateBound LateBound::Create(const wchar_t* programmaticId)
+{
+    CLSID classId{};
+    Check(::CLSIDFromProgID(programmaticId, &classId), programmaticId);
+    ComPtr<IDispatch> object;
+    Check(::CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER,
+                             IID_PPV_ARGS(object.GetAddressOf())),
+          programmaticId);
+    return LateBound{std::move(object)};
+}
+
+std::int32_t LateBound::Number(const wchar_t* name) const
+{
+    const Variant value = Property(name);
+    Variant number;
+    Check(::VariantChangeType(number.Put(), const_cast<VARIANT*>(&value.Get()), 0, VT_I4), name);
+    return number.Get().lVal;
+}
+
+void LateBound::Put(const wchar_t* name, Variant value) const { Invoke(name, DISPATCH_PROPERTYPUT, {&value, 1}); }
+
+Variant LateBound::Invoke(const wchar_t* name, int kind, std::span<Variant> arguments) const
+{
+    if (m_object == nullptr) throw Error{kErrorObjectNotSet, name, L"Object variable or With block variable not set"};
+    DISPID member = 0;
+    LPOLESTR names[] = {const_cast<LPOLESTR>(name)};
+    Check(m_object->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &member), name);
+
+    // Automation takes the arguments last to first; the values stay owned by the caller.
+    std::vector<VARIANT> reversed;
+    std::transform(arguments.rbegin(), arguments.rend(), std::back_inserter(reversed),
+                   [](const Variant& value) { return value.Get(); });
+    DISPID putName = DISPID_PROPERTYPUT;
+    DISPPARAMS parameters{reversed.data(), nullptr, static_cast<UINT>(reversed.size()), 0};
+    if (kind == DISPATCH_PROPERTYPUT)
+    {
+        parameters.rgdispidNamedArgs = &putName;
+        parameters.cNamedArgs = 1;
+    }
+    Variant result;
+    ExceptionInfo exception;
+    const HRESULT outcome =
+        m_object->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, static_cast<WORD>(kind), &parameters,
+                         kind == DISPATCH_PROPERTYPUT ? nullptr : result.Put(), exception.Put(), nullptr);
+    if (outcome == DISP_E_EXCEPTION) exception.Throw(name);
+    Check(outcome, name);
+    return result;
+}
+
+} // namespace corvane

@@ -1,0 +1,35 @@
+// The add-in's waits: they sleep until a message comes and keep every window alive meanwhile.
+#pragma once
+
+#include <windows.h>
+
+#include <chrono>
+#include <functional>
+#include <optional>
+
+namespace corvane
+{
+
+enum class WaitEnd
+{
+    Done,     // the awaited state is reached
+    TimedOut, // the limit passed first
+    Quit      // the thread is told to end; the quit message is back in the queue
+};
+
+// Dispatches messages until done() holds. done is asked before the first wait and after every message, so what it
+// watches must change on this thread. Between messages the thread sleeps; no limit means waiting for ever.
+[[nodiscard]] WaitEnd PumpUntil(const std::function<bool()>& done,
+                                std::optional<std::chrono::milliseconds> limit = std::nullopt);
+
+// Lets time pass while messages are handled; returns early when the thread is told to end.
+void PumpFor(std::chrono::milliseconds time);
+
+// Handles the messages that are waiting now, and returns.
+void PumpPending();
+
+// Windows whose dialog keys (Tab, Enter, Esc, access keys) the loops above serve.
+void AddDialogWindow(HWND window);
+void RemoveDialogWindow(HWND window) noexcept;
+
+} // namespace corvane

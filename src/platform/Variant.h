@@ -1,0 +1,58 @@
+// Owns a VARIANT and converts it the way Automation clients expect.
+#pragma once
+
+#include "platform/Owners.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace corvane
+{
+
+// Owns one VARIANT: Empty until given a value, freed with VariantClear.
+class Variant
+{
+public:
+    Variant() noexcept { ::VariantInit(&m_value); }
+    Variant(std::int32_t number) noexcept; // NOLINT(google-explicit-constructor): arguments of late-bound calls
+    Variant(bool value) noexcept;          // NOLINT(google-explicit-constructor): idem
+    Variant(std::wstring_view text);       // NOLINT(google-explicit-constructor): idem
+    Variant(const wchar_t* text) : Variant{std::wstring_view{text}} {} // NOLINT(google-explicit-constructor): idem
+    Variant(const std::wstring& text) : Variant{std::wstring_view{text}} {} // NOLINT(google-explicit-constructor): idem
+    Variant(IDispatch* object) noexcept; // NOLINT(google-explicit-constructor): idem; adds a reference
+    Variant(const Variant&) = delete;
+    Variant(Variant&& other) noexcept : m_value{std::exchange(other.m_value, VARIANT{})} {}
+    Variant& operator=(Variant other) noexcept
+    {
+        std::swap(m_value, other.m_value);
+        return *this;
+    }
+    ~Variant() { ::VariantClear(&m_value); }
+
+    // An argument left out of a late-bound call (DISP_E_PARAMNOTFOUND).
+    [[nodiscard]] static Variant Missing() noexcept;
+
+    [[nodiscard]] const VARIANT& Get() const noexcept { return m_value; }
+    [[nodiscard]] VARIANT* Put() noexcept
+    {
+        *this = Variant{};
+        return &m_value;
+    }
+
+    // The classic Automation text: Booleans "True" and "False", integers in decimal, Empty and Null as nothing.
+    // Throws Error for a value without a text form.
+    [[nodiscard]] std::wstring Text() const { return TextOf(m_value); }
+    // A second owner of the same value; throws Error.
+    [[nodiscard]] Variant Copy() const;
+    // The object inside, or null when the value is not an object.
+    [[nodiscard]] ComPtr<IDispatch> Object() const;
+
+    // Text() for a VARIANT owned by somebody else.
+    [[nodiscard]] static std::wstring TextOf(const VARIANT& value);
+
+private:
+    VARIANT m_value;
+};
+
+} // namespace corvane

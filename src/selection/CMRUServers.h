@@ -1,0 +1,32 @@
+// The servers that the user has worked with, kept in the user's registry.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace corvane
+{
+
+// Loads the list when it is made; changes stay in memory until SaveURLs.
+class CMRUServers
+{
+public:
+    CMRUServers();
+
+    // Moves or inserts an address at the front.
+    void AddURL(const std::wstring& url);
+
+    // A copy of the whole list, empty entries included, the most recent first.
+    [[nodiscard]] std::vector<std::wstring> GetURLs() const { return m_urls; }
+
+    // Writes every entry to the registry; throws Error.
+    void SaveURLs() const;
+
+    // The address with a scheme, in lower case, without blanks at its ends.
+    [[nodiscard]] std::wstring VerifyURL(const std::wstring& url) const;
+
+private:
+    std::vector<std::wstring> m_urls; // of fixed length
+};
+
+} // namespace corvane

@@ -1,0 +1,95 @@
+#include "selection/TargetTree.h"
+
+#include "support/Conversions.h"
+
+namespace corvane
+{
+
+TargetTree::TargetTree(HWND treeView, TreeMode mode, IconLoader loadIcons)
+    : m_treeView{treeView}, m_mode{mode}, m_loadIcons{std::move(loadIcons)}
+{
+    TreeView_SetImageList(m_treeView, m_images.Get(), TVSIL_NORMAL);
+}
+
+TargetTree::~TargetTree() { TreeView_SetImageList(m_treeView, nullptr, TVSIL_NORMAL); }
+
+void TargetTree::Clear()
+{
+    TreeView_DeleteAllItems(m_treeView);
+    m_keys.clear();
+}
+
+void TargetTree::AddProject(const XmlNode& project, const TreeTarget& preselected)
+{
+    m_preselected = preselected;
+    const std::wstring iconSet = project.Text(L"IconSet");
+    if (m_iconSets.insert(iconSet).second) m_loadIcons(m_images, iconSet);
+    AddNode({TVI_ROOT, {}}, project, 0, iconSet);
+}
+
+void TargetTree::AddNode(const Position& parent, const XmlNode& element, std::size_t depth, const std::wstring& iconSet)
+{
+    const auto levels = TreeLevels(m_mode);
+    const TreeLevel& level = levels[depth];
+    const Position node = Insert(parent, level, element.Text(level.idAttribute), element.Text(L"name"), iconSet);
+    if (depth + 1 == levels.size()) return;
+    const TreeLevel& below = levels[depth + 1];
+    if (m_mode == TreeMode::RelatedDocument)
+        Insert(node, below, L"0", std::wstring{kNewRelatedDocumentText}, iconSet);
+    for (XmlNode child = element.FirstElement(); child; child = child.NextElement())
+    {
+        if (child.Name() == below.element) AddNode(node, child, depth + 1, iconSet);
+    }
+}
+
+TargetTree::Position TargetTree::Insert(const Position& parent, const TreeLevel& level, const std::wstring& id,
+                                        const std::wstring& text, const std::wstring& iconSet)
+{
+    Position node{nullptr, NodeKey(parent.key, level, std::to_wstring(ToLongSafe(id)))};
+    TVINSERTSTRUCTW insert{};
+    insert.hParent = parent.item;
+    insert.hInsertAfter = TVI_LAST;
+    insert.item.mask = TVIF_TEXT | TVIF_PARAM | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+    insert.item.pszText = const_cast<LPWSTR>(text.c_str());
+    insert.item.lParam = static_cast<LPARAM>(m_keys.size());
+    insert.item.iImage = level.iconKind == nullptr ? TreeImages::IndexOf(level.image)
+                                                   : m_images.IndexOf(level.iconKind + iconSet);
+    insert.item.iSelectedImage = insert.item.iImage;
+    node.item = TreeView_InsertItem(m_treeView, &insert);
+    m_keys.push_back(node.key);
+    if (IsPreselected(node.key, level))
+    {
+        TreeView_EnsureVisible(m_treeView, node.item);
+        TreeView_SelectItem(m_treeView, node.item);
+    }
+    return node;
+}
+
+bool TargetTree::IsPreselected(const std::wstring& key, const TreeLevel& level) const
+{
+    if (level.iconKind != nullptr) return false;
+    const auto target = TargetOfKey(m_mode, key);
+    if (!target) return false;
+    if (level.image == kActivityImage) return target->activityId == m_preselected.activityId;
+    if (level.image == kDeliverableImage) return target->deliverableId == m_preselected.deliverableId;
+    if (level.image == kGateDocumentImage) return target->gateDocumentId == m_preselected.gateDocumentId;
+    if (target->relatedDocId != m_preselected.relatedDocId) return false;
+    return target->relatedDocId != 0 || target->projectId == m_preselected.projectId;
+}
+
+std::wstring TargetTree::SelectedKey() const
+{
+    TVITEMW item{};
+    item.mask = TVIF_PARAM;
+    item.hItem = TreeView_GetSelection(m_treeView);
+    if (item.hItem == nullptr || !TreeView_GetItem(m_treeView, &item)) return {};
+    return m_keys.at(static_cast<std::size_t>(item.lParam));
+}
+
+bool TargetTree::SelectedHasChildren() const noexcept
+{
+    const HTREEITEM selected = TreeView_GetSelection(m_treeView);
+    return selected != nullptr && TreeView_GetChild(m_treeView, selected) != nullptr;
+}
+
+} // namespace corvane

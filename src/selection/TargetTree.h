@@ -1,0 +1,58 @@
+// The tree control filled with the user's targets.
+#pragma once
+
+#include "platform/XmlDocument.h"
+#include "selection/NodeKey.h"
+#include "selection/TreeImages.h"
+
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace corvane
+{
+
+// Fills a tree view from the server's answer and tells the key of what is selected in it.
+class TargetTree
+{
+public:
+    // Fetches a picture of an icon set from the server into the images: kind ("project", "stage", "gate") and set.
+    using IconLoader = std::function<void(TreeImages& images, const std::wstring& iconSet)>;
+
+    // The tree view stays owned by its form.
+    TargetTree(HWND treeView, TreeMode mode, IconLoader loadIcons);
+    TargetTree(const TargetTree&) = delete;
+    TargetTree& operator=(const TargetTree&) = delete;
+    ~TargetTree();
+
+    void Clear();
+    // Adds a project with all below it; nodes whose ids equal those of preselected become visible and selected.
+    void AddProject(const XmlNode& project, const TreeTarget& preselected);
+
+    // The key of the selected node, empty when none is selected; and whether it has children.
+    [[nodiscard]] std::wstring SelectedKey() const;
+    [[nodiscard]] bool SelectedHasChildren() const noexcept;
+
+private:
+    struct Position
+    {
+        HTREEITEM item;
+        std::wstring key;
+    };
+
+    void AddNode(const Position& parent, const XmlNode& element, std::size_t depth, const std::wstring& iconSet);
+    Position Insert(const Position& parent, const TreeLevel& level, const std::wstring& id, const std::wstring& text,
+                    const std::wstring& iconSet);
+    [[nodiscard]] bool IsPreselected(const std::wstring& key, const TreeLevel& level) const;
+
+    HWND m_treeView;
+    TreeMode m_mode;
+    IconLoader m_loadIcons;
+    TreeImages m_images;
+    std::set<std::wstring> m_iconSets;
+    std::vector<std::wstring> m_keys; // by the number that a node carries
+    TreeTarget m_preselected;
+};
+
+} // namespace corvane

@@ -1,0 +1,34 @@
+// What the target-selection window says in each mode.
+#pragma once
+
+#include "selection/NodeKey.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace corvane
+{
+
+// Gives the customer's word for a term.
+using NameLookup = std::function<std::wstring(std::wstring_view term)>;
+
+struct TreeCaptions
+{
+    std::wstring caption;
+    std::wstring treeLabel;
+    std::wstring serverLabel;
+    std::wstring emptyText;       // stands in place of a tree without projects
+    std::wstring nothingSelected; // the refusal of OK without a target
+    bool refusalIsCritical;
+};
+
+[[nodiscard]] TreeCaptions TreeCaptionsFor(TreeMode mode, const NameLookup& name);
+
+// A tree label that tells of an active filter, once.
+[[nodiscard]] std::wstring WithFilterMark(std::wstring label);
+
+// The message that a tree with too many projects shows before the forced filter.
+[[nodiscard]] std::wstring EntryLimitMessage();
+
+} // namespace corvane

@@ -1,0 +1,106 @@
+#include "selection/TreeImages.h"
+
+#include "platform/ComObject.h"
+#include "platform/HResult.h"
+#include "platform/Variant.h"
+#include "resources/resource.h"
+#include "selection/NodeKey.h"
+
+#include <olectl.h>
+#include <shlwapi.h>
+
+namespace corvane
+{
+namespace
+{
+
+constexpr const wchar_t* kSource = L"TreeImages";
+constexpr int kPictureSize = 17; // pixels at 96 dpi
+
+int ScaledSize() noexcept
+{
+    const HDC screen = ::GetDC(nullptr);
+    const int size = ::MulDiv(kPictureSize, ::GetDeviceCaps(screen, LOGPIXELSY), USER_DEFAULT_SCREEN_DPI);
+    ::ReleaseDC(nullptr, screen);
+    return size;
+}
+
+// Selects a bitmap into a context for as long as it lives.
+class SelectedBitmap
+{
+public:
+    SelectedBitmap(HDC context, HBITMAP bitmap) noexcept : m_context{context}, m_previous{::SelectObject(context, bitmap)}
+    {}
+    SelectedBitmap(const SelectedBitmap&) = delete;
+    SelectedBitmap& operator=(const SelectedBitmap&) = delete;
+    ~SelectedBitmap() { ::SelectObject(m_context, m_previous); }
+
+private:
+    HDC m_context;
+    HGDIOBJ m_previous;
+};
+
+// A square bitmap of the screen's kind.
+UniqueBitmap ScreenBitmap(int size) noexcept
+{
+    const HDC screen = ::GetDC(nullptr);
+    UniqueBitmap bitmap{::CreateCompatibleBitmap(screen, size, size)};
+    ::ReleaseDC(nullptr, screen);
+    return bitmap;
+}
+
+} // namespace
+
+TreeImages::TreeImages()
+    : m_size{ScaledSize()}, m_list{::ImageList_Create(m_size, m_size, ILC_COLOR32, kPlainImage, kPlainImage)}
+{
+    for (const int id : {IDR_IMAGE_DELIVERABLE, IDR_IMAGE_ACTIVITY, IDR_IMAGE_RELATED, IDR_IMAGE_GATEDOC, IDR_IMAGE_PLAIN})
+        AddResource(id);
+}
+
+void TreeImages::AddResource(int id)
+{
+    const HINSTANCE module = Library::Module();
+    const HRSRC found = ::FindResourceW(module, MAKEINTRESOURCEW(id), RT_RCDATA);
+    CheckWin32(found != nullptr, kSource);
+    const auto* bytes = static_cast<const BYTE*>(::LockResource(::LoadResource(module, found)));
+    const DWORD size = ::SizeofResource(module, found);
+    ComPtr<IStream> stream;
+    stream.Attach(::SHCreateMemStream(bytes, size));
+    ComPtr<IPicture> picture;
+    Check(::OleLoadPicture(stream.Get(), static_cast<LONG>(size), FALSE, IID_IPicture, &picture), kSource);
+    Add(*picture.Get());
+}
+
+void TreeImages::AddFile(const std::wstring& key, const std::wstring& path)
+{
+    ComPtr<IPicture> picture;
+    Check(::OleLoadPicturePath(const_cast<LPOLESTR>(path.c_str()), nullptr, 0, 0, IID_IPicture, &picture), kSource);
+    m_keys[key] = Add(*picture.Get());
+}
+
+int TreeImages::Add(IPicture& picture)
+{
+    OLE_XSIZE_HIMETRIC width = 0;
+    OLE_YSIZE_HIMETRIC height = 0;
+    Check(picture.get_Width(&width), kSource);
+    Check(picture.get_Height(&height), kSource);
+    const UniqueBitmap bitmap = ScreenBitmap(m_size);
+    {
+        const UniqueDeviceContext context{::CreateCompatibleDC(nullptr)};
+        const SelectedBitmap selected{context.Get(), bitmap.Get()};
+        const RECT all{0, 0, m_size, m_size};
+        ::FillRect(context.Get(), &all, ::GetSysColorBrush(COLOR_WINDOW));
+        // The picture's own coordinates run upwards.
+        Check(picture.Render(context.Get(), 0, 0, m_size, m_size, 0, height, width, -height, nullptr), kSource);
+    }
+    return ::ImageList_Add(m_list.Get(), bitmap.Get(), nullptr);
+}
+
+int TreeImages::IndexOf(const std::wstring& key) const
+{
+    const auto entry = m_keys.find(key);
+    return entry == m_keys.end() ? IndexOf(kPlainImage) : entry->second;
+}
+
+} // namespace corvane

@@ -1,0 +1,49 @@
+#include "selection/frmBusy.h"
+
+#include "platform/Procedure.h"
+#include "resources/resource.h"
+
+#include <commctrl.h>
+
+namespace corvane
+{
+namespace
+{
+constexpr UINT kTickMilliseconds = 100;
+constexpr int kFull = 100;
+constexpr int kStep = 5;
+} // namespace
+
+frmBusy::frmBusy(SaveProcedures procedures) : Form{L"frmBusy", IDD_frmBusy}, m_procedures{std::move(procedures)} {}
+
+void frmBusy::Form_Load()
+{
+    ::SendMessageW(Control(ProgressBar1), PBM_SETRANGE32, 0, kFull);
+    ::SendMessageW(Control(ProgressBar1), PBM_SETPOS, 0, 0);
+}
+
+void frmBusy::Timer()
+{
+    m_progress = m_progress < kFull ? m_progress + kStep : 0;
+    ::SendMessageW(Control(ProgressBar1), PBM_SETPOS, static_cast<WPARAM>(m_progress), 0);
+}
+
+void frmBusy::Form_Activate()
+{
+    StartTimer(kTickMilliseconds);
+    if (bWorking) return;
+    bWorking = true;
+    Reporting([this] { RunProcedure(); });
+    oApplication.Release();
+    oOutlookInspector.Release();
+    Hide();
+}
+
+void frmBusy::RunProcedure()
+{
+    const auto index = static_cast<std::size_t>(lMethodType);
+    if (lMethodType < 0 || index >= m_procedures.size() || !m_procedures[index]) return;
+    m_procedures[index](*this);
+}
+
+} // namespace corvane

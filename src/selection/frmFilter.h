@@ -1,0 +1,43 @@
+// The window in which the user narrows the tree by project class and name.
+#pragma once
+
+#include "platform/Form.h"
+#include "selection/FilterState.h"
+
+#include <string>
+
+namespace corvane
+{
+
+// One instance serves one target-selection window and keeps the last applied filter between openings.
+class frmFilter final : public Form
+{
+public:
+    frmFilter() noexcept;
+
+    // Inputs, set before each opening; the filter properties are outputs as well.
+    std::wstring Server;
+    std::wstring ProjectSearchName;
+    std::int32_t ClassID = 0;
+    bool Forced = false;
+
+    [[nodiscard]] const FilterOutcome& Outcome() const noexcept { return m_outcome; }
+
+private:
+    [[nodiscard]] std::span<const FormHandler> Handlers() const override;
+    void Form_Load() override;
+
+    void btnApplyFilter_Click();
+    void btnClearFilter_Click();
+    void btnCancel_Click();
+
+    void FillClassList();
+    void AddClass(const std::wstring& name, std::int32_t classId);
+    void Apply();
+    [[nodiscard]] std::int16_t SelectedPosition() const noexcept;
+
+    AppliedFilter m_lastApplied;
+    FilterOutcome m_outcome;
+};
+
+} // namespace corvane

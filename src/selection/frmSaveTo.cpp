@@ -1,0 +1,279 @@
+#include "selection/frmSaveTo.h"
+
+#include "platform/Files.h"
+#include "platform/Messages.h"
+#include "platform/Procedure.h"
+#include "resources/resource.h"
+#include "support/CCustomNames.h"
+#include "support/Conversions.h"
+#include "support/Help.h"
+#include "webservice/Transfer.h"
+#include "webservice/WebService.h"
+
+namespace corvane
+{
+namespace
+{
+
+constexpr std::wstring_view kSchemeOnly = L"http://";
+
+struct TreeModeRow
+{
+    const Operation& operation;
+    HelpTopic topic;
+};
+// By DialogType.
+constexpr TreeModeRow kModes[] = {
+    {Operations::kAssignmentTree, HelpTopic::AssignmentTree},
+    {Operations::kRelatedFileTree, HelpTopic::RelatedDocumentTree},
+    {Operations::kGateDocumentTree, HelpTopic::GateDocumentTree},
+};
+
+// Fetches one picture of an icon set through a file of its own, as the system's picture loader wants it.
+void LoadIcon(TreeImages& images, const std::wstring& server, const std::wstring& iconSet, const std::wstring& kind)
+{
+    BinaryStream picture = ExecuteASPWebserviceBinary(server, kServicePage, Operations::kSetIcon,
+                                                      {iconSet, kind + L"_offi.gif"});
+    const TemporaryFile file{L"gif"};
+    picture.SaveTo(file.Path());
+    images.AddFile(kind + iconSet, file.Path());
+}
+
+// A missing icon is no error: its nodes show the plain picture.
+void LoadIconSet(TreeImages& images, const std::wstring& server, const std::wstring& iconSet)
+{
+    const ProcedureScope scope{L"frmSaveTo.LoadIconSet"};
+    for (const wchar_t* kind : {L"project", L"stage", L"gate"})
+        Ignoring([&] { LoadIcon(images, server, iconSet, kind); });
+}
+
+} // namespace
+
+frmSaveTo::frmSaveTo() noexcept : Form{L"frmSaveTo", IDD_frmSaveTo} {}
+
+frmSaveTo::~frmSaveTo() { Unload(); }
+
+std::span<const FormHandler> frmSaveTo::Handlers() const
+{
+    static const FormHandler kHandlers[] = {
+        Handle(cmbServerURL, CBN_SELCHANGE, L"cmbServerURL_Click", &frmSaveTo::cmbServerURL_Click),
+        Handle(cmbServerURL, CBN_SETFOCUS, L"cmbServerURL_GotFocus", &frmSaveTo::cmbServerURL_GotFocus),
+        Handle(cmbServerURL, CBN_KILLFOCUS, L"cmbServerURL_LostFocus", &frmSaveTo::cmbServerURL_LostFocus),
+        Handle(cmdGo, BN_CLICKED, L"cmdGo_Click", &frmSaveTo::cmdGo_Click),
+        Handle(cmdFilter, BN_CLICKED, L"cmdFilter_Click", &frmSaveTo::cmdFilter_Click),
+        Handle(cmdOK, BN_CLICKED, L"cmdOK_Click", &frmSaveTo::cmdOK_Click),
+        Handle(cmdCancel, BN_CLICKED, L"cmdCancel_Click", &frmSaveTo::cmdCancel_Click),
+        Handle(cmdHelp, BN_CLICKED, L"cmdHelp_Click", &frmSaveTo::cmdHelp_Click),
+        Handle(TreeView1, static_cast<UINT>(NM_DBLCLK), L"TreeView1_DblClick", &frmSaveTo::TreeView1_DblClick),
+    };
+    return kHandlers;
+}
+
+int frmSaveTo::HelpControl() const noexcept { return cmdHelp; }
+
+void frmSaveTo::Form_Load()
+{
+    if (!FilterActive)
+    {
+        FilterProjectSearchName.clear();
+        FilterClassID = 0;
+    }
+    m_treeLoaded = false;
+    m_servers.emplace();
+    FillServers();
+
+    m_captions = TreeCaptionsFor(Mode(), &CustomName);
+    if (FilterActive) m_captions.treeLabel = WithFilterMark(m_captions.treeLabel);
+    SetCaption(m_captions.caption);
+    SetText(lblTree, m_captions.treeLabel);
+    SetText(lblServerURL, m_captions.serverLabel);
+    SetStatus(StatusBar1, L"Ready");
+    m_tree.emplace(Control(TreeView1), Mode(), [this](TreeImages& images, const std::wstring& iconSet) {
+        LoadIconSet(images, m_currentServer, iconSet);
+    });
+}
+
+void frmSaveTo::FillServers()
+{
+    const auto urls = m_servers->GetURLs();
+    for (const std::wstring& url : urls)
+    {
+        if (!url.empty()) ::SendMessageW(Control(cmbServerURL), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(url.c_str()));
+    }
+    std::wstring text = ServerURL;
+    if (text.empty() && !urls.empty()) text = urls.front();
+    SetText(cmbServerURL, text.empty() ? std::wstring{kSchemeOnly} : text);
+}
+
+void frmSaveTo::Form_Unload()
+{
+    m_tree.reset();
+    m_filter.reset();
+    m_servers->SaveURLs();
+}
+
+void frmSaveTo::Form_Activate()
+{
+    // Only the first time: coming back from a message is no reason to contact the server again.
+    if (std::exchange(m_activated, true) || m_treeLoaded) return;
+    Go();
+}
+
+void frmSaveTo::cmbServerURL_Click()
+{
+    const HWND combo = Control(cmbServerURL);
+    const LRESULT index = ::SendMessageW(combo, CB_GETCURSEL, 0, 0);
+    std::wstring text(static_cast<std::size_t>(::SendMessageW(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(index), 0)) + 1,
+                      L'\0');
+    ::SendMessageW(combo, CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.data()));
+    SetText(cmbServerURL, text.c_str());
+    // The list has to close before the server is asked.
+    ::PostMessageW(Window(), WM_COMMAND, MAKEWPARAM(cmdGo, BN_CLICKED), reinterpret_cast<LPARAM>(Control(cmdGo)));
+}
+
+void frmSaveTo::cmbServerURL_GotFocus() { SetDefaultButton(cmdGo); }
+
+void frmSaveTo::cmbServerURL_LostFocus() { SetDefaultButton(cmdOK); }
+
+void frmSaveTo::cmdGo_Click() { Go(); }
+
+void frmSaveTo::SetWorking(bool working)
+{
+    for (const int control : {TreeView1, txtTree, cmdFilter, cmdOK})
+        Enable(control, !working && m_treeLoaded);
+    for (const int control : {cmbServerURL, cmdGo})
+        Enable(control, !working);
+    if (!working) SetStatus(StatusBar1, L"Ready");
+}
+
+void frmSaveTo::Go()
+{
+    if (Text(cmbServerURL).size() <= kSchemeOnly.size()) return;
+    const std::wstring server = m_servers->VerifyURL(Text(cmbServerURL));
+    SetText(cmbServerURL, server);
+    m_currentServer = server;
+    SetWorking(true);
+    Reporting([&] {
+        if (!CheckEntryCount()) return;
+        LoadTree(server);
+        m_servers->AddURL(Trim(server));
+    });
+    SetWorking(false);
+    SetFocusTo(m_treeLoaded ? TreeView1 : cmbServerURL);
+}
+
+XmlDocument frmSaveTo::QueryTree() const
+{
+    const Operation& operation = kModes[static_cast<std::size_t>(DialogType)].operation;
+    return QueryXml(m_currentServer, operation, {FilterClassID, FilterProjectSearchName});
+}
+
+bool frmSaveTo::CheckEntryCount()
+{
+    const ProcedureScope scope{L"frmSaveTo.CheckEntryCount"};
+    for (;;)
+    {
+        const std::size_t projects = QueryTree().Select(L"//project").size();
+        LimitStep step = NextLimitStep(projects, nullptr);
+        if (step == LimitStep::ForceFilter)
+        {
+            ShowFilter(true);
+            step = NextLimitStep(projects, &m_filter->Outcome());
+        }
+        if (step == LimitStep::Proceed) return true;
+        if (step == LimitStep::GiveUp) return false;
+    }
+}
+
+void frmSaveTo::ShowFilter(bool forced)
+{
+    const ProcedureScope scope{L"frmSaveTo.ShowFilter"};
+    FilterForced = forced;
+    if (m_filter == nullptr) m_filter = std::make_unique<frmFilter>();
+    m_filter->ProjectSearchName = FilterProjectSearchName;
+    m_filter->ClassID = FilterClassID;
+    m_filter->Server = Text(cmbServerURL);
+    m_filter->Forced = forced;
+    if (forced) ShowMessage(EntryLimitMessage(), kStylePlain);
+    m_filter->ShowModal();
+    m_filter->Unload();
+    const FilterOutcome outcome = m_filter->Outcome();
+    FilterChanged = outcome.changed;
+    FilterActive = outcome.active;
+    FilterCanceled = outcome.canceled;
+    FilterProjectSearchName = m_filter->ProjectSearchName;
+    FilterClassID = m_filter->ClassID;
+    SetText(cmbServerURL, m_filter->Server);
+}
+
+void frmSaveTo::cmdFilter_Click()
+{
+    if (Text(cmbServerURL) != m_currentServer) Go();
+    ShowFilter(false);
+    SetWorking(true);
+    Reporting([this] {
+        if (CheckEntryCount() && !FilterCanceled && FilterChanged) LoadTree(Text(cmbServerURL));
+    });
+    SetWorking(false);
+}
+
+void frmSaveTo::LoadTree(const std::wstring& server)
+{
+    const ProcedureScope scope{L"frmSaveTo.LoadTree"};
+    SetStatus(StatusBar1, L"Contacting the server...");
+    m_currentServer = server;
+    m_tree->Clear();
+    const auto projects = QueryTree().Select(L"//project");
+    Show(TreeView1, !projects.empty());
+    Show(txtTree, projects.empty());
+    SetText(txtTree, m_captions.emptyText);
+    const TreeTarget preselected{ProjectID, DeliverableID, ActivityID, RelatedDocID, GateDocumentID};
+    for (const XmlNode& project : projects)
+        m_tree->AddProject(project, preselected);
+    SetText(lblTree, FilterActive ? WithFilterMark(m_captions.treeLabel) : m_captions.treeLabel);
+    m_treeLoaded = true;
+}
+
+void frmSaveTo::cmdOK_Click()
+{
+    if (Text(cmbServerURL) != m_currentServer) return Go();
+    const auto target = TargetOfKey(Mode(), m_tree->SelectedKey());
+    if (!target)
+    {
+        ShowMessage(m_captions.nothingSelected, m_captions.refusalIsCritical ? kStyleCritical : kStylePlain);
+        return;
+    }
+    TakeTarget(*target);
+    CustomNames().RefreshOnce(ServerURL);
+    Hide();
+}
+
+void frmSaveTo::TakeTarget(const TreeTarget& target)
+{
+    ServerURL = m_currentServer;
+    ProjectID = target.projectId;
+    switch (Mode())
+    {
+    case TreeMode::Assignment:
+        DeliverableID = target.deliverableId;
+        ActivityID = target.activityId;
+        break;
+    case TreeMode::RelatedDocument: RelatedDocID = target.relatedDocId; break;
+    case TreeMode::GateDocument: GateDocumentID = target.gateDocumentId; break;
+    }
+}
+
+void frmSaveTo::TreeView1_DblClick()
+{
+    if (m_tree->SelectedHasChildren() || !TargetOfKey(Mode(), m_tree->SelectedKey())) return;
+    cmdOK_Click();
+}
+
+void frmSaveTo::cmdCancel_Click() { Hide(); }
+
+void frmSaveTo::cmdHelp_Click()
+{
+    ShowHelpTopic(Window(), kModes[static_cast<std::size_t>(DialogType)].topic);
+}
+
+} // namespace corvane

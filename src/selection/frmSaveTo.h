@@ -1,0 +1,76 @@
+// The window in which the user picks a server and the target of a save.
+#pragma once
+
+#include "platform/Form.h"
+#include "selection/CMRUServers.h"
+#include "selection/FilterState.h"
+#include "selection/TargetTree.h"
+#include "selection/TreeCaptions.h"
+#include "selection/frmFilter.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace corvane
+{
+
+// Shown modally. The public members are set before showing and read after it is hidden; Cancel leaves them as they
+// were, so an unchanged record means that nothing new was chosen.
+class frmSaveTo final : public Form
+{
+public:
+    frmSaveTo() noexcept;
+    ~frmSaveTo() override;
+
+    std::wstring ServerURL;
+    std::int32_t DialogType = 0; // 0 deliverable or activity, 1 related document, 2 gate document
+    std::int32_t ProjectID = 0;
+    std::int32_t DeliverableID = 0;
+    std::int32_t ActivityID = 0;
+    std::int32_t RelatedDocID = 0; // 0 a new related document
+    std::int32_t GateDocumentID = 0;
+    std::int32_t FilterClassID = 0; // 0 all classes
+    std::wstring FilterProjectSearchName;
+    bool FilterActive = false;
+    bool FilterChanged = false;
+    bool FilterCanceled = false;
+    bool FilterForced = false;
+
+private:
+    [[nodiscard]] std::span<const FormHandler> Handlers() const override;
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_Unload() override;
+    [[nodiscard]] int HelpControl() const noexcept override;
+
+    void cmbServerURL_Click();
+    void cmbServerURL_GotFocus();
+    void cmbServerURL_LostFocus();
+    void cmdGo_Click();
+    void cmdFilter_Click();
+    void cmdOK_Click();
+    void cmdHelp_Click();
+    void cmdCancel_Click();
+    void TreeView1_DblClick();
+
+    [[nodiscard]] TreeMode Mode() const noexcept { return static_cast<TreeMode>(DialogType); }
+    void FillServers();
+    void Go();
+    void SetWorking(bool working);
+    [[nodiscard]] XmlDocument QueryTree() const;
+    [[nodiscard]] bool CheckEntryCount();
+    void LoadTree(const std::wstring& server);
+    void ShowFilter(bool forced);
+    void TakeTarget(const TreeTarget& target);
+
+    std::optional<CMRUServers> m_servers;
+    std::optional<TargetTree> m_tree;
+    std::unique_ptr<frmFilter> m_filter; // made at its first use and kept with its choices
+    TreeCaptions m_captions;
+    std::wstring m_currentServer; // whose tree is loaded
+    bool m_treeLoaded = false;
+    bool m_activated = false;
+};
+
+} // namespace corvane

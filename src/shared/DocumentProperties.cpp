@@ -1,0 +1,69 @@
+#include "shared/DocumentProperties.h"
+
+#include "platform/Procedure.h"
+#include "shared/HostDocument.h"
+#include "shared/HostVersion.h"
+#include "support/Conversions.h"
+
+namespace corvane
+{
+namespace
+{
+
+constexpr int kExcel2003 = 11;
+
+LateBound PropertiesOf(const LateBound& application)
+{
+    return ActiveDocument(application).Object(L"CustomDocumentProperties");
+}
+
+} // namespace
+
+std::wstring GetCustomProperty(const LateBound& oApplication, const std::wstring& sName)
+{
+    std::wstring text;
+    Ignoring([&] { text = PropertiesOf(oApplication).Object(L"Item", sName).Text(L"Value"); });
+    return text;
+}
+
+bool CustomPropertyExists(const LateBound& oApplication, const std::wstring& sName)
+{
+    return !Catch([&] { static_cast<void>(PropertiesOf(oApplication).Object(L"Item", sName).Text(L"Name")); });
+}
+
+void SetCustomProperty(const LateBound& oProperties, const std::wstring& sName, const Variant& vValue,
+                       std::int32_t lType, const LateBound& oApplication)
+{
+    bool found = false;
+    const std::int32_t count = oProperties.Number(L"Count");
+    for (std::int32_t index = 1; index <= count; ++index)
+    {
+        const LateBound property = oProperties.Object(L"Item", index);
+        if (property.Text(L"Name") != sName) continue;
+        property.Put(L"Value", vValue.Copy());
+        found = true;
+    }
+    if (!found) oProperties.Call(L"Add", sName, false, lType, vValue.Copy());
+    if (oApplication.Text(L"Name") == kExcelName && MajorVersion(oApplication.Text(L"Version")) > kExcel2003)
+        ActiveDocument(oApplication).Put(L"Saved", false);
+}
+
+void SetBindingProperties(const LateBound& oApplication, const DocumentBinding& binding)
+{
+    const ProcedureScope scope{L"SharedCode.SetBindingProperties"};
+    const LateBound properties = PropertiesOf(oApplication);
+    SetCustomProperty(properties, kServerProperty, binding.server, kPropertyText, oApplication);
+    for (const auto& [name, id] : kBindingProperties)
+        SetCustomProperty(properties, name, binding.*id, kPropertyNumber, oApplication);
+}
+
+DocumentBinding ReadBinding(const LateBound& oApplication)
+{
+    DocumentBinding binding;
+    binding.server = GetCustomProperty(oApplication, kServerProperty);
+    for (const auto& [name, id] : kBindingProperties)
+        binding.*id = ToLongSafe(GetCustomProperty(oApplication, name));
+    return binding;
+}
+
+} // namespace corvane

@@ -1,0 +1,42 @@
+// The document that is active in the host: whether there is one, what it is called, and how it gets to disk.
+#pragma once
+
+#include "platform/Files.h"
+#include "platform/LateBound.h"
+
+#include <optional>
+#include <string>
+
+namespace corvane
+{
+
+// The host's active document; empty when there is none or the host keeps none (Outlook).
+[[nodiscard]] LateBound ActiveDocument(const LateBound& application);
+
+// Whether a document is open, and whether the active one can carry custom properties.
+[[nodiscard]] bool IsDocumentOpen(const LateBound& application);
+[[nodiscard]] bool CanCarryProperties(const LateBound& application);
+
+// Whether the host is editing a cell or an object (Excel), so that its documents cannot be touched.
+[[nodiscard]] bool IsEditing(const LateBound& application);
+
+// The document's name, with the default extension of the host's version when it has none. Throws the host's error.
+[[nodiscard]] std::wstring DocumentTitle(const LateBound& application, const LateBound& outlookInspector);
+
+// Makes the host treat the document as changed, so that the next save writes it.
+void MarkDocumentChanged(const LateBound& application);
+
+// A document as it lies on disk for the upload; a copy made only for it is deleted with this object.
+struct SavedDocument
+{
+    std::wstring path;
+    std::optional<TemporaryFile> copy;
+};
+
+// Saves the document to disk. Throws the host's error.
+[[nodiscard]] SavedDocument SaveDocumentToDisk(const LateBound& application, const LateBound& outlookInspector);
+
+// Lets the user work in Excel again, or keeps the user out; nothing in other hosts. Errors are ignored.
+void SetExcelInteractive(const LateBound& application, bool interactive) noexcept;
+
+} // namespace corvane

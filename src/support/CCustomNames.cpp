@@ -1,0 +1,50 @@
+#include "support/CCustomNames.h"
+
+#include "platform/Error.h"
+#include "platform/Procedure.h"
+#include "support/Registry.h"
+
+namespace corvane
+{
+namespace
+{
+constexpr const wchar_t* kCacheKey = L"Software\\Halvex\\Corvane\\CustomNames";
+constexpr const wchar_t* kServicePage = L"offi.asp";
+} // namespace
+
+std::unique_ptr<CCustomNames> g_oCustomNames;
+
+CCustomNames::CCustomNames(Query query) : m_query{std::move(query)}
+{
+    const bool cached = Registry::KeyExists(kCacheKey);
+    for (const auto& [key, cachedAs] : kCustomNameKeys)
+        m_names.Set(key, cached ? Registry::ReadText(kCacheKey, cachedAs).value_or(key) : key);
+}
+
+void CCustomNames::Refresh(const std::wstring& server, const std::wstring& page)
+{
+    const ProcedureScope scope{L"CCustomNames.Refresh"};
+    if (!Registry::KeyExists(kCacheKey)) Registry::CreateKey(kCacheKey);
+    for (const auto& [token, value] : m_query(server, page))
+    {
+        m_names.Set(token, value);
+        if (Registry::ReadText(kCacheKey, token) != value) Registry::WriteText(kCacheKey, token, value);
+    }
+    m_refreshed = true;
+}
+
+void CCustomNames::RefreshOnce(const std::wstring& server)
+{
+    if (!m_refreshed) Refresh(server, kServicePage);
+}
+
+CCustomNames& CustomNames()
+{
+    if (g_oCustomNames == nullptr)
+        throw Error{kErrorObjectNotSet, L"CCustomNames", L"Object variable or With block variable not set"};
+    return *g_oCustomNames;
+}
+
+std::wstring CustomName(std::wstring_view token) { return CustomNames().GetCustomName(token); }
+
+} // namespace corvane

@@ -1,0 +1,104 @@
+#include "support/CTraceLog.h"
+
+#include "platform/Procedure.h"
+#include "support/TraceText.h"
+
+namespace corvane
+{
+namespace
+{
+
+constexpr const wchar_t* kApplicationName = L"CorvaneMSOfficePowerPoint";
+
+LocalTime Now() noexcept
+{
+    SYSTEMTIME now{};
+    ::GetLocalTime(&now);
+    return {now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond};
+}
+
+std::string ToAnsi(const std::wstring& text)
+{
+    std::string ansi(text.size() * 4, '\0');
+    const int length = ::WideCharToMultiByte(CP_ACP, 0, text.data(), static_cast<int>(text.size()), ansi.data(),
+                                             static_cast<int>(ansi.size()), nullptr, nullptr);
+    ansi.resize(static_cast<std::size_t>(length));
+    return ansi;
+}
+
+std::wstring ApplicationDataFolder()
+{
+    std::wstring folder(::GetEnvironmentVariableW(L"APPDATA", nullptr, 0), L'\0');
+    folder.resize(::GetEnvironmentVariableW(L"APPDATA", folder.data(), static_cast<DWORD>(folder.size())));
+    return folder;
+}
+
+} // namespace
+
+std::unique_ptr<CTraceLog> g_oTraceLog;
+
+CTraceLog::CTraceLog(const Settings& settings) noexcept : m_enabled{settings.traceEnabled}
+{
+    if (m_enabled) Ignoring([this] { Open(); });
+}
+
+void CTraceLog::Open()
+{
+    std::wstring folder = ApplicationDataFolder() + L"\\Halvex\\";
+    ::CreateDirectoryW(folder.c_str(), nullptr);
+    folder += L"Corvane for MS Office\\";
+    ::CreateDirectoryW(folder.c_str(), nullptr);
+    const HANDLE file = ::CreateFileW((folder + TraceFileName(kApplicationName, Now())).c_str(), GENERIC_WRITE,
+                                      FILE_SHARE_READ, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file != INVALID_HANDLE_VALUE) m_file = UniqueFile{file};
+}
+
+void CTraceLog::WriteLine(std::wstring_view text, std::int32_t extraIndent) noexcept
+{
+    if (!m_enabled) return;
+    Ignoring([&] {
+        const std::string line = ToAnsi(TraceLine(Now(), m_level, extraIndent, text) + L"\r\n");
+        DWORD written = 0;
+        if (m_file) ::WriteFile(m_file.Get(), line.data(), static_cast<DWORD>(line.size()), &written, nullptr);
+    });
+}
+
+void CTraceLog::WriteError(const Error& error) noexcept
+{
+    if (!m_enabled) return;
+    Ignoring([&] { WriteLine(TraceErrorBlock(error.Number(), error.Description(), error.Source())); });
+}
+
+void CTraceLog::WriteEventStart(std::wstring_view procedure) noexcept
+{
+    if (m_enabled) Ignoring([&] { WriteLine(L"--> " + std::wstring{procedure}); });
+    ++m_level;
+}
+
+void CTraceLog::WriteEventEnd(std::wstring_view procedure) noexcept
+{
+    --m_level;
+    if (!m_enabled) return;
+    Ignoring([&] { WriteLine(L"<-- " + std::wstring{procedure}); });
+    WriteLine({});
+}
+
+std::wstring CTraceLog::GetTabs() const { return TraceTabs(m_level); }
+
+void CTraceLog::WriteVariable(std::wstring_view name, std::wstring_view value) noexcept
+{
+    if (!m_enabled) return;
+    Ignoring([&] { WriteLine(std::wstring{name} + L" = " + std::wstring{value}); });
+}
+
+void TraceVariable(std::wstring_view name, std::wstring_view value) noexcept
+{
+    if (g_oTraceLog != nullptr) g_oTraceLog->WriteVariable(name, value);
+}
+
+void TraceText(std::wstring_view text) noexcept
+{
+    if (g_oTraceLog != nullptr) g_oTraceLog->WriteLine(text);
+}
+
+} // namespace corvane

@@ -1,0 +1,131 @@
+#include "support/Conversions.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cwctype>
+#include <limits>
+
+namespace corvane
+{
+namespace
+{
+
+constexpr std::wstring_view kBlanks = L" \t\r\n";
+
+std::wstring_view Stripped(std::wstring_view text, std::wstring_view blanks)
+{
+    const auto first = text.find_first_not_of(blanks);
+    if (first == std::wstring_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+// Takes the digits at the front of text; the number of digits taken.
+std::size_t TakeDigits(std::wstring_view& text, double& value, double step)
+{
+    std::size_t count = 0;
+    for (double scale = step; count < text.size() && text[count] >= L'0' && text[count] <= L'9'; ++count)
+    {
+        const double digit = text[count] - L'0';
+        value = step < 1 ? value + digit * scale : value * 10 + digit;
+        scale *= step;
+    }
+    text.remove_prefix(count);
+    return count;
+}
+
+bool TakeOneOf(std::wstring_view& text, std::wstring_view letters)
+{
+    if (text.empty() || letters.find(text.front()) == std::wstring_view::npos) return false;
+    text.remove_prefix(1);
+    return true;
+}
+
+bool TakeSign(std::wstring_view& text)
+{
+    const bool negative = text.starts_with(L'-');
+    static_cast<void>(TakeOneOf(text, L"+-"));
+    return negative;
+}
+
+// Digits of a power-of-two base; they fill 32 bits and so may come out negative.
+std::optional<double> BitsIn(std::wstring_view digits, std::uint32_t base)
+{
+    std::uint64_t bits = 0;
+    for (const wchar_t letter : digits)
+    {
+        const auto lower = static_cast<std::uint32_t>(letter | 0x20);
+        const std::uint32_t digit = lower >= L'a' ? lower - L'a' + 10 : static_cast<std::uint32_t>(letter) - L'0';
+        if (digit >= base) return std::nullopt;
+        bits = bits * base + digit;
+        if (bits > std::numeric_limits<std::uint32_t>::max()) return std::nullopt;
+    }
+    if (digits.empty()) return std::nullopt;
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(bits));
+}
+
+} // namespace
+
+std::optional<double> NumberIn(std::wstring_view text)
+{
+    text = Stripped(text, kBlanks);
+    if (text.starts_with(L"&H") || text.starts_with(L"&h")) return BitsIn(text.substr(2), 16);
+    if (text.starts_with(L"&O") || text.starts_with(L"&o")) return BitsIn(text.substr(2), 8);
+
+    const bool negative = TakeSign(text);
+    double value = 0;
+    std::size_t digits = TakeDigits(text, value, 10);
+    if (TakeOneOf(text, L".")) digits += TakeDigits(text, value, 0.1);
+    if (digits == 0) return std::nullopt;
+    if (TakeOneOf(text, L"eEdD"))
+    {
+        const bool small = TakeSign(text);
+        double exponent = 0;
+        if (TakeDigits(text, exponent, 10) == 0) return std::nullopt;
+        value *= std::pow(10.0, small ? -exponent : exponent);
+    }
+    if (!text.empty()) return std::nullopt;
+    return negative ? -value : value;
+}
+
+std::int32_t ToLongSafe(std::wstring_view text)
+{
+    const auto number = NumberIn(text);
+    if (!number) return 0;
+    const double rounded = std::nearbyint(*number); // halves to even in the default rounding mode
+    if (!(rounded >= std::numeric_limits<std::int32_t>::min() && rounded <= std::numeric_limits<std::int32_t>::max()))
+        return 0;
+    return static_cast<std::int32_t>(rounded);
+}
+
+bool ToBooleanSafe(std::wstring_view text)
+{
+    if (EqualIgnoringCase(text, L"true")) return true;
+    return NumberIn(text).value_or(0) != 0;
+}
+
+std::wstring Trim(std::wstring_view text) { return std::wstring{Stripped(text, L" ")}; }
+
+std::wstring ToLower(std::wstring_view text)
+{
+    std::wstring lower{text};
+    std::transform(lower.begin(), lower.end(), lower.begin(),
+                   [](wchar_t letter) { return static_cast<wchar_t>(std::towlower(static_cast<wint_t>(letter))); });
+    return lower;
+}
+
+bool EqualIgnoringCase(std::wstring_view left, std::wstring_view right) { return ToLower(left) == ToLower(right); }
+
+std::wstring ReplaceAll(std::wstring_view text, std::wstring_view what, std::wstring_view with)
+{
+    std::wstring result;
+    while (!what.empty())
+    {
+        const auto position = text.find(what);
+        if (position == std::wstring_view::npos) break;
+        result.append(text.substr(0, position)).append(with);
+        text.remove_prefix(position + what.size());
+    }
+    return result.append(text);
+}
+
+} // namespace corvane

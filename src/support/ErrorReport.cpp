@@ -1,0 +1,38 @@
+#include "support/ErrorReport.h"
+
+#include "platform/Messages.h"
+#include "platform/Procedure.h"
+#include "support/CTraceLog.h"
+
+namespace corvane
+{
+namespace
+{
+
+class TracingWatch final : public ProcedureWatch
+{
+public:
+    void Enter(std::wstring_view procedure) noexcept override
+    {
+        if (g_oTraceLog != nullptr) g_oTraceLog->WriteEventStart(procedure);
+    }
+    void Leave(std::wstring_view procedure) noexcept override
+    {
+        if (g_oTraceLog != nullptr) g_oTraceLog->WriteEventEnd(procedure);
+    }
+    void Report(const Error& error) noexcept override
+    {
+        if (g_oTraceLog != nullptr) g_oTraceLog->WriteError(error);
+        Ignoring([&] { ShowMessage(ErrorReportText(error), kStyleCritical); });
+    }
+};
+
+} // namespace
+
+void WatchProcedures() noexcept
+{
+    static TracingWatch watch;
+    SetProcedureWatch(&watch);
+}
+
+} // namespace corvane

@@ -1,0 +1,18 @@
+// What the user and the trace get to see of an error that nobody handled.
+#pragma once
+
+#include <string>
+
+namespace corvane
+{
+
+class Error;
+
+// The text of the critical message for an error.
+[[nodiscard]] std::wstring ErrorReportText(const Error& error);
+
+// Lets the process's trace and the user hear of what procedures do: every scope is traced, and every error that reaches
+// the edge is traced and shown. Takes effect for the life of the library.
+void WatchProcedures() noexcept;
+
+} // namespace corvane

@@ -1,0 +1,62 @@
+#include "support/Help.h"
+
+#include "platform/Files.h"
+#include "platform/HResult.h"
+#include "platform/Messages.h"
+#include "platform/Owners.h"
+
+namespace corvane
+{
+namespace
+{
+
+// Commands of HtmlHelpA.
+constexpr UINT kDisplayContents = 1; // HH_DISPLAY_TOC
+constexpr UINT kHelpContext = 15;    // HH_HELP_CONTEXT
+
+using HtmlHelp = HWND(WINAPI*)(HWND owner, LPCSTR file, UINT command, DWORD_PTR data);
+
+std::wstring& HelpFile()
+{
+    static std::wstring file;
+    return file;
+}
+
+std::string AnsiPath(const std::wstring& path)
+{
+    std::string ansi(path.size() * 4 + 1, '\0');
+    const int length =
+        ::WideCharToMultiByte(CP_ACP, 0, path.c_str(), -1, ansi.data(), static_cast<int>(ansi.size()), nullptr, nullptr);
+    ansi.resize(length > 0 ? static_cast<std::size_t>(length) - 1 : 0);
+    return ansi;
+}
+
+// The viewer stays loaded: its windows outlive the call.
+HtmlHelp Viewer()
+{
+    static const HMODULE viewer = ::LoadLibraryExW(L"hhctrl.ocx", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    CheckWin32(viewer != nullptr, L"HtmlHelpA");
+    const auto entry = reinterpret_cast<HtmlHelp>(reinterpret_cast<void*>(::GetProcAddress(viewer, "HtmlHelpA")));
+    CheckWin32(entry != nullptr, L"HtmlHelpA");
+    return entry;
+}
+
+void Show(HWND owner, UINT command, DWORD_PTR data)
+{
+    if (!FileExists(HelpFile()))
+    {
+        ShowMessage(L"The help file \"" + HelpFile() + L"\" was not found.", kStyleExclamation);
+        return;
+    }
+    Viewer()(owner, AnsiPath(HelpFile()).c_str(), command, data);
+}
+
+} // namespace
+
+void SetHelpFile(std::wstring path) { HelpFile() = std::move(path); }
+
+void ShowHelpContents() { Show(nullptr, kDisplayContents, 0); }
+
+void ShowHelpTopic(HWND owner, HelpTopic topic) { Show(owner, kHelpContext, static_cast<DWORD_PTR>(topic)); }
+
+} // namespace corvane

@@ -1,0 +1,29 @@
+// The add-in's compiled help file and the system's viewer for it.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace corvane
+{
+
+// The topics that the forms ask for, by their context ids in the help file.
+enum class HelpTopic
+{
+    SaveAssignment = 1,
+    SaveRelatedDocument = 2,
+    AssignmentTree = 3,
+    RelatedDocumentTree = 4,
+    SaveGateDocument = 6,
+    GateDocumentTree = 7
+};
+
+void SetHelpFile(std::wstring path);
+
+// Show the table of contents, or a topic over the window that asks. A missing help file is told to the user. Throw
+// Error when the system has no viewer.
+void ShowHelpContents();
+void ShowHelpTopic(HWND owner, HelpTopic topic);
+
+} // namespace corvane

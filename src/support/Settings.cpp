@@ -1,0 +1,49 @@
+#include "support/Settings.h"
+
+#include "platform/ComObject.h"
+#include "platform/Files.h"
+#include "platform/Procedure.h"
+#include "platform/XmlDocument.h"
+#include "support/Conversions.h"
+
+namespace corvane
+{
+namespace
+{
+
+// The file's 8-bit text in the ANSI code page.
+std::wstring ReadAnsiText(const std::wstring& path)
+{
+    std::string bytes(static_cast<std::size_t>(FileLength(path).value_or(0)), '\0');
+    bytes.resize(ReadFile(path, std::as_writable_bytes(std::span{bytes})));
+    std::wstring text(bytes.size(), L'\0');
+    const int length = ::MultiByteToWideChar(CP_ACP, 0, bytes.data(), static_cast<int>(bytes.size()), text.data(),
+                                             static_cast<int>(text.size()));
+    text.resize(static_cast<std::size_t>(length));
+    return text;
+}
+
+void Apply(const XmlDocument& document, Settings& settings)
+{
+    const XmlNode trace = document.SelectFirst(L"settings/setting[@name='EnableTraceLogs']");
+    settings.traceEnabled = ToBooleanSafe(trace.Text(L"value"));
+    const XmlNode timeout = document.SelectFirst(L"settings/setting[@name='RequestTimeoutSeconds']");
+    if (const auto seconds = NumberIn(timeout.Text(L"value")); seconds && *seconds >= 0)
+        settings.requestTimeout = std::chrono::seconds{ToLongSafe(timeout.Text(L"value"))};
+}
+
+} // namespace
+
+Settings Settings::Read() noexcept
+{
+    Settings settings;
+    Ignoring([&] {
+        const std::wstring path = Library::Folder() + L"\\settings.config";
+        if (!FileExists(path)) return;
+        XmlDocument document;
+        if (document.Load(ReadAnsiText(path))) Apply(document, settings);
+    });
+    return settings;
+}
+
+} // namespace corvane

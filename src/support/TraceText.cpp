@@ -1,0 +1,46 @@
+#include "support/TraceText.h"
+
+#include <array>
+#include <cwchar>
+
+namespace corvane
+{
+
+std::wstring TraceFileName(std::wstring_view application, const LocalTime& time)
+{
+    std::wstring name{application};
+    const auto add = [&name](const wchar_t* separator, int number) { name += separator + std::to_wstring(number); };
+    add(L"_", time.year);
+    add(L"_", time.month);
+    add(L"_", time.day);
+    add(L"__", time.hour);
+    add(L"_", time.minute);
+    add(L"_", time.second);
+    return name + L".log";
+}
+
+std::wstring SortableTime(const LocalTime& time)
+{
+    std::array<wchar_t, 80> text{};
+    const int length = std::swprintf(text.data(), text.size(), L"%04d-%02d-%02d %02d:%02d:%02d", time.year, time.month,
+                                     time.day, time.hour, time.minute, time.second);
+    return {text.data(), static_cast<std::size_t>(length)};
+}
+
+std::wstring TraceTabs(std::int32_t level) { return level < 0 ? L"" : std::wstring(static_cast<std::size_t>(level) + 1, L'\t'); }
+
+std::wstring TraceLine(const LocalTime& time, std::int32_t level, std::int32_t extraIndent, std::wstring_view text)
+{
+    return SortableTime(time) + L"\t" + TraceTabs(extraIndent - 1) + TraceTabs(level) + std::wstring{text};
+}
+
+std::wstring TraceErrorBlock(std::int32_t number, std::wstring_view description, std::wstring_view source)
+{
+    std::wstring block = L"ERROR HAS OCCURED\r\n\r\n";
+    block.append(L"\tNumber = ").append(std::to_wstring(number)).append(L"\r\n");
+    block.append(L"\tDescription = ").append(description).append(L"\r\n");
+    block.append(L"\tSource = ").append(source).append(L"\r\n");
+    return block;
+}
+
+} // namespace corvane

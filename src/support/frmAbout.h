@@ -1,0 +1,21 @@
+// The About box.
+#pragma once
+
+#include "platform/Form.h"
+
+namespace corvane
+{
+
+// Names the add-in and shows its version.
+class frmAbout final : public Form
+{
+public:
+    frmAbout() noexcept;
+
+private:
+    [[nodiscard]] std::span<const FormHandler> Handlers() const override;
+    void Form_Load() override;
+    void cmkOK_Click();
+};
+
+} // namespace corvane

@@ -1,0 +1,122 @@
+#include "webservice/AnswerRules.h"
+
+#include "support/Conversions.h"
+
+#include <algorithm>
+
+namespace corvane
+{
+namespace
+{
+constexpr long kOk = 200;
+constexpr long kForbidden = 403;
+constexpr long kErrorDocumentStatus = 509;
+
+constexpr long kOperationUnreachable[] = {401, 404, 424};
+constexpr long kBinaryUnreachable[] = {401, 404};
+constexpr long kUploadUnreachable[] = {404};
+} // namespace
+
+// The two forms "ASPWebService" and "ASPWebservice" are the interface's.
+const ServiceProcedure kOperationCall{kOperationUnreachable,
+                                      true,
+                                      true,
+                                      false,
+                                      L"ExecuteASPWebService",
+                                      L"ExecuteASPWebservice",
+                                      L"ExecuteASPWebService",
+                                      &UnableToContact};
+const ServiceProcedure kAccessLogCall{
+    kOperationUnreachable, true, true, false, L"UpdateUserLog", L"UpdateUserLog", L"UpdateUserLog", &UnableToContact};
+const ServiceProcedure kBinaryCall{kBinaryUnreachable,
+                                   true,
+                                   true,
+                                   true,
+                                   L"ExecuteASPWebserviceBinary",
+                                   L"ExecuteASPWebserviceBinary",
+                                   L"ExecuteASPWebServiceBinary",
+                                   &UnableToContact};
+const ServiceProcedure kUploadCall{kUploadUnreachable,
+                                   false,
+                                   false,
+                                   false,
+                                   L"ExecuteASPWSUploadFile",
+                                   L"ExecuteASPWSUploadFile",
+                                   L"ExecuteASPWSUploadFile",
+                                   &UnableToConnect};
+
+bool IsErrorDocument(std::wstring_view text)
+{
+    constexpr std::wstring_view kOpener = L"<error";
+    const auto same = [](wchar_t left, wchar_t right) {
+        return (left >= L'A' && left <= L'Z' ? left + (L'a' - L'A') : left) == right;
+    };
+    return std::search(text.begin(), text.end(), kOpener.begin(), kOpener.end(), same) != text.end();
+}
+
+std::int32_t ToErrorNumber(std::wstring_view text)
+{
+    const std::int32_t number = ToLongSafe(text);
+    return number != 0 ? number : kApplicationErrorBase;
+}
+
+std::wstring HTTPErrorText(std::wstring_view server, long status, std::wstring_view /*responseText*/)
+{
+    return L"Error: HTTP Status Code " + std::to_wstring(status) + L"\r\n\r\nRemote call to '" + std::wstring{server} +
+           L"' failed.\r\n";
+}
+
+std::wstring UnableToContact(std::wstring_view server)
+{
+    return ReplaceAll(L"Unable to contact server <ServerURL>.", L"<ServerURL>", server);
+}
+
+std::wstring UnableToConnect(std::wstring_view server)
+{
+    return L"Unable to connect to server '" + std::wstring{server} + L"'";
+}
+
+AnswerMeaning MeaningOf(long status, bool isErrorDocument, const ServiceProcedure& procedure)
+{
+    if (status == kOk && !isErrorDocument) return AnswerMeaning::Success;
+    if (std::find(procedure.unreachable.begin(), procedure.unreachable.end(), status) != procedure.unreachable.end())
+        return AnswerMeaning::Unreachable;
+    if (status == kForbidden && procedure.secureChannel) return AnswerMeaning::SecureChannel;
+    if (status == kErrorDocumentStatus && procedure.documentStatus) return AnswerMeaning::ErrorDocument;
+    return isErrorDocument ? AnswerMeaning::ErrorDocument : AnswerMeaning::HttpStatus;
+}
+
+Error StatusError(AnswerMeaning meaning, long status, std::wstring_view server, std::wstring_view text,
+                  const ServiceProcedure& procedure)
+{
+    if (meaning == AnswerMeaning::Unreachable) return SendError(server, procedure);
+    if (meaning == AnswerMeaning::SecureChannel)
+        return {kTransportError, procedure.source,
+                L"The server cannot be accessed or the page must be viewed over a secure channel."};
+    return {static_cast<std::int32_t>(status), procedure.source, HTTPErrorText(server, status, text)};
+}
+
+Error DocumentError(const ErrorDocument& document, const ServiceProcedure& procedure)
+{
+    const std::int32_t number = ToLongSafe(document.number);
+    if (procedure.strictNumber && !NumberIn(document.number))
+        return {kErrorTypeMismatch, procedure.source, L"Type mismatch"};
+    if (number == kServerTooOld)
+        return {kTransportError, procedure.tooOldSource,
+                L"This Corvane for MS Office add-in must be used with a server where Corvane 8.0 or higher has been "
+                L"installed."};
+    return {procedure.strictNumber ? number : ToErrorNumber(document.number), document.source, document.description};
+}
+
+Error OpenError(bool invalidUrl, const ServiceProcedure& procedure)
+{
+    return {kTransportError, invalidUrl ? procedure.invalidUrlSource : procedure.source,
+            invalidUrl ? L"Invalid URL." : L"Unable to contact server."};
+}
+
+Error SendError(std::wstring_view server, const ServiceProcedure& procedure)
+{
+    return {kTransportError, procedure.source, procedure.unreachableText(server)};
+}
+
+} // namespace corvane

@@ -1,0 +1,63 @@
+#include "webservice/Exchange.h"
+
+#include "platform/Procedure.h"
+#include "platform/XmlDocument.h"
+
+namespace corvane
+{
+namespace
+{
+
+std::chrono::seconds g_timeout{0};
+
+std::wstring RequiredAttribute(const XmlNode& node, const wchar_t* name, const wchar_t* source)
+{
+    if (const auto value = node.Attribute(name)) return *value;
+    throw Error{kErrorInvalidUseOfNull, source, L"Invalid use of Null"};
+}
+
+// The first "error" element of an answer and its three attributes.
+ErrorDocument ReadErrorDocument(const std::wstring& text, const wchar_t* source)
+{
+    XmlDocument document;
+    static_cast<void>(document.Load(text));
+    const XmlNode error = document.SelectFirst(L"//error");
+    if (!error) throw Error{kErrorObjectNotSet, source, L"Object variable or With block variable not set"};
+    return {RequiredAttribute(error, L"number", source), RequiredAttribute(error, L"source", source),
+            RequiredAttribute(error, L"description", source)};
+}
+
+} // namespace
+
+void SetRequestTimeout(std::chrono::seconds timeout) noexcept { g_timeout = timeout; }
+
+std::optional<std::chrono::milliseconds> RequestLimit(std::size_t bytes) noexcept
+{
+    constexpr std::size_t kBytesPerSecond = std::size_t{32} * 1024;
+    if (g_timeout.count() == 0) return std::nullopt;
+    return g_timeout + std::chrono::seconds{bytes / kBytesPerSecond};
+}
+
+void OpenRequest(const ServiceProcedure& procedure, const std::function<void()>& open)
+{
+    if (const auto failure = Catch(open)) throw OpenError(failure->Number() == E_FAIL, procedure);
+}
+
+std::wstring Exchange(HttpRequest& request, const ServiceProcedure& procedure, const std::wstring& server,
+                      std::optional<std::chrono::milliseconds> limit, const std::function<void()>& send)
+{
+    const auto failure = Catch([&] {
+        send();
+        request.Wait(limit);
+    });
+    if (failure) throw SendError(server, procedure);
+
+    std::wstring text = request.Text();
+    const AnswerMeaning meaning = MeaningOf(request.Status(), IsErrorDocument(text), procedure);
+    if (meaning == AnswerMeaning::Success) return text;
+    if (meaning == AnswerMeaning::ErrorDocument)
+        throw DocumentError(ReadErrorDocument(text, procedure.source), procedure);
+    throw StatusError(meaning, request.Status(), server, text, procedure);
+}
+
+} // namespace corvane

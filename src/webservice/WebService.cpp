@@ -1,0 +1,111 @@
+#include "webservice/WebService.h"
+
+#include "platform/LateBound.h"
+#include "platform/Procedure.h"
+#include "support/Conversions.h"
+#include "webservice/Exchange.h"
+
+namespace corvane
+{
+namespace
+{
+
+constexpr const wchar_t* kSiblingLogin = L"CorvaneMSOfficeExcel.CLogin";
+constexpr const wchar_t* kFormType = L"application/x-www-form-urlencoded";
+constexpr const wchar_t* kNamespaces =
+    L"xmlns:z='#RowsetSchema' xmlns:prj='urn:halvex-com:krx:project:1' "
+    L"xmlns:ms='urn:schemas-microsoft-com:xslt' xmlns:fg='urn:halvex-com:krx:filtergroups:1'";
+constexpr long kFailedDependency = 424;
+
+bool m_bAccessLogged = false;
+
+std::wstring NowInLocaleFormat()
+{
+    SYSTEMTIME now{};
+    ::GetLocalTime(&now);
+    VARIANT date{};
+    date.vt = VT_DATE;
+    ::SystemTimeToVariantTime(&now, &date.date);
+    return Variant::TextOf(date);
+}
+
+LateBound SiblingLogin()
+{
+    LateBound login;
+    Ignoring([&] { login = LateBound::Create(kSiblingLogin); });
+    return login;
+}
+
+} // namespace
+
+bool AccessLogPending()
+{
+    if (m_bAccessLogged) return false;
+    const LateBound login = SiblingLogin();
+    return !login || !ToBooleanSafe(login.Text(L"IsLoggedIn"));
+}
+
+void SetAccessLogged(bool bValue)
+{
+    m_bAccessLogged = bValue;
+    if (const LateBound login = SiblingLogin()) login.Put(L"IsLoggedIn", bValue);
+}
+
+void UpdateUserLog(const std::wstring& sServer, const std::wstring& sWebService)
+{
+    const ProcedureScope scope{L"WebService.UpdateUserLog"};
+    if (!AccessLogPending()) return;
+    const std::wstring url =
+        Endpoint(sServer, sWebService) + L"?" + RequestQuery(Operations::kUpdateUserAccessLog, {});
+    HttpRequest request;
+    OpenRequest(kAccessLogCall, [&] { request.Open(L"POST", url); });
+    const auto failure = Catch([&] {
+        Exchange(request, kAccessLogCall, sServer, RequestLimit(), [&] { request.SendEmptyDocument(); });
+    });
+    if (request.Status() == kFailedDependency) SetAccessLogged(false);
+    if (failure) throw *failure;
+    SetAccessLogged(true);
+}
+
+WebAnswer ExecuteASPWebService(const std::wstring& sServer, const std::wstring& sWebService, const Operation& sOperation,
+                               const Parameters& vParams)
+{
+    const ProcedureScope scope{L"WebService.ExecuteASPWebService"};
+    UpdateUserLog(sServer, sWebService);
+
+    const bool isPost = sOperation.method == Method::Post;
+    const std::wstring endpoint = Endpoint(sServer, sWebService);
+    const std::wstring query = RequestQuery(sOperation.name, vParams);
+    HttpRequest request;
+    OpenRequest(kOperationCall, [&] {
+        request.Open(isPost ? L"POST" : L"GET", isPost ? endpoint : endpoint + L"?" + query);
+        if (!isPost) return;
+        request.SetHeader(L"lastCached", NowInLocaleFormat());
+        request.SetHeader(L"Content-Type", kFormType);
+    });
+    WebAnswer answer;
+    answer.text = Exchange(request, kOperationCall, sServer, RequestLimit(),
+                           [&] { isPost ? request.Send(query) : request.Send(); });
+    if (sOperation.answer == AnswerForm::Xml) static_cast<void>(answer.document.emplace().Load(answer.text, kNamespaces));
+    return answer;
+}
+
+XmlDocument QueryXml(const std::wstring& server, const Operation& operation, const Parameters& parameters)
+{
+    return std::move(ExecuteASPWebService(server, kServicePage, operation, parameters).document).value();
+}
+
+std::wstring QueryText(const std::wstring& server, const Operation& operation, const Parameters& parameters)
+{
+    return ExecuteASPWebService(server, kServicePage, operation, parameters).text;
+}
+
+XmlNode FirstRow(const XmlDocument& rowset)
+{
+    XmlNode row = rowset.SelectFirst(L"//z:row");
+    if (!row)
+        throw Error{kErrorObjectNotSet, L"WebService.FirstRow", L"Object variable or With block variable not set"};
+    return row;
+}
+
+} // namespace corvane

@@ -1,0 +1,198 @@
+// An add-in that does a little of everything a real one does with the host. Environment variables change its conduct:
+// FAKE_FAIL makes OnConnection fail, FAKE_XML replaces the ribbon XML, FAKE_LEAK keeps the application referenced.
+#include "FakeAddIn.h"
+
+#include <cstdlib>
+
+#include "FakeForm.h"
+#include "automation/EventSource.h"
+#include "automation/OfficeInterfaces.h"
+
+namespace host::test
+{
+namespace
+{
+
+constexpr CLSID kClassId{0x6B1D5C0E, 0x2E0F, 0x4C55, {0x8E, 0x0B, 0x6B, 0x3C, 0x6F, 0x9B, 0x7A, 0x21}};
+constexpr wchar_t kRibbonXml[] =
+    LR"(<?xml version="1.0"?><customUI xmlns="http://schemas.microsoft.com/office/2009/07/customui" xmlns:a="Fake" )"
+    LR"(onLoad="onLoad"><ribbon><tabs><tab idQ="a:Tab" label="Fake &amp;&amp; Co"><group id="Group" label="Group">)"
+    LR"(<menu id="Menu" label="Menu" size="large"><button id="Hello" getLabel="GetLabel" onAction="Press"/></menu>)"
+    LR"(</group></tab></tabs></ribbon><backstage><tab id="Page" label="Save"><firstColumn><taskGroup id="Tasks" )"
+    LR"(label=" "><category id="Category" label="Fake"><task id="OpenForm" label="Open form" onAction="Press"/>)"
+    LR"(<task id="Broken" label="Broken" onAction="Missing"/></category></taskGroup></firstColumn></tab></backstage>)"
+    LR"(</customUI>)";
+
+std::wstring Environment(const wchar_t* name)
+{
+    const wchar_t* value = ::_wgetenv(name);
+    return value ? value : L"";
+}
+
+Value CallByName(IDispatch& object, const wchar_t* name, WORD flags, std::vector<Value> arguments = {})
+{
+    DISPID id = 0;
+    auto* text = const_cast<LPOLESTR>(name);
+    ThrowIfFailed(object.GetIDsOfNames(IID_NULL, &text, 1, 0, &id), name);
+    std::vector<VARIANT> reversed;
+    for (auto at = arguments.rbegin(); at != arguments.rend(); ++at)
+        reversed.push_back(at->Get());
+    DISPPARAMS parameters{reversed.data(), nullptr, static_cast<UINT>(reversed.size()), 0};
+    Value result;
+    ThrowIfFailed(object.Invoke(id, IID_NULL, 0, flags, &parameters, result.Put(), nullptr, nullptr), name);
+    return result;
+}
+
+class FakeAddIn final : public AutomationObject<IDTExtensibility2>
+{
+public:
+    FakeAddIn() : AutomationObject{L"FakeAddIn", kExtensibilityId} {}
+
+    std::span<const Member> Members() const override
+    {
+        static constexpr Member kMembers[] = {
+            {101, L"onLoad", kMethod, Answer<&FakeAddIn::OnLoad>},
+            {102, L"Press", kMethod, Answer<&FakeAddIn::Press>},
+            {103, L"GetLabel", kMethod, Answer<&FakeAddIn::GetLabel>},
+            {2009, L"WindowActivate", kMethod, Answer<&FakeAddIn::WindowActivate>},
+            {2004, L"PresentationClose", kMethod, Answer<&FakeAddIn::PresentationClose>},
+        };
+        return kMembers;
+    }
+
+    void* Interface(REFIID id) override
+    {
+        if (id == kRibbonExtensibilityId) return &m_ribbon;
+        return id == kApplicationEventsId ? static_cast<IDTExtensibility2*>(this) : nullptr;
+    }
+
+    STDMETHODIMP OnConnection(IDispatch* application, LONG, IDispatch*, SAFEARRAY**) override
+    {
+        if (!Environment(L"FAKE_FAIL").empty()) return E_FAIL;
+        m_application = application;
+        ComPtr<IConnectionPointContainer> container;
+        m_application.As(&container);
+        container->FindConnectionPoint(kApplicationEventsId, m_events.GetAddressOf());
+        return m_events->Advise(static_cast<IDTExtensibility2*>(this), &m_cookie);
+    }
+
+    STDMETHODIMP OnDisconnection(LONG, SAFEARRAY**) override
+    {
+        m_events->Unadvise(m_cookie);
+        m_events.Reset();
+        m_ribbonUi.Reset();
+        if (!Environment(L"FAKE_LEAK").empty()) m_application.Get()->AddRef();
+        m_application.Reset();
+        return S_OK;
+    }
+
+    STDMETHODIMP OnAddInsUpdate(SAFEARRAY**) override { return S_OK; }
+    STDMETHODIMP OnStartupComplete(SAFEARRAY**) override { return S_OK; }
+    STDMETHODIMP OnBeginShutdown(SAFEARRAY**) override { return S_OK; }
+
+private:
+    // The second interface of the object, with the same identity.
+    struct RibbonSide final : IRibbonExtensibility
+    {
+        explicit RibbonSide(FakeAddIn& owner) : m_owner{owner} {}
+        STDMETHODIMP QueryInterface(REFIID id, void** object) override { return m_owner.QueryInterface(id, object); }
+        STDMETHODIMP_(ULONG) AddRef() override { return m_owner.AddRef(); }
+        STDMETHODIMP_(ULONG) Release() override { return m_owner.Release(); }
+        STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+        STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+        STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+        STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override
+        {
+            return E_NOTIMPL;
+        }
+        STDMETHODIMP GetCustomUI(BSTR, BSTR* xml) override
+        {
+            const std::wstring own = Environment(L"FAKE_XML");
+            *xml = ComText{own.empty() ? kRibbonXml : own}.Detach();
+            return S_OK;
+        }
+        FakeAddIn& m_owner;
+    };
+
+    Value OnLoad(const Arguments& arguments)
+    {
+        m_ribbonUi = arguments.At(0).Object();
+        return {};
+    }
+
+    Value GetLabel(const Arguments&) { return Value{std::to_wstring(m_activations) + L" activations"}; }
+
+    Value WindowActivate(const Arguments& arguments)
+    {
+        CallByName(*arguments.At(1).Object(), L"caption", DISPATCH_PROPERTYGET);
+        ++m_activations;
+        if (m_ribbonUi) CallByName(*m_ribbonUi.Get(), L"Invalidate", DISPATCH_METHOD);
+        return {};
+    }
+
+    Value PresentationClose(const Arguments&)
+    {
+        ++m_closes;
+        return {};
+    }
+
+    Value Press(const Arguments& arguments)
+    {
+        const std::wstring id = CallByName(*arguments.At(0).Object(), L"id", DISPATCH_PROPERTYGET).Text();
+        if (id == L"Hello") {
+            const std::wstring text = GetLabel(arguments).Text() + L"\r\nand " + std::to_wstring(m_closes) + L" closed";
+            ::MessageBoxW(nullptr, text.c_str(), L"Fake", MB_YESNO);
+            return {};
+        }
+        const FormAnswer answer = ShowFakeForm();
+        if (answer.accepted) SaveBinding(answer);
+        return {};
+    }
+
+    void SaveBinding(const FormAnswer& answer)
+    {
+        const Value presentation = CallByName(*m_application.Get(), L"ActivePresentation", DISPATCH_PROPERTYGET);
+        const std::wstring name = CallByName(*presentation.Object(), L"Name", DISPATCH_PROPERTYGET).Text();
+        const Value properties = CallByName(*presentation.Object(), L"CustomDocumentProperties", DISPATCH_PROPERTYGET);
+        CallByName(*properties.Object(), L"Add", DISPATCH_METHOD,
+               {L"Node", Value::OfBoolean(false), 4L, std::wstring_view{answer.path}});
+        CallByName(*properties.Object(), L"Add", DISPATCH_METHOD, {L"Length", Value::OfBoolean(false), 1L, answer.length});
+        CallByName(*m_application.Get(), L"Run", DISPATCH_METHOD, {std::wstring_view{name + L"!Fake.BeforeSave"}});
+        CallByName(*presentation.Object(), L"Save", DISPATCH_METHOD);
+    }
+
+    RibbonSide m_ribbon{*this};
+    ComPtr<IDispatch> m_application;
+    ComPtr<IConnectionPoint> m_events;
+    ComPtr<IDispatch> m_ribbonUi;
+    DWORD m_cookie = 0;
+    long m_activations = 0;
+    long m_closes = 0;
+};
+
+struct Factory final : IClassFactory
+{
+    STDMETHODIMP QueryInterface(REFIID id, void** object) override
+    {
+        *object = id == IID_IUnknown || id == IID_IClassFactory ? this : nullptr;
+        return *object ? S_OK : E_NOINTERFACE;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override { return 2; }
+    STDMETHODIMP_(ULONG) Release() override { return 1; }
+    STDMETHODIMP CreateInstance(IUnknown*, REFIID id, void** object) override
+    {
+        return MakeObject<FakeAddIn>()->QueryInterface(id, object);
+    }
+    STDMETHODIMP LockServer(BOOL) override { return S_OK; }
+};
+
+} // namespace
+} // namespace host::test
+
+STDAPI DllGetClassObject(REFCLSID classId, REFIID id, void** object)
+{
+    static host::test::Factory factory;
+    return classId == host::test::kClassId ? factory.QueryInterface(id, object) : CLASS_E_CLASSNOTAVAILABLE;
+}
+
+STDAPI DllCanUnloadNow() { return host::ObjectCore::Living().empty() ? S_OK : S_FALSE; }

@@ -1,0 +1,77 @@
+#include "TestSite.h"
+
+namespace server
+{
+
+namespace
+{
+
+constexpr const char* kAssignments = "OFFI_API.CUser.GetMyAssignmentsAsTree";
+constexpr const char* kRelatedFiles = "OFFI_API.CUser.GetMyProjectsRelatedFiles";
+constexpr const char* kGateDocuments = "OFFI_API.Cuser.GetMyGateDocumentsAsTree";
+
+pugi::xml_document Tree(TestSite& site, const char* operation, const std::string& classId = "0",
+                        const std::string& search = "")
+{
+    pugi::xml_document document;
+    EXPECT_TRUE(document.load_string(site.Ask(operation, {classId, search}).c_str()));
+    return document;
+}
+
+std::string Ids(const pugi::xml_document& tree, const char* path)
+{
+    std::string ids;
+    for (const auto& node : tree.select_nodes(path))
+        ids += std::string{node.attribute().value()} + ' ';
+    return ids;
+}
+
+} // namespace
+
+TEST(Trees, NestAsTheSelectionReadsThem)
+{
+    TestSite site;
+    const auto assignments = Tree(site, kAssignments);
+    EXPECT_EQ(Ids(assignments, "//project[@name='Apollo' and @pid='12' and @IconSet='Azure']"
+                               "/stage[@name='Concept' and @phaseid='3']/deliverable[@name='Business case']"
+                               "/activity[@name='Draft the business case']/@activityid"),
+              "678 ");
+    EXPECT_EQ(Ids(Tree(site, kGateDocuments), "//project[@pid='12']/gate[@phaseid='5']/gateDocument/@gateDocumentID"),
+              "1201 1202 1203 ");
+    EXPECT_EQ(Ids(Tree(site, kRelatedFiles), "//project[@pid='12']/relatedfile/@id"), "1211 1212 ");
+}
+
+TEST(Trees, OfferOnlyWhatIsTheUsers)
+{
+    TestSite site{"Noor Haddad"};
+    EXPECT_EQ(Ids(Tree(site, kAssignments), "//project/@pid"), "17 ");
+    EXPECT_EQ(Ids(Tree(site, kAssignments), "//deliverable/@deliverableid"), "1703 ");
+    EXPECT_EQ(Ids(Tree(site, kGateDocuments), "//gateDocument/@gateDocumentID"), "1705 1706 ");
+    EXPECT_EQ(Ids(Tree(site, kRelatedFiles), "//project/@pid"), "");
+    site.Start("Tomas Lind");
+    EXPECT_EQ(Ids(Tree(site, kAssignments), "//activity/@activityid"), "1802 1804 1806 ")
+        << "a deliverable that only holds an offered activity stays as its parent";
+    EXPECT_EQ(Ids(Tree(site, kAssignments), "//deliverable/@deliverableid"), "49 1801 1803 1805 ");
+}
+
+TEST(Trees, AreNarrowedByClassAndName)
+{
+    TestSite site;
+    EXPECT_EQ(Ids(Tree(site, kAssignments, "1"), "//project/@pid"), "12 15 16 22 ");
+    EXPECT_EQ(Ids(Tree(site, kAssignments, "0", "WHILE you"), "//project/@pid"), "20 21 ");
+    EXPECT_EQ(Ids(Tree(site, kRelatedFiles, "3", "ærø & søn"), "//project/@pid"), "23 ");
+    EXPECT_EQ(Ids(Tree(site, kGateDocuments, "2", "apollo"), "//project/@pid"), "");
+}
+
+TEST(Trees, GoOverTheLimitForTheCrowdUntilFiltered)
+{
+    TestSite site{"Crowd Control"};
+    for (const char* operation : {kAssignments, kRelatedFiles, kGateDocuments}) {
+        EXPECT_EQ(Tree(site, operation).select_nodes("//project").size(), 501U);
+        EXPECT_EQ(Tree(site, operation, "2").select_nodes("//project").size(), 167U);
+        EXPECT_EQ(Tree(site, operation, "0", "project 50").select_nodes("//project").size(), 2U);
+    }
+    EXPECT_EQ(site.Save("CDeliverable", 1501, 15012), "");
+}
+
+} // namespace server
