@@ -71,7 +71,6 @@ void PlayToTheEnd(Player& player, Host& host, EndSignal& ended)
     const bool passed = player.Play();
     ::CoUninitialize();
     if (!passed) EndAtOnce(host);
-    if (!player.HasQuit()) player.AskToQuit();
     if (ended.WaitFor(kEndPatience)) return;
     PrintError(L"the host did not end in 30 s after the last step");
     EndAtOnce(host);

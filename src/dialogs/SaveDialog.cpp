@@ -43,6 +43,8 @@ void SaveDialog::LoadInputs()
     if (!ServerURL.empty()) LoadTarget();
 }
 
+int SaveDialog::FirstControl() const noexcept { return txtAuthor; }
+
 int SaveDialog::HelpControl() const noexcept { return cmdHelp; }
 
 void SaveDialog::SetSaveAllowed(bool allowed) const noexcept

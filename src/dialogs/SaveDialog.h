@@ -28,6 +28,7 @@ protected:
     SaveDialog(const wchar_t* name, int templateId) noexcept : Form{name, templateId} {}
 
     void Form_Load() override;
+    [[nodiscard]] int FirstControl() const noexcept override;
     [[nodiscard]] int HelpControl() const noexcept override;
 
     // Fills captions from the customer's words; fetches what is known of the user before the target is; fetches the

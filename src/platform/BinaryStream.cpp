@@ -5,8 +5,8 @@
 namespace corvane
 {
 
-// _Stream of the platform's data library (00001565-0000-0010-8000-00AA006D2EA4), member by member in its order. Its
-// IDispatch cannot be relied on; its methods can.
+// _Stream of the platform's data library, member by member in its order. Its IDispatch cannot be relied on; its methods
+// can.
 struct DataStream : IDispatch
 {
     virtual HRESULT STDMETHODCALLTYPE get_Size(long* size) = 0;
@@ -37,7 +37,11 @@ namespace
 {
 
 constexpr const wchar_t* kSource = L"ADODB.Stream";
-constexpr IID kStream = {0x00001565, 0x0000, 0x0010, {0x80, 0x00, 0x00, 0xAA, 0x00, 0x6D, 0x2E, 0xA4}};
+// The interface under its present id, and under the one of the library's early versions.
+constexpr IID kStreamIds[] = {
+    {0x00001565, 0x0000, 0x0010, {0x80, 0x00, 0x00, 0xAA, 0x00, 0x6D, 0x2E, 0xA4}},
+    {0x00000565, 0x0000, 0x0010, {0x80, 0x00, 0x00, 0xAA, 0x00, 0x6D, 0x2E, 0xA4}},
+};
 constexpr int kTypeBinary = 1;
 constexpr int kModeUnknown = 0;
 constexpr int kOpenUnspecified = -1;
@@ -49,9 +53,14 @@ BinaryStream::BinaryStream()
 {
     CLSID classId{};
     Check(::CLSIDFromProgID(kSource, &classId), kSource);
-    Check(::CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, kStream,
-                             reinterpret_cast<void**>(m_stream.GetAddressOf())),
-          kSource);
+    HRESULT result = E_NOINTERFACE;
+    for (const IID& id : kStreamIds)
+    {
+        if (result != E_NOINTERFACE) break;
+        result = ::CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, id,
+                                    reinterpret_cast<void**>(m_stream.ReleaseAndGetAddressOf()));
+    }
+    Check(result, kSource);
     Check(m_stream->put_Type(kTypeBinary), kSource);
     const Variant noSource = Variant::Missing();
     Check(m_stream->Open(noSource.Get(), kModeUnknown, kOpenUnspecified, nullptr, nullptr), kSource);

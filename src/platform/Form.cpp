@@ -78,7 +78,10 @@ void Form::SetShown(bool shown) noexcept
 {
     m_shown = shown;
     ::ShowWindow(m_window, shown ? SW_SHOW : SW_HIDE);
-    if (shown) ::SetForegroundWindow(m_window);
+    if (!shown) return;
+    ::SetForegroundWindow(m_window);
+    const HWND first = Control(FirstControl());
+    ::SetFocus(::IsWindowEnabled(first) ? first : ::GetNextDlgTabItem(m_window, nullptr, FALSE));
 }
 
 void Form::Hide() noexcept
@@ -113,7 +116,7 @@ INT_PTR CALLBACK Form::DialogProcedure(HWND window, UINT message, WPARAM wParam,
     if (message == WM_INITDIALOG)
     {
         ::SetWindowLongPtrW(window, DWLP_USER, lParam);
-        return TRUE;
+        return FALSE; // the focus is set when the form is shown: setting it now would activate a hidden window
     }
     auto* form = reinterpret_cast<Form*>(::GetWindowLongPtrW(window, DWLP_USER));
     return form == nullptr || form->m_window == nullptr ? FALSE : form->OnMessage(message, wParam, lParam);

@@ -64,6 +64,8 @@ protected:
     virtual void Form_Activate() {}
     virtual void Form_Unload() {}
     virtual void Timer() {}
+    // The control that has the keyboard first; 0 for the first that takes it.
+    [[nodiscard]] virtual int FirstControl() const noexcept { return 0; }
     // The control that F1 presses; 0 for none.
     [[nodiscard]] virtual int HelpControl() const noexcept { return 0; }
     // True for a form that is unloaded while what it opened lives on, and so must not own it.

@@ -65,8 +65,8 @@ void TreeImages::AddResource(int id)
     CheckWin32(found != nullptr, kSource);
     const auto* bytes = static_cast<const BYTE*>(::LockResource(::LoadResource(module, found)));
     const DWORD size = ::SizeofResource(module, found);
-    ComPtr<IStream> stream;
-    stream.Attach(::SHCreateMemStream(bytes, size));
+    ComPtr<IStream> stream; // not Attach: MinGW's adds a reference
+    *stream.GetAddressOf() = ::SHCreateMemStream(bytes, size);
     ComPtr<IPicture> picture;
     Check(::OleLoadPicture(stream.Get(), static_cast<LONG>(size), FALSE, IID_IPicture, &picture), kSource);
     Add(*picture.Get());

@@ -1,5 +1,6 @@
 // An add-in that does a little of everything a real one does with the host. Environment variables change its conduct:
 // FAKE_FAIL makes OnConnection fail, FAKE_XML replaces the ribbon XML, FAKE_LEAK keeps the application referenced.
+// On version 11 it adds a button to the File menu instead of a ribbon.
 #include "FakeAddIn.h"
 
 #include <cstdlib>
@@ -37,11 +38,34 @@ Value CallByName(IDispatch& object, const wchar_t* name, WORD flags, std::vector
     std::vector<VARIANT> reversed;
     for (auto at = arguments.rbegin(); at != arguments.rend(); ++at)
         reversed.push_back(at->Get());
-    DISPPARAMS parameters{reversed.data(), nullptr, static_cast<UINT>(reversed.size()), 0};
+    DISPID put = DISPID_PROPERTYPUT;
+    const bool isPut = flags == DISPATCH_PROPERTYPUT;
+    DISPPARAMS parameters{reversed.data(), isPut ? &put : nullptr, static_cast<UINT>(reversed.size()), isPut ? 1u : 0u};
     Value result;
     ThrowIfFailed(object.Invoke(id, IID_NULL, 0, flags, &parameters, result.Put(), nullptr, nullptr), name);
     return result;
 }
+
+// Listens to the one button of the fake menu.
+class ClickSink final : public AutomationObject<IDispatch>
+{
+public:
+    ClickSink() : AutomationObject{L"ClickSink", kCommandBarButtonEventsId} {}
+
+    std::span<const Member> Members() const override
+    {
+        static constexpr Member kMembers[] = {{1, L"Click", kMethod, Answer<&ClickSink::Click>}};
+        return kMembers;
+    }
+
+private:
+    Value Click(const Arguments& arguments)
+    {
+        const std::wstring tag = CallByName(*arguments.At(0).Object(), L"Tag", DISPATCH_PROPERTYGET).Text();
+        ::MessageBoxW(nullptr, (L"clicked " + tag).c_str(), L"Fake", MB_OK);
+        return {};
+    }
+};
 
 class FakeAddIn final : public AutomationObject<IDTExtensibility2>
 {
@@ -73,6 +97,7 @@ public:
         ComPtr<IConnectionPointContainer> container;
         m_application.As(&container);
         container->FindConnectionPoint(kApplicationEventsId, m_events.GetAddressOf());
+        if (CallByName(*application, L"Version", DISPATCH_PROPERTYGET).Number() < 12) AddMenu();
         return m_events->Advise(static_cast<IDTExtensibility2*>(this), &m_cookie);
     }
 
@@ -81,6 +106,8 @@ public:
         m_events->Unadvise(m_cookie);
         m_events.Reset();
         m_ribbonUi.Reset();
+        if (m_button) CallByName(*m_button.Get(), L"Delete", DISPATCH_METHOD);
+        m_button.Reset();
         if (!Environment(L"FAKE_LEAK").empty()) m_application.Get()->AddRef();
         m_application.Reset();
         return S_OK;
@@ -113,6 +140,24 @@ private:
         }
         FakeAddIn& m_owner;
     };
+
+    void AddMenu()
+    {
+        const Value bars = CallByName(*m_application.Get(), L"CommandBars", DISPATCH_PROPERTYGET);
+        const Value bar = CallByName(*bars.Object(), L"Item", DISPATCH_PROPERTYGET, {L"Menu Bar"});
+        const Value menus = CallByName(*bar.Object(), L"Controls", DISPATCH_PROPERTYGET);
+        const Value file = CallByName(*menus.Object(), L"Item", DISPATCH_PROPERTYGET, {1L});
+        const Value entries = CallByName(*file.Object(), L"Controls", DISPATCH_PROPERTYGET);
+        m_button = CallByName(*entries.Object(), L"Add", DISPATCH_METHOD, {1L, 1L, L"p", 2L}).Object();
+        CallByName(*m_button.Get(), L"Tag", DISPATCH_PROPERTYPUT, {L"FakeTag"});
+        CallByName(*m_button.Get(), L"Caption", DISPATCH_PROPERTYPUT, {L"Fake && Co"});
+        ComPtr<IConnectionPointContainer> container;
+        ComPtr<IConnectionPoint> point;
+        DWORD cookie = 0;
+        m_button.As(&container);
+        container->FindConnectionPoint(kCommandBarButtonEventsId, point.GetAddressOf());
+        point->Advise(MakeObject<ClickSink>().Get(), &cookie);
+    }
 
     Value OnLoad(const Arguments& arguments)
     {
@@ -165,6 +210,7 @@ private:
     ComPtr<IDispatch> m_application;
     ComPtr<IConnectionPoint> m_events;
     ComPtr<IDispatch> m_ribbonUi;
+    ComPtr<IDispatch> m_button;
     DWORD m_cookie = 0;
     long m_activations = 0;
     long m_closes = 0;

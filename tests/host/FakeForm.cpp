@@ -67,8 +67,8 @@ void OnCommand(HWND form, WORD id, WORD code, FormAnswer& answer)
 // The edit control's own procedure comes after this one.
 LRESULT CALLBACK NotesProc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR)
 {
-    if (message == WM_KEYDOWN) SetStatus(::GetParent(edit), (std::to_wstring(wParam)+L" "+std::to_wstring(::GetKeyState(VK_CONTROL))).c_str());
-    if (message == WM_KEYDOWN && wParam == 'A' && ::GetKeyState(VK_CONTROL) < 0) SetStatus(::GetParent(edit), L"All");
+    if (message == WM_KEYDOWN && wParam == 'A' && ::GetKeyState(VK_CONTROL) < 0) 
+        ::SetDlgItemTextW(::GetParent(edit), lblNotes, L"All");
     return ::DefSubclassProc(edit, message, wParam, lParam);
 }
 

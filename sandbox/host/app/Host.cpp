@@ -35,7 +35,8 @@ std::wstring AskForPath(HWND owner, bool toSave, const std::wstring& proposal)
 
 } // namespace
 
-Host::Host(Options options) : m_session{std::move(options)}, m_sibling{m_session.Settings().Setting("sibling.login")}
+Host::Host(Options options)
+    : m_session{std::move(options)}, m_companions{std::make_unique<Companions>(m_session.Settings())}
 {
     m_window = std::make_unique<MainWindow>(*this);
     m_session.window = m_window->Handle();
@@ -73,6 +74,7 @@ bool Host::RunMessages()
     m_session.onChanged = nullptr;
     m_window.reset();
     m_addIns.clear();
+    m_companions.reset();
     m_session.Release();
     const std::wstring living = ObjectCore::Living();
     if (!living.empty()) PrintError(L"still referenced by the add-in: " + living);

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "app/AddIn.h"
-#include "app/SiblingLogin.h"
+#include "app/Companions.h"
 #include "app/UiQueue.h"
 #include "objects/Session.h"
 
@@ -46,6 +46,7 @@ public:
     [[nodiscard]] UiQueue& Queue() { return m_queue; }
     [[nodiscard]] MainWindow& Window() { return *m_window; }
     [[nodiscard]] const std::vector<std::unique_ptr<AddIn>>& AddIns() const { return m_addIns; }
+    [[nodiscard]] const MailFields* LastMail() const { return m_companions->LastMail(); }
     [[nodiscard]] bool IsLoaded() const { return m_loaded; }
     [[nodiscard]] int Version() const { return m_session.Settings().MajorVersion(); }
 
@@ -66,7 +67,10 @@ public:
     [[nodiscard]] std::vector<std::wstring> TakeFaults();
 
     // Takes back what the host wrote into the registry; for an end that runs no destructors. Any thread.
-    void RemoveTraces() { m_sibling.RemoveTraces(); }
+    void RemoveTraces() 
+    {
+        if (m_companions) m_companions->RemoveTraces();
+    }
 
 private:
     void Guarded(const std::function<void()>& action);
@@ -75,7 +79,7 @@ private:
 
     Session m_session;
     UiQueue m_queue;
-    SiblingLogin m_sibling;
+    std::unique_ptr<Companions> m_companions;
     ClassLoader m_classes;
     std::vector<std::unique_ptr<AddIn>> m_addIns;
     std::unique_ptr<MainWindow> m_window;

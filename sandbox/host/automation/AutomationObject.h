@@ -127,10 +127,11 @@ private:
     IID m_ownId;
 };
 
+// Makes an object with the one reference that is returned. ComPtr::Attach is avoided: MinGW's adds a reference.
 template <class T, class... A> ComPtr<T> MakeObject(A&&... arguments)
 {
     ComPtr<T> object;
-    object.Attach(new T(std::forward<A>(arguments)...));
+    *object.GetAddressOf() = new T(std::forward<A>(arguments)...);
     return object;
 }
 

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "app/Console.h"
 #include "automation/Text.h"
 #include "player/ControlNames.h"
 #include "player/Keys.h"
@@ -190,7 +189,6 @@ void Player::Key(const Step& step)
         target = FocusOf(m_host.Queue().ThreadId());
         return target ? Finding{} : Finding{L"no window has the focus"};
     });
-    PrintError(L"target " + ClassOf(target) + L" " + std::to_wstring(::GetDlgCtrlID(target)));
     PressKey(m_host.Queue(), target, stroke);
     Settle();
     Settle(); // the release and the end of the held keys are posted by the first one's work

@@ -110,7 +110,8 @@ void Player::Quit(const Step&)
         OnUi([&] { busy = m_host.IsBusy(); });
         return busy ? Finding{L"a command is still running"} : Finding{};
     });
-    AskToQuit();
+    m_quit = true;
+    m_host.Queue().Post([&host = m_host] { host.Quit(); });
 }
 
 void Player::Disconnect(const Step&)
@@ -184,6 +185,20 @@ void Player::File(const Step& step)
         const auto names = FilesMatching(Widen(step.At(1)));
         if (names.empty() != wanted) return Finding{};
         return wanted ? Finding{L"there is no such file"} : L"there is " + names.front();
+    });
+}
+
+void Player::Mail(const Step& step)
+{
+    WaitFor([&, field = Widen(step.At(0)), wanted = Widen(step.Lines(1))] {
+        std::optional<std::wstring> value;
+        OnUi([&] {
+            const MailFields* mail = m_host.LastMail();
+            const auto found = mail ? mail->find(field) : MailFields::const_iterator{};
+            if (mail && found != mail->end()) value = found->second;
+        });
+        if (!value) return L"no mail with a field " + field + L" is displayed";
+        return *value == wanted ? Finding{} : L"it is \"" + *value + L"\"";
     });
 }
 

@@ -9,6 +9,8 @@ namespace host
 namespace
 {
 
+constexpr UINT kKeyF1 = 0x004D; // WM_KEYF1, which no header names
+
 struct NamedKey
 {
     std::string_view name;
@@ -82,6 +84,8 @@ void PressKey(const UiQueue& queue, HWND target, const KeyStroke& stroke)
     const bool system = stroke.alt && !stroke.control;
     queue.Post([stroke] { HoldKeys(stroke, true); });
     ::PostMessageW(target, system ? WM_SYSKEYDOWN : WM_KEYDOWN, stroke.key, KeyBits(stroke.key, stroke.alt, false));
+    // The system adds this to a real F1; the default window procedure makes WM_HELP of it.
+    if (stroke.key == VK_F1) ::PostMessageW(target, kKeyF1, 0, 0);
     // TranslateMessage posts the character behind the key, so the release must not overtake it.
     queue.Post([=, &queue] {
         ::PostMessageW(target, system ? WM_SYSKEYUP : WM_KEYUP, stroke.key, KeyBits(stroke.key, stroke.alt, true));

@@ -31,6 +31,7 @@ bool Player::Play()
             Perform(step);
             if (step.verb != "expect" || step.At(0) != "addin") CheckFaults();
         }
+        if (!m_quit) Quit({});
         return true;
     } catch (const ScriptError& error) {
         PrintError(m_path + L":" + std::to_wstring(error.Line()) + L": " + Widen(error.Source()) + L"\n  " +
@@ -68,6 +69,7 @@ void Player::Perform(const Step& step)
         {"property", &Player::Property},
         {"ran", &Player::Ran},
         {"file", &Player::File},
+        {"mail", &Player::Mail},
         {"shot", &Player::Shot},
         {"window", &Player::Window},
         {"closed", &Player::Closed},
@@ -115,12 +117,6 @@ void Player::CheckFaults()
     if (m_faultsExpected) return;
     const auto faults = m_host.TakeFaults();
     if (!faults.empty()) throw AutomationError{E_FAIL, L"the add-in failed: " + faults.front()};
-}
-
-void Player::AskToQuit()
-{
-    m_quit = true;
-    m_host.Queue().Post([&host = m_host] { host.Quit(); });
 }
 
 } // namespace host

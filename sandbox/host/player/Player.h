@@ -22,12 +22,10 @@ class Player
 public:
     Player(Host& host, std::wstring scriptPath);
 
-    // Plays all steps; true when every one passed. Says on the way what failed and what was there instead.
+    // Plays all steps and makes the host quit; true when every one passed. Says what failed and what was there instead.
     [[nodiscard]] bool Play();
 
     [[nodiscard]] std::size_t StepCount() const { return m_steps.size(); }
-    [[nodiscard]] bool HasQuit() const { return m_quit; }
-    void AskToQuit();
 
 private:
     // What a step's check found: nothing when it is satisfied, otherwise what is there instead.
@@ -54,6 +52,7 @@ private:
     void Property(const Step& step);
     void Ran(const Step& step);
     void File(const Step& step);
+    void Mail(const Step& step);
     void Shot(const Step& step);
     void WaitUntilLoaded();
     void StartCommand(std::function<void()> command);

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "automation/AutomationObject.h"
+
+namespace host
+{
+
+// Offers a class of another program to the add-in while it lives: its ProgID in the registry and its class object in this
+// process. An installed class of the same ProgID is left alone in the registry and wins.
+class OfferedClass
+{
+public:
+    // Every creation asks for a new reference. Throws AutomationError when COM does not take the class.
+    OfferedClass(REFCLSID classId, std::wstring progId, std::function<ComPtr<IDispatch>()> create);
+    OfferedClass(const OfferedClass&) = delete;
+    OfferedClass& operator=(const OfferedClass&) = delete;
+    ~OfferedClass();
+
+    // Removes the registry entries alone.
+    void RemoveTraces() const;
+
+private:
+    class Factory;
+
+    void WriteKey(HKEY root) const;
+    void RemoveKey(HKEY root) const;
+
+    CLSID m_classId;
+    std::wstring m_key;
+    DWORD m_cookie = 0;
+};
+
+} // namespace host

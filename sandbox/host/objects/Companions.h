@@ -1,0 +1,68 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "automation/AutomationObject.h"
+
+namespace host
+{
+
+// The login object of the sibling add-in for Excel.
+class LoginObject final : public AutomationObject<IDispatch>
+{
+public:
+    explicit LoginObject(bool loggedIn) : AutomationObject{L"CLogin", IID_IDispatch}, m_loggedIn{loggedIn} {}
+
+    [[nodiscard]] std::span<const Member> Members() const override;
+
+private:
+    Value IsLoggedIn(const Arguments&);
+
+    bool m_loggedIn;
+};
+
+using MailFields = std::map<std::wstring, std::wstring, std::less<>>;
+
+// The mail program, as far as new mail items need it.
+class OutlookObject final : public AutomationObject<IDispatch>
+{
+public:
+    OutlookObject() : AutomationObject{L"Outlook.Application", IID_IDispatch} {}
+
+    [[nodiscard]] std::span<const Member> Members() const override;
+
+    // The items that were shown to the user, the last one last.
+    [[nodiscard]] const std::vector<MailFields>& Displayed() const { return m_displayed; }
+    void Display(const MailFields& fields) { m_displayed.push_back(fields); }
+
+private:
+    Value GetName(const Arguments&);
+    Value GetVersion(const Arguments&);
+    Value CreateItem(const Arguments& arguments);
+
+    std::vector<MailFields> m_displayed;
+};
+
+class MailItemObject final : public AutomationObject<IDispatch>
+{
+public:
+    explicit MailItemObject(OutlookObject* outlook) : AutomationObject{L"MailItem", IID_IDispatch}, m_outlook{outlook} {}
+
+    [[nodiscard]] std::span<const Member> Members() const override;
+
+private:
+    Value To(const Arguments& arguments) { return Field(L"To", arguments); }
+    Value Copy(const Arguments& arguments) { return Field(L"CC", arguments); }
+    Value Subject(const Arguments& arguments) { return Field(L"Subject", arguments); }
+    Value Body(const Arguments& arguments) { return Field(L"Body", arguments); }
+    Value HtmlBody(const Arguments& arguments) { return Field(L"HTMLBody", arguments); }
+    Value Field(const wchar_t* name, const Arguments& arguments);
+    Value Display(const Arguments&);
+
+    ComPtr<OutlookObject> m_outlook;
+    MailFields m_fields;
+};
+
+} // namespace host

@@ -1,0 +1,204 @@
+// Plays scenarios in the real host program with the fake add-in, each in a process of its own.
+#include <gtest/gtest.h>
+
+#include "FakeAddIn.h"
+#include "TemporaryFolder.h"
+#include "app/Registry.h"
+#include "automation/Text.h"
+#include "documents/Files.h"
+
+namespace host
+{
+namespace
+{
+
+constexpr wchar_t kAddInKey[] = L"Software\\Microsoft\\Office\\PowerPoint\\Addins\\";
+constexpr wchar_t kClasses[] = L"Software\\Classes\\";
+
+std::wstring OwnFolder()
+{
+    wchar_t path[MAX_PATH] = L"";
+    ::GetModuleFileNameW(nullptr, path, MAX_PATH);
+    return FolderOf(path);
+}
+
+struct Outcome
+{
+    DWORD status = 0;
+    std::string output;
+};
+
+class PlayTest : public testing::Test
+{
+protected:
+    PlayTest()
+    {
+        const std::wstring classKey = std::wstring{kClasses} + L"CLSID\\" + test::kFakeClass;
+        auto server = RegistryKey::Create(HKEY_CURRENT_USER, classKey + L"\\InprocServer32");
+        server.SetText(nullptr, OwnFolder() + L"\\" + WIDE_FAKE_ADDIN);
+        server.SetText(L"ThreadingModel", L"Apartment");
+        RegistryKey::Create(HKEY_CURRENT_USER, std::wstring{kClasses} + test::kFakeProgId + L"\\CLSID")
+            .SetText(nullptr, test::kFakeClass);
+        RegistryKey::Create(HKEY_CURRENT_USER, std::wstring{kAddInKey} + test::kFakeProgId).SetNumber(L"LoadBehavior", 3);
+    }
+    ~PlayTest() override
+    {
+        for (const wchar_t* name : {L"FAKE_FAIL", L"FAKE_LEAK", L"FAKE_XML"})
+            ::SetEnvironmentVariableW(name, nullptr);
+        ::RegDeleteTreeW(HKEY_CURRENT_USER, (std::wstring{kAddInKey} + test::kFakeProgId).c_str());
+        ::RegDeleteTreeW(HKEY_CURRENT_USER, (std::wstring{kClasses} + test::kFakeProgId).c_str());
+        ::RegDeleteTreeW(HKEY_CURRENT_USER, (std::wstring{kClasses} + L"CLSID\\" + test::kFakeClass).c_str());
+    }
+
+    [[nodiscard]] static DWORD LoadBehavior()
+    {
+        return RegistryKey::Open(HKEY_CURRENT_USER, std::wstring{kAddInKey} + test::kFakeProgId).Number(L"LoadBehavior");
+    }
+
+    Outcome Play(const std::string& script, const std::wstring& arguments = {})
+    {
+        WriteWholeFile(folder.File(L"play.txt"), script);
+        SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+        FileHandle log{::CreateFileW(folder.File(L"log.txt").c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                     &inherited, CREATE_ALWAYS, 0, nullptr)};
+        std::wstring line = L"\"" HOST_PROGRAM L"\" --play \"" + folder.File(L"play.txt") + L"\" --set \"FOLDER=" +
+                            folder.File(L"") + L"\" --set macro.Fake.BeforeSave=ok " + arguments;
+        STARTUPINFOW start{};
+        start.cb = sizeof start;
+        start.dwFlags = STARTF_USESTDHANDLES;
+        start.hStdOutput = log.Get();
+        start.hStdError = log.Get();
+        PROCESS_INFORMATION process{};
+        EXPECT_TRUE(::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &process));
+        const FileHandle handle{process.hProcess};
+        const FileHandle thread{process.hThread};
+        Outcome outcome;
+        EXPECT_EQ(::WaitForSingleObject(process.hProcess, 90000), WAIT_OBJECT_0);
+        ::GetExitCodeProcess(process.hProcess, &outcome.status);
+        log = FileHandle{};
+        outcome.output = ReadWholeFile(folder.File(L"log.txt"));
+        return outcome;
+    }
+
+    static void ExpectPassed(const Outcome& outcome)
+    {
+        EXPECT_EQ(outcome.status, 0u) << outcome.output;
+        EXPECT_NE(outcome.output.find("scenario passed: play.txt"), std::string::npos) << outcome.output;
+    }
+
+    static void ExpectFailed(const Outcome& outcome, const std::string& reason)
+    {
+        EXPECT_NE(outcome.status, 0u) << outcome.output;
+        EXPECT_NE(outcome.output.find(reason), std::string::npos) << outcome.output;
+        EXPECT_EQ(outcome.output.find("scenario passed"), std::string::npos) << outcome.output;
+    }
+
+    test::TemporaryFolder folder;
+};
+
+constexpr char kOpenForm[] = "new\nsaveas \"${FOLDER}plan\"\ncommand OpenForm\nwindow frmSaveTo\n";
+
+TEST_F(PlayTest, WorksOnFormsAsAPersonDoes)
+{
+    ExpectPassed(Play(std::string{kOpenForm} + R"(
+expect caption "Fake form"
+expect cmdOK disabled
+expect StatusBar1 "Ready"
+type cmbServerURL "http://x"
+expect cmbServerURL "http://x"
+press cmdGo
+expect StatusBar1 "Filled"
+select TreeView1 "Apollo/Risk\/Reward"
+expect TreeView1 "Apollo/Risk\/Reward"
+expect cmdOK default
+type txtNotes "one" "two"
+expect StatusBar1 "Noted"
+expect txtNotes "one" "two"
+key Ctrl+A
+expect lblNotes "All"
+type txtName ""
+expect txtName ""
+expect txtName focused
+choose ClassList "[High]"
+expect ClassList "[High]"
+expect StatusBar1 "Classed"
+key Alt+P
+expect chkPublish checked
+check chkPublish off
+expect chkPublish unchecked
+key F1
+expect chkPublish checked
+repainted frmSaveTo
+key Enter
+closed frmSaveTo
+property Node "Risk/Reward"
+property Length "8"
+ran "Fake.BeforeSave"
+expect document "plan.pptx"
+close
+open "${FOLDER}plan.pptx"
+property Length "8"
+disconnect
+quit
+)"));
+}
+
+TEST_F(PlayTest, PressesRibbonControlsAndAnswersMessages)
+{
+    const Outcome outcome = Play("new\nclose\nnew\ncommand Hello\n"
+                                 "message \"2 activations and 1 closed\" No\nno message\n");
+    ExpectPassed(outcome);
+    EXPECT_NE(outcome.output.find("DllCanUnloadNow: S_OK"), std::string::npos) << outcome.output;
+}
+
+TEST_F(PlayTest, PressesCommandBarsOfVersionElevenByTheirTag)
+{
+    ExpectPassed(Play("new\ncommand FakeTag\nmessage \"clicked FakeTag\" OK\nsaveas \"${FOLDER}old\"\n"
+                      "expect document \"old.ppt\"\nquit\n",
+                      L"--version 11.0"));
+}
+
+TEST_F(PlayTest, ReportsTheFailedStepWithWhatIsThereInstead)
+{
+    const Outcome outcome = Play(std::string{kOpenForm} + "message \"not this\" OK\n", L"--patience 1");
+    ExpectFailed(outcome, "play.txt:5: message \"not this\" OK");
+    EXPECT_NE(outcome.output.find("frmSaveTo \"Fake form\""), std::string::npos) << outcome.output;
+    EXPECT_NE(outcome.output.find("txtName Edit \"old name\""), std::string::npos) << outcome.output;
+}
+
+TEST_F(PlayTest, FailsWhenACallbackIsMissing) { ExpectFailed(Play("new\ncommand Broken\nquit\n"), "Missing is missing"); }
+
+TEST_F(PlayTest, FailsWhenTheAddInKeepsAnObject)
+{
+    ::SetEnvironmentVariableW(L"FAKE_LEAK", L"1");
+    ExpectFailed(Play("new\nquit\n"), "still referenced by the add-in: Application x1");
+}
+
+TEST_F(PlayTest, SwitchesOffAnAddInThatDoesNotLoad)
+{
+    ::SetEnvironmentVariableW(L"FAKE_FAIL", L"1");
+    ExpectFailed(Play("new\nquit\n"), "OnConnection failed");
+    EXPECT_EQ(LoadBehavior(), 2u);
+    ExpectPassed(Play("expect addin absent\nquit\n"));
+}
+
+TEST_F(PlayTest, LetsAScenarioExpectAFailedLoad)
+{
+    ::SetEnvironmentVariableW(L"FAKE_FAIL", L"1");
+    ExpectPassed(Play("expect addin failed\nnew\nquit\n"));
+}
+
+TEST_F(PlayTest, RefusesARibbonThatOfficeWouldRefuse)
+{
+    ExpectFailed(Play("new\nquit\n", L"--version 12.0"), "not known to this version");
+}
+
+TEST_F(PlayTest, OffersTheSiblingsLoginOnlyWhileItRuns)
+{
+    ExpectPassed(Play("new\nquit\n", L"--set sibling.login=true --set outlook=running"));
+    CLSID found{};
+    EXPECT_TRUE(FAILED(::CLSIDFromProgID(L"CorvaneMSOfficeExcel.CLogin", &found)));
+}
+
+} // namespace
+} // namespace host

@@ -1,0 +1,71 @@
+#include "scenario/Script.h"
+
+#include <gtest/gtest.h>
+
+namespace host
+{
+namespace
+{
+
+TEST(ScriptTest, ReadsStepsWithQuotesSettingsAndComments)
+{
+    const auto steps = ParseScript("\xef\xbb\xbf# a save\r\n\r\n  open \"C:\\my decks\\${FILE}\"   # the file\r\n"
+                                   "expect txtName \"say \"\"hi\"\" # not a comment\"\r\ntype txtNotes \"one\" \"two\"\n"
+                                   "expect cmdSave disabled\nexpect txtName \"disabled\"\ntype txtNotes \"\"",
+                                   {{"FILE", "a \"b\".pptx"}});
+    ASSERT_EQ(steps.size(), 6u);
+    EXPECT_EQ(steps[0].line, 3);
+    EXPECT_EQ(steps[0].source, "open \"C:\\my decks\\${FILE}\"   # the file");
+    EXPECT_EQ(steps[0].At(0), "C:\\my decks\\a \"b\".pptx");
+    EXPECT_EQ(steps[0].words.size(), 1u);
+    EXPECT_EQ(steps[1].At(1), "say \"hi\" # not a comment");
+    EXPECT_EQ(steps[2].Lines(1), "one\r\ntwo");
+    EXPECT_FALSE(steps[3].words[1].quoted);
+    EXPECT_TRUE(steps[4].words[1].quoted);
+    EXPECT_EQ(steps[5].Lines(1), "");
+}
+
+struct BadLine
+{
+    const char* name;
+    const char* line;
+};
+
+class BadLineTest : public testing::TestWithParam<BadLine>
+{
+};
+
+TEST_P(BadLineTest, IsReportedWithItsNumberBeforeAnythingRuns)
+{
+    try {
+        static_cast<void>(ParseScript(std::string{"new\n\n"} + GetParam().line + "\nquit\n", {}));
+        FAIL() << "accepted";
+    } catch (const ScriptError& error) {
+        EXPECT_EQ(error.Line(), 3);
+        EXPECT_EQ(error.Source(), GetParam().line);
+    }
+}
+
+constexpr BadLine kBadLines[] = {
+    {"UnknownVerb", "click cmdGo"},      {"MissingWord", "press"},           {"WordTooMany", "press cmdGo cmdOK"},
+    {"UnknownSetting", "open ${NOPE}"},  {"OpenQuote", "type a \"text"},     {"OpenSetting", "open \"${SERVER\""},
+    {"StateMissing", "expect chkPublish"},
+};
+
+INSTANTIATE_TEST_SUITE_P(ScriptTest, BadLineTest, testing::ValuesIn(kBadLines),
+                         [](const auto& info) { return std::string{info.param.name}; });
+
+TEST(ScriptTest, SplitsTreePathsAtSlashesThatAreNotEscaped)
+{
+    const std::vector<std::string> expected = {"Apollo", "Risk/Reward", "a\\b"};
+    EXPECT_EQ(SplitTreePath("Apollo/Risk\\/Reward/a\\b"), expected);
+}
+
+TEST(ScriptTest, CollapsesBlanksOfMessages)
+{
+    EXPECT_EQ(CollapseBlanks(" ERROR\r\nNumber: 5\r\n\r\n  Source: x "), "ERROR Number: 5 Source: x");
+    EXPECT_EQ(CollapseBlanks(" \r\n"), "");
+}
+
+} // namespace
+} // namespace host

@@ -1,0 +1,66 @@
+#include "package/Zip.h"
+
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+
+namespace host
+{
+namespace
+{
+
+Zip Sample()
+{
+    Zip zip;
+    zip.Set("folder/large.xml", std::string(100000, 'x'));
+    zip.Set("small.bin", std::string("\0\x01\xff", 3));
+    zip.Set("empty", "");
+    return zip;
+}
+
+TEST(ZipTest, ReadsBackWhatItWrote)
+{
+    const std::string bytes = Sample().Write();
+    const Zip zip = Zip::Parse(bytes);
+
+    EXPECT_LT(bytes.size(), 2000u) << "the large entry is not packed";
+    ASSERT_EQ(zip.Entries().size(), 3u);
+    EXPECT_EQ(*zip.Find("Folder/LARGE.xml"), std::string(100000, 'x'));
+    EXPECT_EQ(*zip.Find("small.bin"), std::string("\0\x01\xff", 3));
+    EXPECT_EQ(*zip.Find("empty"), "");
+    EXPECT_EQ(zip.Find("other"), nullptr);
+}
+
+TEST(ZipTest, ReplacesAnEntryWhateverTheCaseOfItsName)
+{
+    Zip zip = Sample();
+    zip.Set("SMALL.bin", "new");
+    EXPECT_EQ(zip.Entries().size(), 3u);
+    EXPECT_EQ(*zip.Find("small.bin"), "new");
+}
+
+TEST(ZipTest, FindsTheDirectoryBehindAnArchiveComment)
+{
+    std::string bytes = Sample().Write();
+    bytes[bytes.size() - 2] = 5;
+    bytes += "hello";
+    EXPECT_EQ(Zip::Parse(bytes).Entries().size(), 3u);
+}
+
+TEST(ZipTest, RefusesDamageWithoutReadingOutsideTheBytes)
+{
+    const std::string bytes = Sample().Write();
+    EXPECT_THROW(Zip::Parse(""), std::runtime_error);
+    EXPECT_THROW(Zip::Parse(std::string(22, '\0')), std::runtime_error);
+    for (std::size_t cut = 1; cut < bytes.size(); ++cut)
+        EXPECT_THROW(Zip::Parse(bytes.substr(0, cut)), std::runtime_error) << cut;
+    // The front is gone, the directory points outside.
+    EXPECT_THROW(Zip::Parse(std::string_view{bytes}.substr(40)), std::runtime_error);
+
+    std::string changed = bytes;
+    changed[31 + std::string{"folder/large.xml"}.size()] ^= 0x55; // in the packed bytes
+    EXPECT_THROW(Zip::Parse(changed), std::runtime_error);
+}
+
+} // namespace
+} // namespace host
