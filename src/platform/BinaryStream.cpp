@@ -1,12 +1,13 @@
 #include "platform/BinaryStream.h"
 
+#include "platform/Files.h"
 #include "platform/HResult.h"
 
 namespace corvane
 {
 
-// _Stream of the platform's data library, member by member in its order. Its IDispatch cannot be relied on; its methods
-// can.
+// _Stream of the platform's data library, member by member in its order as far as it is used. Its IDispatch cannot be
+// relied on; its methods can.
 struct DataStream : IDispatch
 {
     virtual HRESULT STDMETHODCALLTYPE get_Size(long* size) = 0;
@@ -27,10 +28,6 @@ struct DataStream : IDispatch
     virtual HRESULT STDMETHODCALLTYPE Close() = 0;
     virtual HRESULT STDMETHODCALLTYPE SkipLine() = 0;
     virtual HRESULT STDMETHODCALLTYPE Write(VARIANT bytes) = 0;
-    virtual HRESULT STDMETHODCALLTYPE SetEOS() = 0;
-    virtual HRESULT STDMETHODCALLTYPE CopyTo(DataStream* to, long count) = 0;
-    virtual HRESULT STDMETHODCALLTYPE Flush() = 0;
-    virtual HRESULT STDMETHODCALLTYPE SaveToFile(BSTR path, int options) = 0;
 };
 
 namespace
@@ -45,7 +42,7 @@ constexpr IID kStreamIds[] = {
 constexpr int kTypeBinary = 1;
 constexpr int kModeUnknown = 0;
 constexpr int kOpenUnspecified = -1;
-constexpr int kCreateOverWrite = 2;
+constexpr long kReadAll = -1;
 
 } // namespace
 
@@ -75,7 +72,11 @@ void BinaryStream::Write(const Variant& bytes) { Check(m_stream->Write(bytes.Get
 void BinaryStream::SaveTo(const std::wstring& path)
 {
     Check(m_stream->put_Position(0), kSource);
-    Check(m_stream->SaveToFile(Bstr{path}.Get(), kCreateOverWrite), kSource);
+    Variant bytes;
+    Check(m_stream->Read(kReadAll, bytes.Put()), kSource);
+    if (bytes.Get().vt != (VT_ARRAY | VT_UI1)) return WriteFile(path, {}); // an empty stream reads as Null
+    const SAFEARRAY& array = *bytes.Get().parray;
+    WriteFile(path, {static_cast<const std::byte*>(array.pvData), array.rgsabound[0].cElements});
 }
 
 } // namespace corvane

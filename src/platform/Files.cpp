@@ -64,7 +64,10 @@ std::wstring UnusedPath(const std::wstring& folder, const std::wstring& base, co
     const std::wstring ending = extension.empty() ? L"" : L"." + extension;
     std::wstring path = stem + ending;
     for (int number = 2; FileExists(path); ++number)
-        path = stem + L" (" + std::to_wstring(number) + L")" + ending;
+    {
+        path = stem;
+        path.append(L" (").append(std::to_wstring(number)).append(L")").append(ending);
+    }
     return path;
 }
 

@@ -3,6 +3,7 @@
 #include "platform/ComObject.h"
 #include "platform/FormTemplate.h"
 #include "platform/HResult.h"
+#include "resources/resource.h"
 
 #include <commctrl.h>
 
@@ -58,10 +59,39 @@ void RegisterFormClass(const wchar_t* name) noexcept
     ::RegisterClassW(&windowClass); // a second form of the same name shares the class
 }
 
+// Makes the library's manifest count, and with it the current look of the controls, whatever program the host is.
+class LibraryManifest
+{
+public:
+    LibraryManifest() noexcept
+    {
+        ACTCTXW context{};
+        context.cbSize = sizeof context;
+        context.dwFlags = ACTCTX_FLAG_HMODULE_VALID | ACTCTX_FLAG_RESOURCE_NAME_VALID;
+        context.hModule = Library::Module();
+        context.lpResourceName = MAKEINTRESOURCEW(IDR_MANIFEST);
+        m_context = ::CreateActCtxW(&context);
+        m_active = m_context != INVALID_HANDLE_VALUE && ::ActivateActCtx(m_context, &m_cookie);
+    }
+    LibraryManifest(const LibraryManifest&) = delete;
+    LibraryManifest& operator=(const LibraryManifest&) = delete;
+    ~LibraryManifest()
+    {
+        if (m_active) ::DeactivateActCtx(0, m_cookie);
+        if (m_context != INVALID_HANDLE_VALUE) ::ReleaseActCtx(m_context);
+    }
+
+private:
+    HANDLE m_context = INVALID_HANDLE_VALUE;
+    ULONG_PTR m_cookie = 0;
+    bool m_active = false;
+};
+
 } // namespace
 
 HWND CreateFormWindow(const wchar_t* name, int templateId, HWND owner, DLGPROC procedure, LPARAM argument)
 {
+    const LibraryManifest manifest;
     const INITCOMMONCONTROLSEX controls{sizeof controls,
                                         ICC_STANDARD_CLASSES | ICC_BAR_CLASSES | ICC_TREEVIEW_CLASSES |
                                             ICC_PROGRESS_CLASS};

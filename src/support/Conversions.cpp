@@ -55,7 +55,7 @@ std::optional<double> BitsIn(std::wstring_view digits, std::uint32_t base)
     {
         const auto lower = static_cast<std::uint32_t>(letter | 0x20);
         const std::uint32_t digit = lower >= L'a' ? lower - L'a' + 10 : static_cast<std::uint32_t>(letter) - L'0';
-        if (digit >= base) return std::nullopt;
+        if (digit >= base || (lower > L'9' && lower < L'a')) return std::nullopt;
         bits = bits * base + digit;
         if (bits > std::numeric_limits<std::uint32_t>::max()) return std::nullopt;
     }
@@ -83,7 +83,7 @@ std::optional<double> NumberIn(std::wstring_view text)
         if (TakeDigits(text, exponent, 10) == 0) return std::nullopt;
         value *= std::pow(10.0, small ? -exponent : exponent);
     }
-    if (!text.empty()) return std::nullopt;
+    if (!text.empty() || !std::isfinite(value)) return std::nullopt;
     return negative ? -value : value;
 }
 

@@ -1,5 +1,6 @@
 #include "support/TraceText.h"
 
+#include <algorithm>
 #include <array>
 #include <cwchar>
 
@@ -31,7 +32,7 @@ std::wstring TraceTabs(std::int32_t level) { return level < 0 ? L"" : std::wstri
 
 std::wstring TraceLine(const LocalTime& time, std::int32_t level, std::int32_t extraIndent, std::wstring_view text)
 {
-    return SortableTime(time) + L"\t" + TraceTabs(extraIndent - 1) + TraceTabs(level) + std::wstring{text};
+    return SortableTime(time) + L"\t" + TraceTabs(std::max(extraIndent, 0) - 1) + TraceTabs(level) + std::wstring{text};
 }
 
 std::wstring TraceErrorBlock(std::int32_t number, std::wstring_view description, std::wstring_view source)

@@ -200,8 +200,9 @@ private:
         const std::wstring name = CallByName(*presentation.Object(), L"Name", DISPATCH_PROPERTYGET).Text();
         const Value properties = CallByName(*presentation.Object(), L"CustomDocumentProperties", DISPATCH_PROPERTYGET);
         CallByName(*properties.Object(), L"Add", DISPATCH_METHOD,
-               {L"Node", Value::OfBoolean(false), 4L, std::wstring_view{answer.path}});
-        CallByName(*properties.Object(), L"Add", DISPATCH_METHOD, {L"Length", Value::OfBoolean(false), 1L, answer.length});
+                   {L"Node", Value::OfBoolean(false), 4L, std::wstring_view{answer.path}});
+        CallByName(*properties.Object(), L"Add", DISPATCH_METHOD,
+                   {L"Length", Value::OfBoolean(false), 1L, answer.length});
         CallByName(*m_application.Get(), L"Run", DISPATCH_METHOD, {std::wstring_view{name + L"!Fake.BeforeSave"}});
         CallByName(*presentation.Object(), L"Save", DISPATCH_METHOD);
     }

@@ -67,7 +67,7 @@ void OnCommand(HWND form, WORD id, WORD code, FormAnswer& answer)
 // The edit control's own procedure comes after this one.
 LRESULT CALLBACK NotesProc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR)
 {
-    if (message == WM_KEYDOWN && wParam == 'A' && ::GetKeyState(VK_CONTROL) < 0) 
+    if (message == WM_KEYDOWN && wParam == 'A' && ::GetKeyState(VK_CONTROL) < 0)
         ::SetDlgItemTextW(::GetParent(edit), lblNotes, L"All");
     return ::DefSubclassProc(edit, message, wParam, lParam);
 }
@@ -83,7 +83,9 @@ INT_PTR CALLBACK FormProc(HWND form, UINT message, WPARAM wParam, LPARAM lParam)
         ::SetDlgItemTextW(form, txtName, L"old name");
         SetStatus(form, L"Ready");
         return TRUE;
-    case WM_HELP: ::CheckDlgButton(form, chkPublish, BST_CHECKED); return TRUE;
+    case WM_HELP:
+        ::CheckDlgButton(form, chkPublish, BST_CHECKED);
+        return TRUE;
     case WM_NOTIFY:
         if (wParam == TreeView1) OnTreeNotice(form, *reinterpret_cast<const NMTREEVIEWW*>(lParam));
         return FALSE;
@@ -91,7 +93,8 @@ INT_PTR CALLBACK FormProc(HWND form, UINT message, WPARAM wParam, LPARAM lParam)
         OnCommand(form, LOWORD(wParam), HIWORD(wParam),
                   *reinterpret_cast<FormAnswer*>(::GetWindowLongPtrW(form, DWLP_USER)));
         return TRUE;
-    default: return FALSE;
+    default:
+        return FALSE;
     }
 }
 

@@ -15,7 +15,9 @@ const std::vector<CustomProperty> kProperties = {
     {"KRX_SYS_Server", PropertyType::Text, "http://host/a?b=1&c=<2>"},
     {"KRX_SYS_ProjectID", PropertyType::Number, "12"},
     {"Flag", PropertyType::Boolean, "true"},
-    {"Gr\xc3\xb6\xc3\x9f" "e", PropertyType::Float, "1.5"},
+    {"Gr\xc3\xb6\xc3\x9f"
+     "e",
+     PropertyType::Float, "1.5"},
     {"When", PropertyType::Date, "2024-05-01T10:00:00Z"},
 };
 
@@ -92,8 +94,9 @@ TEST(PackageTest, FindsTheCustomPartByItsRelationWhateverItsNameAndPrefix)
                      R"(<Relationship Id="rId9" Type="http://schemas.openxmlformats.org/officeDocument/2006/)"
                      R"(relationships/custom-properties" Target="/docProps/other.xml"/>)");
     zip.Set("_rels/.rels", relations);
-    zip.Set("docProps/other.xml", R"(<c:Properties xmlns:c="c" xmlns:v="v"><c:property name="A"><v:int>7</v:int>)"
-                                  R"(</c:property><c:property name="B"><v:bool>1</v:bool></c:property></c:Properties>)");
+    zip.Set("docProps/other.xml",
+            R"(<c:Properties xmlns:c="c" xmlns:v="v"><c:property name="A"><v:int>7</v:int>)"
+            R"(</c:property><c:property name="B"><v:bool>1</v:bool></c:property></c:Properties>)");
     auto package = PresentationPackage::Parse(zip.Write());
 
     const auto read = package.CustomProperties();
@@ -119,19 +122,23 @@ struct BadXml
 };
 
 class BadXmlTest : public testing::TestWithParam<BadXml>
-{
-};
+{};
 
 TEST_P(BadXmlTest, IsRefused) { EXPECT_THROW(static_cast<void>(ParseXml(GetParam().text)), std::runtime_error); }
 
 constexpr BadXml kBadXml[] = {
-    {"NotClosed", "<a><b></b>"},       {"WrongEnd", "<a></b>"},     {"TwoRoots", "<a/><b/>"},
-    {"DoubleAttribute", "<a x='1' x='2'/>"}, {"BareAmpersand", "<a>&</a>"}, {"UnknownEntity", "<a>&nbsp;</a>"},
-    {"DocumentType", "<!DOCTYPE a><a/>"},    {"Nothing", ""},
+    {"NotClosed", "<a><b></b>"},
+    {"WrongEnd", "<a></b>"},
+    {"TwoRoots", "<a/><b/>"},
+    {"DoubleAttribute", "<a x='1' x='2'/>"},
+    {"BareAmpersand", "<a>&</a>"},
+    {"UnknownEntity", "<a>&nbsp;</a>"},
+    {"DocumentType", "<!DOCTYPE a><a/>"},
+    {"Nothing", ""},
 };
 
 INSTANTIATE_TEST_SUITE_P(PackageTest, BadXmlTest, testing::ValuesIn(kBadXml),
-                         [](const auto& info) { return std::string{info.param.name}; });
+                         [](const auto& given) { return std::string{given.param.name}; });
 
 TEST(XmlTest, WritesTextThatReadsBackTheSame)
 {

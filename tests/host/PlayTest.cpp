@@ -1,6 +1,10 @@
 // Plays scenarios in the real host program with the fake add-in, each in a process of its own.
 #include <gtest/gtest.h>
 
+#include <windows.h>
+
+#include <objbase.h>
+
 #include "FakeAddIn.h"
 #include "TemporaryFolder.h"
 #include "app/Registry.h"
@@ -39,7 +43,8 @@ protected:
         server.SetText(L"ThreadingModel", L"Apartment");
         RegistryKey::Create(HKEY_CURRENT_USER, std::wstring{kClasses} + test::kFakeProgId + L"\\CLSID")
             .SetText(nullptr, test::kFakeClass);
-        RegistryKey::Create(HKEY_CURRENT_USER, std::wstring{kAddInKey} + test::kFakeProgId).SetNumber(L"LoadBehavior", 3);
+        RegistryKey::Create(HKEY_CURRENT_USER, std::wstring{kAddInKey} + test::kFakeProgId)
+            .SetNumber(L"LoadBehavior", 3);
     }
     ~PlayTest() override
     {
@@ -52,7 +57,8 @@ protected:
 
     [[nodiscard]] static DWORD LoadBehavior()
     {
-        return RegistryKey::Open(HKEY_CURRENT_USER, std::wstring{kAddInKey} + test::kFakeProgId).Number(L"LoadBehavior");
+        return RegistryKey::Open(HKEY_CURRENT_USER, std::wstring{kAddInKey} + test::kFakeProgId)
+            .Number(L"LoadBehavior");
     }
 
     Outcome Play(const std::string& script, const std::wstring& arguments = {})
@@ -62,14 +68,15 @@ protected:
         FileHandle log{::CreateFileW(folder.File(L"log.txt").c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
                                      &inherited, CREATE_ALWAYS, 0, nullptr)};
         std::wstring line = L"\"" HOST_PROGRAM L"\" --play \"" + folder.File(L"play.txt") + L"\" --set \"FOLDER=" +
-                            folder.File(L"") + L"\" --set macro.Fake.BeforeSave=ok " + arguments;
+                            folder.Path() + L"\" --set macro.Fake.BeforeSave=ok " + arguments;
         STARTUPINFOW start{};
         start.cb = sizeof start;
         start.dwFlags = STARTF_USESTDHANDLES;
         start.hStdOutput = log.Get();
         start.hStdError = log.Get();
         PROCESS_INFORMATION process{};
-        EXPECT_TRUE(::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &process));
+        EXPECT_TRUE(
+            ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &process));
         const FileHandle handle{process.hProcess};
         const FileHandle thread{process.hThread};
         Outcome outcome;
@@ -96,7 +103,7 @@ protected:
     test::TemporaryFolder folder;
 };
 
-constexpr char kOpenForm[] = "new\nsaveas \"${FOLDER}plan\"\ncommand OpenForm\nwindow frmSaveTo\n";
+constexpr char kOpenForm[] = "new\nsaveas \"${FOLDER}\\plan\"\ncommand OpenForm\nwindow frmSaveTo\n";
 
 TEST_F(PlayTest, WorksOnFormsAsAPersonDoes)
 {
@@ -136,7 +143,7 @@ property Length "8"
 ran "Fake.BeforeSave"
 expect document "plan.pptx"
 close
-open "${FOLDER}plan.pptx"
+open "${FOLDER}\plan.pptx"
 property Length "8"
 disconnect
 quit
@@ -153,20 +160,23 @@ TEST_F(PlayTest, PressesRibbonControlsAndAnswersMessages)
 
 TEST_F(PlayTest, PressesCommandBarsOfVersionElevenByTheirTag)
 {
-    ExpectPassed(Play("new\ncommand FakeTag\nmessage \"clicked FakeTag\" OK\nsaveas \"${FOLDER}old\"\n"
+    ExpectPassed(Play("new\ncommand FakeTag\nmessage \"clicked FakeTag\" OK\nsaveas \"${FOLDER}\\old\"\n"
                       "expect document \"old.ppt\"\nquit\n",
                       L"--version 11.0"));
 }
 
 TEST_F(PlayTest, ReportsTheFailedStepWithWhatIsThereInstead)
 {
-    const Outcome outcome = Play(std::string{kOpenForm} + "message \"not this\" OK\n", L"--patience 1");
+    const Outcome outcome = Play(std::string{kOpenForm} + "message \"not this\" OK\n", L"--set patience=1");
     ExpectFailed(outcome, "play.txt:5: message \"not this\" OK");
     EXPECT_NE(outcome.output.find("frmSaveTo \"Fake form\""), std::string::npos) << outcome.output;
     EXPECT_NE(outcome.output.find("txtName Edit \"old name\""), std::string::npos) << outcome.output;
 }
 
-TEST_F(PlayTest, FailsWhenACallbackIsMissing) { ExpectFailed(Play("new\ncommand Broken\nquit\n"), "Missing is missing"); }
+TEST_F(PlayTest, FailsWhenACallbackIsMissing)
+{
+    ExpectFailed(Play("new\ncommand Broken\nquit\n"), "Missing is missing");
+}
 
 TEST_F(PlayTest, FailsWhenTheAddInKeepsAnObject)
 {

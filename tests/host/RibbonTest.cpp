@@ -44,8 +44,7 @@ struct RefusedRibbon
 };
 
 class RefusedRibbonTest : public testing::TestWithParam<RefusedRibbon>
-{
-};
+{};
 
 TEST_P(RefusedRibbonTest, IsRefusedAsOfficeDoes)
 {
@@ -59,18 +58,20 @@ const RefusedRibbon kRefused[] = {
     {"EmptyLabel", 16, Document("2010", Tabs("<tab id='t' label=''/>"))},
     {"EmptyTabs", 16, Document("2010", Tabs(""))},
     {"DoubleId", 16, Document("2010", Tabs("<tab id='t' label='T'/><tab id='t' label='U'/>"))},
-    {"TaskOutsideItsCategory", 16, Document("2010", "<backstage><tab id='t' label='T'><task id='x'/></tab></backstage>")},
+    {"TaskOutsideItsCategory", 16,
+     Document("2010", "<backstage><tab id='t' label='T'><task id='x'/></tab></backstage>")},
     {"ButtonWithoutId", 16, Document("2010", Tabs("<tab id='t'><group id='g'><button label='B'/></group></tab>"))},
     {"NotWellFormed", 16, "<customUI"},
 };
 
 INSTANTIATE_TEST_SUITE_P(RibbonTest, RefusedRibbonTest, testing::ValuesIn(kRefused),
-                         [](const auto& info) { return std::string{info.param.name}; });
+                         [](const auto& given) { return std::string{given.param.name}; });
 
 TEST(RibbonTest, OldNamespaceWithOfficeMenuSuitsEveryRibbonHost)
 {
-    const std::string xml = Document("2007", "<ribbon><officeMenu><menu id='m' label='M'><button id='b' label='B'/></menu>"
-                                             "</officeMenu><tabs><tab id='t' label='T'/></tabs></ribbon>");
+    const std::string xml =
+        Document("2007", "<ribbon><officeMenu><menu id='m' label='M'><button id='b' label='B'/></menu>"
+                         "</officeMenu><tabs><tab id='t' label='T'/></tabs></ribbon>");
     EXPECT_EQ(ReadRibbon(xml, 12).officeMenu.size(), 1u);
     EXPECT_NE(ReadRibbon(xml, 16).Find("b"), nullptr);
 }

@@ -9,10 +9,11 @@ namespace
 
 TEST(ScriptTest, ReadsStepsWithQuotesSettingsAndComments)
 {
-    const auto steps = ParseScript("\xef\xbb\xbf# a save\r\n\r\n  open \"C:\\my decks\\${FILE}\"   # the file\r\n"
-                                   "expect txtName \"say \"\"hi\"\" # not a comment\"\r\ntype txtNotes \"one\" \"two\"\n"
-                                   "expect cmdSave disabled\nexpect txtName \"disabled\"\ntype txtNotes \"\"",
-                                   {{"FILE", "a \"b\".pptx"}});
+    const auto steps =
+        ParseScript("\xef\xbb\xbf# a save\r\n\r\n  open \"C:\\my decks\\${FILE}\"   # the file\r\n"
+                    "expect txtName \"say \"\"hi\"\" # not a comment\"\r\ntype txtNotes \"one\" \"two\"\n"
+                    "expect cmdSave disabled\nexpect txtName \"disabled\"\ntype txtNotes \"\"",
+                    {{"FILE", "a \"b\".pptx"}});
     ASSERT_EQ(steps.size(), 6u);
     EXPECT_EQ(steps[0].line, 3);
     EXPECT_EQ(steps[0].source, "open \"C:\\my decks\\${FILE}\"   # the file");
@@ -32,8 +33,7 @@ struct BadLine
 };
 
 class BadLineTest : public testing::TestWithParam<BadLine>
-{
-};
+{};
 
 TEST_P(BadLineTest, IsReportedWithItsNumberBeforeAnythingRuns)
 {
@@ -47,13 +47,13 @@ TEST_P(BadLineTest, IsReportedWithItsNumberBeforeAnythingRuns)
 }
 
 constexpr BadLine kBadLines[] = {
-    {"UnknownVerb", "click cmdGo"},      {"MissingWord", "press"},           {"WordTooMany", "press cmdGo cmdOK"},
-    {"UnknownSetting", "open ${NOPE}"},  {"OpenQuote", "type a \"text"},     {"OpenSetting", "open \"${SERVER\""},
+    {"UnknownVerb", "click cmdGo"},        {"MissingWord", "press"},       {"WordTooMany", "press cmdGo cmdOK"},
+    {"UnknownSetting", "open ${NOPE}"},    {"OpenQuote", "type a \"text"}, {"OpenSetting", "open \"${SERVER\""},
     {"StateMissing", "expect chkPublish"},
 };
 
 INSTANTIATE_TEST_SUITE_P(ScriptTest, BadLineTest, testing::ValuesIn(kBadLines),
-                         [](const auto& info) { return std::string{info.param.name}; });
+                         [](const auto& given) { return std::string{given.param.name}; });
 
 TEST(ScriptTest, SplitsTreePathsAtSlashesThatAreNotEscaped)
 {

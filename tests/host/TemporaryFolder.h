@@ -35,6 +35,7 @@ public:
         ::RemoveDirectoryW(m_path.c_str());
     }
 
+    [[nodiscard]] const std::wstring& Path() const { return m_path; }
     [[nodiscard]] std::wstring File(const std::wstring& name) const { return m_path + L"\\" + name; }
 
 private:

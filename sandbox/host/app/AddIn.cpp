@@ -77,8 +77,8 @@ std::vector<AddInEntry> RegisteredAddIns()
 }
 
 AddIn::AddIn(Session& session, ClassLoader& classes, AddInEntry entry)
-    : m_session{session}, m_classes{classes}, m_entry{std::move(entry)},
-      m_registration{MakeObject<ComAddInObject>(m_entry.progId, m_entry.friendlyName)}
+    : m_session{session}, m_classes{classes}, m_entry{std::move(entry)}, m_registration{MakeObject<ComAddInObject>(
+                                                                             m_entry.progId, m_entry.friendlyName)}
 {
     m_session.AddAddIn(m_registration);
 }

@@ -14,7 +14,8 @@ constexpr wchar_t kNotCreated[] = L"its class could not be created";
 using GetClassObject = HRESULT(STDMETHODCALLTYPE*)(REFCLSID, REFIID, void**);
 using CanUnloadNow = HRESULT(STDMETHODCALLTYPE*)();
 
-template <class Function> Function FindExport(HMODULE library, const char* name)
+template<class Function>
+Function FindExport(HMODULE library, const char* name)
 {
     return reinterpret_cast<Function>(reinterpret_cast<void*>(::GetProcAddress(library, name)));
 }
@@ -36,8 +37,8 @@ CLSID ClassLoader::ClassOf(const std::wstring& progId)
     CLSID classId{};
     const std::wstring own =
         RegistryKey::Open(HKEY_CURRENT_USER, std::wstring{kUserClasses} + progId + L"\\CLSID").Text(nullptr);
-    const HRESULT found = own.empty() ? ::CLSIDFromProgID(progId.c_str(), &classId)
-                                      : ::CLSIDFromString(own.c_str(), &classId);
+    const HRESULT found =
+        own.empty() ? ::CLSIDFromProgID(progId.c_str(), &classId) : ::CLSIDFromString(own.c_str(), &classId);
     ThrowIfFailed(found, L"its ProgID is not registered");
     return classId;
 }

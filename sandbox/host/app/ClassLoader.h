@@ -10,8 +10,8 @@
 namespace host
 {
 
-// Creates in-process objects from the user's registrations, which win over the machine's. It reads the user's part of the
-// registry itself, because not every COM run time looks there, and keeps the libraries that it loaded.
+// Creates in-process objects from the user's registrations, which win over the machine's. It reads the user's part of
+// the registry itself, because not every COM run time looks there, and keeps the libraries that it loaded.
 class ClassLoader
 {
 public:

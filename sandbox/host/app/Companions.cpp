@@ -16,9 +16,8 @@ Companions::Companions(const Options& options)
 {
     const std::string login = options.Setting("sibling.login");
     if (login == "true" || login == "false")
-        m_login.emplace(kLoginClass, kLoginProgId, [loggedIn = login == "true"] {
-            return ComPtr<IDispatch>{MakeObject<LoginObject>(loggedIn)};
-        });
+        m_login.emplace(kLoginClass, kLoginProgId,
+                        [loggedIn = login == "true"] { return ComPtr<IDispatch>{MakeObject<LoginObject>(loggedIn)}; });
     const std::string outlook = options.Setting("outlook");
     if (outlook != "new" && outlook != "running") return;
     m_outlook = MakeObject<OutlookObject>();

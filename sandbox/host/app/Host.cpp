@@ -113,14 +113,24 @@ void Host::Perform(HostCommand command)
     Guarded([&] {
         PresentationObject* active = m_session.Active();
         switch (command) {
-        case HostCommand::New: m_session.New(); break;
-        case HostCommand::Open: OpenWithDialog(); break;
-        case HostCommand::Save: active && active->File().HasFile() ? active->Save() : SaveWithName(); break;
-        case HostCommand::SaveAs: SaveWithName(); break;
+        case HostCommand::New:
+            m_session.New();
+            break;
+        case HostCommand::Open:
+            OpenWithDialog();
+            break;
+        case HostCommand::Save:
+            active && active->File().HasFile() ? active->Save() : SaveWithName();
+            break;
+        case HostCommand::SaveAs:
+            SaveWithName();
+            break;
         case HostCommand::Close:
             if (active) m_session.Close(*active);
             break;
-        case HostCommand::Exit: m_queue.Post([this] { Quit(); }); break;
+        case HostCommand::Exit:
+            m_queue.Post([this] { Quit(); });
+            break;
         }
     });
 }
@@ -151,9 +161,9 @@ void Host::CallController(const std::wstring& method)
         ThrowIfFailed(controller->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id),
                       L"the controller has no such method");
         DISPPARAMS none{};
-        ThrowIfFailed(controller->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &none, nullptr, nullptr,
-                                         nullptr),
-                      L"the controller's method failed");
+        ThrowIfFailed(
+            controller->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &none, nullptr, nullptr, nullptr),
+            L"the controller's method failed");
     });
 }
 

@@ -67,7 +67,7 @@ public:
     [[nodiscard]] std::vector<std::wstring> TakeFaults();
 
     // Takes back what the host wrote into the registry; for an end that runs no destructors. Any thread.
-    void RemoveTraces() 
+    void RemoveTraces()
     {
         if (m_companions) m_companions->RemoveTraces();
     }

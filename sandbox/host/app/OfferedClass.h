@@ -8,8 +8,8 @@
 namespace host
 {
 
-// Offers a class of another program to the add-in while it lives: its ProgID in the registry and its class object in this
-// process. An installed class of the same ProgID is left alone in the registry and wins.
+// Offers a class of another program to the add-in while it lives: its ProgID in the registry and its class object in
+// this process. An installed class of the same ProgID is left alone in the registry and wins.
 class OfferedClass
 {
 public:

@@ -28,7 +28,8 @@ std::vector<std::wstring> RegistryKey::Children() const
     wchar_t name[256];
     DWORD length = static_cast<DWORD>(std::size(name));
     while (m_key && ::RegEnumKeyExW(m_key, static_cast<DWORD>(names.size()), name, &length, nullptr, nullptr, nullptr,
-                                    nullptr) == ERROR_SUCCESS) {
+                                    nullptr) == ERROR_SUCCESS)
+    {
         names.emplace_back(name, length);
         length = static_cast<DWORD>(std::size(name));
     }

@@ -21,7 +21,8 @@ UiQueue::UiQueue() : m_threadId{::GetCurrentThreadId()}
     windowClass.hInstance = ::GetModuleHandleW(nullptr);
     windowClass.lpszClassName = kClassName;
     ::RegisterClassW(&windowClass);
-    m_window = ::CreateWindowExW(0, kClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, windowClass.hInstance, nullptr);
+    m_window =
+        ::CreateWindowExW(0, kClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, windowClass.hInstance, nullptr);
 }
 
 UiQueue::~UiQueue() { ::DestroyWindow(m_window); }

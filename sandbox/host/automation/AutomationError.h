@@ -5,6 +5,8 @@
 
 #include <windows.h>
 
+#include "automation/Text.h"
+
 namespace host
 {
 
@@ -13,17 +15,17 @@ class AutomationError : public std::exception
 {
 public:
     explicit AutomationError(HRESULT number, std::wstring description = {})
-        : m_number{number}, m_description{std::move(description)}
-    {
-    }
+        : m_number{number}, m_description{std::move(description)}, m_text{Narrow(m_description)}
+    {}
 
     [[nodiscard]] HRESULT Number() const noexcept { return m_number; }
     [[nodiscard]] const std::wstring& Description() const noexcept { return m_description; }
-    [[nodiscard]] const char* what() const noexcept override { return "automation error"; }
+    [[nodiscard]] const char* what() const noexcept override { return m_text.c_str(); }
 
 private:
     HRESULT m_number;
     std::wstring m_description;
+    std::string m_text;
 };
 
 // PowerPoint's number for a request that its state does not allow.

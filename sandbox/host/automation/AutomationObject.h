@@ -78,7 +78,8 @@ private:
 };
 
 // A host object with the dispatch-based interface I, found under its own id as well.
-template <class I> class AutomationObject : public I, public ObjectCore
+template<class I>
+class AutomationObject : public I, public ObjectCore
 {
 public:
     AutomationObject(const wchar_t* className, REFIID ownId) : ObjectCore{className}, m_ownId{ownId} {}
@@ -128,21 +129,25 @@ private:
 };
 
 // Makes an object with the one reference that is returned. ComPtr::Attach is avoided: MinGW's adds a reference.
-template <class T, class... A> ComPtr<T> MakeObject(A&&... arguments)
+template<class T, class... A>
+ComPtr<T> MakeObject(A&&... arguments)
 {
     ComPtr<T> object;
     *object.GetAddressOf() = new T(std::forward<A>(arguments)...);
     return object;
 }
 
-template <class> struct MethodTraits;
-template <class T> struct MethodTraits<Value (T::*)(const Arguments&)>
+template<class>
+struct MethodTraits;
+template<class T>
+struct MethodTraits<Value (T::*)(const Arguments&)>
 {
     using Class = T;
 };
 
 // Makes a method of an object the answer of a member table's row.
-template <auto Method> Value Answer(ObjectCore& object, const Arguments& arguments)
+template<auto Method>
+Value Answer(ObjectCore& object, const Arguments& arguments)
 {
     using T = typename MethodTraits<decltype(Method)>::Class;
     return (static_cast<T&>(object).*Method)(arguments);

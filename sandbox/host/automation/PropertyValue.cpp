@@ -34,11 +34,16 @@ std::string TextOfDate(DATE date)
 std::string PackageText(PropertyType type, const Value& value)
 {
     switch (type) {
-    case PropertyType::Number: return std::to_string(value.Number());
-    case PropertyType::Boolean: return value.Boolean() ? "true" : "false";
-    case PropertyType::Date: return TextOfDate(value.As(VT_DATE).Get().date);
-    case PropertyType::Float: return Narrow(value.As(VT_R8).Text());
-    case PropertyType::Text: return Narrow(value.Text());
+    case PropertyType::Number:
+        return std::to_string(value.Number());
+    case PropertyType::Boolean:
+        return value.Boolean() ? "true" : "false";
+    case PropertyType::Date:
+        return TextOfDate(value.As(VT_DATE).Get().date);
+    case PropertyType::Float:
+        return Narrow(value.As(VT_R8).Text());
+    case PropertyType::Text:
+        return Narrow(value.Text());
     }
     throw AutomationError{E_INVALIDARG, L"Unknown property type."};
 }
@@ -50,11 +55,16 @@ Value ToValue(const CustomProperty& property)
     const Value text{Widen(property.value)};
     try {
         switch (property.type) {
-        case PropertyType::Number: return text.As(VT_I4);
-        case PropertyType::Boolean: return Value::OfBoolean(property.value == "true");
-        case PropertyType::Date: return DateOf(property.value);
-        case PropertyType::Float: return text.As(VT_R8);
-        case PropertyType::Text: break;
+        case PropertyType::Number:
+            return text.As(VT_I4);
+        case PropertyType::Boolean:
+            return Value::OfBoolean(property.value == "true");
+        case PropertyType::Date:
+            return DateOf(property.value);
+        case PropertyType::Float:
+            return text.As(VT_R8);
+        case PropertyType::Text:
+            break;
         }
     } catch (const AutomationError&) {
         // A file may hold a value that its type does not allow: its text is all there is to show.

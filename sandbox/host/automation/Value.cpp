@@ -73,8 +73,8 @@ bool Value::IsMissing() const noexcept
 Value Value::As(VARTYPE type) const
 {
     Value result;
-    const HRESULT changed =
-        ::VariantChangeTypeEx(&result.m_variant, const_cast<VARIANT*>(&m_variant), LOCALE_INVARIANT, VARIANT_ALPHABOOL, type);
+    const HRESULT changed = ::VariantChangeTypeEx(&result.m_variant, const_cast<VARIANT*>(&m_variant), LOCALE_INVARIANT,
+                                                  VARIANT_ALPHABOOL, type);
     ThrowIfFailed(changed, L"Type mismatch.");
     return result;
 }

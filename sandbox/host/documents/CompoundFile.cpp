@@ -1,7 +1,7 @@
 #include "documents/CompoundFile.h"
 
-#include <array>
 #include <cstring>
+#include <map>
 
 #include <ole2.h>
 #include <propidl.h>
@@ -86,28 +86,47 @@ void Fill(PROPVARIANT& value, const CustomProperty& property)
 {
     const Value typed = ToValue(property);
     switch (property.type) {
-    case PropertyType::Number: value.vt = VT_I4, value.lVal = typed.Number(); break;
+    case PropertyType::Number:
+        value.vt = VT_I4, value.lVal = typed.Number();
+        break;
     case PropertyType::Boolean:
         value.vt = VT_BOOL, value.boolVal = typed.Boolean() ? VARIANT_TRUE : VARIANT_FALSE;
         break;
-    case PropertyType::Float: value.vt = VT_R8, value.dblVal = typed.Float(); break;
-    case PropertyType::Date: value.vt = VT_DATE, value.date = typed.Get().date; break;
-    case PropertyType::Text: FillText(value, property.value); break;
+    case PropertyType::Float:
+        value.vt = VT_R8, value.dblVal = typed.Float();
+        break;
+    case PropertyType::Date:
+        value.vt = VT_DATE, value.date = typed.Get().date;
+        break;
+    case PropertyType::Text:
+        FillText(value, property.value);
+        break;
     }
 }
 
 void Read(const PROPVARIANT& value, CustomProperty& property)
 {
     switch (value.vt) {
-    case VT_I4: property = FromValue(property.name, PropertyType::Number, Value{value.lVal}); break;
+    case VT_I4:
+        property = FromValue(property.name, PropertyType::Number, Value{value.lVal});
+        break;
     case VT_BOOL:
         property = FromValue(property.name, PropertyType::Boolean, Value::OfBoolean(value.boolVal != VARIANT_FALSE));
         break;
-    case VT_R8: property = FromValue(property.name, PropertyType::Float, Value{value.dblVal}); break;
-    case VT_DATE: property = FromValue(property.name, PropertyType::Date, Value::OfDate(value.date)); break;
-    case VT_LPWSTR: property.value = Narrow(value.pwszVal ? value.pwszVal : L""); break;
-    case VT_LPSTR: property.value = value.pszVal ? value.pszVal : ""; break;
-    default: break;
+    case VT_R8:
+        property = FromValue(property.name, PropertyType::Float, Value{value.dblVal});
+        break;
+    case VT_DATE:
+        property = FromValue(property.name, PropertyType::Date, Value::OfDate(value.date));
+        break;
+    case VT_LPWSTR:
+        property.value = Narrow(value.pwszVal ? value.pwszVal : L"");
+        break;
+    case VT_LPSTR:
+        property.value = value.pszVal ? value.pszVal : "";
+        break;
+    default:
+        break;
     }
 }
 
@@ -155,7 +174,8 @@ void WriteCustom(IPropertySetStorage& sets, const std::vector<CustomProperty>& c
         ThrowIfFailed(set->WritePropertyNames(1, &id, names), kFailed);
         Write(*set.Get(), id++, property);
     }
-    ThrowIfFailed(set->Commit(STGC_DEFAULT), kFailed);
+    // Wine's property storage takes texts and numbers only.
+    ThrowIfFailed(set->Commit(STGC_DEFAULT), L"The property storage does not take every type of custom property.");
 }
 
 void ReadSummary(IPropertySetStorage& sets, CompoundContents& contents)
@@ -177,6 +197,7 @@ void ReadCustom(IPropertySetStorage& sets, CompoundContents& contents)
     ComPtr<IEnumSTATPROPSTG> each;
     if (FAILED(sets.Open(kUserDefinedSet, STGM_READ | STGM_SHARE_EXCLUSIVE, set.GetAddressOf()))) return;
     ThrowIfFailed(set->Enum(each.GetAddressOf()), kFailed);
+    std::map<PROPID, CustomProperty> inOrder; // the set lists them in any order
     STATPROPSTG stat{};
     while (each->Next(1, &stat, nullptr) == S_OK) {
         StoredValue stored;
@@ -185,8 +206,10 @@ void ReadCustom(IPropertySetStorage& sets, CompoundContents& contents)
         ::CoTaskMemFree(stat.lpwstrName);
         ThrowIfFailed(set->ReadMultiple(1, &spec, &stored.value), kFailed);
         Read(stored.value, property);
-        if (!property.name.empty()) contents.custom.push_back(property);
+        if (!property.name.empty()) inOrder[stat.propid] = property;
     }
+    for (auto& [id, property] : inOrder)
+        contents.custom.push_back(std::move(property));
 }
 
 ComPtr<IPropertySetStorage> SetsOf(const ComPtr<IStorage>& storage)
@@ -217,8 +240,8 @@ std::string WriteCompoundFile(const CompoundContents& contents)
 {
     const auto memory = MemoryBytes({});
     ComPtr<IStorage> storage;
-    ThrowIfFailed(
-        ::StgCreateDocfileOnILockBytes(memory.Get(), STGM_CREATE | kStorageMode, 0, storage.GetAddressOf()), kFailed);
+    ThrowIfFailed(::StgCreateDocfileOnILockBytes(memory.Get(), STGM_CREATE | kStorageMode, 0, storage.GetAddressOf()),
+                  kFailed);
     const auto sets = SetsOf(storage);
     WriteSummary(*sets.Get(), contents.summary);
     WriteCustom(*sets.Get(), contents.custom);

@@ -36,8 +36,12 @@ struct BuiltInProperty
 };
 
 constexpr BuiltInProperty kBuiltIn[] = {
-    {"Title", "dc:title"},       {"Subject", "dc:subject"},      {"Author", "dc:creator"},
-    {"Keywords", "cp:keywords"}, {"Comments", "dc:description"}, {"Template", nullptr},
+    {"Title", "dc:title"},
+    {"Subject", "dc:subject"},
+    {"Author", "dc:creator"},
+    {"Keywords", "cp:keywords"},
+    {"Comments", "dc:description"},
+    {"Template", nullptr},
     {"Last Author", "cp:lastModifiedBy"},
 };
 

@@ -88,11 +88,17 @@ void WriteWholeFile(const std::wstring& path, std::string_view bytes)
 void WriteDocumentFile(const std::wstring& path, const std::string& bytes, SaveFault fault)
 {
     switch (fault) {
-    case SaveFault::None: return WriteWholeFile(path, bytes);
-    case SaveFault::Empty: return WriteWholeFile(path, {});
-    case SaveFault::Zeros: return WriteWholeFile(path, std::string(bytes.size(), '\0'));
-    case SaveFault::Growing: WriteWholeFile(path, std::string(bytes.size(), '\0')); return CompleteLater(path, bytes);
-    case SaveFault::Error: break;
+    case SaveFault::None:
+        return WriteWholeFile(path, bytes);
+    case SaveFault::Empty:
+        return WriteWholeFile(path, {});
+    case SaveFault::Zeros:
+        return WriteWholeFile(path, std::string(bytes.size(), '\0'));
+    case SaveFault::Growing:
+        WriteWholeFile(path, std::string(bytes.size(), '\0'));
+        return CompleteLater(path, bytes);
+    case SaveFault::Error:
+        break;
     }
     throw AutomationError{E_FAIL, L"An error occurred while PowerPoint was saving the file " + path + L"."};
 }

@@ -55,7 +55,7 @@ void WriteDocumentFile(const std::wstring& path, const std::string& bytes, SaveF
 
 [[nodiscard]] std::wstring FullPath(const std::wstring& path);
 [[nodiscard]] std::wstring FileName(const std::wstring& path);
-[[nodiscard]] std::wstring FolderOf(const std::wstring& path); // without a closing backslash
+[[nodiscard]] std::wstring FolderOf(const std::wstring& path);  // without a closing backslash
 [[nodiscard]] std::wstring Extension(const std::wstring& path); // in lower case, without the point
 
 } // namespace host

@@ -11,8 +11,7 @@ namespace host
 
 ApplicationObject::ApplicationObject(Session& session)
     : AutomationObject{L"Application", kApplicationId}, m_session{session}, m_events{*this, kApplicationEventsId}
-{
-}
+{}
 
 std::span<const Member> ApplicationObject::Members() const
 {
@@ -77,10 +76,7 @@ Value ApplicationObject::GetActiveWindow(const Arguments&)
 Value ApplicationObject::GetActivePresentation(const Arguments&) { return Value{&Active(L"presentation")}; }
 Value ApplicationObject::GetCommandBars(const Arguments&) { return Value{&m_session.CommandBars()}; }
 
-Value ApplicationObject::GetComAddIns(const Arguments&)
-{
-    return Value{MakeObject<ComAddInsObject>(m_session).Get()};
-}
+Value ApplicationObject::GetComAddIns(const Arguments&) { return Value{MakeObject<ComAddInsObject>(m_session).Get()}; }
 
 Value ApplicationObject::Run(const Arguments& arguments)
 {
@@ -96,8 +92,7 @@ Value ApplicationObject::Activate(const Arguments&)
 
 PresentationsObject::PresentationsObject(Session& session)
     : AutomationObject{L"Presentations", kPresentationsId}, m_session{session}
-{
-}
+{}
 
 std::span<const Member> PresentationsObject::Members() const
 {

@@ -14,8 +14,7 @@ std::size_t ItemPosition(const Value& index, std::size_t count)
 
 ListObject::ListObject(const wchar_t* className, REFIID id, std::vector<ComPtr<IDispatch>> items)
     : AutomationObject{className, id}, m_items{std::move(items)}
-{
-}
+{}
 
 std::span<const Member> ListObject::Members() const
 {

@@ -9,15 +9,16 @@ namespace host
 
 ComAddInObject::ComAddInObject(std::wstring progId, std::wstring description)
     : AutomationObject{L"COMAddIn", kComAddInId}, m_progId{std::move(progId)}, m_description{std::move(description)}
-{
-}
+{}
 
 std::span<const Member> ComAddInObject::Members() const
 {
     using C = ComAddInObject;
     static constexpr Member kMembers[] = {
-        {0, L"Description", kGet, Answer<&C::GetDescription>}, {3, L"ProgId", kGet, Answer<&C::GetProgId>},
-        {4, L"Guid", kGet, Answer<&C::GetGuid>},               {6, L"Connect", kGet, Answer<&C::GetConnect>},
+        {0, L"Description", kGet, Answer<&C::GetDescription>},
+        {3, L"ProgId", kGet, Answer<&C::GetProgId>},
+        {4, L"Guid", kGet, Answer<&C::GetGuid>},
+        {6, L"Connect", kGet, Answer<&C::GetConnect>},
         {7, L"Object", kGetPut, Answer<&C::Offered>},
     };
     return kMembers;

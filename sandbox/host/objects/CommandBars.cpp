@@ -49,8 +49,7 @@ std::wstring WithoutMark(std::wstring caption)
 
 CommandBarObject::CommandBarObject(std::wstring name)
     : AutomationObject{L"CommandBar", kCommandBarId}, m_name{std::move(name)}
-{
-}
+{}
 
 CommandBarObject::~CommandBarObject()
 {
@@ -96,7 +95,7 @@ BarControlObject& CommandBarObject::Insert(long type, long id, const std::wstrin
 void CommandBarObject::Remove(BarControlObject& control)
 {
     const ComPtr<BarControlObject> removed{&control};
-    std::erase(m_entries, removed);
+    std::erase_if(m_entries, [&](const auto& entry) { return entry.Get() == &control; });
     removed->Detach();
 }
 
@@ -136,8 +135,7 @@ Value CommandBarObject::FindControl(const Arguments& arguments)
 
 BarControlsObject::BarControlsObject(CommandBarObject* bar)
     : AutomationObject{L"CommandBarControls", kCommandBarControlsId}, m_bar{bar}
-{
-}
+{}
 
 std::span<const Member> BarControlsObject::Members() const
 {
@@ -178,8 +176,7 @@ Value BarControlsObject::Add(const Arguments& arguments)
 
 CommandBarsObject::CommandBarsObject()
     : AutomationObject{L"CommandBars", kCommandBarsId}, m_menuBar{MakeObject<CommandBarObject>(kMenuBarName)}
-{
-}
+{}
 
 std::span<const Member> CommandBarsObject::Members() const
 {
@@ -194,8 +191,7 @@ Value CommandBarsObject::Item(const Arguments& arguments)
 {
     const Value index = arguments.At(0);
     const bool known = index.Type() == VT_BSTR ? SameText(index.Text(), kMenuBarName) : ItemPosition(index, 1) == 1;
-    if (!known)
-        throw AutomationError{E_INVALIDARG, L"There is no command bar " + index.Text() + L"."};
+    if (!known) throw AutomationError{E_INVALIDARG, L"There is no command bar " + index.Text() + L"."};
     return Value{m_menuBar.Get()};
 }
 

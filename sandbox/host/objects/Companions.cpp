@@ -40,9 +40,12 @@ std::span<const Member> MailItemObject::Members() const
 {
     using M = MailItemObject;
     static constexpr Member kMembers[] = {
-        {1, L"To", kGetPut, Answer<&M::To>},           {2, L"CC", kGetPut, Answer<&M::Copy>},
-        {3, L"Subject", kGetPut, Answer<&M::Subject>}, {4, L"Body", kGetPut, Answer<&M::Body>},
-        {5, L"HTMLBody", kGetPut, Answer<&M::HtmlBody>}, {6, L"Display", kMethod, Answer<&M::Display>},
+        {1, L"To", kGetPut, Answer<&M::To>},
+        {2, L"CC", kGetPut, Answer<&M::Copy>},
+        {3, L"Subject", kGetPut, Answer<&M::Subject>},
+        {4, L"Body", kGetPut, Answer<&M::Body>},
+        {5, L"HTMLBody", kGetPut, Answer<&M::HtmlBody>},
+        {6, L"Display", kMethod, Answer<&M::Display>},
     };
     return kMembers;
 }

@@ -48,7 +48,8 @@ private:
 class MailItemObject final : public AutomationObject<IDispatch>
 {
 public:
-    explicit MailItemObject(OutlookObject* outlook) : AutomationObject{L"MailItem", IID_IDispatch}, m_outlook{outlook} {}
+    explicit MailItemObject(OutlookObject* outlook) : AutomationObject{L"MailItem", IID_IDispatch}, m_outlook{outlook}
+    {}
 
     [[nodiscard]] std::span<const Member> Members() const override;
 

@@ -43,8 +43,7 @@ void MarkChanged(PresentationObject& presentation)
 
 DocumentPropertiesObject::DocumentPropertiesObject(PresentationObject* presentation, PropertySet set)
     : AutomationObject{L"DocumentProperties", kDocumentPropertiesId}, m_presentation{presentation}, m_set{set}
-{
-}
+{}
 
 std::span<const Member> DocumentPropertiesObject::Members() const
 {
@@ -89,10 +88,9 @@ Value DocumentPropertiesObject::Add(const Arguments& arguments)
 }
 
 DocumentPropertyObject::DocumentPropertyObject(PresentationObject* presentation, PropertySet set, std::string name)
-    : AutomationObject{L"DocumentProperty", kDocumentPropertyId}, m_presentation{presentation}, m_set{set},
-      m_name{std::move(name)}
-{
-}
+    : AutomationObject{L"DocumentProperty", kDocumentPropertyId},
+      m_presentation{presentation}, m_set{set}, m_name{std::move(name)}
+{}
 
 std::span<const Member> DocumentPropertyObject::Members() const
 {

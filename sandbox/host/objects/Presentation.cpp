@@ -25,8 +25,7 @@ std::wstring UserDocumentsFolder()
 
 PresentationObject::PresentationObject(Session& session, Document document)
     : AutomationObject{L"Presentation", kPresentationId}, m_session{session}, m_document{std::move(document)}
-{
-}
+{}
 
 std::span<const Member> PresentationObject::Members() const
 {
@@ -156,8 +155,7 @@ Value PresentationObject::DoClose(const Arguments&)
 
 DocumentWindowObject::DocumentWindowObject(PresentationObject* presentation)
     : AutomationObject{L"DocumentWindow", kDocumentWindowId}, m_presentation{presentation}
-{
-}
+{}
 
 std::span<const Member> DocumentWindowObject::Members() const
 {

@@ -16,8 +16,7 @@ HRESULT GiveText(const std::wstring& text, BSTR* out)
 
 RibbonUiObject::RibbonUiObject(std::function<void()> invalidate)
     : AutomationObject{L"IRibbonUI", kRibbonUiId}, m_invalidate{std::move(invalidate)}
-{
-}
+{}
 
 std::span<const Member> RibbonUiObject::Members() const
 {
@@ -55,8 +54,7 @@ STDMETHODIMP RibbonUiObject::ActivateTabQ(BSTR, BSTR) { return Invalidate(); }
 RibbonControlObject::RibbonControlObject(std::wstring id, std::wstring tag, ComPtr<IDispatch> context)
     : AutomationObject{L"IRibbonControl", kRibbonControlId}, m_id{std::move(id)}, m_tag{std::move(tag)},
       m_context{std::move(context)}
-{
-}
+{}
 
 std::span<const Member> RibbonControlObject::Members() const
 {

@@ -96,7 +96,7 @@ void Session::Close(PresentationObject& presentation)
     FireWith(*m_application.Get(), kPresentationClose, closing.Get());
     if (m_options.MajorVersion() >= kCloseFinalVersion)
         FireWith(*m_application.Get(), kPresentationCloseFinal, closing.Get());
-    std::erase(m_presentations, closing);
+    std::erase_if(m_presentations, [&](const auto& open) { return open.Get() == closing.Get(); });
     closing->MarkClosed();
     Changed();
     if (wasActive && Active()) FireActivate();

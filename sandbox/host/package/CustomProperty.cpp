@@ -69,8 +69,7 @@ std::string WriteCustomProperties(const std::vector<CustomProperty>& properties)
         element.SetAttribute("fmtid", kUserDefinedSet);
         element.SetAttribute("pid", std::to_string(id++));
         element.SetAttribute("name", property.name);
-        element.children.push_back(
-            {.name = ElementOf(property.type), .text = property.value});
+        element.children.push_back({.name = ElementOf(property.type), .text = property.value});
         root.children.push_back(std::move(element));
     }
     return WriteXml(root);

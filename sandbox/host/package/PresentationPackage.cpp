@@ -20,14 +20,20 @@ constexpr std::string_view kCustomRelation =
 std::string_view MainContentType(PackageKind kind)
 {
     switch (kind) {
-    case PackageKind::MacroPresentation: return "application/vnd.ms-powerpoint.presentation.macroEnabled.main+xml";
+    case PackageKind::MacroPresentation:
+        return "application/vnd.ms-powerpoint.presentation.macroEnabled.main+xml";
     case PackageKind::Template:
         return "application/vnd.openxmlformats-officedocument.presentationml.template.main+xml";
-    case PackageKind::MacroTemplate: return "application/vnd.ms-powerpoint.template.macroEnabled.main+xml";
-    case PackageKind::Show: return "application/vnd.openxmlformats-officedocument.presentationml.slideshow.main+xml";
-    case PackageKind::MacroShow: return "application/vnd.ms-powerpoint.slideshow.macroEnabled.main+xml";
-    case PackageKind::AddIn: return "application/vnd.ms-powerpoint.addin.macroEnabled.main+xml";
-    case PackageKind::Presentation: break;
+    case PackageKind::MacroTemplate:
+        return "application/vnd.ms-powerpoint.template.macroEnabled.main+xml";
+    case PackageKind::Show:
+        return "application/vnd.openxmlformats-officedocument.presentationml.slideshow.main+xml";
+    case PackageKind::MacroShow:
+        return "application/vnd.ms-powerpoint.slideshow.macroEnabled.main+xml";
+    case PackageKind::AddIn:
+        return "application/vnd.ms-powerpoint.addin.macroEnabled.main+xml";
+    case PackageKind::Presentation:
+        break;
     }
     return "application/vnd.openxmlformats-officedocument.presentationml.presentation.main+xml";
 }

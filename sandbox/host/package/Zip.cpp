@@ -134,7 +134,8 @@ ZipEntry ReadEntry(std::string_view bytes, std::size_t central)
 
 bool SameName(std::string_view a, std::string_view b)
 {
-    return std::ranges::equal(a, b, [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
+    return std::ranges::equal(a, b,
+                              [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
 }
 
 // The fields that the local header and the directory have in common, from "version needed" to the extra length.

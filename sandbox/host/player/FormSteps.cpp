@@ -157,9 +157,8 @@ void Player::Select(const Step& step)
     }
     Focus(tree);
     ::PostMessageW(tree, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(node));
-    WaitFor([&] {
-        return NextNode(tree, TVGN_CARET, nullptr) == node ? Finding{} : Finding{L"the node is not selected"};
-    });
+    WaitFor(
+        [&] { return NextNode(tree, TVGN_CARET, nullptr) == node ? Finding{} : Finding{L"the node is not selected"}; });
     Settle();
 }
 

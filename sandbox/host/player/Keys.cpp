@@ -18,9 +18,9 @@ struct NamedKey
 };
 
 constexpr NamedKey kNamedKeys[] = {
-    {"Enter", VK_RETURN}, {"Esc", VK_ESCAPE}, {"Tab", VK_TAB},   {"Space", VK_SPACE}, {"Backspace", VK_BACK},
-    {"Delete", VK_DELETE}, {"Up", VK_UP},     {"Down", VK_DOWN}, {"Left", VK_LEFT},   {"Right", VK_RIGHT},
-    {"Home", VK_HOME},     {"End", VK_END},   {"F1", VK_F1},     {"F4", VK_F4},       {"F5", VK_F5},
+    {"Enter", VK_RETURN},  {"Esc", VK_ESCAPE}, {"Tab", VK_TAB},   {"Space", VK_SPACE}, {"Backspace", VK_BACK},
+    {"Delete", VK_DELETE}, {"Up", VK_UP},      {"Down", VK_DOWN}, {"Left", VK_LEFT},   {"Right", VK_RIGHT},
+    {"Home", VK_HOME},     {"End", VK_END},    {"F1", VK_F1},     {"F4", VK_F4},       {"F5", VK_F5},
 };
 
 WORD KeyNamed(const std::string& name)
@@ -63,7 +63,8 @@ KeyStroke ParseKey(const std::string& name)
 {
     KeyStroke stroke;
     std::string rest = name;
-    for (std::size_t plus = rest.find('+'); plus != std::string::npos && plus + 1 < rest.size(); plus = rest.find('+')) {
+    for (std::size_t plus = rest.find('+'); plus != std::string::npos && plus + 1 < rest.size(); plus = rest.find('+'))
+    {
         const std::string held = rest.substr(0, plus);
         if (held == "Ctrl")
             stroke.control = true;

@@ -14,12 +14,16 @@ namespace
 
 using namespace std::chrono_literals;
 
-constexpr auto kPatience = 30s;
+constexpr auto kPatience = 30s; // unless the setting "patience" gives other seconds
 constexpr auto kPollTime = 20ms;
 
 } // namespace
 
-Player::Player(Host& host, std::wstring scriptPath) : m_host{host}, m_path{std::move(scriptPath)} {}
+Player::Player(Host& host, std::wstring scriptPath) : m_host{host}, m_path{std::move(scriptPath)}, m_patience{kPatience}
+{
+    const std::string patience = host.Documents().Settings().Setting("patience");
+    if (!patience.empty()) m_patience = std::chrono::seconds{std::stoi(patience)};
+}
 
 bool Player::Play()
 {
@@ -92,7 +96,7 @@ void Player::Perform(const Step& step)
 
 void Player::WaitFor(const std::function<Finding()>& check)
 {
-    const auto end = std::chrono::steady_clock::now() + kPatience;
+    const auto end = std::chrono::steady_clock::now() + m_patience;
     for (Finding finding = check(); !finding.empty(); finding = check()) {
         CheckFaults();
         if (std::chrono::steady_clock::now() > end) throw AutomationError{E_FAIL, finding};
@@ -102,8 +106,8 @@ void Player::WaitFor(const std::function<Finding()>& check)
 
 void Player::OnUi(std::function<void()> work)
 {
-    if (!m_host.Queue().Run(std::move(work), kPatience))
-        throw std::runtime_error{"the user interface did not answer in 30 s"};
+    if (!m_host.Queue().Run(std::move(work), m_patience))
+        throw std::runtime_error{"the user interface does not answer"};
 }
 
 // Waits until the messages posted so far are handled.

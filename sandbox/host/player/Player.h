@@ -86,6 +86,7 @@ private:
     std::wstring m_path;
     std::vector<Step> m_steps;
     std::wstring m_form; // the class of the window that steps address
+    std::chrono::seconds m_patience;
     bool m_quit = false;
     bool m_faultsExpected = false;
 };

@@ -130,10 +130,7 @@ std::wstring ClassOf(HWND window)
     return name;
 }
 
-std::optional<std::wstring> WindowText(HWND window)
-{
-    return Answer(window, WM_GETTEXT, kAnswerLength);
-}
+std::optional<std::wstring> WindowText(HWND window) { return Answer(window, WM_GETTEXT, kAnswerLength); }
 
 std::optional<std::wstring> ControlText(HWND control)
 {

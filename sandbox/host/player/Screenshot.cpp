@@ -29,11 +29,10 @@ class ScreenCopy
 {
 public:
     ScreenCopy()
-        : m_screen{::GetDC(nullptr)}, m_memory{::CreateCompatibleDC(m_screen)},
-          m_width{::GetSystemMetrics(SM_CXSCREEN)}, m_height{::GetSystemMetrics(SM_CYSCREEN)},
-          m_bitmap{::CreateCompatibleBitmap(m_screen, m_width, m_height)}
-    {
-    }
+        : m_screen{::GetDC(nullptr)}, m_memory{::CreateCompatibleDC(m_screen)}, m_width{::GetSystemMetrics(
+                                                                                    SM_CXSCREEN)},
+          m_height{::GetSystemMetrics(SM_CYSCREEN)}, m_bitmap{::CreateCompatibleBitmap(m_screen, m_width, m_height)}
+    {}
     ScreenCopy(const ScreenCopy&) = delete;
     ScreenCopy& operator=(const ScreenCopy&) = delete;
     ~ScreenCopy()

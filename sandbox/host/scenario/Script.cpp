@@ -19,11 +19,11 @@ struct VerbRule
 };
 
 constexpr VerbRule kVerbs[] = {
-    {"new", 0, 0},        {"open", 1, 1},    {"saveas", 1, 2},    {"save", 0, 0},      {"activate", 1, 1},
+    {"new", 0, 0},        {"open", 1, 1},    {"saveas", 1, 2},    {"save", 0, 0},       {"activate", 1, 1},
     {"close", 0, 0},      {"quit", 0, 0},    {"command", 1, 1},   {"controller", 1, 1}, {"window", 1, 1},
-    {"closed", 1, 1},     {"type", 2, kAny}, {"press", 1, 1},     {"select", 2, 2},    {"choose", 2, 2},
-    {"check", 2, 2},      {"key", 1, 1},     {"expect", 2, kAny}, {"message", 1, 2},   {"no", 1, 1},
-    {"property", 2, 2},   {"shot", 1, 1},    {"show", 1, 1},      {"ran", 1, 1},       {"repainted", 1, 1},
+    {"closed", 1, 1},     {"type", 2, kAny}, {"press", 1, 1},     {"select", 2, 2},     {"choose", 2, 2},
+    {"check", 2, 2},      {"key", 1, 1},     {"expect", 2, kAny}, {"message", 1, 2},    {"no", 1, 1},
+    {"property", 2, 2},   {"shot", 1, 1},    {"show", 1, 1},      {"ran", 1, 1},        {"repainted", 1, 1},
     {"disconnect", 0, 0}, {"file", 2, 2},    {"mail", 2, kAny},
 };
 
@@ -40,8 +40,7 @@ class LineReader
 public:
     LineReader(int line, std::string_view source, const Settings& settings)
         : m_line{line}, m_source{source}, m_settings{settings}
-    {
-    }
+    {}
 
     Step Read()
     {

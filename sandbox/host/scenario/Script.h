@@ -36,8 +36,7 @@ class ScriptError : public std::runtime_error
 public:
     ScriptError(int line, std::string source, const std::string& what)
         : std::runtime_error{what}, m_line{line}, m_source{std::move(source)}
-    {
-    }
+    {}
 
     [[nodiscard]] int Line() const { return m_line; }
     [[nodiscard]] const std::string& Source() const { return m_source; }

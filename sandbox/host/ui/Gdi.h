@@ -8,7 +8,8 @@ namespace host
 {
 
 // Owns a font, brush, pen or bitmap.
-template <class Handle> class GdiObject
+template<class Handle>
+class GdiObject
 {
 public:
     GdiObject() = default;

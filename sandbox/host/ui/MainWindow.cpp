@@ -81,7 +81,7 @@ void MainWindow::RebuildMenuBar()
     if (before) ::DestroyMenu(before);
 }
 
-bool MainWindow::ShowByLabel(const std::wstring& label, std::vector<RibbonControl> Ribbon::* part, bool backstage)
+bool MainWindow::ShowByLabel(const std::wstring& label, std::vector<RibbonControl> Ribbon::*part, bool backstage)
 {
     for (const auto& addIn : m_host.AddIns()) {
         if (!addIn->Contribution()) continue;
@@ -160,15 +160,23 @@ void MainWindow::Press(const SceneItem& pressed)
     if (!pressed.enabled) return;
     const SceneItem item = pressed; // what follows may lay out the window anew
     switch (item.kind) {
-    case ItemKind::FileTab: return OpenBackstage({});
-    case ItemKind::OfficeButton: return OpenOfficeMenu(item);
-    case ItemKind::Tab: m_view.tab = item.id; return Layout();
-    case ItemKind::MenuButton: return OpenRibbonMenu(item);
-    case ItemKind::BackArrow: return CloseBackstage();
-    case ItemKind::BackstagePage: return OpenBackstage(item.id);
+    case ItemKind::FileTab:
+        return OpenBackstage({});
+    case ItemKind::OfficeButton:
+        return OpenOfficeMenu(item);
+    case ItemKind::Tab:
+        m_view.tab = item.id;
+        return Layout();
+    case ItemKind::MenuButton:
+        return OpenRibbonMenu(item);
+    case ItemKind::BackArrow:
+        return CloseBackstage();
+    case ItemKind::BackstagePage:
+        return OpenBackstage(item.id);
     case ItemKind::LargeButton:
     case ItemKind::BackstageCommand:
-    case ItemKind::Task: break;
+    case ItemKind::Task:
+        break;
     }
     CloseBackstage();
     if (item.command)
@@ -212,17 +220,31 @@ LRESULT MainWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
         m_size = {LOWORD(lParam), HIWORD(lParam)};
         Layout();
         return 0;
-    case WM_ERASEBKGND: return TRUE;
-    case WM_PAINT: Paint(); return 0;
-    case WM_MOUSEMOVE: Hover({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}); return 0;
-    case WM_MOUSELEAVE: Hover({-1, -1}); return 0;
+    case WM_ERASEBKGND:
+        return TRUE;
+    case WM_PAINT:
+        Paint();
+        return 0;
+    case WM_MOUSEMOVE:
+        Hover({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+        return 0;
+    case WM_MOUSELEAVE:
+        Hover({-1, -1});
+        return 0;
     case WM_LBUTTONUP:
         if (const SceneItem* item = ItemAt({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) Press(*item);
         return 0;
-    case WM_COMMAND: m_menus.Perform(LOWORD(wParam)); return 0;
-    case WM_CLOSE: m_host.Perform(HostCommand::Exit); return 0;
-    case WM_NCDESTROY: m_window = nullptr; return 0;
-    default: return ::DefWindowProcW(m_window, message, wParam, lParam);
+    case WM_COMMAND:
+        m_menus.Perform(LOWORD(wParam));
+        return 0;
+    case WM_CLOSE:
+        m_host.Perform(HostCommand::Exit);
+        return 0;
+    case WM_NCDESTROY:
+        m_window = nullptr;
+        return 0;
+    default:
+        return ::DefWindowProcW(m_window, message, wParam, lParam);
     }
 }
 

@@ -23,8 +23,8 @@ public:
     // Shows the present state of the documents and the ribbon.
     void Refresh();
 
-    // Opens "File", a Backstage page or a ribbon tab by its label, or the presentation ("Presentation"); false when there
-    // is no such page.
+    // Opens "File", a Backstage page or a ribbon tab by its label, or the presentation ("Presentation"); false when
+    // there is no such page.
     bool ShowPage(const std::wstring& page);
     void CloseBackstage();
 
@@ -42,7 +42,7 @@ private:
     void OpenOfficeMenu(const SceneItem& item);
     void TrackMenu(HMENU menu, const RECT& below);
     [[nodiscard]] const SceneItem* ItemAt(POINT at) const;
-    [[nodiscard]] bool ShowByLabel(const std::wstring& label, std::vector<RibbonControl> Ribbon::* part, bool backstage);
+    [[nodiscard]] bool ShowByLabel(const std::wstring& label, std::vector<RibbonControl> Ribbon::*part, bool backstage);
 
     Host& m_host;
     Theme m_theme;

@@ -20,8 +20,9 @@ struct OwnEntry
 };
 
 constexpr OwnEntry kOwnEntries[] = {
-    {18, L"&New", HostCommand::New},    {23, L"&Open...", HostCommand::Open},      {3, L"&Save", HostCommand::Save},
-    {748, L"Save &As...", HostCommand::SaveAs}, {106, L"&Close", HostCommand::Close}, {752, L"E&xit", HostCommand::Exit},
+    {18, L"&New", HostCommand::New},      {23, L"&Open...", HostCommand::Open},
+    {3, L"&Save", HostCommand::Save},     {748, L"Save &As...", HostCommand::SaveAs},
+    {106, L"&Close", HostCommand::Close}, {752, L"E&xit", HostCommand::Exit},
 };
 
 } // namespace

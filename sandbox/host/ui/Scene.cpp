@@ -24,8 +24,8 @@ struct OwnCommand
 };
 
 constexpr OwnCommand kOwnCommands[] = {
-    {L"New", "FileNew", HostCommand::New},          {L"Open", "FileOpen", HostCommand::Open},
-    {L"Save", "FileSave", HostCommand::Save},       {L"Save As", "FileSaveAs", HostCommand::SaveAs},
+    {L"New", "FileNew", HostCommand::New},       {L"Open", "FileOpen", HostCommand::Open},
+    {L"Save", "FileSave", HostCommand::Save},    {L"Save As", "FileSaveAs", HostCommand::SaveAs},
     {L"Close", "FileClose", HostCommand::Close},
 };
 
@@ -35,8 +35,7 @@ class Layout
 public:
     Layout(const Host& host, const ViewState& view, const Theme& theme, SIZE size)
         : m_host{host}, m_view{view}, m_theme{theme}, m_size{size}
-    {
-    }
+    {}
 
     Scene Build(int version)
     {
@@ -63,7 +62,8 @@ private:
         m_scene.items.push_back(std::move(item));
     }
 
-    template <class Visit> void ForEachControl(std::vector<RibbonControl> Ribbon::* part, Visit visit)
+    template<class Visit>
+    void ForEachControl(std::vector<RibbonControl> Ribbon::*part, Visit visit)
     {
         for (const auto& addIn : m_host.AddIns()) {
             if (!addIn->Contribution()) continue;
@@ -117,7 +117,9 @@ private:
         if (m_view.tab.empty()) {
             const int left = m_x;
             for (const OwnCommand& own : kOwnCommands)
-                AddButton({.kind = ItemKind::LargeButton, .label = own.label, .picture = own.picture,
+                AddButton({.kind = ItemKind::LargeButton,
+                           .label = own.label,
+                           .picture = own.picture,
                            .command = own.command});
             return CloseGroup(left, L"Presentation");
         }
@@ -136,8 +138,10 @@ private:
             if (!IsShown(addIn, control)) continue;
             const bool menu = control.kind == "menu";
             AddButton({.kind = menu ? ItemKind::MenuButton : ItemKind::LargeButton,
-                       .label = ShownLabel(addIn, control),  .picture = control.Attribute("imageMso"),
-                       .id = control.id,  .enabled = IsEnabled(addIn, control)});
+                       .label = ShownLabel(addIn, control),
+                       .picture = control.Attribute("imageMso"),
+                       .id = control.id,
+                       .enabled = IsEnabled(addIn, control)});
         }
         CloseGroup(left, ShownLabel(addIn, group));
     }
@@ -156,7 +160,10 @@ private:
         for (const OwnCommand& own : kOwnCommands) {
             if (own.command == HostCommand::Close)
                 ForEachControl(&Ribbon::backstage, [&](const AddIn& addIn, const RibbonControl& page) {
-                    AddNavigation({.kind = ItemKind::BackstagePage, .label = ShownLabel(addIn, page),   .id = page.id,  .enabled = IsEnabled(addIn, page),
+                    AddNavigation({.kind = ItemKind::BackstagePage,
+                                   .label = ShownLabel(addIn, page),
+                                   .id = page.id,
+                                   .enabled = IsEnabled(addIn, page),
                                    .chosen = page.id == m_view.backstagePage});
                 });
             AddNavigation({.kind = ItemKind::BackstageCommand, .label = own.label, .command = own.command});
@@ -185,9 +192,12 @@ private:
             m_y += Px(34);
         }
         if (parent.kind == "task" || parent.kind == "button") {
-            Add({.kind = ItemKind::Task, .label = ShownLabel(addIn, parent),
-                 .note = Widen(parent.Attribute("description")), .picture = parent.Attribute("imageMso"),
-                 .id = parent.id,  .enabled = IsEnabled(addIn, parent)},
+            Add({.kind = ItemKind::Task,
+                 .label = ShownLabel(addIn, parent),
+                 .note = Widen(parent.Attribute("description")),
+                 .picture = parent.Attribute("imageMso"),
+                 .id = parent.id,
+                 .enabled = IsEnabled(addIn, parent)},
                 {left, m_y, left + Px(380), m_y + Px(52)});
             m_y += Px(58);
         }

@@ -38,8 +38,7 @@ public:
         bool heading = true;
         for (const SceneGroup& group : scene.groups) {
             Write(m_dc, group.box, group.label, heading ? m_theme.Heading() : m_theme.Bold(), kText, kLeft);
-            if (!heading)
-                Fill(m_dc, {group.box.left, group.box.bottom, group.box.right, group.box.bottom + 1}, kLine);
+            if (!heading) Fill(m_dc, {group.box.left, group.box.bottom, group.box.right, group.box.bottom + 1}, kLine);
             heading = false;
         }
         Items(scene);
@@ -52,15 +51,29 @@ private:
     {
         for (const SceneItem& item : scene.items) {
             switch (item.kind) {
-            case ItemKind::FileTab: FileTab(item); break;
-            case ItemKind::OfficeButton: OfficeButton(item); break;
-            case ItemKind::Tab: Tab(item); break;
+            case ItemKind::FileTab:
+                FileTab(item);
+                break;
+            case ItemKind::OfficeButton:
+                OfficeButton(item);
+                break;
+            case ItemKind::Tab:
+                Tab(item);
+                break;
             case ItemKind::LargeButton:
-            case ItemKind::MenuButton: Button(item); break;
-            case ItemKind::BackArrow: BackArrow(item); break;
+            case ItemKind::MenuButton:
+                Button(item);
+                break;
+            case ItemKind::BackArrow:
+                BackArrow(item);
+                break;
             case ItemKind::BackstageCommand:
-            case ItemKind::BackstagePage: Navigation(item); break;
-            case ItemKind::Task: Task(item); break;
+            case ItemKind::BackstagePage:
+                Navigation(item);
+                break;
+            case ItemKind::Task:
+                Task(item);
+                break;
             }
         }
     }

@@ -1,0 +1,28 @@
+# The commands for a person. Each first installs what the machine lacks.
+ARCH ?= x64
+
+.PHONY: all demo test check sandbox packages clean
+
+all: packages
+	@for preset in x64 x86 native; do \
+	  [ -e build/$$preset/build.ninja ] || cmake --preset $$preset >/dev/null || exit 1; \
+	  ninja -C build/$$preset --quiet || exit 1; \
+	done
+
+packages:
+	@tools/install-packages
+
+demo: all
+	sandbox/demo
+
+test: all
+	tests/run $(ARCH)
+
+check: all
+	tools/check
+
+sandbox: all
+	sandbox/open
+
+clean:
+	rm -rf build

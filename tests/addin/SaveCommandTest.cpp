@@ -1,0 +1,104 @@
+#include "addin/SaveCommand.h"
+
+#include <gtest/gtest.h>
+
+namespace corvane
+{
+namespace
+{
+
+struct CommandCase
+{
+    const char* name;
+    const SaveCommand& command;
+    std::int32_t DocumentBinding::*id;
+    std::int32_t value;
+    bool skipsTree;
+    bool hasTarget;
+};
+
+const CommandCase kCases[] = {
+    {"Deliverable", kSaveAssignment, &DocumentBinding::deliverableId, 1, true, true},
+    {"Activity", kSaveAssignment, &DocumentBinding::activityId, 1, true, true},
+    {"NegativeDeliverable", kSaveAssignment, &DocumentBinding::deliverableId, -1, false, false},
+    {"NegativeActivity", kSaveAssignment, &DocumentBinding::activityId, -1, false, false},
+    {"AssignmentOfAGateDocument", kSaveAssignment, &DocumentBinding::gateDocumentId, 1, false, false},
+    {"AssignmentOfAProject", kSaveAssignment, &DocumentBinding::projectId, 1, false, false},
+    {"GateDocument", kSaveGateDoc, &DocumentBinding::gateDocumentId, 1, true, true},
+    {"NegativeGateDocument", kSaveGateDoc, &DocumentBinding::gateDocumentId, -1, false, false},
+    {"GateDocumentOfADeliverable", kSaveGateDoc, &DocumentBinding::deliverableId, 3, false, false},
+    {"RelatedDocument", kSaveRelatedDoc, &DocumentBinding::relatedFileId, 1, true, true},
+    {"NegativeRelatedDocumentCounts", kSaveRelatedDoc, &DocumentBinding::relatedFileId, -1, true, true},
+    {"NewRelatedDocumentOfAProject", kSaveRelatedDoc, &DocumentBinding::projectId, 12, false, true},
+    {"RelatedDocumentOfANegativeProject", kSaveRelatedDoc, &DocumentBinding::projectId, -1, false, true},
+    {"RelatedDocumentOfADeliverable", kSaveRelatedDoc, &DocumentBinding::deliverableId, 3, false, false},
+};
+
+DocumentBinding FullBinding() { return {L"http://host", 12, 45, 678, 4, 9, 0, 0}; }
+
+} // namespace
+
+TEST(SaveCommand, LooksForItsOwnIdsInTheBinding)
+{
+    for (const CommandCase& item : kCases) {
+        SCOPED_TRACE(item.name);
+        DocumentBinding binding;
+        binding.*item.id = item.value;
+        EXPECT_FALSE(item.command.skipsTree(binding)) << "without a server";
+        EXPECT_FALSE(item.command.hasTarget(binding)) << "without a server";
+        binding.server = L"http://host";
+        EXPECT_EQ(item.command.skipsTree(binding), item.skipsTree);
+        EXPECT_EQ(item.command.hasTarget(binding), item.hasTarget);
+    }
+}
+
+TEST(SaveCommand, StartsTheTreeAtTheBoundTargetExceptForARelatedDocument)
+{
+    const DocumentBinding assignment = kSaveAssignment.startOf(FullBinding());
+    EXPECT_EQ(assignment.server, L"http://host");
+    EXPECT_EQ(assignment.projectId, 12);
+    EXPECT_EQ(assignment.deliverableId, 45);
+    EXPECT_EQ(assignment.activityId, 678);
+    EXPECT_EQ(kSaveGateDoc.startOf(FullBinding()).projectId, 12);
+    EXPECT_EQ(kSaveGateDoc.startOf(FullBinding()).gateDocumentId, 9);
+
+    const DocumentBinding related = kSaveRelatedDoc.startOf(FullBinding());
+    EXPECT_EQ(related.server, L"http://host");
+    EXPECT_EQ(related.projectId, 0);
+    EXPECT_EQ(related.relatedFileId, 0);
+}
+
+TEST(SaveCommand, HasTheNumbersOfItsTreeAndItsBusyWindow)
+{
+    using Numbers = std::pair<std::int32_t, std::int32_t>;
+    const auto numbersOf = [](const SaveCommand& command) { return Numbers{command.dialogType, command.methodType}; };
+    EXPECT_EQ(numbersOf(kSaveAssignment), (Numbers{0, 0}));
+    EXPECT_EQ(numbersOf(kSaveGateDoc), (Numbers{2, 1}));
+    EXPECT_EQ(numbersOf(kSaveRelatedDoc), (Numbers{1, 2}));
+}
+
+struct ControlCase
+{
+    const wchar_t* id;
+    RibbonCommand expected;
+};
+
+TEST(RibbonCommand, IsFoundByTheExactIdOfItsControl)
+{
+    constexpr ControlCase kControls[] = {
+        {L"DelivAct", RibbonCommand::SaveAssignment},
+        {L"Related", RibbonCommand::SaveRelatedDoc},
+        {L"GateDoc", RibbonCommand::SaveGateDoc},
+        {L"CorvaneOfficeHelp", RibbonCommand::HelpTopics},
+        {L"AboutCorvaneOffice", RibbonCommand::HelpAbout},
+        {L"delivact", RibbonCommand::None},
+        {L"GATEDOC", RibbonCommand::None},
+        {L"Related ", RibbonCommand::None},
+        {L"SaveToCorvane", RibbonCommand::None},
+        {L"", RibbonCommand::None},
+    };
+    for (const auto& [id, expected] : kControls)
+        EXPECT_EQ(RibbonCommandOf(id), expected) << testing::PrintToString(id);
+}
+
+} // namespace corvane

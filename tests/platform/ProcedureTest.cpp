@@ -1,0 +1,122 @@
+#include "platform/Procedure.h"
+
+#include <gtest/gtest.h>
+#include <new>
+#include <stdexcept>
+#include <vector>
+
+namespace corvane
+{
+namespace
+{
+
+class Recorder : public ProcedureWatch
+{
+public:
+    Recorder() { SetProcedureWatch(this); }
+    ~Recorder() override { SetProcedureWatch(nullptr); }
+
+    void Enter(std::wstring_view procedure) noexcept override { Add(L"enter", procedure); }
+    void Leave(std::wstring_view procedure) noexcept override { Add(L"leave", procedure); }
+    void Report(const Error& error) noexcept override { Add(L"report", std::to_wstring(error.Number())); }
+
+    std::vector<std::wstring> heard;
+
+private:
+    void Add(const wchar_t* what, std::wstring_view of)
+    {
+        heard.push_back(std::wstring{what} + L" " + std::wstring{of});
+    }
+};
+
+using Heard = std::vector<std::wstring>;
+
+[[noreturn]] void Fail() { throw Error{225, L"Source", L"Description"}; }
+
+} // namespace
+
+TEST(HostBoundary, ReportsAnErrorOnceInsideItsScope)
+{
+    Recorder recorder;
+    bool ranOn = false;
+    AtHostBoundary(L"Outer", [&] {
+        AtHostBoundary(L"Inner", [] { Fail(); });
+        ranOn = true;
+    });
+    EXPECT_TRUE(ranOn);
+    EXPECT_EQ(recorder.heard, (Heard{L"enter Outer", L"enter Inner", L"report 225", L"leave Inner", L"leave Outer"}));
+}
+
+TEST(HostBoundary, ClosesEveryScopeThatAnErrorPasses)
+{
+    Recorder recorder;
+    AtHostBoundary(L"Outer", [] {
+        const ProcedureScope scope{L"Inner"};
+        Fail();
+    });
+    EXPECT_EQ(recorder.heard, (Heard{L"enter Outer", L"enter Inner", L"leave Inner", L"report 225", L"leave Outer"}));
+}
+
+TEST(HostBoundary, ReportsWithoutAScopeOrNotAtAllWhereAsked)
+{
+    Recorder recorder;
+    Reporting([] { Fail(); });
+    Ignoring([] { Fail(); });
+    Reporting([] {});
+    EXPECT_EQ(recorder.heard, Heard{L"report 225"});
+}
+
+TEST(HostBoundary, HoldsWithoutAWatch)
+{
+    bool ran = false;
+    AtHostBoundary(L"Alone", [&] {
+        ran = true;
+        Fail();
+    });
+    EXPECT_TRUE(ran);
+}
+
+struct ForeignCase
+{
+    const char* name;
+    void (*body)();
+    std::int32_t number;
+    const wchar_t* description;
+};
+
+TEST(HostBoundary, MakesAnErrorOfEveryException)
+{
+    constexpr ForeignCase kCases[] = {
+        {"Own", [] { Fail(); }, 225, L"Description"},
+        {"OutOfMemory", [] { throw std::bad_alloc{}; }, 7, L"Out of memory"},
+        {"Standard", [] { throw std::runtime_error{"secret"}; }, 51, L"Internal error"},
+        {"NoObject", [] { throw 5; }, 51, L"Internal error"},
+    };
+    for (const auto& item : kCases) {
+        SCOPED_TRACE(item.name);
+        const auto error = Catch(item.body);
+        ASSERT_TRUE(error.has_value());
+        EXPECT_EQ(error->Number(), item.number);
+        EXPECT_EQ(error->Description(), item.description);
+    }
+    EXPECT_FALSE(Catch([] {}).has_value());
+}
+
+struct ResultCase
+{
+    std::uint32_t result;
+    std::uint32_t number;
+};
+
+TEST(ErrorNumber, IsTheScriptsNumberOfAnAutomationError)
+{
+    constexpr ResultCase kCases[] = {
+        {0x800A011FU, 287},         {0x800A005EU, 94},          {0x800AFFFFU, 0xFFFF},      {0x80004005U, 0x80004005U},
+        {0x8004C6A3U, 0x8004C6A3U}, {0x000A005BU, 0x000A005BU}, {0x800B0001U, 0x800B0001U}, {0, 0},
+    };
+    for (const auto& [result, number] : kCases)
+        EXPECT_EQ(ErrorNumberOf(static_cast<std::int32_t>(result)), static_cast<std::int32_t>(number))
+            << std::hex << result;
+}
+
+} // namespace corvane

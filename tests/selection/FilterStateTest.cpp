@@ -1,0 +1,64 @@
+#include "selection/FilterState.h"
+
+#include <gtest/gtest.h>
+#include <optional>
+
+namespace corvane
+{
+
+struct OutcomeCase
+{
+    const char* name;
+    AppliedFilter filter;
+    AppliedFilter lastApplied;
+    bool canceled;
+    bool active;
+    bool changed;
+};
+
+TEST(FilterState, IsActiveWhenItNarrowsAndChangedAgainstTheLastAppliedOne)
+{
+    const OutcomeCase kCases[] = {
+        {"NothingChosen", {L"", 0, 0}, {}, false, false, false},
+        {"TextChosen", {L"Apollo", 0, 0}, {}, false, true, true},
+        {"BlankIsAText", {L" ", 0, 0}, {}, false, true, true},
+        {"ClassChosen", {L"", 4, 2}, {}, false, true, true},
+        {"SameAgain", {L"Apollo", 4, 2}, {L"Apollo", 4, 2}, false, true, false},
+        {"SameClassElsewhereInTheList", {L"", 4, 3}, {L"", 4, 2}, false, true, false},
+        {"OtherLetterCase", {L"apollo", 0, 0}, {L"Apollo", 0, 0}, false, true, true},
+        {"Cleared", {L"", 0, 0}, {L"Apollo", 4, 2}, false, false, true},
+        {"CancelledChangesNothing", {L"Apollo", 0, 0}, {}, true, true, false},
+    };
+    for (const OutcomeCase& item : kCases) {
+        SCOPED_TRACE(item.name);
+        const FilterOutcome outcome = OutcomeOf(item.filter, item.lastApplied, item.canceled);
+        EXPECT_EQ(outcome.active, item.active);
+        EXPECT_EQ(outcome.changed, item.changed);
+        EXPECT_EQ(outcome.canceled, item.canceled);
+    }
+}
+
+struct LimitCase
+{
+    const char* name;
+    std::size_t projects;
+    std::optional<FilterOutcome> forced;
+    LimitStep expected;
+};
+
+TEST(FilterState, IsForcedByMoreThanFiveHundredProjects)
+{
+    constexpr LimitCase kCases[] = {
+        {"NoProject", 0, std::nullopt, LimitStep::Proceed},
+        {"AtTheLimit", 500, std::nullopt, LimitStep::Proceed},
+        {"PastTheLimit", 501, std::nullopt, LimitStep::ForceFilter},
+        {"FilterChanged", 501, FilterOutcome{true, true, false}, LimitStep::AskAgain},
+        {"FilterClearedAgain", 501, FilterOutcome{false, true, false}, LimitStep::AskAgain},
+        {"FilterLeftAsItWas", 501, FilterOutcome{true, false, false}, LimitStep::GiveUp},
+        {"FilterCancelled", 501, FilterOutcome{true, false, true}, LimitStep::GiveUp},
+    };
+    for (const auto& [name, projects, forced, expected] : kCases)
+        EXPECT_EQ(NextLimitStep(projects, forced ? &*forced : nullptr), expected) << name;
+}
+
+} // namespace corvane

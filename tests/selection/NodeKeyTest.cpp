@@ -1,0 +1,98 @@
+#include "selection/NodeKey.h"
+
+#include <array>
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace corvane
+{
+namespace
+{
+
+constexpr const wchar_t* kLargest = L"2147483647";
+
+struct KeyCase
+{
+    const char* name;
+    TreeMode mode;
+    std::vector<const wchar_t*> ids; // from the project down
+    const wchar_t* key;
+    std::array<std::int32_t, 5> target; // project, deliverable, activity, related document, gate document
+};
+
+// The levels' keys below each other, as the tree makes them.
+std::wstring KeyOf(TreeMode mode, const std::vector<const wchar_t*>& ids)
+{
+    std::wstring key;
+    for (std::size_t level = 0; level < ids.size(); ++level)
+        key = NodeKey(key, TreeLevels(mode)[level], ids[level]);
+    return key;
+}
+
+std::wstring LevelText(const TreeLevel& level)
+{
+    return std::wstring{level.element} + L" " + level.marker + L" " + level.idAttribute + L" " +
+           (level.iconKind != nullptr ? level.iconKind : std::to_wstring(level.image));
+}
+
+} // namespace
+
+TEST(NodeKey, GivesBackTheIdsOfATarget)
+{
+    const KeyCase kCases[] = {
+        {"Deliverable", TreeMode::Assignment, {L"12", L"3", L"45"}, L"p12s3d45", {12, 45}},
+        {"Activity", TreeMode::Assignment, {L"12", L"3", L"45", L"678"}, L"p12s3d45a678", {12, 45, 678}},
+        {"NewRelatedDocument", TreeMode::RelatedDocument, {L"12", L"0"}, L"p12rd0", {12}},
+        {"RelatedDocument", TreeMode::RelatedDocument, {L"12", L"907"}, L"p12rd907", {12, 0, 0, 907}},
+        {"GateDocument", TreeMode::GateDocument, {L"12", L"3", L"45"}, L"p12g3gd45", {12, 0, 0, 0, 45}},
+        {"LargestIds",
+         TreeMode::RelatedDocument,
+         {kLargest, kLargest},
+         L"p2147483647rd2147483647",
+         {2147483647, 0, 0, 2147483647}},
+    };
+    for (const KeyCase& item : kCases) {
+        SCOPED_TRACE(item.name);
+        EXPECT_EQ(KeyOf(item.mode, item.ids), item.key);
+        const auto target = TargetOfKey(item.mode, item.key);
+        ASSERT_TRUE(target.has_value());
+        const auto& [project, deliverable, activity, relatedDoc, gateDocument] = *target;
+        EXPECT_EQ((std::array{project, deliverable, activity, relatedDoc, gateDocument}), item.target);
+    }
+}
+
+TEST(NodeKey, IsNoTargetWithoutTheMarkerOfItsMode)
+{
+    for (const auto* key : {L"", L"p12", L"p12s3"})
+        EXPECT_FALSE(TargetOfKey(TreeMode::Assignment, key)) << testing::PrintToString(key);
+    for (const auto* key : {L"", L"p12", L"p12s3d45"})
+        EXPECT_FALSE(TargetOfKey(TreeMode::RelatedDocument, key)) << testing::PrintToString(key);
+    for (const auto* key : {L"", L"p12", L"p12g3", L"p12rd4"})
+        EXPECT_FALSE(TargetOfKey(TreeMode::GateDocument, key)) << testing::PrintToString(key);
+}
+
+struct LevelsCase
+{
+    TreeMode mode;
+    std::vector<std::wstring> expected;
+};
+
+TEST(NodeKey, TakesItsLevelsFromTheModesDocument)
+{
+    const LevelsCase kCases[] = {
+        {TreeMode::Assignment,
+         {L"project p pid project", L"stage s phaseid stage", L"deliverable d deliverableid 1",
+          L"activity a activityid 2"}},
+        {TreeMode::RelatedDocument, {L"project p pid project", L"relatedfile rd id 3"}},
+        {TreeMode::GateDocument,
+         {L"project p pid project", L"gate g phaseid gate", L"gateDocument gd gateDocumentID 4"}},
+    };
+    for (const auto& [mode, expected] : kCases) {
+        std::vector<std::wstring> levels;
+        for (const TreeLevel& level : TreeLevels(mode))
+            levels.push_back(LevelText(level));
+        EXPECT_EQ(levels, expected);
+    }
+}
+
+} // namespace corvane

@@ -1,0 +1,63 @@
+#include "selection/ServerList.h"
+
+#include <gtest/gtest.h>
+
+namespace corvane
+{
+
+using Urls = std::vector<std::wstring>;
+
+struct MoveCase
+{
+    const char* name;
+    Urls before;
+    const wchar_t* url;
+    Urls after;
+};
+
+TEST(ServerList, PutsTheLatestAddressFirst)
+{
+    const MoveCase kCases[] = {
+        {"KnownOneFromTheMiddle", {L"A", L"B", L"C", L"D", L"E"}, L"C", {L"C", L"A", L"B", L"D", L"E"}},
+        {"KnownOneFromTheEnd", {L"A", L"B", L"C"}, L"C", {L"C", L"A", L"B"}},
+        {"FirstStaysFirst", {L"A", L"B", L"C"}, L"A", {L"A", L"B", L"C"}},
+        {"NewOnePushesTheLastOut", {L"A", L"B", L"C", L"D", L"E"}, L"F", {L"F", L"A", L"B", L"C", L"D"}},
+        {"OtherLetterCaseIsAnother", {L"http://a", L"", L""}, L"http://A", {L"http://A", L"http://a", L""}},
+        {"TrailingSlashIsAnother", {L"http://a", L"", L""}, L"http://a/", {L"http://a/", L"http://a", L""}},
+        {"FirstOfTwoEqual", {L"A", L"B", L"C", L"B"}, L"B", {L"B", L"A", L"C", L"B"}},
+        {"EmptyIsAnAddressLikeAnother", {L"A", L"", L"B", L""}, L"", {L"", L"A", L"B", L""}},
+        {"HolesStay", {L"A", L"", L"B"}, L"B", {L"B", L"A", L""}},
+        {"ListOfOne", {L"A"}, L"B", {L"B"}},
+        {"ListOfNone", {}, L"B", {}},
+    };
+    for (const MoveCase& item : kCases) {
+        Urls urls = item.before;
+        MoveToFront(urls, item.url);
+        EXPECT_EQ(urls, item.after) << item.name;
+    }
+}
+
+struct AddressCase
+{
+    const wchar_t* given;
+    const wchar_t* expected;
+};
+
+TEST(ServerList, BringsAnAddressIntoItsForm)
+{
+    constexpr AddressCase kCases[] = {
+        {L"  Host.Example/Path ", L"http://host.example/path"},
+        {L"HTTPS://Host", L"https://host"},
+        {L"http://Host:8080/", L"http://host:8080/"},
+        {L"//Host", L"http://host"},
+        {L"/host", L"http:///host"},
+        {L"ftp://host", L"http://ftp://host"},
+        {L"https:host", L"http://https:host"},
+        {L"httpserver", L"http://httpserver"},
+        {L"", L"http://"},
+    };
+    for (const auto& [given, expected] : kCases)
+        EXPECT_EQ(VerifyServerURL(given), expected) << testing::PrintToString(given);
+}
+
+} // namespace corvane

@@ -1,0 +1,83 @@
+#include "shared/DocumentNames.h"
+
+#include <gtest/gtest.h>
+
+namespace corvane
+{
+
+struct NameCase
+{
+    const wchar_t* given;
+    const wchar_t* expected;
+};
+
+TEST(DocumentNames, FindTheExtensionInTheLastPartOfAPath)
+{
+    constexpr NameCase kCases[] = {
+        {L"C:\\decks\\plan.pptx", L".pptx"},     {L"plan.v2.PPT", L".PPT"}, {L"C:\\decks.old\\plan", L""},
+        {L"https://host/a.b/plan", L""},         {L"plan.", L""},           {L"", L""},
+        {L"https://host/a/plan.pptm", L".pptm"}, {L".pptx", L".pptx"},
+    };
+    for (const auto& [given, expected] : kCases)
+        EXPECT_EQ(ExtensionOf(given), expected) << testing::PrintToString(given);
+}
+
+TEST(DocumentNames, GiveATitleADefaultExtensionOnlyWhereItHasNone)
+{
+    EXPECT_EQ(TitleWithExtension(L"Presentation1", L".pptx"), L"Presentation1.pptx");
+    EXPECT_EQ(TitleWithExtension(L"plan.ppt", L".pptx"), L"plan.ppt");
+}
+
+struct UploadNameCase
+{
+    const char* name;
+    const wchar_t* title;
+    const wchar_t* path;
+    const wchar_t* expected;
+};
+
+TEST(DocumentNames, PutTheSavedExtensionBehindATitleThatDoesNotHoldIt)
+{
+    constexpr UploadNameCase kCases[] = {
+        {"WithoutExtension", L"plan", L"C:\\d\\plan.pptx", L"plan.pptx"},
+        {"WithTheSame", L"plan.pptx", L"C:\\d\\plan.pptx", L"plan.pptx"},
+        {"InAnotherLetterCase", L"Plan.PPTX", L"C:\\d\\plan.pptx", L"Plan.PPTX"},
+        {"InTheMiddle", L"plan.pptx (copy)", L"C:\\d\\x.pptx", L"plan.pptx (copy)"},
+        {"AsTheStartOfALongerOne", L"plan.pptx", L"C:\\d\\plan.ppt", L"plan.pptx"},
+        {"WithAnother", L"plan.ppt", L"C:\\d\\plan.pptx", L"plan.ppt.pptx"},
+        {"OnlyTheLastOfThePath", L"plan", L"C:\\d\\plan.v2.odp", L"plan.odp"},
+    };
+    for (const auto& item : kCases)
+        EXPECT_EQ(UploadNameOf(item.title, item.path), item.expected) << item.name;
+}
+
+TEST(DocumentNames, ReplaceWhatAFileNameCannotHold)
+{
+    EXPECT_EQ(AsFileName(L"Q1/Q2: \"plan\"?\t<a>|*\\"), L"Q1_Q2_ _plan____a____");
+    EXPECT_EQ(AsFileName(L"r\xE9sum\xE9 \x20AC.pptx"), L"r\xE9sum\xE9 \x20AC.pptx");
+}
+
+struct PlaceCase
+{
+    const char* name;
+    const wchar_t* path;
+    const wchar_t* fullName;
+    bool readOnly;
+    DiskSave expected;
+};
+
+TEST(DocumentNames, PlanHowADocumentGetsToDisk)
+{
+    constexpr PlaceCase kCases[] = {
+        {"Saved", L"C:\\d", L"C:\\d\\plan.pptx", false, DiskSave::InPlace},
+        {"ReadOnly", L"C:\\d", L"C:\\d\\plan.pptx", true, DiskSave::TemporaryCopy},
+        {"NeverSaved", L"", L"Presentation1", false, DiskSave::InDocuments},
+        {"InTheCloud", L"https://host/d", L"https://host/d/plan.pptx", false, DiskSave::TemporaryCopy},
+        {"InTheCloudInCapitals", L"", L"HTTP://HOST/plan.pptx", false, DiskSave::TemporaryCopy},
+        {"NamedLikeAnAddress", L"C:\\d", L"C:\\d\\https.pptx", false, DiskSave::InPlace},
+    };
+    for (const auto& item : kCases)
+        EXPECT_EQ(PlanDiskSave({item.path, item.fullName, item.readOnly}), item.expected) << item.name;
+}
+
+} // namespace corvane

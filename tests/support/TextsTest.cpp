@@ -1,0 +1,69 @@
+#include "platform/Error.h"
+#include "support/ErrorReport.h"
+#include "support/TraceText.h"
+#include "support/VersionText.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+
+namespace corvane
+{
+namespace
+{
+constexpr LocalTime kMorning{2013, 7, 4, 9, 5, 3};
+}
+
+TEST(TraceText, NamesTheFileByItsTimeWithoutLeadingZeros)
+{
+    EXPECT_EQ(TraceFileName(L"AddIn", kMorning), L"AddIn_2013_7_4__9_5_3.log");
+    EXPECT_EQ(TraceFileName(L"AddIn", {2024, 12, 31, 23, 59, 0}), L"AddIn_2024_12_31__23_59_0.log");
+}
+
+struct LineCase
+{
+    const char* name;
+    std::int32_t level;
+    std::int32_t extraIndent;
+    const wchar_t* text;
+    const wchar_t* expected;
+};
+
+TEST(TraceText, IndentsALineByTheExtraIndentAndOneMoreThanItsLevel)
+{
+    constexpr LineCase kCases[] = {
+        {"Outermost", 0, 0, L"--> A", L"\t\t--> A"},
+        {"Nested", 2, 0, L"x = ", L"\t\t\t\tx = "},
+        {"ExtraIndent", 1, 2, L"x", L"\t\t\t\t\tx"},
+        {"NegativeIndentCountsAsNone", 0, -3, L"x", L"\t\tx"},
+        {"SmallestIndentCountsAsNone", 0, std::numeric_limits<std::int32_t>::min(), L"x", L"\t\tx"},
+        {"DriftedLevelHasNoTabs", -1, 0, L"x", L"\tx"},
+        {"FarDriftedLevelHasNoTabs", std::numeric_limits<std::int32_t>::min(), 1, L"", L"\t\t"},
+    };
+    for (const auto& item : kCases) {
+        EXPECT_EQ(TraceLine(kMorning, item.level, item.extraIndent, item.text),
+                  std::wstring{L"2013-07-04 09:05:03"} + item.expected)
+            << item.name;
+    }
+}
+
+TEST(TraceText, WritesAnErrorAsOneBlock)
+{
+    EXPECT_EQ(TraceErrorBlock(-2147221504, L"No access", L"CUser"),
+              L"ERROR HAS OCCURED\r\n\r\n\tNumber = -2147221504\r\n\tDescription = No access\r\n\tSource = CUser\r\n");
+}
+
+TEST(ErrorReport, ShowsNumberDescriptionAndSource)
+{
+    EXPECT_EQ(ErrorReportText({225, L"UpdateUserLog", L"Invalid URL."}),
+              L"ERROR\r\nNumber: 225\r\nDescription: Invalid URL.\r\nSource: UpdateUserLog");
+}
+
+TEST(VersionText, PadsTheMinorNumberOnly)
+{
+    EXPECT_EQ(VersionText(8, 50, 100), L"Version 8.50.100");
+    EXPECT_EQ(VersionText(8, 5, 7), L"Version 8.05.7");
+    EXPECT_EQ(VersionText(10, 123, 0), L"Version 10.123.0");
+    EXPECT_EQ(VersionText(0, 0, 0), L"Version 0.00.0");
+}
+
+} // namespace corvane
