@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cwctype>
 #include <limits>
 
 namespace corvane
@@ -63,6 +62,36 @@ std::optional<double> BitsIn(std::wstring_view digits, std::uint32_t base)
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(bits));
 }
 
+// Capitals of Unicode in runs: every step-th from first to last has its small letter offset further on.
+struct CapitalRun
+{
+    std::uint32_t first;
+    std::uint32_t last;
+    std::uint32_t step;
+    std::int32_t offset;
+};
+constexpr CapitalRun kCapitals[] = {
+    {U'A', U'Z', 1, 32},         {0x00C0, 0x00D6, 1, 32},     {0x00D8, 0x00DE, 1, 32}, // Latin
+    {0x0100, 0x012E, 2, 1},      {0x0132, 0x0136, 2, 1},      {0x0139, 0x0147, 2, 1}, // with further accents
+    {0x014A, 0x0176, 2, 1},      {0x0178, 0x0178, 1, -0x79},  {0x0179, 0x017D, 2, 1},
+    {0x0386, 0x0386, 1, 38},     {0x0388, 0x038A, 1, 37},     {0x038C, 0x038C, 1, 64}, // Greek
+    {0x038E, 0x038F, 1, 63},     {0x0391, 0x03A1, 1, 32},     {0x03A3, 0x03AB, 1, 32},
+    {0x0400, 0x040F, 1, 80},     {0x0410, 0x042F, 1, 32},     {0x0460, 0x0480, 2, 1}, // Cyrillic
+    {0x048A, 0x04BE, 2, 1},      {0x04C1, 0x04CD, 2, 1},      {0x04D0, 0x052E, 2, 1},
+    {0x1E00, 0x1E94, 2, 1},      {0x1EA0, 0x1EFE, 2, 1}, // Latin of Vietnamese and others
+};
+
+wchar_t LowerOf(wchar_t letter)
+{
+    const auto code = static_cast<std::uint32_t>(letter);
+    for (const auto& [first, last, step, offset] : kCapitals)
+    {
+        if (code >= first && code <= last && (code - first) % step == 0)
+            return static_cast<wchar_t>(static_cast<std::int32_t>(code) + offset);
+    }
+    return letter;
+}
+
 } // namespace
 
 std::optional<double> NumberIn(std::wstring_view text)
@@ -108,8 +137,7 @@ std::wstring Trim(std::wstring_view text) { return std::wstring{Stripped(text, L
 std::wstring ToLower(std::wstring_view text)
 {
     std::wstring lower{text};
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](wchar_t letter) { return static_cast<wchar_t>(std::towlower(static_cast<wint_t>(letter))); });
+    std::transform(lower.begin(), lower.end(), lower.begin(), LowerOf);
     return lower;
 }
 

@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "FakeForm.h"
+#include "LateBound.h"
 #include "automation/EventSource.h"
 #include "automation/OfficeInterfaces.h"
 
@@ -28,22 +29,6 @@ std::wstring Environment(const wchar_t* name)
 {
     const wchar_t* value = ::_wgetenv(name);
     return value ? value : L"";
-}
-
-Value CallByName(IDispatch& object, const wchar_t* name, WORD flags, std::vector<Value> arguments = {})
-{
-    DISPID id = 0;
-    auto* text = const_cast<LPOLESTR>(name);
-    ThrowIfFailed(object.GetIDsOfNames(IID_NULL, &text, 1, 0, &id), name);
-    std::vector<VARIANT> reversed;
-    for (auto at = arguments.rbegin(); at != arguments.rend(); ++at)
-        reversed.push_back(at->Get());
-    DISPID put = DISPID_PROPERTYPUT;
-    const bool isPut = flags == DISPATCH_PROPERTYPUT;
-    DISPPARAMS parameters{reversed.data(), isPut ? &put : nullptr, static_cast<UINT>(reversed.size()), isPut ? 1u : 0u};
-    Value result;
-    ThrowIfFailed(object.Invoke(id, IID_NULL, 0, flags, &parameters, result.Put(), nullptr, nullptr), name);
-    return result;
 }
 
 // Listens to the one button of the fake menu.

@@ -165,12 +165,79 @@ TEST_F(PlayTest, PressesCommandBarsOfVersionElevenByTheirTag)
                       L"--version 11.0"));
 }
 
-TEST_F(PlayTest, ReportsTheFailedStepWithWhatIsThereInstead)
+struct FailingStep
 {
-    const Outcome outcome = Play(std::string{kOpenForm} + "message \"not this\" OK\n", L"--set patience=1");
-    ExpectFailed(outcome, "play.txt:5: message \"not this\" OK");
+    const char* name;
+    const char* step;
+    const char* reason;
+};
+
+class FailingStepTest : public PlayTest, public testing::WithParamInterface<FailingStep>
+{};
+
+TEST_P(FailingStepTest, IsReportedWithWhatIsThereInstead)
+{
+    const Outcome outcome =
+        Play(std::string{kOpenForm} + "press cmdGo\n" + GetParam().step + "\n", L"--set patience=1");
+    ExpectFailed(outcome, std::string{"play.txt:6: "} + GetParam().step);
+    EXPECT_NE(outcome.output.find(GetParam().reason), std::string::npos) << outcome.output;
     EXPECT_NE(outcome.output.find("frmSaveTo \"Fake form\""), std::string::npos) << outcome.output;
     EXPECT_NE(outcome.output.find("txtName Edit \"old name\""), std::string::npos) << outcome.output;
+}
+
+constexpr FailingStep kFailingSteps[] = {
+    {"NoMessage", "message \"not this\" OK", "no message is open"},
+    {"WrongText", "expect txtName \"new\"", "it is \"old name\""},
+    {"TextInAnotherCase", "expect txtName \"Old name\"", "it is \"old name\""},
+    {"WrongState", "expect cmdOK enabled", "it is not enabled"},
+    {"NotDefault", "expect cmdCancel default", "it is not default"},
+    {"DisabledButton", "press cmdOK", "cmdOK is disabled"},
+    {"MissingControl", "press txtGate", "no txtGate in frmSaveTo"},
+    {"UnknownControl", "press cmdNowhere", "no control is named cmdNowhere"},
+    {"MissingNode", "select TreeView1 \"Apollo/Nowhere\"", "there is \"Business case\", \"Risk/Reward\""},
+    {"MissingEntry", "choose ClassList \"Middle\"", "the list has no entry"},
+    {"MissingWindow", "window frmFilter", "no window frmFilter"},
+    {"OpenWindow", "closed frmSaveTo", "the window frmSaveTo is open"},
+    {"MissingProperty", "property Node \"x\"", "no property Node"},
+    {"MacroNotRun", "ran \"Fake.BeforeSave\"", "the macro was not run"},
+    {"FileMissing", "file exists \"${FOLDER}\\nothing*.pptx\"", "there is no such file"},
+    {"NoMail", "mail To \"x\"", "no mail"},
+    {"UnknownCommand", "command Nowhere", "no control Nowhere"},
+    {"QuitWhileAFormIsOpen", "quit", "a command is still running"},
+};
+
+INSTANTIATE_TEST_SUITE_P(PlayTest, FailingStepTest, testing::ValuesIn(kFailingSteps),
+                         [](const auto& given) { return std::string{given.param.name}; });
+
+TEST_F(PlayTest, ShowsTheTextOfAMessageThatDoesNotMatch)
+{
+    const Outcome outcome = Play("new\ncommand Hello\nmessage \"not this\" Yes\n", L"--set patience=1");
+    ExpectFailed(outcome, "the message is \"1 activations and 0 closed\"");
+}
+
+TEST_F(PlayTest, WritesShotsAndTheRibbonIntoItsFolder)
+{
+    ExpectPassed(Play("new\nshow File\nshot \"one\"\n", L"--out \"" + folder.Path() + L"\""));
+    const std::string picture = ReadWholeFile(folder.File(L"one.png"));
+    ASSERT_TRUE(picture.starts_with("\x89PNG")) << "no picture";
+    const auto width = static_cast<unsigned char>(picture[18]) * 256 + static_cast<unsigned char>(picture[19]);
+    EXPECT_EQ(width, ::GetSystemMetrics(SM_CXSCREEN));
+    EXPECT_NE(ReadWholeFile(folder.File(L"customUI.xml")).find("label=\"Fake &amp;&amp; Co\""), std::string::npos);
+}
+
+TEST_F(PlayTest, LoadsOnlyWhatIsToBeLoadedAtStart)
+{
+    RegistryKey::Create(HKEY_CURRENT_USER, std::wstring{kAddInKey} + test::kFakeProgId).SetNumber(L"LoadBehavior", 2);
+    const Outcome outcome = Play("expect addin absent\nnew\nquit\n");
+    ExpectPassed(outcome);
+    EXPECT_NE(outcome.output.find("not to be loaded at start-up"), std::string::npos) << outcome.output;
+}
+
+TEST_F(PlayTest, ReportsALibraryThatIsMissing)
+{
+    RegistryKey::Create(HKEY_CURRENT_USER, std::wstring{kClasses} + L"CLSID\\" + test::kFakeClass + L"\\InprocServer32")
+        .SetText(nullptr, L"C:\\nowhere\\fake.dll");
+    ExpectFailed(Play("new\nquit\n"), "its library C:\\nowhere\\fake.dll could not be loaded");
 }
 
 TEST_F(PlayTest, FailsWhenACallbackIsMissing)

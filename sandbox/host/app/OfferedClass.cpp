@@ -16,7 +16,7 @@ std::wstring TextOf(REFCLSID classId)
 
 } // namespace
 
-// Owned by COM's table of class objects.
+// Belongs to the offered class, which outlives COM's use of it; the count is not kept.
 class OfferedClass::Factory final : public IClassFactory
 {
 public:
@@ -27,35 +27,25 @@ public:
     {
         if (!object) return E_POINTER;
         *object = id == IID_IUnknown || id == IID_IClassFactory ? this : nullptr;
-        if (!*object) return E_NOINTERFACE;
-        AddRef();
-        return S_OK;
+        return *object ? S_OK : E_NOINTERFACE;
     }
-    STDMETHODIMP_(ULONG) AddRef() override { return ++m_references; }
-    STDMETHODIMP_(ULONG) Release() override
-    {
-        const ULONG left = --m_references;
-        if (left == 0) delete this;
-        return left;
-    }
+    STDMETHODIMP_(ULONG) AddRef() override { return 2; }
+    STDMETHODIMP_(ULONG) Release() override { return 1; }
     STDMETHODIMP CreateInstance(IUnknown* outer, REFIID id, void** object) override
     {
-        if (outer) return CLASS_E_NOAGGREGATION;
-        return m_create()->QueryInterface(id, object);
+        return outer ? CLASS_E_NOAGGREGATION : m_create()->QueryInterface(id, object);
     }
     STDMETHODIMP LockServer(BOOL) override { return S_OK; }
 
 private:
     std::function<ComPtr<IDispatch>()> m_create;
-    ULONG m_references = 1;
 };
 
 OfferedClass::OfferedClass(REFCLSID classId, std::wstring progId, std::function<ComPtr<IDispatch>()> create)
-    : m_classId{classId}, m_key{L"Software\\Classes\\" + progId}
+    : m_classId{classId}, m_key{L"Software\\Classes\\" + progId}, m_factory{
+                                                                      std::make_unique<Factory>(std::move(create))}
 {
-    ComPtr<IClassFactory> factory;
-    *factory.GetAddressOf() = new Factory{std::move(create)};
-    ThrowIfFailed(::CoRegisterClassObject(classId, factory.Get(), CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER,
+    ThrowIfFailed(::CoRegisterClassObject(classId, m_factory.get(), CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER,
                                           REGCLS_MULTIPLEUSE, &m_cookie),
                   L"A stand-in class cannot be offered.");
     CLSID found{};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "automation/AutomationObject.h"
@@ -30,6 +31,7 @@ private:
 
     CLSID m_classId;
     std::wstring m_key;
+    std::unique_ptr<Factory> m_factory;
     DWORD m_cookie = 0;
 };
 

@@ -8,6 +8,8 @@
 
 #include <zlib.h>
 
+#include "package/Bytes.h"
+
 namespace host
 {
 namespace
@@ -26,28 +28,13 @@ constexpr std::uint16_t kStored = 0;
 constexpr std::uint16_t kDeflated = 8;
 constexpr std::uint16_t kDosDate = (1 << 5) | 1; // 1 January 1980, as packages write it
 
-std::uint32_t ReadNumber(std::string_view bytes, std::size_t at, std::size_t width)
+std::uint32_t Read16(std::string_view bytes, std::size_t at)
 {
-    if (at > bytes.size() || bytes.size() - at < width) throw std::runtime_error{"the zip archive is cut short"};
-    std::uint32_t number = 0;
-    for (std::size_t i = width; i-- > 0;)
-        number = (number << 8) | static_cast<unsigned char>(bytes[at + i]);
-    return number;
+    return static_cast<std::uint32_t>(ReadNumber(bytes, at, 2));
 }
-
-std::uint32_t Read16(std::string_view bytes, std::size_t at) { return ReadNumber(bytes, at, 2); }
-std::uint32_t Read32(std::string_view bytes, std::size_t at) { return ReadNumber(bytes, at, 4); }
-
-void Append(std::string& out, std::uint32_t number, std::size_t width)
+std::uint32_t Read32(std::string_view bytes, std::size_t at)
 {
-    for (std::size_t i = 0; i < width; ++i, number >>= 8)
-        out += static_cast<char>(number & 0xff);
-}
-
-std::string_view Slice(std::string_view bytes, std::size_t at, std::size_t size)
-{
-    if (at > bytes.size() || bytes.size() - at < size) throw std::runtime_error{"the zip archive is cut short"};
-    return bytes.substr(at, size);
+    return static_cast<std::uint32_t>(ReadNumber(bytes, at, 4));
 }
 
 uInt ZlibSize(std::size_t size)
@@ -142,16 +129,16 @@ bool SameName(std::string_view a, std::string_view b)
 std::string CommonFields(const ZipEntry& entry, std::uint16_t method, std::size_t packedSize)
 {
     std::string out;
-    Append(out, kVersionNeeded, 2);
-    Append(out, kUtf8Names, 2);
-    Append(out, method, 2);
-    Append(out, 0, 2);
-    Append(out, kDosDate, 2);
-    Append(out, Checksum(entry.data), 4);
-    Append(out, ZlibSize(packedSize), 4);
-    Append(out, ZlibSize(entry.data.size()), 4);
-    Append(out, ZlibSize(entry.name.size()), 2);
-    Append(out, 0, 2);
+    AppendNumber(out, kVersionNeeded, 2);
+    AppendNumber(out, kUtf8Names, 2);
+    AppendNumber(out, method, 2);
+    AppendNumber(out, 0, 2);
+    AppendNumber(out, kDosDate, 2);
+    AppendNumber(out, Checksum(entry.data), 4);
+    AppendNumber(out, ZlibSize(packedSize), 4);
+    AppendNumber(out, ZlibSize(entry.data.size()), 4);
+    AppendNumber(out, ZlibSize(entry.name.size()), 2);
+    AppendNumber(out, 0, 2);
     return out;
 }
 
@@ -181,25 +168,25 @@ std::string Zip::Write() const
         const std::string& packed = smaller ? deflated : entry.data;
         const std::string fields = CommonFields(entry, smaller ? kDeflated : kStored, packed.size());
 
-        Append(directory, kCentralHeader, 4);
-        Append(directory, kVersionNeeded, 2);
+        AppendNumber(directory, kCentralHeader, 4);
+        AppendNumber(directory, kVersionNeeded, 2);
         directory += fields;
         directory.append(10, '\0'); // comment length, disk, internal and external attributes
-        Append(directory, ZlibSize(out.size()), 4);
+        AppendNumber(directory, ZlibSize(out.size()), 4);
         directory += entry.name;
 
-        Append(out, kLocalHeader, 4);
+        AppendNumber(out, kLocalHeader, 4);
         out += fields + entry.name + packed;
     }
     const std::size_t directoryAt = out.size();
     out += directory;
-    Append(out, kEndRecord, 4);
+    AppendNumber(out, kEndRecord, 4);
     out.append(4, '\0');
-    Append(out, ZlibSize(m_entries.size()), 2);
-    Append(out, ZlibSize(m_entries.size()), 2);
-    Append(out, ZlibSize(directory.size()), 4);
-    Append(out, ZlibSize(directoryAt), 4);
-    Append(out, 0, 2);
+    AppendNumber(out, ZlibSize(m_entries.size()), 2);
+    AppendNumber(out, ZlibSize(m_entries.size()), 2);
+    AppendNumber(out, ZlibSize(directory.size()), 4);
+    AppendNumber(out, ZlibSize(directoryAt), 4);
+    AppendNumber(out, 0, 2);
     return out;
 }
 

@@ -18,22 +18,14 @@ namespace
 constexpr DWORD kPaintPatience = 2000; // milliseconds
 constexpr DWORD kPaintPoll = 20;
 
+bool IsUnpainted(HWND window) { return ::IsWindowVisible(window) && ::GetUpdateRect(window, nullptr, FALSE); }
+
 // Whether any window of this process still waits to be painted.
 bool AwaitsPaint()
 {
-    for (HWND window : VisibleWindows()) {
-        bool waits = ::GetUpdateRect(window, nullptr, FALSE) != FALSE;
-        ::EnumChildWindows(
-            window,
-            [](HWND child, LPARAM result) -> BOOL {
-                if (::IsWindowVisible(child) && ::GetUpdateRect(child, nullptr, FALSE))
-                    *reinterpret_cast<bool*>(result) = true;
-                return TRUE;
-            },
-            reinterpret_cast<LPARAM>(&waits));
-        if (waits) return true;
-    }
-    return false;
+    return std::ranges::any_of(VisibleWindows(), [](HWND window) {
+        return IsUnpainted(window) || std::ranges::any_of(ChildrenOf(window), IsUnpainted);
+    });
 }
 
 std::vector<std::wstring> FilesMatching(const std::wstring& pattern)

@@ -16,17 +16,19 @@ namespace
 constexpr UINT kPatience = 1000; // milliseconds
 constexpr wchar_t kMessageBoxClass[] = L"#32770";
 
-std::vector<HWND> ChildrenOf(HWND window)
+using Windows = std::vector<HWND>;
+
+BOOL CALLBACK AddWindow(HWND window, LPARAM list)
 {
-    std::vector<HWND> children;
-    ::EnumChildWindows(
-        window,
-        [](HWND child, LPARAM list) -> BOOL {
-            reinterpret_cast<std::vector<HWND>*>(list)->push_back(child);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&children));
-    return children;
+    reinterpret_cast<Windows*>(list)->push_back(window);
+    return TRUE;
+}
+
+bool IsShownHere(HWND window)
+{
+    DWORD process = 0;
+    ::GetWindowThreadProcessId(window, &process);
+    return process == ::GetCurrentProcessId() && ::IsWindowVisible(window);
 }
 
 std::wstring WithoutMark(std::wstring text)
@@ -89,17 +91,17 @@ wchar_t* AnswerBuffer()
 
 std::vector<HWND> VisibleWindows()
 {
-    std::vector<HWND> windows;
-    ::EnumWindows(
-        [](HWND window, LPARAM list) -> BOOL {
-            DWORD process = 0;
-            ::GetWindowThreadProcessId(window, &process);
-            if (process == ::GetCurrentProcessId() && ::IsWindowVisible(window))
-                reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&windows));
+    Windows windows;
+    ::EnumWindows(AddWindow, reinterpret_cast<LPARAM>(&windows));
+    std::erase_if(windows, [](HWND window) { return !IsShownHere(window); });
     return windows;
+}
+
+std::vector<HWND> ChildrenOf(HWND window)
+{
+    Windows children;
+    ::EnumChildWindows(window, AddWindow, reinterpret_cast<LPARAM>(&children));
+    return children;
 }
 
 HWND FindForm(const std::wstring& className)

@@ -14,6 +14,7 @@ namespace host
 
 // The visible top-level windows of this process, the topmost first.
 [[nodiscard]] std::vector<HWND> VisibleWindows();
+[[nodiscard]] std::vector<HWND> ChildrenOf(HWND window); // at any depth
 
 // The visible window of this class, or null.
 [[nodiscard]] HWND FindForm(const std::wstring& className);

@@ -15,6 +15,7 @@ namespace
 constexpr wchar_t kClassName[] = L"CorvaneHostWindow";
 constexpr wchar_t kProductName[] = L"PowerPoint (stand-in)";
 constexpr int kRibbonVersion = 12;
+constexpr int kBackstageVersion = 14;
 constexpr WORD kIconId = 1;
 
 void RegisterWindowClass(WNDPROC procedure)
@@ -102,8 +103,11 @@ bool MainWindow::ShowPage(const std::wstring& page)
         CloseBackstage();
         return true;
     }
-    if (page == L"File" && m_host.Version() >= kRibbonVersion) {
-        OpenBackstage({});
+    if (page == L"File") {
+        if (m_host.Version() >= kBackstageVersion)
+            OpenBackstage({});
+        else
+            m_host.Queue().Post([this] { OpenFileMenu(); }); // it returns when the menu closes
         return true;
     }
     if (page == L"Home") {
@@ -116,6 +120,7 @@ bool MainWindow::ShowPage(const std::wstring& page)
 
 void MainWindow::CloseBackstage()
 {
+    ::EndMenu();
     m_view.backstage = false;
     Layout();
 }
@@ -163,7 +168,7 @@ void MainWindow::Press(const SceneItem& pressed)
     case ItemKind::FileTab:
         return OpenBackstage({});
     case ItemKind::OfficeButton:
-        return OpenOfficeMenu(item);
+        return OpenFileMenu();
     case ItemKind::Tab:
         m_view.tab = item.id;
         return Layout();
@@ -197,12 +202,17 @@ void MainWindow::OpenRibbonMenu(const SceneItem& item)
     }
 }
 
-void MainWindow::OpenOfficeMenu(const SceneItem& item)
+// The Office button's menu, or the first menu of the menu bar.
+void MainWindow::OpenFileMenu()
 {
     const Menu menu;
-    m_menus.Clear();
-    m_menus.FillOfficeMenu(menu.Get());
-    TrackMenu(menu.Get(), item.box);
+    if (m_host.Version() >= kRibbonVersion) {
+        m_menus.Clear();
+        m_menus.FillOfficeMenu(menu.Get());
+        return TrackMenu(menu.Get(), m_scene.items.front().box);
+    }
+    m_menus.FillFromBar(menu.Get(), *m_host.Documents().CommandBars().MenuBar().Entries().front()->Menu());
+    TrackMenu(menu.Get(), {});
 }
 
 void MainWindow::TrackMenu(HMENU menu, const RECT& below)

@@ -23,8 +23,8 @@ public:
     // Shows the present state of the documents and the ribbon.
     void Refresh();
 
-    // Opens "File", a Backstage page or a ribbon tab by its label, or the presentation ("Presentation"); false when
-    // there is no such page.
+    // Opens "File" (the Backstage or the menu), a Backstage page or a ribbon tab by its label, or the presentation
+    // ("Presentation"); false when there is no such page.
     bool ShowPage(const std::wstring& page);
     void CloseBackstage();
 
@@ -39,7 +39,7 @@ private:
     void Press(const SceneItem& item);
     void OpenBackstage(const std::string& page);
     void OpenRibbonMenu(const SceneItem& item);
-    void OpenOfficeMenu(const SceneItem& item);
+    void OpenFileMenu();
     void TrackMenu(HMENU menu, const RECT& below);
     [[nodiscard]] const SceneItem* ItemAt(POINT at) const;
     [[nodiscard]] bool ShowByLabel(const std::wstring& label, std::vector<RibbonControl> Ribbon::*part, bool backstage);

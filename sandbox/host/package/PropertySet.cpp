@@ -1,0 +1,277 @@
+#include "package/PropertySet.h"
+
+#include <algorithm>
+#include <bit>
+#include <charconv>
+#include <map>
+#include <stdexcept>
+
+#include "package/Bytes.h"
+#include "package/FileTime.h"
+
+namespace host
+{
+namespace
+{
+
+// Layout of the stream: a header of fixed length, a row for each section, the sections.
+constexpr std::uint64_t kByteOrder = 0xFFFE;
+constexpr std::size_t kHeaderSize = 28;
+constexpr std::size_t kSectionRowSize = 20;
+constexpr std::uint64_t kUtf8CodePage = 65001;
+constexpr std::uint64_t kUnicodeCodePage = 1200;
+constexpr std::uint32_t kDictionaryId = 0;
+constexpr std::uint32_t kCodePageId = 1;
+
+enum VariantType : std::uint64_t
+{
+    kShort = 2,
+    kLong = 3,
+    kDouble = 5,
+    kBoolean = 11,
+    kByteText = 30,
+    kWideText = 31,
+    kFileTime = 64,
+};
+
+void PadToFour(std::string& out) { out.resize((out.size() + 3) / 4 * 4, '\0'); }
+
+template<class Number>
+Number ParseNumber(const std::string& text)
+{
+    Number number{};
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
+std::string WriteText(const std::string& text)
+{
+    std::string out;
+    AppendNumber(out, text.size() + 1, 4);
+    out += text;
+    out += '\0';
+    return out;
+}
+
+std::string WriteValue(const CustomProperty& property)
+{
+    std::string out;
+    const auto write = [&](VariantType type, std::uint64_t number, std::size_t width) {
+        AppendNumber(out, type, 4);
+        AppendNumber(out, number, width);
+    };
+    switch (property.type) {
+    case PropertyType::Number:
+        write(kLong, static_cast<std::uint32_t>(ParseNumber<std::int32_t>(property.value)), 4);
+        break;
+    case PropertyType::Boolean:
+        write(kBoolean, property.value == "true" ? 0xffff : 0, 2);
+        break;
+    case PropertyType::Float:
+        write(kDouble, std::bit_cast<std::uint64_t>(ParseNumber<double>(property.value)), 8);
+        break;
+    case PropertyType::Date:
+        write(kFileTime, static_cast<std::uint64_t>(ToFileTime(property.value)), 8);
+        break;
+    case PropertyType::Text:
+        AppendNumber(out, kByteText, 4);
+        out += WriteText(property.value);
+        break;
+    }
+    PadToFour(out);
+    return out;
+}
+
+std::string WriteDictionary(const PropertySection& section)
+{
+    std::string out;
+    AppendNumber(out, section.properties.size(), 4);
+    for (const SetProperty& row : section.properties) {
+        AppendNumber(out, row.id, 4);
+        out += WriteText(row.property.name);
+    }
+    PadToFour(out);
+    return out;
+}
+
+std::string WriteSection(const PropertySection& section)
+{
+    std::vector<std::pair<std::uint32_t, std::string>> rows;
+    if (section.format == kUserDefinedSet) rows.emplace_back(kDictionaryId, WriteDictionary(section));
+    std::string codePage;
+    AppendNumber(codePage, kShort, 4);
+    AppendNumber(codePage, kUtf8CodePage, 2);
+    PadToFour(codePage);
+    rows.emplace_back(kCodePageId, codePage);
+    for (const SetProperty& row : section.properties)
+        rows.emplace_back(row.id, WriteValue(row.property));
+
+    std::string index;
+    std::string values;
+    const std::size_t valuesAt = 8 + 8 * rows.size();
+    for (const auto& [id, value] : rows) {
+        AppendNumber(index, id, 4);
+        AppendNumber(index, valuesAt + values.size(), 4);
+        values += value;
+    }
+    std::string out;
+    AppendNumber(out, valuesAt + values.size(), 4);
+    AppendNumber(out, rows.size(), 4);
+    return out + index + values;
+}
+
+// Reads one section; offsets in it count from its own start.
+class SectionReader
+{
+public:
+    explicit SectionReader(std::string_view bytes) : m_bytes{bytes}
+    {
+        const std::uint64_t count = Number(4, 4);
+        for (std::uint64_t i = 0; i < count; ++i)
+            m_index[static_cast<std::uint32_t>(Number(8 + 8 * i, 4))] = Number(12 + 8 * i, 4);
+        if (m_index.contains(kCodePageId)) m_codePage = Number(m_index[kCodePageId] + 4, 2);
+    }
+
+    void Read(PropertySection& section)
+    {
+        const auto names = Names();
+        for (const auto& [id, at] : m_index) {
+            CustomProperty property;
+            if (id == kDictionaryId || id == kCodePageId || !ReadValue(at, property)) continue;
+            const auto name = names.find(id);
+            if (name != names.end()) property.name = name->second;
+            section.properties.push_back({id, property});
+        }
+    }
+
+private:
+    [[nodiscard]] std::uint64_t Number(std::uint64_t at, std::size_t width) const
+    {
+        return ReadNumber(m_bytes, static_cast<std::size_t>(at), width);
+    }
+
+    [[nodiscard]] std::string WideText(std::uint64_t at, std::uint64_t letters) const
+    {
+        std::string text;
+        for (std::uint64_t i = 0; i < letters; ++i) {
+            std::uint64_t unit = Number(at + 2 * i, 2);
+            if (unit == 0) break;
+            if (unit >= 0xd800 && unit < 0xdc00 && i + 1 < letters)
+                unit = 0x10000 + ((unit - 0xd800) << 10) + (Number(at + 2 * ++i, 2) - 0xdc00);
+            AppendUtf8(text, static_cast<std::uint32_t>(unit));
+        }
+        return text;
+    }
+
+    // Text in the section's code page; any but UTF-8 is read as Latin-1.
+    [[nodiscard]] std::string ByteText(std::uint64_t at, std::uint64_t size) const
+    {
+        const std::string_view raw = Slice(m_bytes, static_cast<std::size_t>(at), static_cast<std::size_t>(size));
+        const std::string_view text = raw.substr(0, raw.find('\0'));
+        if (m_codePage == kUtf8CodePage) return std::string{text};
+        std::string out;
+        for (const char letter : text)
+            AppendUtf8(out, static_cast<unsigned char>(letter));
+        return out;
+    }
+
+    [[nodiscard]] std::map<std::uint32_t, std::string> Names() const
+    {
+        std::map<std::uint32_t, std::string> names;
+        const auto dictionary = m_index.find(kDictionaryId);
+        if (dictionary == m_index.end()) return names;
+        std::uint64_t at = dictionary->second;
+        const std::uint64_t count = Number(at, 4);
+        at += 4;
+        for (std::uint64_t i = 0; i < count; ++i) {
+            const auto id = static_cast<std::uint32_t>(Number(at, 4));
+            const std::uint64_t length = Number(at + 4, 4);
+            const bool wide = m_codePage == kUnicodeCodePage;
+            names[id] = wide ? WideText(at + 8, length) : ByteText(at + 8, length);
+            at += 8 + (wide ? (2 * length + 3) / 4 * 4 : length);
+        }
+        return names;
+    }
+
+    [[nodiscard]] bool ReadValue(std::uint64_t at, CustomProperty& property) const
+    {
+        const std::uint64_t value = at + 4;
+        switch (Number(at, 2)) {
+        case kShort:
+            property = {{}, PropertyType::Number, std::to_string(static_cast<std::int16_t>(Number(value, 2)))};
+            break;
+        case kLong:
+            property = {{}, PropertyType::Number, std::to_string(static_cast<std::int32_t>(Number(value, 4)))};
+            break;
+        case kBoolean:
+            property = {{}, PropertyType::Boolean, Number(value, 2) ? "true" : "false"};
+            break;
+        case kDouble:
+            property = {{}, PropertyType::Float, FloatText(std::bit_cast<double>(Number(value, 8)))};
+            break;
+        case kFileTime:
+            property = {{}, PropertyType::Date, FromFileTime(static_cast<std::int64_t>(Number(value, 8)))};
+            break;
+        case kByteText:
+            property = {{}, PropertyType::Text, ByteText(value + 4, Number(value, 4))};
+            break;
+        case kWideText:
+            property = {{}, PropertyType::Text, WideText(value + 4, Number(value, 4))};
+            break;
+        default:
+            return false;
+        }
+        return true;
+    }
+
+    [[nodiscard]] static std::string FloatText(double number)
+    {
+        char text[64];
+        const auto end = std::to_chars(text, text + sizeof text, number).ptr;
+        return {text, end};
+    }
+
+    std::string_view m_bytes;
+    std::map<std::uint32_t, std::uint64_t> m_index;
+    std::uint64_t m_codePage = 0;
+};
+
+} // namespace
+
+std::string WritePropertySet(const std::vector<PropertySection>& sections)
+{
+    std::string out;
+    AppendNumber(out, kByteOrder, 2);
+    AppendNumber(out, 0, 2);
+    AppendNumber(out, 0x00020005, 4); // the system that wrote it: Windows
+    out.append(16, '\0');
+    AppendNumber(out, sections.size(), 4);
+    std::string bodies;
+    const std::size_t bodiesAt = kHeaderSize + kSectionRowSize * sections.size();
+    for (const PropertySection& section : sections) {
+        for (const std::uint8_t byte : section.format)
+            AppendNumber(out, byte, 1);
+        AppendNumber(out, bodiesAt + bodies.size(), 4);
+        bodies += WriteSection(section);
+    }
+    return out + bodies;
+}
+
+std::vector<PropertySection> ReadPropertySet(std::string_view bytes)
+{
+    if (ReadNumber(bytes, 0, 2) != kByteOrder) throw std::runtime_error{"this is no property set"};
+    const std::uint64_t count = ReadNumber(bytes, kHeaderSize - 4, 4);
+    std::vector<PropertySection> sections;
+    for (std::uint64_t i = 0; i < count; ++i) {
+        const std::size_t row = kHeaderSize + kSectionRowSize * static_cast<std::size_t>(i);
+        PropertySection section;
+        std::ranges::copy(Slice(bytes, row, section.format.size()), section.format.begin());
+        const auto at = static_cast<std::size_t>(ReadNumber(bytes, row + section.format.size(), 4));
+        const auto size = static_cast<std::size_t>(ReadNumber(bytes, at, 4));
+        SectionReader{Slice(bytes, at, size)}.Read(section);
+        sections.push_back(std::move(section));
+    }
+    return sections;
+}
+
+} // namespace host

@@ -1,0 +1,33 @@
+# Sourced: makes a Wine prefix ready for one run and gives it a display. Wants: top (the project's folder), arch
+# (x64, x86) and dpi. Sets WINEPREFIX and DISPLAY; file descriptor 9 holds the prefix until the run ends.
+
+export WINEPREFIX=${CORVANE_WINEPREFIX:-$top/build/wine/$arch} WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree,mshtml="
+if [ "$arch" = x86 ]; then export WINEARCH=win32; else export WINEARCH=win64; fi
+
+# One run at a time uses a prefix: it holds the registration and the settings.
+mkdir -p "$WINEPREFIX"
+exec 9>"$WINEPREFIX/lock"
+flock 9
+
+if [ -z "${DISPLAY:-}" ]; then
+  exec 8< <(exec Xvfb -displayfd 1 -screen 0 1400x1050x24 -nolisten tcp 2>/dev/null 9>&-)
+  xvfb=$!
+  # The desktop goes before its display, quietly.
+  trap 'wineserver -k 2>/dev/null; wineserver -w; kill $xvfb 2>/dev/null || true' EXIT
+  read -r -t 20 number <&8 || { echo "no display could be started" >&2; exit 2; }
+  export DISPLAY=:$number
+fi
+
+if [ ! -e "$WINEPREFIX/prepared" ]; then
+  wineboot -i >/dev/null 2>&1 9>&-
+  # Wine looks for its own fonts (captions, the message font) only here.
+  cp /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
+  wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d corvane /f >/dev/null 9>&-
+  wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v corvane /d 1400x1050 /f >/dev/null 9>&-
+  touch "$WINEPREFIX/prepared"
+fi
+if [ "$(cat "$WINEPREFIX/dpi" 2>/dev/null)" != "$dpi" ]; then
+  wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f >/dev/null 9>&-
+  wineserver -w
+  echo "$dpi" >"$WINEPREFIX/dpi"
+fi

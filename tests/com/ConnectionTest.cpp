@@ -1,0 +1,100 @@
+#include "AddInLibrary.h"
+#include "FakeHost.h"
+#include "MessageBox.h"
+
+namespace
+{
+
+constexpr LONG kAfterStartup = 0;
+constexpr LONG kStartup = 1;
+constexpr DISPID kWindowActivate = 2009;
+
+class Connection : public AddInLibrary
+{
+protected:
+    void SetUp() override
+    {
+        AddInLibrary::SetUp();
+        m_connect = Create<IDTExtensibility2>(CLSID_Connect);
+        ASSERT_NE(m_connect, nullptr);
+    }
+    void TearDown() override
+    {
+        EXPECT_EQ(m_connect->Release(), 0U);
+        EXPECT_EQ(m_instance.References(), 0U);
+        AddInLibrary::TearDown();
+    }
+
+    void ConnectTo(FakePowerPoint& host, LONG mode) { m_connect->OnConnection(&host, mode, &m_instance, nullptr); }
+    void Disconnect() { EXPECT_EQ(m_connect->OnDisconnection(0, nullptr), S_OK); }
+    // What the host gets when it asks for the ribbon.
+    std::wstring Ribbon() const
+    {
+        IRibbonExtensibility* ribbon = nullptr;
+        m_connect->QueryInterface(IID_PPV_ARGS(&ribbon));
+        BSTR xml = nullptr;
+        EXPECT_EQ(ribbon->GetCustomUI(nullptr, &xml), S_OK);
+        ribbon->Release();
+        std::wstring text = xml;
+        ::SysFreeString(xml);
+        return text;
+    }
+
+    IDTExtensibility2* m_connect = nullptr;
+    FakeObject m_instance{{{L"ProgId", L"CorvaneMSOfficePowerPoint.Connect"}, {L"Guid", L"{}"}}};
+};
+
+TEST_F(Connection, AtStartUpHoldsTheHostAndLetsItGoAtDisconnection)
+{
+    FakePowerPoint host{L"16.0"};
+    ConnectTo(host, kStartup);
+    EXPECT_TRUE(host.HasListener());
+    EXPECT_NE(Ribbon().find(L"TabSaveToCorvane"), std::wstring::npos);
+
+    FakeObject window{{{L"Caption", L"Presentation1"}}};
+    EXPECT_EQ(host.Raise(kWindowActivate, &window), S_OK);
+    EXPECT_EQ(window.References(), 0U);
+
+    Disconnect();
+    EXPECT_FALSE(host.HasListener());
+    EXPECT_EQ(host.References(), 0U);
+}
+
+TEST_F(Connection, AfterStartUpKeepsNothingAndOffersNoRibbon)
+{
+    FakePowerPoint host{L"16.0"};
+    ConnectTo(host, kAfterStartup);
+    EXPECT_FALSE(host.HasListener());
+    EXPECT_EQ(host.References(), 0U);
+
+    const MessageBoxAnswer box{L"ERROR\r\nNumber: 91\r\n"};
+    EXPECT_EQ(Ribbon(), L"");
+    EXPECT_TRUE(box.Appeared()) << "the missing commands are reported";
+    Disconnect();
+}
+
+TEST_F(Connection, ASecondConnectionReplacesTheFirst)
+{
+    FakePowerPoint first{L"16.0"};
+    FakePowerPoint second{L"12.0"};
+    ConnectTo(first, kStartup);
+    ConnectTo(second, kStartup);
+    EXPECT_FALSE(first.HasListener());
+    EXPECT_EQ(first.References(), 0U);
+    EXPECT_NE(Ribbon().find(L"officeMenu"), std::wstring::npos);
+    Disconnect();
+    EXPECT_EQ(second.References(), 0U);
+    Disconnect(); // once too often is no error
+}
+
+TEST_F(Connection, AHostThatIsNoPowerPointIsReported)
+{
+    FakeObject other{{{L"Name", L"Other"}, {L"Version", L"16.0"}, {L"Build", L"1"}}};
+    const MessageBoxAnswer box{L"ERROR\r\nNumber: "};
+    EXPECT_EQ(m_connect->OnConnection(&other, kStartup, &m_instance, nullptr), S_OK);
+    EXPECT_TRUE(box.Appeared());
+    Disconnect();
+    EXPECT_EQ(other.References(), 0U);
+}
+
+} // namespace
