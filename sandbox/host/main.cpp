@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <condition_variable>
 #include <stdexcept>
 #include <thread>
@@ -24,6 +25,8 @@ constexpr int kSuccess = 0;
 constexpr int kFailure = 1;
 constexpr int kUsage = 2;
 constexpr auto kEndPatience = 30s;
+constexpr wchar_t kUsageText[] = L"usage: corvane-host.exe [--version 16.0] [--connect-mode 1] [--play FILE] "
+                                 L"[--set NAME=VALUE]... [--out FOLDER]";
 
 std::vector<std::wstring> CommandLineWords()
 {
@@ -110,7 +113,12 @@ int Run(Options options)
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int)
 {
     try {
-        Options options = ParseOptions(CommandLineWords());
+        const auto words = CommandLineWords();
+        if (std::ranges::find(words, L"--help") != words.end()) {
+            Print(kUsageText);
+            return kSuccess;
+        }
+        Options options = ParseOptions(words);
         const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES};
         ::InitCommonControlsEx(&controls);
         if (FAILED(::OleInitialize(nullptr))) return kFailure;
@@ -118,9 +126,7 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int)
         ::OleUninitialize();
         return status;
     } catch (const std::exception& error) {
-        PrintError(Widen(error.what()) +
-                   L"\nusage: corvane-host.exe [--version 16.0] [--connect-mode 1] [--play FILE] [--set NAME=VALUE]... "
-                   L"[--out FOLDER]");
+        PrintError(Widen(error.what()) + L"\n" + kUsageText);
         return kUsage;
     }
 }
