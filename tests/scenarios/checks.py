@@ -1,9 +1,9 @@
-"""What a scenario's tail can ask for, once the host has ended."""
-import datetime, itertools, json, pathlib, re, shlex, subprocess, xml.etree.ElementTree, zipfile
+"""The server of one scenario, and what the scenario's tail can ask of it and of the host."""
+import base64, datetime, itertools, json, pathlib, re, shlex, subprocess, xml.etree.ElementTree, zipfile
 from dataclasses import dataclass
 
-from server import Server, request_line, split_upload
-
+OUT_OF_REACH = "http://127.0.0.1:1"  # nothing listens there
+BOUNDARY = "---------------------------998284F0-10C0-4D3B-8D1C-22EAA672A15D"
 PROPERTIES = ["KRX_SYS_Server", "KRX_SYS_ProjectID", "KRX_SYS_DeliverableID", "KRX_SYS_ActivityID",
               "KRX_SYS_RelatedFileID", "KRX_SYS_GateDocumentID", "HALVEX_MSExcelReportID", "KRX_SYS_TemplateLibraryID"]
 MARGIN = 0.3  # seconds left out at both ends of a delay when the processor's use is measured
@@ -11,6 +11,76 @@ MARGIN = 0.3  # seconds left out at both ends of a delay when the processor's us
 
 class Failure(Exception):
     """A check that does not hold, in words."""
+
+
+def require(holds, words):
+    if not holds:
+        raise Failure(words)
+
+
+def equal(what, found, wanted):
+    require(found == wanted, f"{what}: {found}\n  instead of: {wanted}")
+
+
+class Server:
+    """corvane-server on a data folder of its own, unless the scenario wants none."""
+
+    def __init__(self, top, folder, scenario):
+        self.program, self.folder, self.scenario = top / "build/native/sandbox/server/corvane-server", folder, scenario
+        self.url, self.process, self.data = OUT_OF_REACH, None, folder / "data"
+
+    def start(self):
+        settings = self.scenario.one("server", "{}")
+        if settings == "none":
+            return
+        self.data.mkdir()
+        (self.data / "settings.json").write_text(settings, encoding="utf-8")
+        (self.folder / "faults.json").write_text(self.scenario.one("faults"), encoding="utf-8")
+        with open(self.folder / "server.txt", "wb") as errors:
+            self.process = subprocess.Popen(
+                [self.program, "--port", "0", "--data", self.data, "--log", self.folder / "requests.log", "--faults",
+                 self.folder / "faults.json", "--user", self.scenario.one("user", "Dana Reyes")],
+                stdout=subprocess.PIPE, stderr=errors)
+        first = self.process.stdout.readline().decode().strip()
+        require(first.startswith("listening on "), "the server did not start")
+        self.url = first.removeprefix("listening on ")
+
+    def stop(self):
+        if self.process:
+            self.process.terminate()
+            self.process.communicate(timeout=20)
+            self.process = None
+
+    def requests(self):
+        log = self.folder / "requests.log"
+        entries = map(json.loads, log.read_text(encoding="utf-8").splitlines() if log.exists() else [])
+        return [dict(entry, body=base64.b64decode(entry["body"])) for entry in entries]
+
+    def versions(self):
+        file = self.data / "versions.json"
+        return json.loads(file.read_text(encoding="utf-8")) if file.exists() else []
+
+    def told(self):
+        printed = self.folder / "server.txt"
+        return "\n".join([printed.read_text(errors="replace") if printed.exists() else ""] +
+                         [f"{request['status']} {request_line(request)[:300]}" for request in self.requests()])
+
+
+def request_line(request):
+    """A request as scenarios write it: the method, the page with its query, the body of a form as it was sent."""
+    line = request["method"] + " " + request["target"].removeprefix("/WebServices/")
+    body = request["body"]
+    if body.startswith(b"--"):
+        body = b" ".join(split_upload(body)[0]) if split_upload(body) else b"an upload with a wrong boundary"
+    return line + ("|" + body.decode(errors="replace") if body else "")
+
+
+def split_upload(body):
+    """The head's lines and the file of an upload; None where its boundaries are not as they have to be."""
+    head, _, rest = body.partition(b"\r\n\r\n")
+    first, *lines = head.split(b"\r\n")
+    tail = f"\r\n--{BOUNDARY}--\r\n".encode()
+    return (lines, rest[:-len(tail)]) if first == f"--{BOUNDARY}".encode() and rest.endswith(tail) else None
 
 
 @dataclass
@@ -30,15 +100,6 @@ class Outcome:
         return path
 
 
-def require(holds, words):
-    if not holds:
-        raise Failure(words)
-
-
-def equal(what, found, wanted):
-    require(found == wanted, f"{what}: {found}\n  instead of: {wanted}")
-
-
 def check(scenario, outcome):
     if scenario.requests:
         check_all_requests(scenario.requests, outcome)
@@ -50,13 +111,13 @@ def check(scenario, outcome):
 def repeated(line):
     """The line once for every choice of its {a,b} parts."""
     parts = re.split(r"\{([^}]*)\}", line)
-    choices = [part.split(",") if odd else [part] for odd, part in zip(itertools.cycle([False, True]), parts)]
+    choices = [part.split(",") if at % 2 else [part] for at, part in enumerate(parts)]
     return ["".join(choice) for choice in itertools.product(*choices)]
 
 
 def check_all_requests(lines, outcome):
     wanted = [] if lines == ["nothing"] else [one for line in lines for one in repeated(line)]
-    found = [request_line(request) for request in outcome.server.requests()]
+    found = map(request_line, outcome.server.requests())
     for number, (one, other) in enumerate(itertools.zip_longest(found, wanted), 1):
         equal(f"request {number}", one, other)
 
@@ -68,9 +129,7 @@ def check_requests(outcome, rest):
 
 def check_header(outcome, rest):
     text, header = rest.split(" ", 1)
-    requests = outcome.requests_with(text)
-    require(requests, f'no request holds "{text}"')
-    headers = [": ".join(pair) for pair in requests[0]["headers"]]
+    headers = [": ".join(pair) for pair in outcome.requests_with(text)[0]["headers"]]
     require(header in headers, f'no header "{header}" among {headers}')
 
 
@@ -79,9 +138,8 @@ def check_versions(outcome, rest):
 
 
 def check_version(outcome, rest):
-    wanted = json.loads(rest)
     versions = outcome.server.versions()
-    fitting = [version for version in versions if wanted.items() <= version.items()]
+    fitting = [version for version in versions if json.loads(rest).items() <= version.items()]
     require(len(fitting) == 1, f"{len(fitting)} versions fit {rest} among\n{json.dumps(versions, indent=1)}")
 
 
@@ -94,10 +152,10 @@ def sound_zip(path):
 
 def check_uploaded(outcome, rest):
     file = outcome.file(rest)
-    version = outcome.server.versions()[-1]
-    sent = split_upload(outcome.requests_with("POST UploadToTransfer.ashx")[-1]["bytes"])[1]
+    stored = outcome.server.data / outcome.server.versions()[-1]["storedAs"]
+    sent = split_upload(outcome.requests_with("POST UploadToTransfer.ashx")[-1]["body"])[1]
     require(sent == file.read_bytes(), "the bytes sent are not those of the file")
-    require((outcome.server.data / version["storedAs"]).read_bytes() == sent, "the version holds other bytes")
+    require(sent == stored.read_bytes(), "the bytes recorded are not those sent")
     sound_zip(file)
 
 
@@ -107,7 +165,7 @@ def custom_properties(path):
     if "docProps/custom.xml" not in archive.namelist():
         return {}
     root = xml.etree.ElementTree.fromstring(archive.read("docProps/custom.xml"))
-    return {one.get("name"): (one[0].tag.partition("}")[2], one[0].text or "") for one in root}
+    return {one.get("name"): (one[0].tag.partition("}")[2], one[0].text) for one in root}
 
 
 def check_bound(outcome, rest):
@@ -123,30 +181,26 @@ def check_unbound(outcome, rest):
 def check_ribbon(outcome, rest):
     schema = outcome.top.parent / f"shared/schemas/customUI.{rest}.xsd"
     require(schema.exists(), f"the schema {schema.name} is missing beside the project folder")
-    lint = subprocess.run(["xmllint", "--noout", "--schema", str(schema), str(outcome.file("customUI.xml"))],
+    lint = subprocess.run(["xmllint", "--noout", "--schema", schema, outcome.file("customUI.xml")],
                           capture_output=True, text=True, check=False)
     require(lint.returncode == 0, "the ribbon is not valid:\n" + lint.stderr)
 
 
 def check_trace(outcome, rest):
-    if rest == "none":
-        equal("trace files", [file.name for file in outcome.traces], [])
-        return
-    equal("trace files", len(outcome.traces), 1)
-    lines = outcome.traces[0].read_text(encoding="cp1252").splitlines()
-    require(any(line.endswith("\t" + rest) for line in lines), f'no line "{rest}" in the trace')
+    equal("trace files", len(outcome.traces), 0 if rest == "none" else 1)
+    if rest != "none":
+        lines = outcome.traces[0].read_text(encoding="cp1252").splitlines()
+        require(any(line.endswith("\t" + rest) for line in lines), f'no line "{rest}" in the trace')
 
 
 def check_cpu_below(outcome, rest):
     percent, text = rest.split(" ", 1)
-    request = outcome.requests_with(text)[0]
-    start = datetime.datetime.fromisoformat(request["time"]).timestamp() + MARGIN
     delay = json.loads((outcome.folder / "faults.json").read_text())[0]["delayMs"] / 1000
-    notes = [note for note in outcome.processor if start <= note[0] <= start + delay - 2 * MARGIN]
-    require(len(notes) >= 2 and notes[-1][0] - notes[0][0] > delay / 2, "the delay was not measured")
-    (first, before), (last, after) = notes[0], notes[-1]
-    used = 100 * (after - before) / (last - first)
-    print(f"  {used:.2f} % of a core in {last - first:.1f} s")
+    start = datetime.datetime.fromisoformat(outcome.requests_with(text)[0]["time"]).timestamp()
+    notes = [note for note in outcome.processor if start + MARGIN <= note[0] <= start + delay - MARGIN]
+    require(len(notes) > 1 and notes[-1][0] - notes[0][0] > delay / 2, "the delay was not measured")
+    used = 100 * (notes[-1][1] - notes[0][1]) / (notes[-1][0] - notes[0][0])
+    (outcome.folder / "cpu.txt").write_text(f"{used:.2f} % of a core\n")
     require(used < float(percent), f"the host used {used:.2f} % of a core")
 
 
