@@ -93,10 +93,9 @@ void Connect::StartUp(const LateBound& application)
     Check(application.Get()->QueryInterface(kPowerPointApplication, reinterpret_cast<void**>(typed.GetAddressOf())),
           L"Connect");
     m_oPowerPointApp = LateBound{std::move(typed)};
-    m_events = EventSubscription{m_oPowerPointApp.Get(), kPowerPointEvents,
-                                 [this](DISPID member, const DISPPARAMS& arguments) {
-                                     OnApplicationEvent(member, arguments);
-                                 }};
+    m_events = EventSubscription{
+        m_oPowerPointApp.Get(), kPowerPointEvents,
+        [this](DISPID member, const DISPPARAMS& arguments) { OnApplicationEvent(member, arguments); }};
     g_oAddInMenus = std::make_shared<CAddInMenus>(MakeSaveProcedures());
     g_oAddInMenus->SetApplication(application);
     g_oCustomNames = std::make_unique<CCustomNames>(&FetchCustomNames);
@@ -108,7 +107,7 @@ void Connect::StartUp(const LateBound& application)
 
 int Connect::HostVersion() const { return MajorVersion(m_oPowerPointApp.Text(L"Version")); }
 
-LateBound Connect::MenuBar() const { return m_oPowerPointApp.Object(L"CommandBars", L"Menu Bar"); }
+LateBound Connect::MenuBar() const { return m_oPowerPointApp.Object(L"CommandBars").Object(L"Item", L"Menu Bar"); }
 
 STDMETHODIMP Connect::OnDisconnection(LONG /*RemoveMode*/, SAFEARRAY** /*custom*/) noexcept
 {

@@ -2,6 +2,8 @@
 
 #include "addin/CAddInMenus.h"
 #include "dialogs/frmSaveAssignment.h"
+#include "dialogs/frmSaveGateDoc.h"
+#include "dialogs/frmSaveRelatedDoc.h"
 #include "platform/Procedure.h"
 #include "support/CCustomNames.h"
 #include "support/Conversions.h"
@@ -17,12 +19,30 @@ void Prepare(SaveDialog& dialog, const frmBusy& busy)
 {
     CustomNames().RefreshOnce(busy.sServer);
     AddInMenus()->SetUICaptions();
-    dialog.AutomaticallySetPublishCheckbox = ToBooleanSafe(
-        QueryText(busy.sServer, Operations::kIsAutoSetPublishCheckbox, {std::wstring{L"AutomaticallySetPublishCheckbox"}}));
+    dialog.AutomaticallySetPublishCheckbox = ToBooleanSafe(QueryText(
+        busy.sServer, Operations::kIsAutoSetPublishCheckbox, {std::wstring{L"AutomaticallySetPublishCheckbox"}}));
     dialog.ServerURL = busy.sServer;
     dialog.ProjectID = busy.lProjectID;
     dialog.oApplication = busy.oApplication;
     dialog.OutlookInspector = busy.oOutlookInspector;
+}
+
+void LaunchSaveGateDoc(frmBusy& busy)
+{
+    const ProcedureScope scope{L"SharedCode.LaunchSaveGateDoc"};
+    frmSaveGateDoc dialog;
+    Prepare(dialog, busy);
+    dialog.GateDocumentID = busy.lGateDocID;
+    dialog.ShowModal();
+}
+
+void LaunchSaveRelatedDoc(frmBusy& busy)
+{
+    const ProcedureScope scope{L"SharedCode.LaunchSaveRelatedDoc"};
+    frmSaveRelatedDoc dialog;
+    Prepare(dialog, busy);
+    dialog.RelatedDocID = busy.lRelatedDocID;
+    dialog.ShowModal();
 }
 
 void LaunchSaveAssignment(frmBusy& busy)
@@ -37,6 +57,6 @@ void LaunchSaveAssignment(frmBusy& busy)
 
 } // namespace
 
-SaveProcedures MakeSaveProcedures() { return {&LaunchSaveAssignment, nullptr, nullptr}; }
+SaveProcedures MakeSaveProcedures() { return {&LaunchSaveAssignment, &LaunchSaveGateDoc, &LaunchSaveRelatedDoc}; }
 
 } // namespace corvane

@@ -2,7 +2,6 @@
 #include "dialogs/frmSaveAssignment.h"
 
 #include "platform/FormLayout.h"
-#include "platform/Messages.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
 #include "support/Conversions.h"
@@ -27,37 +26,31 @@ bool Flag(const XmlNode& row, const wchar_t* attribute) { return ToBooleanSafe(r
 
 void frmSaveAssignment::LoadTarget()
 {
-    SetHourglass(true);
-    const auto failure = Catch([this] { LoadAssignment(); });
-    SetHourglass(false);
-    if (failure) throw *failure;
-}
-
-void frmSaveAssignment::LoadAssignment()
-{
     const ProcedureScope scope{L"frmSaveAssignment.LoadAssignment"};
     m_facts = {};
     m_completionAllowed = true;
-    m_terms.ownerName.clear();
-    m_terms.targetType = TargetTypeName(ProjectID, DeliverableID, ActivityID, m_terms);
+    Terms().ownerName.clear();
+    Terms().targetType = TargetTypeName(ProjectID, DeliverableID, ActivityID, Terms());
     if (ProjectID >= 1)
         m_facts.isTeamMember = ToBooleanSafe(QueryText(ServerURL, Operations::kIsProjectTeamMember, {ProjectID}));
     ShowTypeCaptions();
     m_facts.userId = ToLongSafe(QueryText(ServerURL, Operations::kGetUserId, {}));
     m_userName = FirstRow(QueryXml(ServerURL, Operations::kGetUser, {})).Text(L"Name");
-    if (ActivityID < 1) LoadDeliverable();
-    else LoadActivity();
+    if (IsActivity())
+        LoadActivity();
+    else
+        LoadDeliverable();
     Decide();
 }
 
 void frmSaveAssignment::ShowTypeCaptions() const
 {
     constexpr const wchar_t* kEitherType = L"Deliverable or Activity";
-    const auto typed = [&](std::wstring_view text) { return ReplaceAll(text, kEitherType, m_terms.targetType); };
+    const auto typed = [&](std::wstring_view text) { return ReplaceAll(text, kEitherType, Terms().targetType); };
     SetCaption(typed(L"Save as Deliverable or Activity"));
-    SetText(lblAdvisory,
-            EscapeAmpersands(typed(ReplaceAll(L"This will create a new version of the Deliverable or Activity document.",
-                                              L"Corvane", m_terms.corvane))));
+    SetText(lblAdvisory, EscapeAmpersands(typed(
+                             ReplaceAll(L"This will create a new version of the Deliverable or Activity document.",
+                                        L"Corvane", Terms().corvane))));
     SetText(AssignmentDetailsFrame, EscapeAmpersands(typed(L"Deliverable or Activity details")));
 }
 
@@ -77,7 +70,7 @@ void frmSaveAssignment::LoadDeliverable()
     m_statusNote = row.Text(L"StatusComment");
     m_facts.statusCode = Id(row, L"StatusCode");
     m_facts.ownerId = Id(row, L"OwnerID");
-    if (m_facts.ownerId != 0) m_terms.ownerName = row.Text(L"OwnerName");
+    if (m_facts.ownerId != 0) Terms().ownerName = row.Text(L"OwnerName");
     m_facts.teamLeaderId = Id(row, L"TeamLeaderID");
     m_facts.workflowState = Id(row, L"WorkflowState");
     TakeSharedFacts(row);
@@ -98,7 +91,7 @@ void frmSaveAssignment::LoadActivity()
     m_statusNote = row.Text(L"ActivityStatusNote");
     m_facts.statusCode = Id(row, L"ActivityStatusCode");
     m_facts.ownerId = Id(row, L"ActivityOwnerID");
-    if (m_facts.ownerId != 0) m_terms.ownerName = row.Text(L"ActivityOwner");
+    if (m_facts.ownerId != 0) Terms().ownerName = row.Text(L"ActivityOwner");
     m_facts.teamLeaderId = Id(row, L"ProjectTeamLeaderID");
     m_parentDeliverableId = Id(row, L"DeliverableID");
     m_facts.workflowState = Id(row, L"DeliverableWorkflowState");
@@ -128,15 +121,19 @@ void frmSaveAssignment::AllowCompletion(const XmlNode& row, std::int32_t ownWork
 
 void frmSaveAssignment::Decide()
 {
-    for (;;)
-    {
+    for (;;) {
         const UploadDecision decision = DecideUpload(m_facts);
-        switch (decision.verdict)
-        {
-        case Verdict::NeedsParentOwner: m_facts.parentOwnerId = ParentOwner(); continue;
-        case Verdict::NeedsManageAccess: m_facts.hasManageAccess = HasManageAccess(); continue;
-        case Verdict::Refused: return Refuse(decision.refusal);
-        case Verdict::Allowed: return Allow();
+        switch (decision.verdict) {
+        case Verdict::NeedsParentOwner:
+            m_facts.parentOwnerId = ParentOwner();
+            continue;
+        case Verdict::NeedsManageAccess:
+            m_facts.hasManageAccess = HasManageAccess();
+            continue;
+        case Verdict::Refused:
+            return Refuse(decision.refusal);
+        case Verdict::Allowed:
+            return Allow();
         }
     }
 }
@@ -149,18 +146,11 @@ std::int32_t frmSaveAssignment::ParentOwner() const
 bool frmSaveAssignment::HasManageAccess() const
 {
     const XmlDocument roles = QueryXml(ServerURL, Operations::kGetUserRoles, {m_facts.userId});
-    for (const XmlNode& role : roles.Select(L"//z:row"))
-    {
+    for (const XmlNode& role : roles.Select(L"//z:row")) {
         if (role.Text(L"RoleID") == L"1")
             return ToBooleanSafe(QueryText(ServerURL, Operations::kCheckUserManageAccess, {ProjectID}));
     }
     return false;
-}
-
-void frmSaveAssignment::Refuse(Refusal refusal)
-{
-    SetSaveAllowed(false);
-    ShowMessage(RefusalMessage(refusal, m_terms), kStyleExclamation);
 }
 
 void frmSaveAssignment::Allow()
@@ -170,7 +160,7 @@ void frmSaveAssignment::Allow()
     SetText(txtAuthor, m_userName);
     Check(chkComplete, completed);
     Enable(chkComplete, !completed && m_completionAllowed);
-    SetSaveAllowed(true);
+    AllowSave();
 }
 
 void frmSaveAssignment::ShowActivityRow(bool shown)
@@ -188,8 +178,7 @@ void frmSaveAssignment::ShowActivityRow(bool shown)
     GrowForm(Window(), step);
 
     // Without the row the form has a height of its own; the notes take up the difference.
-    if (!shown)
-    {
+    if (!shown) {
         RECT form{};
         ::GetWindowRect(Window(), &form);
         m_stretch = PixelsOfTwips(kHeightWithoutActivity) - (form.bottom - form.top);

@@ -1,30 +1,47 @@
 #include "dialogs/SaveDialog.h"
 
-#include "platform/MessageLoop.h"
+#include "platform/Messages.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
 #include "selection/WindCloseBtn.h"
+#include "selection/frmSaveTo.h"
 #include "shared/ClientEvents.h"
-#include "shared/DocumentNames.h"
 #include "shared/DocumentProperties.h"
 #include "shared/HostDocument.h"
 #include "shared/MailClient.h"
-#include "webservice/Transfer.h"
+#include "support/CCustomNames.h"
 
 namespace corvane
 {
-namespace
+
+std::span<const FormHandler> SaveDialog::Handlers() const
 {
-// How long "Save Complete" stays before the dialog goes.
-constexpr std::chrono::milliseconds kCompletePause{1000};
-} // namespace
+    // Controls that a dialog does not have never notify.
+    using Self = SaveDialog;
+    static const FormHandler kHandlers[] = {
+        Handle(cmdSave, BN_CLICKED, L"cmdSave_Click", &Self::cmdSave_Click),
+        Handle(cmdSaveAndSend, BN_CLICKED, L"cmdSaveAndSend_Click", &Self::cmdSaveAndSend_Click),
+        Handle(cmdCancel, BN_CLICKED, L"cmdCancel_Click", &Self::cmdCancel_Click),
+        Handle(cmdChange, BN_CLICKED, L"cmdChange_Click", &Self::cmdChange_Click),
+        Handle(cmdHelp, BN_CLICKED, L"cmdHelp_Click", &Self::cmdHelp_Click),
+        Handle(txtComments, EN_SETFOCUS, L"txtComments_GotFocus", &Self::MultiLine_GotFocus),
+        Handle(txtComments, EN_KILLFOCUS, L"txtComments_LostFocus", &Self::MultiLine_LostFocus),
+        Handle(txtNotes, EN_SETFOCUS, L"txtNotes_GotFocus", &Self::MultiLine_GotFocus),
+        Handle(txtNotes, EN_KILLFOCUS, L"txtNotes_LostFocus", &Self::MultiLine_LostFocus),
+        Handle(txtDescription, EN_SETFOCUS, L"txtDescription_GotFocus", &Self::MultiLine_GotFocus),
+        Handle(txtDescription, EN_KILLFOCUS, L"txtDescription_LostFocus", &Self::MultiLine_LostFocus),
+    };
+    return kHandlers;
+}
+
+int SaveDialog::FirstControl() const noexcept { return Control(txtName) != nullptr ? txtName : txtAuthor; }
+
+int SaveDialog::HelpControl() const noexcept { return cmdHelp; }
 
 void SaveDialog::Form_Load()
 {
-    if (const auto failure = Catch([this] { LoadInputs(); }))
-    {
-        // What could not be checked is not saved.
-        SetSaveAllowed(false);
+    if (const auto failure = Catch([this] { LoadInputs(); })) {
+        DisableSave(); // what could not be checked is not saved
         ReportError(*failure);
     }
     Form::UnloadNamed(L"frmBusy");
@@ -34,24 +51,53 @@ void SaveDialog::Form_Load()
 void SaveDialog::LoadInputs()
 {
     SetStatus(StatusBar1, L"Ready");
-    LoadCaptions();
+    m_terms.corvane = CustomName(L"Corvane");
+    m_terms.deliverable = CustomName(L"Deliverable");
+    m_terms.activity = CustomName(L"Activity");
+    m_terms.stage = CustomName(L"Stage");
+    m_terms.gate = CustomName(L"Gate");
+    m_terms.gateDocument = CustomName(L"Gate Document");
+    m_terms.completed = CustomName(L"Completed");
+    ShowTerms();
+    for (const int textBox : {txtAuthor, txtComments, txtNotes, txtName, txtDescription})
+        SelectAllOnCtrlA(textBox);
     if (!ServerURL.empty()) LoadUser();
     m_clientEvents = ClientEventsEnabled(oApplication);
     Check(chkPublish, AutomaticallySetPublishCheckbox);
     m_mailClientIsOutlook = IsMailClientOutlook();
     Show(cmdSaveAndSend, m_mailClientIsOutlook);
-    if (!ServerURL.empty()) LoadTarget();
+    if (!ServerURL.empty()) ReloadTarget();
 }
 
-int SaveDialog::FirstControl() const noexcept { return txtAuthor; }
-
-int SaveDialog::HelpControl() const noexcept { return cmdHelp; }
-
-void SaveDialog::SetSaveAllowed(bool allowed) const noexcept
+void SaveDialog::ReloadTarget()
 {
-    Enable(cmdSave, allowed);
-    Enable(cmdSaveAndSend, allowed && m_mailClientIsOutlook);
-    if (allowed) Show(cmdSaveAndSend, m_mailClientIsOutlook);
+    // Until the rules have decided about this target, nothing is saved to it and no other is chosen.
+    DisableSave();
+    Enable(cmdChange, false);
+    SetHourglass(true);
+    const auto failure = Catch([this] { LoadTarget(); });
+    SetHourglass(false);
+    Enable(cmdChange, true);
+    if (failure) throw *failure;
+}
+
+void SaveDialog::DisableSave() const noexcept
+{
+    Enable(cmdSave, false);
+    Enable(cmdSaveAndSend, false);
+}
+
+void SaveDialog::Refuse(Refusal refusal)
+{
+    DisableSave();
+    ShowMessage(RefusalMessage(refusal, m_terms), kStyleExclamation);
+}
+
+void SaveDialog::AllowSave() const noexcept
+{
+    Enable(cmdSave, true);
+    Enable(cmdSaveAndSend, m_mailClientIsOutlook);
+    Show(cmdSaveAndSend, m_mailClientIsOutlook);
 }
 
 void SaveDialog::SetControlsEnabled(bool enabled)
@@ -64,52 +110,47 @@ void SaveDialog::SetControlsEnabled(bool enabled)
     EnableCloseButton(Window(), enabled);
 }
 
-bool SaveDialog::Save()
+void SaveDialog::BindDocument() const
 {
-    if (!ConfirmSave())
-    {
-        Hide();
-        return false;
-    }
-    bool saved = false;
-    const auto failure = Catch([&] { saved = UploadAndRecord(); });
-    if (failure && !ShowSaveError(*failure)) ReportError(*failure);
-    SetStatus(StatusBar1, L"Ready");
-    SetControlsEnabled(true);
-    SetHourglass(false);
-    if (saved) Hide();
-    return saved;
+    if (!CanCarryProperties(oApplication)) return;
+    SetBindingProperties(oApplication, Binding());
+    MarkDocumentChanged(oApplication);
 }
 
-bool SaveDialog::UploadAndRecord()
+void SaveDialog::ShowError(const Error& error) const
 {
-    const ProcedureScope scope{L"SaveDialog.UploadAndRecord"};
-    if (m_clientEvents) RunBeforeSaveEvent(oApplication);
-    SetStatus(StatusBar1, L"Contacting the server...");
-    SetControlsEnabled(false);
-    SetHourglass(true);
-    if (CanCarryProperties(oApplication))
-    {
-        SetBindingProperties(oApplication, Binding());
-        MarkDocumentChanged(oApplication);
-    }
-    const std::wstring title = DocumentTitle(oApplication, OutlookInspector);
-    const SavedDocument file = SaveDocumentToDisk(oApplication, OutlookInspector);
-    const std::wstring uploadName = UploadNameOf(title, file.path);
-    ExecuteASPWSUploadFile(ServerURL, file.path, uploadName);
-
-    if (ProcessSaveResult(Record(uploadName)) == L"CANCEL") return false;
-    if (m_clientEvents) RunAfterSaveEvent(oApplication);
-    SetStatus(StatusBar1, L"Save Complete");
-    PumpFor(kCompletePause);
-    return true;
+    if (error.Number() == kAutomationDeclined) return;
+    if (const auto message = SaveErrorMessage(m_errors, error.Number(), m_terms))
+        ShowMessage(*message, kStyleExclamation);
+    else
+        ReportError(error);
 }
 
-void SaveDialog::cmdSave_Click() { Save(); }
-
-void SaveDialog::cmdSaveAndSend_Click() { Save(); }
+void SaveDialog::cmdChange_Click()
+{
+    const auto ids = TargetIds();
+    frmSaveTo tree;
+    tree.DialogType = m_treeDialogType;
+    tree.ServerURL = ServerURL;
+    for (const auto& [own, inTree] : ids)
+        tree.*inTree = own;
+    tree.ShowModal();
+    tree.Unload();
+    bool changed = tree.ServerURL != ServerURL;
+    for (const auto& [own, inTree] : ids)
+        changed = changed || tree.*inTree != own;
+    if (!changed) return;
+    ServerURL = tree.ServerURL;
+    ProjectID = tree.ProjectID;
+    for (const auto& [own, inTree] : ids)
+        own = tree.*inTree;
+    ReloadTarget();
+    SetFocusTo(FirstControl());
+}
 
 void SaveDialog::cmdCancel_Click() { Hide(); }
+
+void SaveDialog::cmdHelp_Click() { ShowHelpTopic(Window(), m_helpTopic); }
 
 void SaveDialog::MultiLine_GotFocus() { SetDefaultButton(0); }
 

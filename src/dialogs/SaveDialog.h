@@ -1,16 +1,22 @@
 // What the save dialogs share: their inputs, their loading order, and the one flow by which a document is saved.
 #pragma once
 
+#include "dialogs/UploadMessages.h"
 #include "platform/Error.h"
 #include "platform/Form.h"
 #include "platform/LateBound.h"
 #include "shared/DocumentBinding.h"
+#include "shared/NotificationTexts.h"
+#include "support/Help.h"
 
 #include <span>
 #include <string>
+#include <vector>
 
 namespace corvane
 {
+
+class frmSaveTo;
 
 // A form that saves the host's active document as a new version of a target on the server. The derived dialog knows
 // its target: how it is loaded, what is recorded, and what the server's refusals mean.
@@ -25,45 +31,91 @@ public:
     LateBound OutlookInspector; // where the host is Outlook
 
 protected:
-    SaveDialog(const wchar_t* name, int templateId) noexcept : Form{name, templateId} {}
+    // An id of the dialog's target and where the tree keeps it.
+    struct TargetId
+    {
+        std::int32_t& own;
+        std::int32_t frmSaveTo::*inTree;
+    };
+    // What a press on a save button comes to before anything happens.
+    enum class SaveStart
+    {
+        Go,
+        StayOpen,
+        Hide
+    };
 
-    void Form_Load() override;
-    [[nodiscard]] int FirstControl() const noexcept override;
-    [[nodiscard]] int HelpControl() const noexcept override;
+    SaveDialog(const wchar_t* name, int templateId, std::int32_t treeDialogType, HelpTopic helpTopic,
+               SaveErrors errors) noexcept
+        : Form{name, templateId}, m_treeDialogType{treeDialogType}, m_helpTopic{helpTopic}, m_errors{errors}
+    {}
 
-    // Fills captions from the customer's words; fetches what is known of the user before the target is; fetches the
+    // Puts the customer's words into the captions; fetches what is known of the user before the target is; fetches the
     // target and decides whether it may be uploaded. The last two run only where a server is given.
-    virtual void LoadCaptions() = 0;
+    virtual void ShowTerms() = 0;
     virtual void LoadUser() {}
     virtual void LoadTarget() = 0;
-    // The controls that are out of use while a save runs, beside the save buttons.
+    // The ids that name the target.
+    [[nodiscard]] virtual std::vector<TargetId> TargetIds() = 0;
+    // The controls that are out of use while a save runs, beside the buttons.
     [[nodiscard]] virtual std::span<const int> SaveControls() const noexcept = 0;
-    // A question before anything happens; false hides the dialog and ends the save.
-    [[nodiscard]] virtual bool ConfirmSave() { return true; }
+
+    // Asks or checks before the save; then, with the controls out of use, whether the user may save at all.
+    [[nodiscard]] virtual SaveStart BeginSave() { return SaveStart::Go; }
+    [[nodiscard]] virtual bool MaySave() { return true; }
+    // Whether there is a target to save to disk and to record for.
+    [[nodiscard]] virtual bool HasTarget() const { return true; }
     // What the document will remember.
     [[nodiscard]] virtual DocumentBinding Binding() const = 0;
     // Records the uploaded file as a new version; returns the server's reply.
     [[nodiscard]] virtual std::wstring Record(const std::wstring& uploadName) = 0;
-    // Tells the user of an error of the save by its number; false leaves it to the error report.
-    [[nodiscard]] virtual bool ShowSaveError(const Error& error) = 0;
+    // After a recorded version that was not cancelled.
+    virtual void AfterRecord(const std::wstring& /*reply*/) {}
+    // What the notification mail tells; asks the server for the latest version.
+    [[nodiscard]] virtual NotificationFacts Notification() const = 0;
 
-    void SetControlsEnabled(bool enabled);
-    // The save buttons after a decision: both out of use, or in use (Save & Send only where the mail client is Outlook).
-    void SetSaveAllowed(bool allowed) const noexcept;
-    // Runs the save from its question to the hidden dialog. True when the version was recorded and not cancelled.
-    bool Save();
+    // The outcome of the rules: the save buttons go out of use and the message is shown, or they come into use (Save &
+    // Send only where the mail client is Outlook).
+    void Refuse(Refusal refusal);
+    void AllowSave() const noexcept;
+    // Writes the binding into the document and makes the next save write it.
+    void BindDocument() const;
+    // The facts that every notification of this dialog shares.
+    [[nodiscard]] NotificationFacts NotificationOf(NotifiedKind kind, std::int32_t targetId, int nameControl) const;
+
+    [[nodiscard]] UploadTerms& Terms() noexcept { return m_terms; }
+    [[nodiscard]] const UploadTerms& Terms() const noexcept { return m_terms; }
+
+    void Form_Load() override;
+
+private:
+    [[nodiscard]] std::span<const FormHandler> Handlers() const final;
+    [[nodiscard]] int FirstControl() const noexcept override;
+    [[nodiscard]] int HelpControl() const noexcept override;
 
     void cmdSave_Click();
     void cmdSaveAndSend_Click();
+    void cmdChange_Click();
     void cmdCancel_Click();
+    void cmdHelp_Click();
     // Enter starts a new line in a box of several lines instead of saving.
     void MultiLine_GotFocus();
     void MultiLine_LostFocus();
 
-private:
     void LoadInputs();
+    void ReloadTarget();
+    void SetControlsEnabled(bool enabled);
+    void DisableSave() const noexcept;
+    // Runs the save from its question to the hidden dialog. True when the version was recorded and not cancelled.
+    bool Save();
     bool UploadAndRecord();
+    // Tells the user of an error of the save or the mail.
+    void ShowError(const Error& error) const;
 
+    std::int32_t m_treeDialogType;
+    HelpTopic m_helpTopic;
+    SaveErrors m_errors;
+    UploadTerms m_terms;
     bool m_clientEvents = false;
     bool m_mailClientIsOutlook = false;
 };

@@ -1,6 +1,6 @@
 #include "dialogs/UploadMessages.h"
 
-#include "support/Conversions.h"
+#include <utility>
 
 namespace corvane
 {
@@ -10,58 +10,74 @@ namespace
 struct RefusalText
 {
     Refusal refusal;
-    bool prefixed; // begins with "Document cannot be uploaded to ..."
     const wchar_t* text;
 };
 
-// <Stage>, <Type>, <Owner>, <Deliverable> and <Corvane> stand for the customer's words and names.
+// Marks stand for the customer's words and names; <Refused> for the beginning that most messages share. The two blanks
+// of the related document's closed project belong to its text.
 constexpr RefusalText kTexts[] = {
-    {Refusal::ProjectClosed, true, L" because the project is closed."},
-    {Refusal::StageLocked, true, L" because the project <Stage> is locked."},
-    {Refusal::WrongDocumentType, true, L" because this is the wrong document type; an online form is required."},
-    {Refusal::ReauthenticationRequired, false,
-     L"Documents that require user re-authentication for creating new versions must be uploaded using the <Deliverable> "
-     L"detail page in <Corvane>."},
-    {Refusal::BeingRouted, true, L" because the document is currently being routed."},
-    {Refusal::RoutedAndApproved, true, L" because the document was routed and approved."},
-    {Refusal::DeliverableWorkflowRunning, true, L" because the deliverable workflow is in progress"},
-    {Refusal::NoWorkflowPermission, true,
-     L" because you do not have permission to modify this <Type> during workflow."},
-    {Refusal::NotTeamMember, true, L" because you are not a project team member."},
-    {Refusal::OwnedByOther, true, L" because the <Type> is owned by <Owner>."},
-    {Refusal::NotOwned, true, L" because you do not own this <Type>."},
-    {Refusal::NoOwner, true, L" because the <Type> has no owner."},
-    {Refusal::NotTheOwner, true, L" because you are not the owner."},
+    {Refusal::ProjectClosed, L"<Refused> because the project is closed."},
+    {Refusal::StageLocked, L"<Refused> because the project <Stage> is locked."},
+    {Refusal::WrongDocumentType, L"<Refused> because this is the wrong document type; an online form is required."},
+    {Refusal::ReauthenticationRequired, L"Documents that require user re-authentication for creating new versions must "
+                                        L"be uploaded using the <Deliverable> "
+                                        L"detail page in <Corvane>."},
+    {Refusal::BeingRouted, L"<Refused> because the document is currently being routed."},
+    {Refusal::RoutedAndApproved, L"<Refused> because the document was routed and approved."},
+    {Refusal::DeliverableWorkflowRunning, L"<Refused> because the deliverable workflow is in progress"},
+    {Refusal::NoWorkflowPermission,
+     L"<Refused> because you do not have permission to modify this <Type> during workflow."},
+    {Refusal::NotTeamMember, L"<Refused> because you are not a project team member."},
+    {Refusal::OwnedByOther, L"<Refused> because the <Type> is owned by <Owner>."},
+    {Refusal::NotOwned, L"<Refused> because you do not own this <Type>."},
+    {Refusal::NoOwner, L"<Refused> because the <Type> has no owner."},
+    {Refusal::OutsideTheTeam, L"<Refused> because you are not a member of the project team."},
+    {Refusal::RelatedProjectClosed, L"<Refused>  because the project is closed."},
 };
 
-struct ErrorRow
+constexpr const wchar_t* TextOf(Refusal refusal)
 {
-    std::uint32_t number;
-    Refusal refusal;
-};
+    for (const RefusalText& row : kTexts) {
+        if (row.refusal == refusal) return row.text;
+    }
+    return L"";
+}
 
-// The server's numbers for a refused recording, from the base of application-defined errors.
-constexpr ErrorRow kErrors[] = {
-    {0x8004C6A3U, Refusal::NotTheOwner},   {0x8004C6A4U, Refusal::ProjectClosed},
-    {0x8004C6A5U, Refusal::StageLocked},   {0x8004C6A6U, Refusal::BeingRouted},
-    {0x8004C6A7U, Refusal::RoutedAndApproved}, {0x8004C6A9U, Refusal::ReauthenticationRequired},
+// The server's numbers lie above the base of application-defined errors, 0x80040000.
+constexpr SaveErrorRow kAssignmentRows[] = {
+    {0x8004C6A3U, L"<Refused> because you are not the owner."},
+    {0x8004C6A4U, TextOf(Refusal::ProjectClosed)},
+    {0x8004C6A5U, TextOf(Refusal::StageLocked)},
+    {0x8004C6A6U, TextOf(Refusal::BeingRouted)},
+    {0x8004C6A7U, TextOf(Refusal::RoutedAndApproved)},
+    {0x8004C6A9U, TextOf(Refusal::ReauthenticationRequired)},
+};
+constexpr SaveErrorRow kGateDocumentRows[] = {
+    {0x8004C6A3U, L"<Refused> because you are not the owner."},
+    {0x8004C6A4U,
+     L"The project '<Project>' is closed and no longer active.\r\n\r\nPlease click the Change button to select "
+     L"another project.\r\n\r\nYour document has not been saved."},
+};
+constexpr SaveErrorRow kRelatedDocumentRows[] = {
+    {0x8004073CU, TextOf(Refusal::RelatedProjectClosed)},
 };
 
 // Puts words in place of their marks in one pass, so that a word that looks like a mark stays a word.
 std::wstring Filled(std::wstring_view text, const UploadTerms& terms)
 {
-    const std::pair<std::wstring_view, const std::wstring&> words[] = {{L"<Stage>", terms.stage},
-                                                                       {L"<Type>", terms.targetType},
-                                                                       {L"<Owner>", terms.ownerName},
-                                                                       {L"<Deliverable>", terms.deliverable},
-                                                                       {L"<Corvane>", terms.corvane}};
+    const std::wstring refused = L"Document cannot be uploaded to " + terms.corvane;
+    const std::pair<std::wstring_view, std::wstring_view> words[] = {{L"<Refused>", refused},
+                                                                     {L"<Stage>", terms.stage},
+                                                                     {L"<Type>", terms.targetType},
+                                                                     {L"<Owner>", terms.ownerName},
+                                                                     {L"<Deliverable>", terms.deliverable},
+                                                                     {L"<Corvane>", terms.corvane},
+                                                                     {L"<Project>", terms.projectName}};
     std::wstring filled;
-    while (!text.empty())
-    {
+    while (!text.empty()) {
         std::size_t taken = 1;
         std::wstring_view put = text.substr(0, 1);
-        for (const auto& [mark, word] : words)
-        {
+        for (const auto& [mark, word] : words) {
             if (!text.starts_with(mark)) continue;
             taken = mark.size();
             put = word;
@@ -74,6 +90,10 @@ std::wstring Filled(std::wstring_view text, const UploadTerms& terms)
 
 } // namespace
 
+const SaveErrors kAssignmentErrors{kAssignmentRows};
+const SaveErrors kGateDocumentErrors{kGateDocumentRows};
+const SaveErrors kRelatedDocumentErrors{kRelatedDocumentRows};
+
 std::wstring TargetTypeName(std::int32_t projectId, std::int32_t deliverableId, std::int32_t activityId,
                             const UploadTerms& terms)
 {
@@ -82,22 +102,12 @@ std::wstring TargetTypeName(std::int32_t projectId, std::int32_t deliverableId, 
     return terms.deliverable + L" or " + terms.activity;
 }
 
-std::wstring RefusalMessage(Refusal refusal, const UploadTerms& terms)
-{
-    for (const auto& row : kTexts)
-    {
-        if (row.refusal != refusal) continue;
-        const std::wstring prefix = row.prefixed ? L"Document cannot be uploaded to <Corvane>" : L"";
-        return Filled(prefix + row.text, terms);
-    }
-    return {};
-}
+std::wstring RefusalMessage(Refusal refusal, const UploadTerms& terms) { return Filled(TextOf(refusal), terms); }
 
-std::optional<Refusal> RefusalOfError(std::int32_t number) noexcept
+std::optional<std::wstring> SaveErrorMessage(SaveErrors errors, std::int32_t number, const UploadTerms& terms)
 {
-    for (const ErrorRow& row : kErrors)
-    {
-        if (row.number == static_cast<std::uint32_t>(number)) return row.refusal;
+    for (const SaveErrorRow& row : errors) {
+        if (row.number == static_cast<std::uint32_t>(number)) return Filled(row.text, terms);
     }
     return std::nullopt;
 }

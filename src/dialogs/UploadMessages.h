@@ -3,8 +3,11 @@
 
 #include "dialogs/UploadRules.h"
 
+#include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 
 namespace corvane
 {
@@ -16,8 +19,12 @@ struct UploadTerms
     std::wstring deliverable;
     std::wstring activity;
     std::wstring stage;
+    std::wstring gate;
+    std::wstring gateDocument;
+    std::wstring completed;
     std::wstring targetType; // the customer's word for what is uploaded
     std::wstring ownerName;
+    std::wstring projectName;
 };
 
 // The customer's word for a target: one of the two, or both joined by " or " while it is not known.
@@ -26,8 +33,21 @@ struct UploadTerms
 
 [[nodiscard]] std::wstring RefusalMessage(Refusal refusal, const UploadTerms& terms);
 
-// Why the server refused to record a version, by the number of its error; nothing for any other number.
-[[nodiscard]] std::optional<Refusal> RefusalOfError(std::int32_t number) noexcept;
+// The message of an error that the server raised while a version was recorded. The text may hold marks for the
+// customer's words.
+struct SaveErrorRow
+{
+    std::uint32_t number;
+    const wchar_t* text;
+};
+using SaveErrors = std::span<const SaveErrorRow>;
+extern const SaveErrors kAssignmentErrors;
+extern const SaveErrors kGateDocumentErrors;
+extern const SaveErrors kRelatedDocumentErrors;
+
+// The message for an error number, with the words put in; nothing for a number that the table does not have.
+[[nodiscard]] std::optional<std::wstring> SaveErrorMessage(SaveErrors errors, std::int32_t number,
+                                                           const UploadTerms& terms);
 
 // The error by which the mail client declines to be automated; it is passed over in silence.
 inline constexpr std::int32_t kAutomationDeclined = 287;

@@ -87,13 +87,19 @@ UploadDecision TestOwnership(const UploadFacts& facts)
 
 UploadDecision DecideUpload(const UploadFacts& facts)
 {
-    for (const auto rule : {&TestState, &TestRouting, &TestWorkflow})
-    {
+    for (const auto rule : {&TestState, &TestRouting, &TestWorkflow}) {
         if (const RuleResult result = rule(facts)) return *result;
     }
     // A running workflow puts its own permissions in place of membership and ownership.
     if (WorkflowRuns(facts)) return kAllowed;
     return facts.isTeamMember ? TestOwnership(facts) : Refused(Refusal::NotTeamMember);
+}
+
+UploadDecision DecideGateDocument(const GateDocumentFacts& facts)
+{
+    if (!facts.isOwner && !facts.mayUpdate)
+        return Refused(facts.hasOwnerName ? Refusal::OwnedByOther : Refusal::NoOwner);
+    return facts.projectClosed ? Refused(Refusal::ProjectClosed) : kAllowed;
 }
 
 } // namespace corvane

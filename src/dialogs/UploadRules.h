@@ -58,17 +58,18 @@ enum class Refusal
     NoWorkflowPermission,
     NotTeamMember,
     OwnedByOther,
-    NotOwned, // the user does not own an unowned deliverable
-    NoOwner,  // an unowned activity
-    NotTheOwner // the server's own refusal while recording
+    NotOwned,            // the user does not own an unowned deliverable
+    NoOwner,             // an unowned activity or gate document
+    OutsideTheTeam,      // neither member, owner nor updater of a gate document
+    RelatedProjectClosed // the closed project of a related document
 };
 
 enum class Verdict
 {
     Allowed,
     Refused,
-    NeedsParentOwner,  // parentOwnerId has to be fetched first
-    NeedsManageAccess  // hasManageAccess has to be fetched first
+    NeedsParentOwner, // parentOwnerId has to be fetched first
+    NeedsManageAccess // hasManageAccess has to be fetched first
 };
 
 struct UploadDecision
@@ -79,5 +80,24 @@ struct UploadDecision
 
 // The first rule that matches decides.
 [[nodiscard]] UploadDecision DecideUpload(const UploadFacts& facts);
+
+// What the rules for a gate document look at.
+struct GateDocumentFacts
+{
+    bool isTeamMember = false;
+    bool mayUpdate = false;
+    bool isOwner = false;
+    bool hasOwnerName = false;
+    bool projectClosed = false;
+};
+
+// Neither member, owner nor updater: such a user may not upload to the gate document at all.
+[[nodiscard]] constexpr bool IsOutsider(const GateDocumentFacts& facts) noexcept
+{
+    return !facts.isTeamMember && !facts.isOwner && !facts.mayUpdate;
+}
+
+// Ownership comes before the closed project.
+[[nodiscard]] UploadDecision DecideGateDocument(const GateDocumentFacts& facts);
 
 } // namespace corvane

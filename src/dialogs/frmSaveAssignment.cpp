@@ -1,35 +1,19 @@
 #include "dialogs/frmSaveAssignment.h"
 
 #include "platform/Messages.h"
-#include "platform/Procedure.h"
 #include "resources/resource.h"
 #include "selection/frmSaveTo.h"
-#include "support/CCustomNames.h"
+#include "shared/DateText.h"
 #include "support/Conversions.h"
-#include "support/Help.h"
 #include "webservice/WebService.h"
 
 namespace corvane
 {
 
-frmSaveAssignment::frmSaveAssignment() noexcept : SaveDialog{L"frmSaveAssignment", IDD_frmSaveAssignment} {}
-
-std::span<const FormHandler> frmSaveAssignment::Handlers() const
-{
-    using Self = frmSaveAssignment;
-    static const FormHandler kHandlers[] = {
-        Handle<Self>(cmdSave, BN_CLICKED, L"cmdSave_Click", &Self::cmdSave_Click),
-        Handle<Self>(cmdSaveAndSend, BN_CLICKED, L"cmdSaveAndSend_Click", &Self::cmdSaveAndSend_Click),
-        Handle<Self>(cmdCancel, BN_CLICKED, L"cmdCancel_Click", &Self::cmdCancel_Click),
-        Handle<Self>(cmdChange, BN_CLICKED, L"cmdChange_Click", &Self::cmdChange_Click),
-        Handle<Self>(cmdHelp, BN_CLICKED, L"cmdHelp_Click", &Self::cmdHelp_Click),
-        Handle<Self>(txtComments, EN_SETFOCUS, L"txtComments_GotFocus", &Self::MultiLine_GotFocus),
-        Handle<Self>(txtComments, EN_KILLFOCUS, L"txtComments_LostFocus", &Self::MultiLine_LostFocus),
-        Handle<Self>(txtNotes, EN_SETFOCUS, L"txtNotes_GotFocus", &Self::MultiLine_GotFocus),
-        Handle<Self>(txtNotes, EN_KILLFOCUS, L"txtNotes_LostFocus", &Self::MultiLine_LostFocus),
-    };
-    return kHandlers;
-}
+frmSaveAssignment::frmSaveAssignment() noexcept
+    : SaveDialog{L"frmSaveAssignment", IDD_frmSaveAssignment, static_cast<std::int32_t>(TreeMode::Assignment),
+                 HelpTopic::SaveAssignment, kAssignmentErrors}
+{}
 
 std::span<const int> frmSaveAssignment::SaveControls() const noexcept
 {
@@ -37,70 +21,64 @@ std::span<const int> frmSaveAssignment::SaveControls() const noexcept
     return kControls;
 }
 
-void frmSaveAssignment::LoadCaptions()
+std::vector<SaveDialog::TargetId> frmSaveAssignment::TargetIds()
 {
-    m_terms = {CustomName(L"Corvane"), CustomName(L"Deliverable"), CustomName(L"Activity"), CustomName(L"Stage"), {}, {}};
-    m_completed = CustomName(L"Completed");
-    SetText(lblDeliverable, EscapeAmpersands(m_terms.deliverable));
-    SetText(lblActivity, EscapeAmpersands(m_terms.activity));
-    SetText(chkComplete, EscapeAmpersands(L"Mark as " + m_completed));
-    for (const int textBox : {txtAuthor, txtComments, txtNotes})
-        SelectAllOnCtrlA(textBox);
+    return {{DeliverableID, &frmSaveTo::DeliverableID}, {ActivityID, &frmSaveTo::ActivityID}};
 }
 
-void frmSaveAssignment::LoadUser()
+void frmSaveAssignment::ShowTerms()
 {
-    m_facts.userId = ToLongSafe(QueryText(ServerURL, Operations::kGetUserId, {}));
-    m_facts.kind = DeliverableID > 0 ? TargetKind::Deliverable : TargetKind::Activity;
+    SetText(lblDeliverable, EscapeAmpersands(Terms().deliverable));
+    SetText(lblActivity, EscapeAmpersands(Terms().activity));
+    SetText(chkComplete, EscapeAmpersands(L"Mark as " + Terms().completed));
 }
+
+void frmSaveAssignment::LoadUser() { m_facts.userId = ToLongSafe(QueryText(ServerURL, Operations::kGetUserId, {})); }
 
 DocumentBinding frmSaveAssignment::Binding() const
 {
     return {.server = ServerURL, .projectId = ProjectID, .deliverableId = DeliverableID, .activityId = ActivityID};
 }
 
-bool frmSaveAssignment::ConfirmSave()
+SaveDialog::SaveStart frmSaveAssignment::BeginSave()
 {
-    if (m_facts.statusCode != kStatusCompleted) return true;
+    if (m_facts.statusCode != kStatusCompleted) return SaveStart::Go;
     const std::wstring question =
-        L"Document has been marked as " + m_completed + L". Do you want to upload a new version?";
-    return ShowMessage(question, kStyleOkCancel | kStyleInformation) == IDOK;
+        L"Document has been marked as " + Terms().completed + L". Do you want to upload a new version?";
+    return ShowMessage(question, kStyleOkCancel | kStyleInformation) == IDOK ? SaveStart::Go : SaveStart::Hide;
 }
 
 std::wstring frmSaveAssignment::Record(const std::wstring& uploadName)
 {
     if (IsChecked(chkComplete)) m_facts.statusCode = kStatusCompleted;
-    const bool isActivity = ActivityID >= 1;
-    return QueryText(ServerURL, isActivity ? Operations::kUploadActivity : Operations::kUploadDeliverable,
-                     {oApplication.Text(L"Name"), ProjectID, isActivity ? ActivityID : DeliverableID, uploadName,
-                      Trim(Text(txtAuthor)), Trim(Text(txtComments)), IsChecked(chkPublish) ? 1 : 0,
-                      m_facts.statusCode, Trim(Text(txtNotes))});
+    return QueryText(ServerURL, IsActivity() ? Operations::kUploadActivity : Operations::kUploadDeliverable,
+                     {oApplication.Text(L"Name"), ProjectID, IsActivity() ? ActivityID : DeliverableID, uploadName,
+                      Trim(Text(txtAuthor)), Trim(Text(txtComments)), IsChecked(chkPublish) ? 1 : 0, m_facts.statusCode,
+                      Trim(Text(txtNotes))});
 }
 
-bool frmSaveAssignment::ShowSaveError(const Error& error)
+NotificationFacts frmSaveAssignment::Notification() const
 {
-    if (error.Number() == kAutomationDeclined) return true;
-    const auto refusal = RefusalOfError(error.Number());
-    if (refusal) ShowMessage(RefusalMessage(*refusal, m_terms), kStyleExclamation);
-    return refusal.has_value();
+    NotificationFacts facts = IsActivity() ? NotificationOf(NotifiedKind::Activity, ActivityID, txtActivity)
+                                           : NotificationOf(NotifiedKind::Deliverable, DeliverableID, txtDeliverable);
+    facts.term = IsActivity() ? Terms().activity : Terms().deliverable;
+    GetLatestVersionInfo(facts);
+    return facts;
 }
 
-void frmSaveAssignment::cmdChange_Click()
+void frmSaveAssignment::GetLatestVersionInfo(NotificationFacts& facts) const
 {
-    frmSaveTo tree;
-    tree.ServerURL = ServerURL;
-    tree.DeliverableID = DeliverableID;
-    tree.ActivityID = ActivityID;
-    tree.ShowModal();
-    tree.Unload();
-    if (tree.ServerURL == ServerURL && tree.DeliverableID == DeliverableID && tree.ActivityID == ActivityID) return;
-    ServerURL = tree.ServerURL;
-    ProjectID = tree.ProjectID;
-    DeliverableID = tree.DeliverableID;
-    ActivityID = tree.ActivityID;
-    LoadTarget();
+    if (IsActivity()) {
+        const XmlDocument versions = QueryXml(ServerURL, Operations::kGetActivityVersions, {ActivityID});
+        const XmlNode latest = versions.SelectFirst(L"//prj:version[@vtype='latest']");
+        facts.version = latest.Text(L"vnum");
+        facts.date = ShownDate(ParseDate(latest.Text(L"cdate"), kVersionDateLayout));
+        return;
+    }
+    const XmlDocument deliverable = QueryXml(ServerURL, Operations::kGetProjectDeliverable, {DeliverableID});
+    const XmlNode row = FirstRow(deliverable);
+    facts.version = row.Text(L"Version");
+    facts.date = ShownDate(ParseDate(row.Text(L"Date"), kVersionTimeLayout));
 }
-
-void frmSaveAssignment::cmdHelp_Click() { ShowHelpTopic(Window(), HelpTopic::SaveAssignment); }
 
 } // namespace corvane

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "dialogs/SaveDialog.h"
-#include "dialogs/UploadMessages.h"
 #include "platform/XmlDocument.h"
 
 namespace corvane
@@ -18,20 +17,17 @@ public:
     std::int32_t ActivityID = 0;
 
 private:
-    [[nodiscard]] std::span<const FormHandler> Handlers() const override;
-    void LoadCaptions() override;
+    void ShowTerms() override;
     void LoadUser() override;
     void LoadTarget() override;
+    [[nodiscard]] std::vector<TargetId> TargetIds() override;
     [[nodiscard]] std::span<const int> SaveControls() const noexcept override;
-    [[nodiscard]] bool ConfirmSave() override;
+    [[nodiscard]] SaveStart BeginSave() override;
     [[nodiscard]] DocumentBinding Binding() const override;
     [[nodiscard]] std::wstring Record(const std::wstring& uploadName) override;
-    [[nodiscard]] bool ShowSaveError(const Error& error) override;
+    [[nodiscard]] NotificationFacts Notification() const override;
 
-    void cmdChange_Click();
-    void cmdHelp_Click();
-
-    void LoadAssignment();
+    [[nodiscard]] bool IsActivity() const noexcept { return ActivityID >= 1; }
     void ShowTypeCaptions() const;
     void LoadDeliverable();
     void LoadActivity();
@@ -41,12 +37,10 @@ private:
     [[nodiscard]] std::int32_t WorkflowPermission(std::int32_t objectKind, std::int32_t objectId) const;
     [[nodiscard]] std::int32_t ParentOwner() const;
     [[nodiscard]] bool HasManageAccess() const;
-    void Refuse(Refusal refusal);
     void Allow();
     void ShowActivityRow(bool shown);
+    void GetLatestVersionInfo(NotificationFacts& facts) const;
 
-    UploadTerms m_terms;
-    std::wstring m_completed; // the customer's word for the completed status
     UploadFacts m_facts;
     std::wstring m_userName;
     std::wstring m_statusNote;

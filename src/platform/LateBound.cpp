@@ -62,6 +62,17 @@ LateBound LateBound::Create(const wchar_t* programmaticId)
     return LateBound{std::move(object)};
 }
 
+LateBound LateBound::Running(const wchar_t* programmaticId)
+{
+    CLSID classId{};
+    Check(::CLSIDFromProgID(programmaticId, &classId), programmaticId);
+    ComPtr<IUnknown> running;
+    Check(::GetActiveObject(classId, nullptr, running.GetAddressOf()), programmaticId);
+    ComPtr<IDispatch> object;
+    Check(running->QueryInterface(IID_PPV_ARGS(object.GetAddressOf())), programmaticId);
+    return LateBound{std::move(object)};
+}
+
 std::int32_t LateBound::Number(const wchar_t* name) const
 {
     const Variant value = Property(name);
@@ -85,8 +96,7 @@ Variant LateBound::Invoke(const wchar_t* name, int kind, std::span<Variant> argu
                    [](const Variant& value) { return value.Get(); });
     DISPID putName = DISPID_PROPERTYPUT;
     DISPPARAMS parameters{reversed.data(), nullptr, static_cast<UINT>(reversed.size()), 0};
-    if (kind == DISPATCH_PROPERTYPUT)
-    {
+    if (kind == DISPATCH_PROPERTYPUT) {
         parameters.rgdispidNamedArgs = &putName;
         parameters.cNamedArgs = 1;
     }

@@ -21,6 +21,9 @@ public:
     // A new object of a class named by its programmatic id; throws Error when it cannot be created.
     [[nodiscard]] static LateBound Create(const wchar_t* programmaticId);
 
+    // The object that a running program offers under the id; throws Error when none does.
+    [[nodiscard]] static LateBound Running(const wchar_t* programmaticId);
+
     explicit operator bool() const noexcept { return m_object != nullptr; }
     [[nodiscard]] IDispatch* Get() const noexcept { return m_object.Get(); }
     void Release() noexcept { m_object.Reset(); }

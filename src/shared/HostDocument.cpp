@@ -13,7 +13,7 @@ namespace
 struct HostTraits
 {
     const wchar_t* name;
-    const wchar_t* activeDocument; // null when the host has none
+    const wchar_t* activeDocument;   // null when the host has none
     const wchar_t* classicExtension; // default up to version 11
     const wchar_t* extension;        // default from version 12 on
 };
@@ -32,8 +32,7 @@ constexpr std::int32_t kSaveAsOpenXmlPresentation = 24; // .pptx
 const HostTraits* TraitsOf(const LateBound& application)
 {
     const std::wstring name = application.Text(L"Name");
-    for (const HostTraits& host : kHosts)
-    {
+    for (const HostTraits& host : kHosts) {
         if (name == host.name) return &host;
     }
     return nullptr;
@@ -92,7 +91,7 @@ bool IsEditing(const LateBound& application)
     Ignoring([&] {
         constexpr std::int32_t kButtonType = 1;
         constexpr std::int32_t kFileNewId = 18;
-        const LateBound bar = application.Object(L"CommandBars", L"Worksheet Menu Bar");
+        const LateBound bar = application.Object(L"CommandBars").Object(L"Item", L"Worksheet Menu Bar");
         const LateBound control =
             bar.Object(L"FindControl", kButtonType, kFileNewId, Variant::Missing(), Variant::Missing(), true);
         editing = control && control.Number(L"Enabled") == 0;
@@ -108,6 +107,23 @@ std::wstring DocumentTitle(const LateBound& application, const LateBound& /*outl
     return TitleWithExtension(ActiveDocument(application).Text(L"Name"), extension);
 }
 
+std::wstring DocumentAuthor(const LateBound& application)
+{
+    std::wstring author;
+    Ignoring([&] {
+        const LateBound properties = ActiveDocument(application).Object(L"BuiltInDocumentProperties");
+        author = properties.Object(L"Item", L"Author").Text(L"Value");
+    });
+    return author;
+}
+
+std::wstring ItemBodyStart(const LateBound& application, const LateBound& outlookInspector)
+{
+    constexpr std::size_t kLength = 200;
+    if (application.Text(L"Name") != kOutlookName) return {};
+    return outlookInspector.Object(L"CurrentItem").Text(L"Body").substr(0, kLength);
+}
+
 void MarkDocumentChanged(const LateBound& application) { ActiveDocument(application).Put(L"Saved", false); }
 
 SavedDocument SaveDocumentToDisk(const LateBound& application, const LateBound& outlookInspector)
@@ -116,11 +132,13 @@ SavedDocument SaveDocumentToDisk(const LateBound& application, const LateBound& 
     const LateBound document = ActiveDocument(application);
     const DocumentPlace place = PlaceOf(document);
     const std::wstring title = DocumentTitle(application, outlookInspector);
-    switch (PlanDiskSave(place))
-    {
-    case DiskSave::InDocuments: return {SaveInDocuments(application, document, title), std::nullopt};
-    case DiskSave::TemporaryCopy: return SaveTemporaryCopy(document, title);
-    case DiskSave::InPlace: break;
+    switch (PlanDiskSave(place)) {
+    case DiskSave::InDocuments:
+        return {SaveInDocuments(application, document, title), std::nullopt};
+    case DiskSave::TemporaryCopy:
+        return SaveTemporaryCopy(document, title);
+    case DiskSave::InPlace:
+        break;
     }
     document.Call(L"Save");
     return {place.fullName, std::nullopt};

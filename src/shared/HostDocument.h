@@ -23,6 +23,12 @@ namespace corvane
 // The document's name, with the default extension of the host's version when it has none. Throws the host's error.
 [[nodiscard]] std::wstring DocumentTitle(const LateBound& application, const LateBound& outlookInspector);
 
+// The document's author property; empty when it has none.
+[[nodiscard]] std::wstring DocumentAuthor(const LateBound& application);
+
+// The first 200 characters of the body of Outlook's open item; empty in other hosts.
+[[nodiscard]] std::wstring ItemBodyStart(const LateBound& application, const LateBound& outlookInspector);
+
 // Makes the host treat the document as changed, so that the next save writes it.
 void MarkDocumentChanged(const LateBound& application);
 

@@ -4,6 +4,7 @@
 #include "platform/HResult.h"
 #include "platform/Messages.h"
 #include "platform/Owners.h"
+#include "support/CTraceLog.h"
 
 namespace corvane
 {
@@ -57,6 +58,10 @@ void SetHelpFile(std::wstring path) { HelpFile() = std::move(path); }
 
 void ShowHelpContents() { Show(nullptr, kDisplayContents, 0); }
 
-void ShowHelpTopic(HWND owner, HelpTopic topic) { Show(owner, kHelpContext, static_cast<DWORD_PTR>(topic)); }
+void ShowHelpTopic(HWND owner, HelpTopic topic)
+{
+    TraceVariable(L"Help topic", std::to_wstring(static_cast<int>(topic)));
+    Show(owner, kHelpContext, static_cast<DWORD_PTR>(topic));
+}
 
 } // namespace corvane

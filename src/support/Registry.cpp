@@ -20,8 +20,8 @@ UniqueRegistryKey OpenKey(const std::wstring& key) noexcept
 UniqueRegistryKey OpenOrCreate(const std::wstring& key)
 {
     UniqueRegistryKey opened;
-    const LSTATUS status =
-        ::RegCreateKeyExW(HKEY_CURRENT_USER, key.c_str(), 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr, opened.Put(), nullptr);
+    const LSTATUS status = ::RegCreateKeyExW(HKEY_CURRENT_USER, key.c_str(), 0, nullptr, 0, KEY_READ | KEY_WRITE,
+                                             nullptr, opened.Put(), nullptr);
     Check(HRESULT_FROM_WIN32(static_cast<unsigned long>(status)), L"Registry");
     return opened;
 }
@@ -43,8 +43,9 @@ std::optional<std::wstring> ReadText(const std::wstring& key, const std::wstring
 {
     const UniqueRegistryKey opened = OpenKey(key);
     DWORD size = 0;
-    constexpr DWORD kTexts = RRF_RT_REG_SZ | RRF_RT_REG_EXPAND_SZ;
-    if (!opened || ::RegGetValueW(opened.Get(), nullptr, name.c_str(), kTexts, nullptr, nullptr, &size) != ERROR_SUCCESS)
+    constexpr DWORD kTexts = RRF_RT_REG_SZ | RRF_RT_REG_EXPAND_SZ | RRF_NOEXPAND;
+    if (!opened ||
+        ::RegGetValueW(opened.Get(), nullptr, name.c_str(), kTexts, nullptr, nullptr, &size) != ERROR_SUCCESS)
         return std::nullopt;
     std::wstring text(size / sizeof(wchar_t) + 1, L'\0');
     size = static_cast<DWORD>(text.size() * sizeof(wchar_t));

@@ -45,6 +45,26 @@ inline constexpr Operation kCheckWorkflowPermission{L"KRXBLL.APPLICATION.CHECKAC
                                                     Method::Get, AnswerForm::Text};
 inline constexpr Operation kUploadDeliverable{L"OFFI_API.CDeliverable.UploadAndUpdate", Method::Post, AnswerForm::Text};
 inline constexpr Operation kUploadActivity{L"OFFI_API.CActivity.UploadAndUpdate", Method::Post, AnswerForm::Text};
+inline constexpr Operation kGetProjectTeamMembers{L"KRXBLL.APPLICATION.GETPROJECTTEAMMEMBERS", Method::Get,
+                                                  AnswerForm::Xml};
+inline constexpr Operation kUserCanUpdate{L"KRXBLL.APPLICATION.USERCANUPDATE", Method::Get, AnswerForm::Text};
+inline constexpr Operation kGetProjectGateDocument{L"KRXBLL.APPLICATION.GETPROJECTGATEDOCUMENT", Method::Get,
+                                                   AnswerForm::Xml};
+inline constexpr Operation kGetActivityVersions{L"ACTIVITY_API.CACTIVITY.GETMULTIVERSIONDETAILSASXML", Method::Get,
+                                                AnswerForm::Xml};
+inline constexpr Operation kGetProject{L"KRXBLL.APPLICATION.GetProject", Method::Get, AnswerForm::Xml};
+inline constexpr Operation kGetProjectRelatedFile{L"KRXBLL.APPLICATION.GetProjectRelatedFile", Method::Get,
+                                                  AnswerForm::Xml};
+// The same operation in the letter case that asks for the date of the latest version.
+inline constexpr Operation kGetRelatedFileDate{L"KRXBLL.APPLICATION.GETPROJECTRELATEDFILE", Method::Get,
+                                               AnswerForm::Xml};
+inline constexpr Operation kGetGroups{L"RELATEDFILE_API.CFilter.GetGroups", Method::Get, AnswerForm::Xml};
+inline constexpr Operation kCreateRelatedFile{L"KRXBLL.Application.CreateProjectRelatedFile2", Method::Post,
+                                              AnswerForm::Text};
+inline constexpr Operation kUploadRelatedFile{L"KRXBLL.Application.UploadProjectRelatedFile2", Method::Post,
+                                              AnswerForm::Text};
+inline constexpr Operation kUploadGateDocument{L"OFFI_API.CGateDocument.UploadAndUpdate", Method::Post,
+                                               AnswerForm::Text};
 inline constexpr Operation kAssignmentTree{L"OFFI_API.CUser.GetMyAssignmentsAsTree", Method::Get, AnswerForm::Xml};
 inline constexpr Operation kRelatedFileTree{L"OFFI_API.CUser.GetMyProjectsRelatedFiles", Method::Get, AnswerForm::Xml};
 inline constexpr Operation kGateDocumentTree{L"OFFI_API.Cuser.GetMyGateDocumentsAsTree", Method::Get, AnswerForm::Xml};

@@ -8,7 +8,16 @@ namespace
 {
 
 // Every word differs from its default; one looks like a mark of the texts and has to stay a word.
-const UploadTerms kTerms{L"Orbit & Co", L"Work Item", L"Task", L"Phase", L"Task", L"Dana <Stage> Reyes"};
+const UploadTerms kTerms{.corvane = L"Orbit & Co",
+                         .deliverable = L"Work Item",
+                         .activity = L"Task",
+                         .stage = L"Phase",
+                         .gate = L"Door",
+                         .gateDocument = L"Pass",
+                         .completed = L"Done",
+                         .targetType = L"Task",
+                         .ownerName = L"Dana <Stage> Reyes",
+                         .projectName = L"Apollo"};
 
 struct MessageCase
 {
@@ -34,7 +43,8 @@ constexpr MessageCase kCases[] = {
     {Refusal::OwnedByOther, kPrefix, L" because the Task is owned by Dana <Stage> Reyes."},
     {Refusal::NotOwned, kPrefix, L" because you do not own this Task."},
     {Refusal::NoOwner, kPrefix, L" because the Task has no owner."},
-    {Refusal::NotTheOwner, kPrefix, L" because you are not the owner."},
+    {Refusal::OutsideTheTeam, kPrefix, L" because you are not a member of the project team."},
+    {Refusal::RelatedProjectClosed, kPrefix, L"  because the project is closed."}, // both blanks
 };
 
 } // namespace
@@ -45,31 +55,48 @@ TEST(UploadMessages, TellWhyInTheCustomersWords)
         EXPECT_EQ(RefusalMessage(refusal, kTerms), std::wstring{prefix} + text);
 }
 
-struct ErrorNumberCase
+struct ErrorCase
 {
+    const SaveErrors& errors;
     std::uint32_t number;
-    std::optional<Refusal> expected;
+    const wchar_t* expected; // null for an error that the table does not know
 };
 
-TEST(UploadMessages, KnowTheServersRefusalsByTheirNumbers)
+TEST(UploadMessages, TellTheServersRefusalsByTheirNumbersAndDialogs)
 {
-    constexpr ErrorNumberCase kNumbers[] = {
-        {0x8004C6A2U, std::nullopt},
-        {0x8004C6A3U, Refusal::NotTheOwner},
-        {0x8004C6A4U, Refusal::ProjectClosed},
-        {0x8004C6A5U, Refusal::StageLocked},
-        {0x8004C6A6U, Refusal::BeingRouted},
-        {0x8004C6A7U, Refusal::RoutedAndApproved},
-        {0x8004C6A8U, std::nullopt},
-        {0x8004C6A9U, Refusal::ReauthenticationRequired},
-        {0x8004C6AAU, std::nullopt},
-        {0x0000C6A3U, std::nullopt},
-        {225U, std::nullopt},
-        {287U, std::nullopt},
-        {0U, std::nullopt},
+    const std::wstring notOwner = std::wstring{kPrefix} + L" because you are not the owner.";
+    const std::wstring closed = std::wstring{kPrefix} + L" because the project is closed.";
+    const ErrorCase kErrors[] = {
+        {kAssignmentErrors, 0x8004C6A2U, nullptr},
+        {kAssignmentErrors, 0x8004C6A3U, notOwner.c_str()},
+        {kAssignmentErrors, 0x8004C6A4U, closed.c_str()},
+        {kAssignmentErrors, 0x8004C6A5U,
+         L"Document cannot be uploaded to Orbit & Co because the project Phase is locked."},
+        {kAssignmentErrors, 0x8004C6A6U,
+         L"Document cannot be uploaded to Orbit & Co because the document is currently being routed."},
+        {kAssignmentErrors, 0x8004C6A7U,
+         L"Document cannot be uploaded to Orbit & Co because the document was routed and approved."},
+        {kAssignmentErrors, 0x8004C6A8U, nullptr},
+        {kAssignmentErrors, 0x8004C6A9U,
+         L"Documents that require user re-authentication for creating new versions must be uploaded using the Work "
+         L"Item "
+         L"detail page in Orbit & Co."},
+        {kAssignmentErrors, 225U, nullptr},
+        {kGateDocumentErrors, 0x8004C6A3U, notOwner.c_str()},
+        {kGateDocumentErrors, 0x8004C6A4U,
+         L"The project 'Apollo' is closed and no longer active.\r\n\r\nPlease click the Change button to select "
+         L"another "
+         L"project.\r\n\r\nYour document has not been saved."},
+        {kGateDocumentErrors, 0x8004C6A5U, nullptr},
+        {kRelatedDocumentErrors, 0x8004073CU,
+         L"Document cannot be uploaded to Orbit & Co  because the project is closed."},
+        {kRelatedDocumentErrors, 0x8004C6A4U, nullptr},
     };
-    for (const auto& [number, expected] : kNumbers)
-        EXPECT_EQ(RefusalOfError(static_cast<std::int32_t>(number)), expected) << std::hex << number;
+    for (const auto& [errors, number, expected] : kErrors) {
+        const auto message = SaveErrorMessage(errors, static_cast<std::int32_t>(number), kTerms);
+        ASSERT_EQ(message.has_value(), expected != nullptr) << std::hex << number;
+        EXPECT_EQ(message.value_or(L""), expected == nullptr ? L"" : expected) << std::hex << number;
+    }
 }
 
 struct TypeCase

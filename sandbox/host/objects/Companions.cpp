@@ -11,11 +11,15 @@ constexpr long kMailItem = 0; // of OlItemType
 
 std::span<const Member> LoginObject::Members() const
 {
-    static constexpr Member kMembers[] = {{1, L"IsLoggedIn", kEither, Answer<&LoginObject::IsLoggedIn>}};
+    static constexpr Member kMembers[] = {{1, L"IsLoggedIn", kGetPut, Answer<&LoginObject::IsLoggedIn>}};
     return kMembers;
 }
 
-Value LoginObject::IsLoggedIn(const Arguments&) { return Value::OfBoolean(m_loggedIn); }
+Value LoginObject::IsLoggedIn(const Arguments& arguments)
+{
+    if (arguments.IsPut()) m_loggedIn = arguments.At(0).Boolean();
+    return Value::OfBoolean(m_loggedIn);
+}
 
 std::span<const Member> OutlookObject::Members() const
 {

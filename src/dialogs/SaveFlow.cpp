@@ -1,0 +1,82 @@
+// The one flow by which every save dialog saves a document, and the notification behind it.
+#include "dialogs/SaveDialog.h"
+
+#include "platform/MessageLoop.h"
+#include "platform/Procedure.h"
+#include "resources/resource.h"
+#include "shared/ClientEvents.h"
+#include "shared/DocumentNames.h"
+#include "shared/HostDocument.h"
+#include "shared/NotificationMail.h"
+#include "webservice/Transfer.h"
+
+namespace corvane
+{
+namespace
+{
+// How long "Save Complete" stays before the dialog goes.
+constexpr std::chrono::milliseconds kCompletePause{1000};
+} // namespace
+
+bool SaveDialog::Save()
+{
+    const SaveStart start = BeginSave();
+    if (start == SaveStart::Hide) Hide();
+    if (start != SaveStart::Go) return false;
+    bool saved = false;
+    const auto failure = Catch([&] { saved = UploadAndRecord(); });
+    if (failure) ShowError(*failure);
+    SetStatus(StatusBar1, L"Ready");
+    SetControlsEnabled(true);
+    SetHourglass(false);
+    if (saved) Hide();
+    return saved;
+}
+
+bool SaveDialog::UploadAndRecord()
+{
+    const ProcedureScope scope{L"SaveDialog.UploadAndRecord"};
+    if (m_clientEvents) RunBeforeSaveEvent(oApplication);
+    SetStatus(StatusBar1, L"Contacting the server...");
+    SetControlsEnabled(false);
+    SetHourglass(true);
+    if (!MaySave()) return false;
+    BindDocument();
+    const std::wstring title = DocumentTitle(oApplication, OutlookInspector);
+    const SavedDocument file = HasTarget() ? SaveDocumentToDisk(oApplication, OutlookInspector) : SavedDocument{};
+    const std::wstring uploadName = UploadNameOf(title, file.path);
+    ExecuteASPWSUploadFile(ServerURL, file.path, uploadName);
+
+    const std::wstring reply = HasTarget() ? Record(uploadName) : std::wstring{};
+    if (ProcessSaveResult(reply) == L"CANCEL") return false;
+    AfterRecord(reply);
+    if (m_clientEvents) RunAfterSaveEvent(oApplication);
+    SetStatus(StatusBar1, L"Save Complete");
+    PumpFor(kCompletePause);
+    return true;
+}
+
+void SaveDialog::cmdSave_Click() { Save(); }
+
+void SaveDialog::cmdSaveAndSend_Click()
+{
+    if (!Save()) return;
+    // The version stands whatever becomes of the mail.
+    const auto failure =
+        Catch([this] { DisplayNotification(ProjectID, ServerURL, [this] { return Notification(); }); });
+    if (failure) ShowError(*failure);
+}
+
+NotificationFacts SaveDialog::NotificationOf(NotifiedKind kind, std::int32_t targetId, int nameControl) const
+{
+    NotificationFacts facts;
+    facts.kind = kind;
+    facts.targetId = targetId;
+    facts.targetName = Text(nameControl);
+    facts.projectId = ProjectID;
+    facts.projectName = Text(txtProject);
+    facts.server = ServerURL;
+    return facts;
+}
+
+} // namespace corvane

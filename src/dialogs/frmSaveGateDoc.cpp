@@ -1,0 +1,125 @@
+#include "dialogs/frmSaveGateDoc.h"
+
+#include "platform/Messages.h"
+#include "platform/Procedure.h"
+#include "resources/resource.h"
+#include "selection/frmSaveTo.h"
+#include "shared/DateText.h"
+#include "support/Conversions.h"
+#include "webservice/WebService.h"
+
+namespace corvane
+{
+namespace
+{
+constexpr std::int32_t kGateDocumentObject = 3; // object kind of the update right
+} // namespace
+
+frmSaveGateDoc::frmSaveGateDoc() noexcept
+    : SaveDialog{L"frmSaveGateDoc", IDD_frmSaveGateDoc, static_cast<std::int32_t>(TreeMode::GateDocument),
+                 HelpTopic::SaveGateDocument, kGateDocumentErrors}
+{}
+
+std::span<const int> frmSaveGateDoc::SaveControls() const noexcept
+{
+    static constexpr int kControls[] = {chkPublish, txtAuthor, txtComments};
+    return kControls;
+}
+
+std::vector<SaveDialog::TargetId> frmSaveGateDoc::TargetIds() { return {{GateDocumentID, &frmSaveTo::GateDocumentID}}; }
+
+void frmSaveGateDoc::ShowTerms()
+{
+    Terms().targetType = Terms().gateDocument;
+    SetText(lblGateDocument, EscapeAmpersands(Terms().gateDocument));
+    SetText(lblGate, EscapeAmpersands(Terms().gate));
+}
+
+void frmSaveGateDoc::LoadUser() { m_userId = ToLongSafe(QueryText(ServerURL, Operations::kGetUserId, {})); }
+
+void frmSaveGateDoc::LoadTarget()
+{
+    const ProcedureScope scope{L"frmSaveGateDoc.LoadGateDocument"};
+    m_facts = {};
+    Terms().ownerName.clear();
+    LoadUser();
+    LoadRights();
+    if (HasTarget()) LoadGateDocument();
+    if (ProjectID >= 1 && IsOutsider(m_facts)) {
+        AllowSave(); // the save itself refuses again
+        ShowMessage(RefusalMessage(Refusal::OutsideTheTeam, Terms()), kStyleCritical);
+        return;
+    }
+    ShowTypeCaptions();
+    const std::wstring userName = FirstRow(QueryXml(ServerURL, Operations::kGetUser, {})).Text(L"Name");
+    const UploadDecision decision = DecideGateDocument(m_facts);
+    if (decision.verdict == Verdict::Refused) return Refuse(decision.refusal);
+    SetText(txtAuthor, userName);
+    AllowSave();
+}
+
+void frmSaveGateDoc::LoadRights()
+{
+    m_facts.isTeamMember = ToBooleanSafe(QueryText(ServerURL, Operations::kIsProjectTeamMember, {ProjectID}));
+    m_facts.mayUpdate =
+        ToBooleanSafe(QueryText(ServerURL, Operations::kUserCanUpdate, {GateDocumentID, kGateDocumentObject}));
+}
+
+void frmSaveGateDoc::LoadGateDocument()
+{
+    const XmlDocument answer = QueryXml(ServerURL, Operations::kGetProjectGateDocument, {GateDocumentID, m_userId});
+    const XmlNode row = FirstRow(answer);
+    Terms().projectName = row.Text(L"ProjectName");
+    SetText(txtProject, Terms().projectName);
+    SetText(txtGateDocument, row.Text(L"Name"));
+    SetText(txtGate, row.Text(L"GateName"));
+    m_statusComment = row.Text(L"StatusComment");
+    const std::int32_t ownerId = ToLongSafe(row.Text(L"GateOwnerID"));
+    if (ownerId != 0) Terms().ownerName = row.Text(L"OwnerName");
+    m_facts.isOwner = ownerId == m_userId;
+    m_facts.hasOwnerName = !Terms().ownerName.empty();
+    m_facts.projectClosed = ToBooleanSafe(row.Text(L"ProjectClosed"));
+}
+
+void frmSaveGateDoc::ShowTypeCaptions() const
+{
+    constexpr const wchar_t* kType = L"Gate Document";
+    SetCaption(ReplaceAll(L"Save as Gate Document", kType, Terms().gateDocument));
+    const std::wstring advisory =
+        ReplaceAll(L"This will create a new version of the Gate Document", L"Corvane", Terms().corvane);
+    SetText(lblAdvisory, EscapeAmpersands(ReplaceAll(advisory, kType, Terms().gateDocument)));
+}
+
+bool frmSaveGateDoc::MaySave()
+{
+    if (!IsOutsider(m_facts)) return true;
+    ShowMessage(RefusalMessage(Refusal::OutsideTheTeam, Terms()), kStyleCritical);
+    return false;
+}
+
+DocumentBinding frmSaveGateDoc::Binding() const
+{
+    return {.server = ServerURL, .projectId = ProjectID, .gateDocumentId = GateDocumentID};
+}
+
+std::wstring frmSaveGateDoc::Record(const std::wstring& uploadName)
+{
+    return QueryText(ServerURL, Operations::kUploadGateDocument,
+                     {oApplication.Text(L"Name"), ProjectID, GateDocumentID, uploadName, Trim(Text(txtAuthor)),
+                      Trim(Text(txtComments)), IsChecked(chkPublish) ? 1 : 0, 0, m_statusComment});
+}
+
+NotificationFacts frmSaveGateDoc::Notification() const
+{
+    NotificationFacts facts = NotificationOf(NotifiedKind::GateDocument, GateDocumentID, txtGateDocument);
+    facts.term = Terms().gateDocument;
+    facts.gateTerm = Terms().gate;
+    facts.gateName = Text(txtGate);
+    const XmlDocument answer = QueryXml(ServerURL, Operations::kGetProjectGateDocument, {GateDocumentID, m_userId});
+    const XmlNode row = FirstRow(answer);
+    facts.version = row.Text(L"LatestVersion");
+    facts.date = ShownDate(ParseDate(row.Text(L"LatestVersionUploadedOn"), kVersionTimeLayout));
+    return facts;
+}
+
+} // namespace corvane

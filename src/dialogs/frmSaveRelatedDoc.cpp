@@ -1,0 +1,170 @@
+#include "dialogs/frmSaveRelatedDoc.h"
+
+#include "platform/Messages.h"
+#include "platform/Procedure.h"
+#include "resources/resource.h"
+#include "selection/frmSaveTo.h"
+#include "shared/DateText.h"
+#include "shared/HostDocument.h"
+#include "support/Conversions.h"
+#include "webservice/WebService.h"
+
+namespace corvane
+{
+namespace
+{
+
+constexpr const wchar_t* kUploadRole = L"RU";
+constexpr const wchar_t* kDefaultGroup = L"[default]"; // in lower case
+
+int AddString(HWND combo, const std::wstring& text) noexcept
+{
+    return static_cast<int>(::SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str())));
+}
+
+// The text of a list entry.
+std::wstring ListText(HWND combo, int index)
+{
+    const LRESULT length = ::SendMessageW(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(index), 0);
+    std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
+    ::SendMessageW(combo, CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.data()));
+    text.pop_back();
+    return text;
+}
+
+} // namespace
+
+frmSaveRelatedDoc::frmSaveRelatedDoc() noexcept
+    : SaveDialog{L"frmSaveRelatedDoc", IDD_frmSaveRelatedDoc, static_cast<std::int32_t>(TreeMode::RelatedDocument),
+                 HelpTopic::SaveRelatedDocument, kRelatedDocumentErrors}
+{}
+
+std::span<const int> frmSaveRelatedDoc::SaveControls() const noexcept
+{
+    static constexpr int kControls[] = {txtName, txtDescription, txtAuthor, cboGroup, chkPublish};
+    return kControls;
+}
+
+std::vector<SaveDialog::TargetId> frmSaveRelatedDoc::TargetIds()
+{
+    return {{ProjectID, &frmSaveTo::ProjectID}, {RelatedDocID, &frmSaveTo::RelatedDocID}};
+}
+
+void frmSaveRelatedDoc::LoadTarget()
+{
+    const ProcedureScope scope{L"frmSaveRelatedDoc.LoadRelatedDocument"};
+    const XmlDocument user = QueryXml(ServerURL, Operations::kGetUser, {});
+    if (FirstRow(user).Text(L"RoleList").find(kUploadRole) == std::wstring::npos) {
+        ShowMessage(L"You do not have rights to upload a related document to this project.", kStyleCritical);
+        return;
+    }
+    const bool open = IsNew() ? LoadNewDocument() : LoadExistingDocument();
+    if (open)
+        AllowSave();
+    else
+        ShowMessage(RefusalMessage(Refusal::RelatedProjectClosed, Terms()), kStyleExclamation);
+}
+
+bool frmSaveRelatedDoc::LoadNewDocument()
+{
+    SetText(chkPublish, L"Publish");
+    const XmlDocument answer = QueryXml(ServerURL, Operations::kGetProject, {ProjectID});
+    const XmlNode project = FirstRow(answer);
+    if (ToBooleanSafe(project.Text(L"Closed"))) return false;
+    SetText(txtProject, project.Text(L"ProjectName"));
+    SetText(txtName, DocumentTitle(oApplication, OutlookInspector));
+    SetText(txtDescription, ItemBodyStart(oApplication, OutlookInspector));
+    SetText(txtAuthor, AuthorOfDocument());
+    Check(chkPublish, AutomaticallySetPublishCheckbox);
+    FillGroups();
+    const HWND combo = Control(cboGroup);
+    const auto count = static_cast<int>(::SendMessageW(combo, CB_GETCOUNT, 0, 0));
+    int chosen = 0;
+    while (chosen < count && ToLower(ListText(combo, chosen)) != kDefaultGroup)
+        ++chosen;
+    ::SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(chosen < count ? chosen : 0), 0);
+    return true;
+}
+
+bool frmSaveRelatedDoc::LoadExistingDocument()
+{
+    SetText(chkPublish, L"Published");
+    const XmlDocument answer = QueryXml(ServerURL, Operations::kGetProjectRelatedFile, {RelatedDocID});
+    const XmlNode document = FirstRow(answer);
+    if (ToBooleanSafe(document.Text(L"ProjectClosed"))) return false;
+    SetText(txtProject, document.Text(L"ProjectName"));
+    SetText(txtName, document.Text(L"Name"));
+    SetText(txtDescription, document.Text(L"Description"));
+    SetText(txtAuthor, document.Text(L"Author"));
+    Check(chkPublish, ToBooleanSafe(document.Text(L"Published")));
+    FillGroups();
+    SelectGroup(Trim(document.Text(L"GroupName")));
+    return true;
+}
+
+void frmSaveRelatedDoc::FillGroups()
+{
+    const HWND combo = Control(cboGroup);
+    ::SendMessageW(combo, CB_RESETCONTENT, 0, 0);
+    const XmlDocument groups = QueryXml(ServerURL, Operations::kGetGroups, {ProjectID});
+    for (const XmlNode& group : groups.Select(L"//fg:group"))
+        AddString(combo, group.Text(L"name"));
+}
+
+void frmSaveRelatedDoc::SelectGroup(const std::wstring& group)
+{
+    const HWND combo = Control(cboGroup);
+    const auto count = static_cast<int>(::SendMessageW(combo, CB_GETCOUNT, 0, 0));
+    int index = 0;
+    while (index < count && ListText(combo, index) != group)
+        ++index;
+    // A category that the project does not offer stays the document's own.
+    if (index == count && !group.empty()) index = AddString(combo, group);
+    ::SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+}
+
+std::wstring frmSaveRelatedDoc::AuthorOfDocument() const
+{
+    std::wstring author = DocumentAuthor(oApplication);
+    return author.empty() ? FirstRow(QueryXml(ServerURL, Operations::kGetUser, {})).Text(L"Name") : author;
+}
+
+SaveDialog::SaveStart frmSaveRelatedDoc::BeginSave()
+{
+    if (!Trim(Text(txtName)).empty()) return SaveStart::Go;
+    ShowMessage(L"Name is required.", kStyleCritical);
+    return SaveStart::StayOpen;
+}
+
+DocumentBinding frmSaveRelatedDoc::Binding() const
+{
+    return {.server = ServerURL, .projectId = ProjectID, .relatedFileId = RelatedDocID};
+}
+
+std::wstring frmSaveRelatedDoc::Record(const std::wstring& uploadName)
+{
+    return QueryText(ServerURL, IsNew() ? Operations::kCreateRelatedFile : Operations::kUploadRelatedFile,
+                     {IsNew() ? ProjectID : RelatedDocID, uploadName, Trim(Text(txtName)), Trim(Text(txtAuthor)),
+                      Trim(Text(cboGroup)), Trim(Text(txtDescription)), IsChecked(chkPublish) ? 1 : 0});
+}
+
+void frmSaveRelatedDoc::AfterRecord(const std::wstring& reply)
+{
+    if (!IsNew() || reply.empty()) return;
+    // The file is to carry the id that the server gave the new document.
+    RelatedDocID = ToLongSafe(reply);
+    BindDocument();
+    static_cast<void>(SaveDocumentToDisk(oApplication, OutlookInspector));
+}
+
+NotificationFacts frmSaveRelatedDoc::Notification() const
+{
+    NotificationFacts facts = NotificationOf(NotifiedKind::RelatedDocument, RelatedDocID, txtName);
+    facts.term = L"Related Document";
+    facts.author = Trim(Text(txtAuthor));
+    const XmlDocument answer = QueryXml(ServerURL, Operations::kGetRelatedFileDate, {RelatedDocID});
+    facts.date = ShownDate(ParseDate(FirstRow(answer).Text(L"Date"), kVersionTimeLayout));
+    return facts;
+}
+
+} // namespace corvane

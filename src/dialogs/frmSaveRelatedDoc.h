@@ -1,0 +1,39 @@
+// The dialog that saves a document as a new or existing related document of a project.
+#pragma once
+
+#include "dialogs/SaveDialog.h"
+#include "platform/XmlDocument.h"
+
+namespace corvane
+{
+
+class frmSaveRelatedDoc final : public SaveDialog
+{
+public:
+    frmSaveRelatedDoc() noexcept;
+
+    // Input beside those of every save dialog: the target, below 1 for a new document. After the first save of a new
+    // document it is the id that the server gave it.
+    std::int32_t RelatedDocID = 0;
+
+private:
+    void ShowTerms() override {}
+    void LoadTarget() override;
+    [[nodiscard]] std::vector<TargetId> TargetIds() override;
+    [[nodiscard]] std::span<const int> SaveControls() const noexcept override;
+    [[nodiscard]] SaveStart BeginSave() override;
+    [[nodiscard]] DocumentBinding Binding() const override;
+    [[nodiscard]] std::wstring Record(const std::wstring& uploadName) override;
+    void AfterRecord(const std::wstring& reply) override;
+    [[nodiscard]] NotificationFacts Notification() const override;
+
+    [[nodiscard]] bool IsNew() const noexcept { return RelatedDocID < 1; }
+    // Fill the dialog from the server; false when the project is closed.
+    [[nodiscard]] bool LoadNewDocument();
+    [[nodiscard]] bool LoadExistingDocument();
+    void FillGroups();
+    void SelectGroup(const std::wstring& group);
+    [[nodiscard]] std::wstring AuthorOfDocument() const;
+};
+
+} // namespace corvane

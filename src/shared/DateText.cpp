@@ -1,0 +1,121 @@
+#include "shared/DateText.h"
+
+#include "support/Conversions.h"
+
+#include <array>
+#include <chrono>
+#include <cmath>
+#include <limits>
+#include <vector>
+
+namespace corvane
+{
+namespace
+{
+
+// Layouts of the date itself: how its pieces are separated and at which of them day, month and year stand.
+struct DateLayout
+{
+    std::array<std::wstring_view, 4> names;
+    wchar_t separator;
+    std::size_t day;
+    std::size_t month;
+    std::size_t year;
+    bool mayHaveTime;
+};
+constexpr DateLayout kLayouts[] = {
+    {{L"MM/dd/yyyy", L"M/d/yyyy", L"MM/dd/yy", L"M/d/yy"}, L'/', 1, 0, 2, true},
+    {{L"MM-dd-yyyy", L"M-d-yyyy", L"MM-dd-yy", L"M-d-yy"}, L'-', 1, 0, 2, true},
+    {{L"dd/MM/yyyy", L"d/M/yyyy", L"dd/MM/yy", L"d/M/yy"}, L'/', 0, 1, 2, false},
+    {{L"dd-MM-yyyy", L"d-M-yyyy", L"dd-MM-yy", L"d-M-yy"}, L'-', 0, 1, 2, false},
+    {{L"yyyy/MM/dd", L"yy/MM/dd", L"yyyy/M/d", L"yy/M/d"}, L'/', 2, 1, 0, false},
+    {{L"yyyy-MM-dd", L"yy-MM-dd", L"yyyy-M-d", L"yy-M-d"}, L'-', 2, 1, 0, false},
+};
+constexpr std::wstring_view kTimes[] = {L" HH:mm:ss AMPM", L" H:m:ss AMPM", L" HH:mm:ss", L" H:m:ss"};
+constexpr std::wstring_view kIsoNames[] = {L"UTC", L"yyyy-MM-ddTHH:mm:ss.nnn"};
+constexpr DateLayout kIsoLayout{{}, L'-', 2, 1, 0, false};
+constexpr std::size_t kIsoDateLength = 10;
+
+bool IsTime(std::wstring_view name)
+{
+    for (const std::wstring_view time : kTimes) {
+        if (name == time) return true;
+    }
+    return false;
+}
+
+// A layout and the part of the text that it reads.
+struct DateSource
+{
+    const DateLayout* layout = nullptr;
+    std::wstring_view text;
+};
+
+DateSource SourceOf(std::wstring_view text, std::wstring_view layout)
+{
+    for (const std::wstring_view name : kIsoNames) {
+        if (layout == name) return {&kIsoLayout, text.substr(0, kIsoDateLength)};
+    }
+    for (const DateLayout& candidate : kLayouts) {
+        for (const std::wstring_view name : candidate.names) {
+            if (layout == name) return {&candidate, text};
+            const bool timed = candidate.mayHaveTime && layout.starts_with(name) && IsTime(layout.substr(name.size()));
+            if (timed && text.find(L' ') != std::wstring_view::npos)
+                return {&candidate, text.substr(0, text.find(L' '))};
+        }
+    }
+    return {};
+}
+
+// The pieces as 16-bit integers; nothing when one is no such number.
+std::optional<std::vector<int>> NumbersIn(std::wstring_view text, wchar_t separator)
+{
+    std::vector<int> numbers;
+    for (;;) {
+        const auto end = text.find(separator);
+        const auto number = NumberIn(text.substr(0, end));
+        if (!number || std::abs(*number) > std::numeric_limits<std::int16_t>::max()) return std::nullopt;
+        numbers.push_back(static_cast<int>(std::nearbyint(*number)));
+        if (end == std::wstring_view::npos) return numbers;
+        text.remove_prefix(end + 1);
+    }
+}
+
+std::optional<CalendarDate> DateFromParts(int year, int month, int day)
+{
+    constexpr int kMonths = 12;
+    constexpr int kCentury = 100;
+    constexpr int kPivot = 30; // 00 to 29 are 2000 to 2029
+    if (year >= 0 && year < kCentury) year += year < kPivot ? 2000 : 1900;
+    const int months = year * kMonths + month - 1;
+    const auto first =
+        std::chrono::year{months / kMonths} / std::chrono::month{static_cast<unsigned>(months % kMonths) + 1} / 1;
+    if (year < kCentury || !first.ok()) return std::nullopt;
+    const std::chrono::year_month_day date{std::chrono::sys_days{first} + std::chrono::days{day - 1}};
+    return CalendarDate{static_cast<int>(date.year()), static_cast<int>(static_cast<unsigned>(date.month())),
+                        static_cast<int>(static_cast<unsigned>(date.day()))};
+}
+
+} // namespace
+
+std::optional<CalendarDate> ParseDate(std::wstring_view text, std::wstring_view layout)
+{
+    const DateSource source = SourceOf(text, layout);
+    if (source.layout == nullptr) return std::nullopt;
+    const auto numbers = NumbersIn(source.text, source.layout->separator);
+    if (!numbers || numbers->size() < 3) return std::nullopt;
+    return DateFromParts(numbers->at(source.layout->year), numbers->at(source.layout->month),
+                         numbers->at(source.layout->day));
+}
+
+std::wstring ShownDate(const std::optional<CalendarDate>& date)
+{
+    constexpr std::array<const wchar_t*, 12> kMonthNames = {L"Jan", L"Feb", L"Mar", L"Apr", L"May", L"Jun",
+                                                            L"Jul", L"Aug", L"Sep", L"Oct", L"Nov", L"Dec"};
+    if (!date) return {};
+    const std::wstring padding = date->day < 10 ? L"0" : L"";
+    return kMonthNames.at(static_cast<std::size_t>(date->month) - 1) + (L" " + padding) + std::to_wstring(date->day) +
+           L", " + std::to_wstring(date->year);
+}
+
+} // namespace corvane
