@@ -201,4 +201,39 @@ TEST(UploadRules, AskForOwnershipStepByStep)
     }
 }
 
+struct GateCase
+{
+    const char* name;
+    GateDocumentFacts facts;
+    bool outsider;
+    UploadDecision expected;
+};
+
+TEST(GateDocumentRules, PutOwnershipBeforeTheClosedProject)
+{
+    constexpr GateCase kCases[] = {
+        {"Owner", {.isOwner = true}, false, {Verdict::Allowed, {}}},
+        {"Updater", {.mayUpdate = true}, false, {Verdict::Allowed, {}}},
+        {"MemberOfAnotherOwners",
+         {.isTeamMember = true, .hasOwnerName = true},
+         false,
+         {Verdict::Refused, Refusal::OwnedByOther}},
+        {"NoOwner", {.isTeamMember = true}, false, {Verdict::Refused, Refusal::NoOwner}},
+        {"NoOwnerAndClosed",
+         {.isTeamMember = true, .projectClosed = true},
+         false,
+         {Verdict::Refused, Refusal::NoOwner}},
+        {"OwnerOfClosed", {.isOwner = true, .projectClosed = true}, false, {Verdict::Refused, Refusal::ProjectClosed}},
+        {"Nobody", {.hasOwnerName = true}, true, {Verdict::Refused, Refusal::OwnedByOther}},
+    };
+    for (const auto& [name, facts, outsider, expected] : kCases) {
+        const UploadDecision decision = DecideGateDocument(facts);
+        EXPECT_EQ(IsOutsider(facts), outsider) << name;
+        EXPECT_EQ(decision.verdict, expected.verdict) << name;
+        if (expected.verdict == Verdict::Refused) {
+            EXPECT_EQ(decision.refusal, expected.refusal) << name;
+        }
+    }
+}
+
 } // namespace corvane
