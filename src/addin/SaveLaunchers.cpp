@@ -27,36 +27,39 @@ void Prepare(SaveDialog& dialog, const frmBusy& busy)
     dialog.OutlookInspector = busy.oOutlookInspector;
 }
 
-void LaunchSaveGateDoc(frmBusy& busy)
+// An id of the target: where the dialog takes it and where the busy window keeps it.
+template<class Dialog>
+struct HandedId
 {
-    const ProcedureScope scope{L"SharedCode.LaunchSaveGateDoc"};
-    frmSaveGateDoc dialog;
-    Prepare(dialog, busy);
-    dialog.GateDocumentID = busy.lGateDocID;
-    dialog.ShowModal();
-}
+    std::int32_t Dialog::*to;
+    std::int32_t frmBusy::*from;
+};
 
-void LaunchSaveRelatedDoc(frmBusy& busy)
+template<class Dialog>
+void Launch(const frmBusy& busy, std::initializer_list<HandedId<Dialog>> ids)
 {
-    const ProcedureScope scope{L"SharedCode.LaunchSaveRelatedDoc"};
-    frmSaveRelatedDoc dialog;
+    const ProcedureScope scope{L"SharedCode.LaunchSaveDialog"};
+    Dialog dialog;
     Prepare(dialog, busy);
-    dialog.RelatedDocID = busy.lRelatedDocID;
-    dialog.ShowModal();
-}
-
-void LaunchSaveAssignment(frmBusy& busy)
-{
-    const ProcedureScope scope{L"SharedCode.LaunchSaveAssignment"};
-    frmSaveAssignment dialog;
-    Prepare(dialog, busy);
-    dialog.DeliverableID = busy.lDeliverableID;
-    dialog.ActivityID = busy.lActivityID;
+    for (const auto& [to, from] : ids)
+        dialog.*to = busy.*from;
     dialog.ShowModal();
 }
 
 } // namespace
 
-SaveProcedures MakeSaveProcedures() { return {&LaunchSaveAssignment, &LaunchSaveGateDoc, &LaunchSaveRelatedDoc}; }
+SaveProcedures MakeSaveProcedures()
+{
+    return {[](frmBusy& busy) {
+                Launch<frmSaveAssignment>(busy, {{&frmSaveAssignment::DeliverableID, &frmBusy::lDeliverableID},
+                                                 {&frmSaveAssignment::ActivityID, &frmBusy::lActivityID}});
+            },
+            [](frmBusy& busy) {
+                Launch<frmSaveGateDoc>(busy, {{&frmSaveGateDoc::GateDocumentID, &frmBusy::lGateDocID}});
+            },
+            [](frmBusy& busy) {
+                Launch<frmSaveRelatedDoc>(busy, {{&frmSaveRelatedDoc::RelatedDocID, &frmBusy::lRelatedDocID}});
+            }};
+}
 
 } // namespace corvane

@@ -104,7 +104,7 @@ void SaveDialog::SetControlsEnabled(bool enabled)
 {
     for (const int control : {cmdSave, cmdCancel, cmdHelp, cmdChange})
         Enable(control, enabled);
-    for (const int control : SaveControls())
+    for (const int control : m_kind.controls)
         Enable(control, enabled);
     if (IsShown(cmdSaveAndSend)) Enable(cmdSaveAndSend, enabled);
     EnableCloseButton(Window(), enabled);
@@ -120,7 +120,7 @@ void SaveDialog::BindDocument() const
 void SaveDialog::ShowError(const Error& error) const
 {
     if (error.Number() == kAutomationDeclined) return;
-    if (const auto message = SaveErrorMessage(m_errors, error.Number(), m_terms))
+    if (const auto message = SaveErrorMessage(m_kind.errors, error.Number(), m_terms))
         ShowMessage(*message, kStyleExclamation);
     else
         ReportError(error);
@@ -130,7 +130,7 @@ void SaveDialog::cmdChange_Click()
 {
     const auto ids = TargetIds();
     frmSaveTo tree;
-    tree.DialogType = m_treeDialogType;
+    tree.DialogType = m_kind.treeDialogType;
     tree.ServerURL = ServerURL;
     for (const auto& [own, inTree] : ids)
         tree.*inTree = own;
@@ -150,7 +150,7 @@ void SaveDialog::cmdChange_Click()
 
 void SaveDialog::cmdCancel_Click() { Hide(); }
 
-void SaveDialog::cmdHelp_Click() { ShowHelpTopic(Window(), m_helpTopic); }
+void SaveDialog::cmdHelp_Click() { ShowHelpTopic(Window(), m_kind.helpTopic); }
 
 void SaveDialog::MultiLine_GotFocus() { SetDefaultButton(0); }
 

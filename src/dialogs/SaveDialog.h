@@ -18,6 +18,17 @@ namespace corvane
 
 class frmSaveTo;
 
+// What sets one save dialog apart from the others before it is opened.
+struct SaveDialogKind
+{
+    const wchar_t* name; // of the form
+    int templateId;
+    std::int32_t treeDialogType; // the tree's mode for Change
+    HelpTopic helpTopic;
+    SaveErrors errors;             // the server's refusals
+    std::span<const int> controls; // out of use while a save runs, beside the buttons
+};
+
 // A form that saves the host's active document as a new version of a target on the server. The derived dialog knows
 // its target: how it is loaded, what is recorded, and what the server's refusals mean.
 class SaveDialog : public Form
@@ -45,10 +56,7 @@ protected:
         Hide
     };
 
-    SaveDialog(const wchar_t* name, int templateId, std::int32_t treeDialogType, HelpTopic helpTopic,
-               SaveErrors errors) noexcept
-        : Form{name, templateId}, m_treeDialogType{treeDialogType}, m_helpTopic{helpTopic}, m_errors{errors}
-    {}
+    explicit SaveDialog(const SaveDialogKind& kind) noexcept : Form{kind.name, kind.templateId}, m_kind{kind} {}
 
     // Puts the customer's words into the captions; fetches what is known of the user before the target is; fetches the
     // target and decides whether it may be uploaded. The last two run only where a server is given.
@@ -57,8 +65,6 @@ protected:
     virtual void LoadTarget() = 0;
     // The ids that name the target.
     [[nodiscard]] virtual std::vector<TargetId> TargetIds() = 0;
-    // The controls that are out of use while a save runs, beside the buttons.
-    [[nodiscard]] virtual std::span<const int> SaveControls() const noexcept = 0;
 
     // Asks or checks before the save; then, with the controls out of use, whether the user may save at all.
     [[nodiscard]] virtual SaveStart BeginSave() { return SaveStart::Go; }
@@ -112,9 +118,7 @@ private:
     // Tells the user of an error of the save or the mail.
     void ShowError(const Error& error) const;
 
-    std::int32_t m_treeDialogType;
-    HelpTopic m_helpTopic;
-    SaveErrors m_errors;
+    SaveDialogKind m_kind;
     UploadTerms m_terms;
     bool m_clientEvents = false;
     bool m_mailClientIsOutlook = false;

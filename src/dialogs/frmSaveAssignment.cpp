@@ -9,17 +9,15 @@
 
 namespace corvane
 {
+namespace
+{
+constexpr int kSaveControls[] = {chkComplete, chkPublish, txtAuthor, txtComments, txtNotes};
+} // namespace
 
 frmSaveAssignment::frmSaveAssignment() noexcept
-    : SaveDialog{L"frmSaveAssignment", IDD_frmSaveAssignment, static_cast<std::int32_t>(TreeMode::Assignment),
-                 HelpTopic::SaveAssignment, kAssignmentErrors}
+    : SaveDialog{{L"frmSaveAssignment", IDD_frmSaveAssignment, static_cast<std::int32_t>(TreeMode::Assignment),
+                  HelpTopic::SaveAssignment, kAssignmentErrors, kSaveControls}}
 {}
-
-std::span<const int> frmSaveAssignment::SaveControls() const noexcept
-{
-    static constexpr int kControls[] = {chkComplete, chkPublish, txtAuthor, txtComments, txtNotes};
-    return kControls;
-}
 
 std::vector<SaveDialog::TargetId> frmSaveAssignment::TargetIds()
 {

@@ -21,7 +21,6 @@ private:
     void LoadUser() override;
     void LoadTarget() override;
     [[nodiscard]] std::vector<TargetId> TargetIds() override;
-    [[nodiscard]] std::span<const int> SaveControls() const noexcept override;
     [[nodiscard]] SaveStart BeginSave() override;
     [[nodiscard]] DocumentBinding Binding() const override;
     [[nodiscard]] std::wstring Record(const std::wstring& uploadName) override;

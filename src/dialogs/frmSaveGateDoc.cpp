@@ -12,19 +12,14 @@ namespace corvane
 {
 namespace
 {
+constexpr int kSaveControls[] = {chkPublish, txtAuthor, txtComments};
 constexpr std::int32_t kGateDocumentObject = 3; // object kind of the update right
 } // namespace
 
 frmSaveGateDoc::frmSaveGateDoc() noexcept
-    : SaveDialog{L"frmSaveGateDoc", IDD_frmSaveGateDoc, static_cast<std::int32_t>(TreeMode::GateDocument),
-                 HelpTopic::SaveGateDocument, kGateDocumentErrors}
+    : SaveDialog{{L"frmSaveGateDoc", IDD_frmSaveGateDoc, static_cast<std::int32_t>(TreeMode::GateDocument),
+                  HelpTopic::SaveGateDocument, kGateDocumentErrors, kSaveControls}}
 {}
-
-std::span<const int> frmSaveGateDoc::SaveControls() const noexcept
-{
-    static constexpr int kControls[] = {chkPublish, txtAuthor, txtComments};
-    return kControls;
-}
 
 std::vector<SaveDialog::TargetId> frmSaveGateDoc::TargetIds() { return {{GateDocumentID, &frmSaveTo::GateDocumentID}}; }
 

@@ -19,7 +19,6 @@ private:
     void LoadUser() override;
     void LoadTarget() override;
     [[nodiscard]] std::vector<TargetId> TargetIds() override;
-    [[nodiscard]] std::span<const int> SaveControls() const noexcept override;
     [[nodiscard]] bool MaySave() override;
     [[nodiscard]] bool HasTarget() const override { return GateDocumentID > 0; }
     [[nodiscard]] DocumentBinding Binding() const override;

@@ -13,6 +13,7 @@ namespace corvane
 {
 namespace
 {
+constexpr int kSaveControls[] = {txtName, txtDescription, txtAuthor, cboGroup, chkPublish};
 
 constexpr const wchar_t* kUploadRole = L"RU";
 constexpr const wchar_t* kDefaultGroup = L"[default]"; // in lower case
@@ -35,15 +36,9 @@ std::wstring ListText(HWND combo, int index)
 } // namespace
 
 frmSaveRelatedDoc::frmSaveRelatedDoc() noexcept
-    : SaveDialog{L"frmSaveRelatedDoc", IDD_frmSaveRelatedDoc, static_cast<std::int32_t>(TreeMode::RelatedDocument),
-                 HelpTopic::SaveRelatedDocument, kRelatedDocumentErrors}
+    : SaveDialog{{L"frmSaveRelatedDoc", IDD_frmSaveRelatedDoc, static_cast<std::int32_t>(TreeMode::RelatedDocument),
+                  HelpTopic::SaveRelatedDocument, kRelatedDocumentErrors, kSaveControls}}
 {}
-
-std::span<const int> frmSaveRelatedDoc::SaveControls() const noexcept
-{
-    static constexpr int kControls[] = {txtName, txtDescription, txtAuthor, cboGroup, chkPublish};
-    return kControls;
-}
 
 std::vector<SaveDialog::TargetId> frmSaveRelatedDoc::TargetIds()
 {
