@@ -75,14 +75,19 @@ std::wstring CAddInMenus::GetOutlookRibbonXML() const noexcept
 
 void CAddInMenus::RibbonHandler2(const std::wstring& controlId) noexcept
 {
-    switch (RibbonCommandOf(controlId))
-    {
-    case RibbonCommand::None: return;
-    case RibbonCommand::SaveAssignment: return SaveAssignmentClickHelper(L"CAddInMenus.rbnSaveAsAssignment_Click");
-    case RibbonCommand::SaveRelatedDoc: return SaveRelatedDocClickHelper(L"CAddInMenus.rbnSaveAsRelatedDoc_Click");
-    case RibbonCommand::SaveGateDoc: return SaveGateDocClickHelper(L"CAddInMenus.rbnSaveAsGateDoc_Click");
-    case RibbonCommand::HelpTopics: return ShowHelp(L"CAddInMenus.rbnHelpTopics_Click");
-    case RibbonCommand::HelpAbout: return ShowAbout(L"CAddInMenus.rbnHelpAbout_Click");
+    switch (RibbonCommandOf(controlId)) {
+    case RibbonCommand::None:
+        return;
+    case RibbonCommand::SaveAssignment:
+        return SaveAssignmentClickHelper(L"CAddInMenus.rbnSaveAsAssignment_Click");
+    case RibbonCommand::SaveRelatedDoc:
+        return SaveRelatedDocClickHelper(L"CAddInMenus.rbnSaveAsRelatedDoc_Click");
+    case RibbonCommand::SaveGateDoc:
+        return SaveGateDocClickHelper(L"CAddInMenus.rbnSaveAsGateDoc_Click");
+    case RibbonCommand::HelpTopics:
+        return ShowHelp(L"CAddInMenus.rbnHelpTopics_Click");
+    case RibbonCommand::HelpAbout:
+        return ShowAbout(L"CAddInMenus.rbnHelpAbout_Click");
     }
 }
 
@@ -131,8 +136,7 @@ void CAddInMenus::Save(const SaveCommand& command, frmBusy& busy)
     // Loaded once before it is needed, so that it comes up at once.
     busy.Load();
     busy.Unload();
-    if (!IsDocumentOpen(m_oApplication))
-    {
+    if (!IsDocumentOpen(m_oApplication)) {
         ShowMessage(L"You must have a file open to save to Corvane", kStylePlain);
         return;
     }

@@ -14,6 +14,8 @@
 namespace corvane
 {
 
+struct MenuButton;
+
 class CAddInMenus
 {
 public:
@@ -48,8 +50,6 @@ public:
     void SaveRelatedDocClickHelper(std::wstring_view caller) noexcept { RunSave(kSaveRelatedDoc, caller); }
 
 private:
-    using Command = void (CAddInMenus::*)();
-
     void RunSave(const SaveCommand& command, std::wstring_view caller) noexcept;
     void Save(const SaveCommand& command, frmBusy& busy);
     void PickTarget(const SaveCommand& command);
@@ -57,7 +57,7 @@ private:
     void ShowHelp(std::wstring_view caller) const noexcept;
     void ShowAbout(std::wstring_view caller) const noexcept;
     [[nodiscard]] int HostVersion() const;
-    void AddMenuButton(const LateBound& controls, const struct MenuButton& button, const Variant& before);
+    void SetUpButton(const LateBound& control, const MenuButton& button);
 
     LateBound m_oApplication;
     LateBound rbnRibbonUI;

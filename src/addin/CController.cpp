@@ -24,7 +24,10 @@ STDMETHODIMP CController::SaveAsAssignement() noexcept
     return Start(L".SaveAsAssignement", &CAddInMenus::SaveAssignmentClickHelper);
 }
 
-STDMETHODIMP CController::SaveGateDoc() noexcept { return Start(L".SaveGateDoc", &CAddInMenus::SaveGateDocClickHelper); }
+STDMETHODIMP CController::SaveGateDoc() noexcept
+{
+    return Start(L".SaveGateDoc", &CAddInMenus::SaveGateDocClickHelper);
+}
 
 STDMETHODIMP CController::SaveRelatedDoc() noexcept
 {

@@ -2,8 +2,8 @@
 #include "addin/CAddInMenus.h"
 
 #include "platform/Procedure.h"
-#include "support/Conversions.h"
 #include "support/CTraceLog.h"
+#include "support/Conversions.h"
 
 namespace corvane
 {
@@ -100,16 +100,8 @@ void Present(const LateBound& control, const wchar_t* tag, const std::wstring& c
 
 } // namespace
 
-void CAddInMenus::AddMenuButton(const LateBound& controls, const MenuButton& button, const Variant& before)
+void CAddInMenus::SetUpButton(const LateBound& control, const MenuButton& button)
 {
-    const bool temporary = before.Get().vt != VT_EMPTY;
-    const LateBound control{
-        (temporary ? controls.Call(L"Add", kControlButton, Variant::Missing(), button.tag,
-                                   before.Get().vt == VT_I4 ? Variant{static_cast<std::int32_t>(before.Get().lVal)}
-                                                            : Variant::Missing(),
-                                   true)
-                   : controls.Call(L"Add", kControlButton))
-            .Object()};
     m_clicks.emplace_back(control.Get(), kButtonEvents,
                           [this, caller = button.caller, run = button.run](DISPID member, const DISPPARAMS&) {
                               if (member == kClick) run(*this, caller);
@@ -139,17 +131,18 @@ void CAddInMenus::CreateMenus(const LateBound& oCommandBar)
          [](CAddInMenus& menus, std::wstring_view caller) { menus.SaveGateDocClickHelper(caller); }},
     };
     for (const MenuButton& button : buttons)
-        AddMenuButton(saves, button, Variant{});
+        SetUpButton(LateBound{saves.Call(L"Add", kControlButton).Object()}, button);
 
     const LateBound help = MenuControls(oCommandBar, kHelpMenu);
-    AddMenuButton(help,
-                  {kHelpTag, L"Corvane for MS Office Help", L"CAddInMenus.cbrHelpTopics_Click",
-                   [](CAddInMenus& menus, std::wstring_view caller) { menus.ShowHelp(caller); }},
-                  PositionBehind(help, kHelpAnchor, kDefaultHelpPosition));
-    AddMenuButton(help,
-                  {kAboutTag, L"About Corvane for MS Office", L"CAddInMenus.cbrHelpAbout_Click",
-                   [](CAddInMenus& menus, std::wstring_view caller) { menus.ShowAbout(caller); }},
-                  Variant::Missing());
+    const auto addToHelp = [&](const wchar_t* tag, Variant before) {
+        return LateBound{help.Call(L"Add", kControlButton, Variant::Missing(), tag, std::move(before), true).Object()};
+    };
+    SetUpButton(addToHelp(kHelpTag, PositionBehind(help, kHelpAnchor, kDefaultHelpPosition)),
+                {kHelpTag, L"Corvane for MS Office Help", L"CAddInMenus.cbrHelpTopics_Click",
+                 [](CAddInMenus& menus, std::wstring_view caller) { menus.ShowHelp(caller); }});
+    SetUpButton(addToHelp(kAboutTag, Variant::Missing()),
+                {kAboutTag, L"About Corvane for MS Office", L"CAddInMenus.cbrHelpAbout_Click",
+                 [](CAddInMenus& menus, std::wstring_view caller) { menus.ShowAbout(caller); }});
 }
 
 void CAddInMenus::DeleteMenus(const LateBound& oCommandBar) noexcept

@@ -40,8 +40,7 @@ using corvane::Library;
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void* /*reserved*/)
 {
-    if (reason == DLL_PROCESS_ATTACH)
-    {
+    if (reason == DLL_PROCESS_ATTACH) {
         Library::SetModule(module);
         ::DisableThreadLibraryCalls(module);
     }

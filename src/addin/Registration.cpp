@@ -46,10 +46,7 @@ std::wstring TextOfGuid(const GUID& guid)
 
 std::wstring ProgId(const PublicClass& entry) { return std::wstring{kProject} + entry.name; }
 std::wstring ProgIdKey(const PublicClass& entry) { return kClasses + ProgId(entry); }
-std::wstring ClassKey(const PublicClass& entry)
-{
-    return std::wstring{kClasses} + L"CLSID\\" + TextOfGuid(entry.id);
-}
+std::wstring ClassKey(const PublicClass& entry) { return std::wstring{kClasses} + L"CLSID\\" + TextOfGuid(entry.id); }
 std::wstring TypeLibraryKey()
 {
     return std::wstring{kClasses} + L"TypeLib\\" + TextOfGuid(LIBID_CorvaneMSOfficePowerPoint);
@@ -82,8 +79,7 @@ void RegisterTypeLibrary(const std::wstring& library)
 
 const PublicClass* FindClass(REFCLSID id) noexcept
 {
-    for (const PublicClass& entry : kPublicClasses)
-    {
+    for (const PublicClass& entry : kPublicClasses) {
         if (entry.id == id) return &entry;
     }
     return nullptr;
@@ -105,8 +101,7 @@ void Unregister() noexcept
     Ignoring([] {
         Registry::DeleteTree(AddInKey());
         Registry::DeleteTree(TypeLibraryKey());
-        for (const PublicClass& entry : kPublicClasses)
-        {
+        for (const PublicClass& entry : kPublicClasses) {
             Registry::DeleteTree(ProgIdKey(entry));
             Registry::DeleteTree(ClassKey(entry));
         }

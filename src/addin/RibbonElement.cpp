@@ -14,14 +14,15 @@ std::wstring Esc(const std::wstring& text) { return EscapeAmpersands(text); }
 
 void FillOfficeMenu(RibbonElement& ribbon, const UICaptions& captions)
 {
-    RibbonElement& menu = ribbon.Add(L"officeMenu").Add(L"menu", {{L"id", L"SaveToCorvane"},
-                                                                  {L"insertAfterMso", L"FileSaveAsMenu"},
-                                                                  {L"label", Esc(captions.saveToCorvane)},
-                                                                  {L"imageMso", L"SaveAndClose"},
-                                                                  {L"title", Esc(captions.saveToCorvaneTitle)},
-                                                                  {L"visible", L"true"},
-                                                                  {L"enabled", L"true"},
-                                                                  {L"itemSize", L"large"}});
+    RibbonElement& menu = ribbon.Add(L"officeMenu")
+                              .Add(L"menu", {{L"id", L"SaveToCorvane"},
+                                             {L"insertAfterMso", L"FileSaveAsMenu"},
+                                             {L"label", Esc(captions.saveToCorvane)},
+                                             {L"imageMso", L"SaveAndClose"},
+                                             {L"title", Esc(captions.saveToCorvaneTitle)},
+                                             {L"visible", L"true"},
+                                             {L"enabled", L"true"},
+                                             {L"itemSize", L"large"}});
     const struct
     {
         const wchar_t* id;
@@ -34,8 +35,7 @@ void FillOfficeMenu(RibbonElement& ribbon, const UICaptions& captions)
         {L"GateDoc", captions.saveAsGateDocMenu, L"MasterDocument", captions.gateDocTip},
     };
     RibbonButton button;
-    for (const auto& [id, label, image, description] : kCommands)
-    {
+    for (const auto& [id, label, image, description] : kCommands) {
         button.id = id;
         button.label = Esc(label);
         button.imageMso = image;
@@ -47,14 +47,14 @@ void FillOfficeMenu(RibbonElement& ribbon, const UICaptions& captions)
 
 void FillBackstage(RibbonElement& root, const UICaptions& captions)
 {
-    RibbonElement& category = root.Add(L"backstage")
-                                  .Add(L"tab", {{L"id", L"TabSaveToCorvane"},
-                                                {L"label", Esc(captions.saveToCorvane)},
-                                                {L"insertAfterMso", L"TabPrint"}})
-                                  .Add(L"firstColumn")
-                                  .Add(L"taskGroup", {{L"id", L"TaskGroupSaveToCorvane"}, {L"label", L" "}})
-                                  .Add(L"category", {{L"id", L"CategorySaveToCorvane"},
-                                                     {L"label", captions.saveToCorvaneTip}});
+    RibbonElement& category =
+        root.Add(L"backstage")
+            .Add(L"tab", {{L"id", L"TabSaveToCorvane"},
+                          {L"label", Esc(captions.saveToCorvane)},
+                          {L"insertAfterMso", L"TabPrint"}})
+            .Add(L"firstColumn")
+            .Add(L"taskGroup", {{L"id", L"TaskGroupSaveToCorvane"}, {L"label", L" "}})
+            .Add(L"category", {{L"id", L"CategorySaveToCorvane"}, {L"label", captions.saveToCorvaneTip}});
     const auto addTask = [&category](const wchar_t* id, const std::wstring& label, const wchar_t* image) {
         category.Add(L"task", {{L"id", id},
                                {L"label", label},
@@ -92,7 +92,8 @@ void FillHelpTab(RibbonElement& tabs, const UICaptions& captions, RibbonTab kind
         button.onAction = kHandler;
         AddButton(menu, button);
     };
-    addButton(L"CorvaneOfficeHelp", captions.helpTopicsLabel, L"Help", L"MS Office Add-in Help", captions.helpTopicsTip);
+    addButton(L"CorvaneOfficeHelp", captions.helpTopicsLabel, L"Help", L"MS Office Add-in Help",
+              captions.helpTopicsTip);
     addButton(L"AboutCorvaneOffice", captions.aboutLabel, L"Info", L"About MS Office Add-in", captions.aboutTip);
 }
 
@@ -111,8 +112,8 @@ RibbonElement& RibbonElement::Add(std::wstring childName,
 
 void RibbonButton::Clear()
 {
-    for (std::wstring* text : {&description, &id, &getEnabled, &getLabel, &getSupertip, &getScreentip, &imageMso,
-                               &onAction, &size})
+    for (std::wstring* text :
+         {&description, &id, &getEnabled, &getLabel, &getSupertip, &getScreentip, &imageMso, &onAction, &size})
         text->clear();
 }
 
@@ -133,8 +134,7 @@ void AddButton(RibbonElement& parent, RibbonButton& button)
         {L"size", button.size},
     };
     RibbonElement& element = parent.Add(L"button");
-    for (const auto& [name, text] : attributes)
-    {
+    for (const auto& [name, text] : attributes) {
         if (!text.empty()) element.attributes.emplace_back(name, text);
     }
     button.Clear();
@@ -143,8 +143,7 @@ void AddButton(RibbonElement& parent, RibbonButton& button)
 RibbonElement BuildRibbon(int hostVersion, const UICaptions& captions, RibbonTab tab)
 {
     RibbonElement root{L"customUI", {}, {}};
-    if (tab == RibbonTab::Shared)
-        root.attributes = {{L"xmlns:a", L"CorvaneNameSpace"}, {L"onLoad", L"onLoad"}};
+    if (tab == RibbonTab::Shared) root.attributes = {{L"xmlns:a", L"CorvaneNameSpace"}, {L"onLoad", L"onLoad"}};
     RibbonElement& ribbon = root.Add(L"ribbon");
     if (!HasBackstage(hostVersion)) FillOfficeMenu(ribbon, captions);
     FillHelpTab(ribbon.Add(L"tabs"), captions, tab);

@@ -54,8 +54,7 @@ const SaveCommand kSaveRelatedDoc{1, 2, &NamesRelatedDocument, &NamesRelatedTarg
 
 RibbonCommand RibbonCommandOf(std::wstring_view controlId) noexcept
 {
-    for (const auto& [id, command] : kControls)
-    {
+    for (const auto& [id, command] : kControls) {
         if (id == controlId) return command;
     }
     return RibbonCommand::None;

@@ -9,8 +9,8 @@ namespace corvane
 STDMETHODIMP TraceLogObject::WriteError(LONG Number, BSTR Description, BSTR Source) noexcept
 {
     Ignoring([&] {
-        m_log.WriteError({static_cast<std::int32_t>(Number), std::wstring{ViewOf(Source)},
-                          std::wstring{ViewOf(Description)}});
+        m_log.WriteError(
+            {static_cast<std::int32_t>(Number), std::wstring{ViewOf(Source)}, std::wstring{ViewOf(Description)}});
     });
     return S_OK;
 }

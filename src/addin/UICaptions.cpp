@@ -47,11 +47,9 @@ constexpr CaptionRow kRows[] = {
 UICaptions BuildUICaptions(const std::function<std::wstring(std::wstring_view)>& name)
 {
     UICaptions captions;
-    for (const CaptionRow& row : kRows)
-    {
+    for (const CaptionRow& row : kRows) {
         std::wstring text = row.text;
-        for (const wchar_t* term : row.terms)
-        {
+        for (const wchar_t* term : row.terms) {
             if (term != nullptr) text = ReplaceAll(text, term, name(term));
         }
         captions.*row.member += text;

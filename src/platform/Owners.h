@@ -76,6 +76,7 @@ struct DeviceContextTraits
 
 using UniqueFile = Unique<FileTraits>;
 using UniqueRegistryKey = Unique<RegistryKeyTraits>;
+using UniqueFont = Unique<GdiTraits<HFONT>>;
 using UniqueBitmap = Unique<GdiTraits<HBITMAP>>;
 using UniqueDeviceContext = Unique<DeviceContextTraits>;
 

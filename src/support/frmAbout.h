@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Form.h"
+#include "platform/Owners.h"
 
 namespace corvane
 {
@@ -11,11 +12,15 @@ class frmAbout final : public Form
 {
 public:
     frmAbout() noexcept;
+    ~frmAbout() override;
 
 private:
     [[nodiscard]] std::span<const FormHandler> Handlers() const override;
     void Form_Load() override;
     void cmkOK_Click();
+    void SetLabelFont();
+
+    UniqueFont m_labelFont;
 };
 
 } // namespace corvane

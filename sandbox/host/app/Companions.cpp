@@ -1,5 +1,9 @@
 #include "app/Companions.h"
 
+#include <stdexcept>
+
+#include "app/Registry.h"
+
 namespace host
 {
 namespace
@@ -9,8 +13,77 @@ constexpr CLSID kLoginClass{0x5E0C1A7B, 0x3B0E, 0x4C57, {0x9A, 0x41, 0x6D, 0x2F,
 constexpr CLSID kOutlookClass{0x7D1F92C4, 0x58A3, 0x4B0D, {0x8E, 0x26, 0x11, 0xC5, 0x9F, 0x3A, 0x60, 0xB2}};
 constexpr wchar_t kLoginProgId[] = L"CorvaneMSOfficeExcel.CLogin";
 constexpr wchar_t kOutlookProgId[] = L"Outlook.Application";
+constexpr wchar_t kMailLinkKey[] = L"mailto\\shell\\open\\command";
+
+struct OutlookSetting
+{
+    const char* value;
+    MailMood mood;
+    bool running;
+};
+constexpr OutlookSetting kOutlookSettings[] = {
+    {"new", MailMood::Willing, false},           {"running", MailMood::Willing, true},
+    {"refusing", MailMood::RefusesItems, false}, {"refusing-recipients", MailMood::RefusesRecipients, false},
+    {"failing", MailMood::Fails, false},
+};
+
+struct MailClientSetting
+{
+    const char* value;
+    const wchar_t* command;
+};
+constexpr MailClientSetting kMailClientSettings[] = {
+    {"outlook", LR"("C:\Program Files\Microsoft Office\root\Office16\OUTLOOK.EXE" -c IPM.Note /mailto "%1")"},
+    {"other", LR"("C:\Program Files\Post Office\post.exe" -compose "%1")"},
+};
+
+std::wstring ClassesKey(const wchar_t* key) { return std::wstring{L"Software\\Classes\\"} + key; }
+
+// The row of a setting; null when the setting is not given. Throws on a value that has no row.
+template<class Row, std::size_t size>
+const Row* RowOf(const Row (&rows)[size], const Options& options, const char* name)
+{
+    const std::string value = options.Setting(name);
+    for (const Row& row : rows)
+        if (row.value == value) return &row;
+    if (!value.empty()) throw std::invalid_argument{std::string{name} + " cannot be " + value};
+    return nullptr;
+}
 
 } // namespace
+
+MailLinkCommand::MailLinkCommand(const std::wstring& command)
+{
+    const auto shown = [] { return RegistryKey::Open(HKEY_CLASSES_ROOT, kMailLinkKey).Text(nullptr); };
+    if (shown() != command) Write(HKEY_CURRENT_USER, command);
+    // A merged view that leaves out the user's classes shows the machine's.
+    if (shown() != command) Write(HKEY_LOCAL_MACHINE, command);
+}
+
+void MailLinkCommand::Write(HKEY root, const std::wstring& command)
+{
+    RegistryKey key = RegistryKey::Create(root, ClassesKey(kMailLinkKey));
+    Before before{root, REG_NONE, {}};
+    DWORD size = 0;
+    if (::RegQueryValueExW(key.Get(), nullptr, nullptr, &before.type, nullptr, &size) == ERROR_SUCCESS) {
+        before.value.resize(size);
+        ::RegQueryValueExW(key.Get(), nullptr, nullptr, nullptr, before.value.data(), &size);
+    }
+    m_before.push_back(std::move(before));
+    key.SetText(nullptr, command);
+}
+
+void MailLinkCommand::RemoveTraces() const
+{
+    for (const Before& before : m_before) {
+        const RegistryKey key = RegistryKey::Create(before.root, ClassesKey(kMailLinkKey));
+        if (before.value.empty())
+            ::RegDeleteValueW(key.Get(), nullptr);
+        else
+            ::RegSetValueExW(key.Get(), nullptr, 0, before.type, before.value.data(),
+                             static_cast<DWORD>(before.value.size()));
+    }
+}
 
 Companions::Companions(const Options& options)
 {
@@ -18,11 +91,16 @@ Companions::Companions(const Options& options)
     if (login == "true" || login == "false")
         m_login.emplace(kLoginClass, kLoginProgId,
                         [loggedIn = login == "true"] { return ComPtr<IDispatch>{MakeObject<LoginObject>(loggedIn)}; });
-    const std::string outlook = options.Setting("outlook");
-    if (outlook != "new" && outlook != "running") return;
-    m_outlook = MakeObject<OutlookObject>();
+    if (const auto* client = RowOf(kMailClientSettings, options, "mail.client")) m_mailLinks.emplace(client->command);
+    if (const auto* outlook = RowOf(kOutlookSettings, options, "outlook"))
+        OfferOutlook(outlook->mood, outlook->running);
+}
+
+void Companions::OfferOutlook(MailMood mood, bool running)
+{
+    m_outlook = MakeObject<OutlookObject>(mood);
     m_outlookClass.emplace(kOutlookClass, kOutlookProgId, [this] { return ComPtr<IDispatch>{m_outlook}; });
-    if (outlook == "running")
+    if (running)
         ThrowIfFailed(::RegisterActiveObject(m_outlook.Get(), kOutlookClass, ACTIVEOBJECT_STRONG, &m_running),
                       L"The running mail program cannot be offered.");
 }
@@ -41,6 +119,7 @@ void Companions::RemoveTraces() const
 {
     if (m_login) m_login->RemoveTraces();
     if (m_outlookClass) m_outlookClass->RemoveTraces();
+    if (m_mailLinks) m_mailLinks->RemoveTraces();
 }
 
 } // namespace host

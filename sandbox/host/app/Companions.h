@@ -1,6 +1,8 @@
 #pragma once
 
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "app/OfferedClass.h"
 #include "app/Options.h"
@@ -9,8 +11,34 @@
 namespace host
 {
 
+// Makes a command line the one that opens mail links, in the registry, while it lives.
+class MailLinkCommand
+{
+public:
+    explicit MailLinkCommand(const std::wstring& command);
+    MailLinkCommand(const MailLinkCommand&) = delete;
+    MailLinkCommand& operator=(const MailLinkCommand&) = delete;
+    ~MailLinkCommand() { RemoveTraces(); }
+
+    // Puts back what the registry held before.
+    void RemoveTraces() const;
+
+private:
+    struct Before
+    {
+        HKEY root;
+        DWORD type;
+        std::vector<BYTE> value; // empty: there was none
+    };
+
+    void Write(HKEY root, const std::wstring& command);
+
+    std::vector<Before> m_before;
+};
+
 // The other programs that an add-in may talk to, offered as far as the settings ask for them: "sibling.login" true or
-// false for the sibling add-in's login object, "outlook" new or running for the mail program.
+// false for the sibling add-in's login object, "outlook" for the mail program and its mood, "mail.client" for the
+// program that opens mail links.
 class Companions
 {
 public:
@@ -26,8 +54,11 @@ public:
     void RemoveTraces() const;
 
 private:
+    void OfferOutlook(MailMood mood, bool running);
+
     std::optional<OfferedClass> m_login;
     std::optional<OfferedClass> m_outlookClass;
+    std::optional<MailLinkCommand> m_mailLinks;
     ComPtr<OutlookObject> m_outlook;
     DWORD m_running = 0;
 };

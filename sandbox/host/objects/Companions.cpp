@@ -6,6 +6,7 @@ namespace
 {
 
 constexpr long kMailItem = 0; // of OlItemType
+constexpr HRESULT kDeclined = static_cast<HRESULT>(0x800A011FL);
 
 } // namespace
 
@@ -34,8 +35,17 @@ std::span<const Member> OutlookObject::Members() const
 Value OutlookObject::GetName(const Arguments&) { return Value{L"Outlook"}; }
 Value OutlookObject::GetVersion(const Arguments&) { return Value{L"16.0.0.4266"}; }
 
+void OutlookObject::FailWhere(MailMood mood) const
+{
+    if (m_mood != mood) return;
+    if (mood == MailMood::Fails) throw AutomationError{E_FAIL, L"The mail store cannot be opened."};
+    throw AutomationError{kDeclined, L"Application-defined or object-defined error"};
+}
+
 Value OutlookObject::CreateItem(const Arguments& arguments)
 {
+    FailWhere(MailMood::RefusesItems);
+    FailWhere(MailMood::Fails);
     if (arguments.At(0).Number() != kMailItem) throw AutomationError{E_INVALIDARG, L"Only mail items are offered."};
     return Value{MakeObject<MailItemObject>(this).Get()};
 }
@@ -52,6 +62,12 @@ std::span<const Member> MailItemObject::Members() const
         {6, L"Display", kMethod, Answer<&M::Display>},
     };
     return kMembers;
+}
+
+Value MailItemObject::To(const Arguments& arguments)
+{
+    m_outlook->FailWhere(MailMood::RefusesRecipients);
+    return Field(L"To", arguments);
 }
 
 Value MailItemObject::Field(const wchar_t* name, const Arguments& arguments)

@@ -25,11 +25,20 @@ private:
 
 using MailFields = std::map<std::wstring, std::wstring, std::less<>>;
 
+// What the mail program does when a new item is asked for.
+enum class MailMood
+{
+    Willing,
+    RefusesItems,      // declines to be automated, at once ...
+    RefusesRecipients, // ... or when the recipients are set
+    Fails
+};
+
 // The mail program, as far as new mail items need it.
 class OutlookObject final : public AutomationObject<IDispatch>
 {
 public:
-    OutlookObject() : AutomationObject{L"Outlook.Application", IID_IDispatch} {}
+    explicit OutlookObject(MailMood mood) : AutomationObject{L"Outlook.Application", IID_IDispatch}, m_mood{mood} {}
 
     [[nodiscard]] std::span<const Member> Members() const override;
 
@@ -37,11 +46,15 @@ public:
     [[nodiscard]] const std::vector<MailFields>& Displayed() const { return m_displayed; }
     void Display(const MailFields& fields) { m_displayed.push_back(fields); }
 
+    // Throws what the mail program reports where its mood is this one.
+    void FailWhere(MailMood mood) const;
+
 private:
     Value GetName(const Arguments&);
     Value GetVersion(const Arguments&);
     Value CreateItem(const Arguments& arguments);
 
+    MailMood m_mood;
     std::vector<MailFields> m_displayed;
 };
 
@@ -54,7 +67,7 @@ public:
     [[nodiscard]] std::span<const Member> Members() const override;
 
 private:
-    Value To(const Arguments& arguments) { return Field(L"To", arguments); }
+    Value To(const Arguments& arguments);
     Value Copy(const Arguments& arguments) { return Field(L"CC", arguments); }
     Value Subject(const Arguments& arguments) { return Field(L"Subject", arguments); }
     Value Body(const Arguments& arguments) { return Field(L"Body", arguments); }
