@@ -189,6 +189,7 @@ void frmSaveAssignment::ShowActivityRow(bool shown)
         GrowControl(Control(control), stretch);
     GrowForm(Window(), stretch);
     ::SendMessageW(Control(StatusBar1), WM_SIZE, 0, 0);
+    ::RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 } // namespace corvane

@@ -51,8 +51,7 @@ BinaryStream::BinaryStream()
     CLSID classId{};
     Check(::CLSIDFromProgID(kSource, &classId), kSource);
     HRESULT result = E_NOINTERFACE;
-    for (const IID& id : kStreamIds)
-    {
+    for (const IID& id : kStreamIds) {
         if (result != E_NOINTERFACE) break;
         result = ::CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, id,
                                     reinterpret_cast<void**>(m_stream.ReleaseAndGetAddressOf()));

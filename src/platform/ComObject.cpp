@@ -11,12 +11,10 @@ HINSTANCE Library::s_module = nullptr;
 std::wstring Library::Path()
 {
     std::wstring path(MAX_PATH, L'\0');
-    for (;;)
-    {
+    for (;;) {
         const DWORD length = ::GetModuleFileNameW(s_module, path.data(), static_cast<DWORD>(path.size()));
         CheckWin32(length != 0, L"Library.Path");
-        if (length < path.size())
-        {
+        if (length < path.size()) {
             path.resize(length);
             return path;
         }

@@ -131,13 +131,10 @@ private:
     template<class Body>
     HRESULT WithTypeInfo(Body&& body) noexcept
     {
-        try
-        {
+        try {
             if (m_typeInfo == nullptr) m_typeInfo = TypeInfoOf(__uuidof(Interface));
             return body(*m_typeInfo.Get());
-        }
-        catch (...)
-        {
+        } catch (...) {
             return TYPE_E_CANTLOADLIBRARY;
         }
     }

@@ -63,8 +63,7 @@ std::wstring UnusedPath(const std::wstring& folder, const std::wstring& base, co
     const std::wstring stem = folder + L"\\" + base;
     const std::wstring ending = extension.empty() ? L"" : L"." + extension;
     std::wstring path = stem + ending;
-    for (int number = 2; FileExists(path); ++number)
-    {
+    for (int number = 2; FileExists(path); ++number) {
         path = stem;
         path.append(L" (").append(std::to_wstring(number)).append(L")").append(ending);
     }
@@ -91,8 +90,7 @@ std::size_t ReadFile(const std::wstring& path, std::span<std::byte> into) noexce
 {
     const UniqueFile file = OpenFile(path, GENERIC_READ, OPEN_EXISTING);
     std::size_t total = 0;
-    while (file && total < into.size())
-    {
+    while (file && total < into.size()) {
         constexpr std::size_t kStep = std::size_t{1} << 26U;
         DWORD read = 0;
         const auto step = static_cast<DWORD>(std::min(kStep, into.size() - total));
@@ -119,8 +117,7 @@ bool FitsAnsiCodePage(const std::wstring& text)
     const int length = ::WideCharToMultiByte(CP_ACP, 0, text.data(), size, ansi.data(), static_cast<int>(ansi.size()),
                                              nullptr, nullptr);
     std::wstring back(text.size() * 4, L'\0');
-    const int wide =
-        ::MultiByteToWideChar(CP_ACP, 0, ansi.data(), length, back.data(), static_cast<int>(back.size()));
+    const int wide = ::MultiByteToWideChar(CP_ACP, 0, ansi.data(), length, back.data(), static_cast<int>(back.size()));
     back.resize(static_cast<std::size_t>(wide));
     return back == text;
 }

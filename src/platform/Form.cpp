@@ -113,8 +113,7 @@ void Form::Run(const wchar_t* procedure, void (Form::*run)()) noexcept
 
 INT_PTR CALLBACK Form::DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
 {
-    if (message == WM_INITDIALOG)
-    {
+    if (message == WM_INITDIALOG) {
         ::SetWindowLongPtrW(window, DWLP_USER, lParam);
         return FALSE; // the focus is set when the form is shown: setting it now would activate a hidden window
     }
@@ -124,11 +123,10 @@ INT_PTR CALLBACK Form::DialogProcedure(HWND window, UINT message, WPARAM wParam,
 
 INT_PTR Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept
 {
-    switch (message)
-    {
-    case WM_COMMAND: return OnNotification(LOWORD(wParam), HIWORD(wParam)) ? TRUE : FALSE;
-    case WM_NOTIFY:
-    {
+    switch (message) {
+    case WM_COMMAND:
+        return OnNotification(LOWORD(wParam), HIWORD(wParam)) ? TRUE : FALSE;
+    case WM_NOTIFY: {
         const auto* header = reinterpret_cast<const NMHDR*>(lParam);
         return OnNotification(static_cast<int>(header->idFrom), header->code) ? TRUE : FALSE;
     }
@@ -139,14 +137,18 @@ INT_PTR Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept
     case kActivatedMessage:
         if (m_shown) Run(L"Form_Activate", &Form::Form_Activate);
         return TRUE;
-    case WM_TIMER: Run(L"Timer1_Timer", &Form::Timer); return TRUE;
-    case WM_HELP: return OnNotification(HelpControl(), BN_CLICKED) ? TRUE : FALSE;
+    case WM_TIMER:
+        Run(L"Timer1_Timer", &Form::Timer);
+        return TRUE;
+    case WM_HELP:
+        return OnNotification(HelpControl(), BN_CLICKED) ? TRUE : FALSE;
     case WM_SETCURSOR:
         if (!m_hourglass) return FALSE;
         ::SetCursor(::LoadCursorW(nullptr, IDC_WAIT));
         ::SetWindowLongPtrW(m_window, DWLP_MSGRESULT, TRUE);
         return TRUE;
-    default: return FALSE;
+    default:
+        return FALSE;
     }
 }
 
@@ -159,7 +161,8 @@ bool Form::OnNotification(int control, UINT notification) noexcept
     if (handler == handlers.end()) return false;
     // Esc and Enter press their buttons even while these are out of use.
     const HWND window = Control(control);
-    if (notification == BN_CLICKED && window != nullptr && !(::IsWindowEnabled(window) && IsShown(control))) return true;
+    if (notification == BN_CLICKED && window != nullptr && !(::IsWindowEnabled(window) && IsShown(control)))
+        return true;
     Run(handler->procedure, handler->run);
     return true;
 }

@@ -21,8 +21,7 @@ std::wstring TextOf(HWND window)
 
 LRESULT CALLBACK SelectAllProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR)
 {
-    if (message == WM_CHAR && wParam == kCtrlA)
-    {
+    if (message == WM_CHAR && wParam == kCtrlA) {
         ::SendMessageW(window, EM_SETSEL, 0, -1);
         return 0;
     }

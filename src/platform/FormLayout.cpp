@@ -13,8 +13,7 @@ RECT ControlPlace(HWND control) noexcept
 
 void ShiftBelow(HWND form, int y, int delta) noexcept
 {
-    for (HWND control = ::GetWindow(form, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT))
-    {
+    for (HWND control = ::GetWindow(form, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT)) {
         const RECT place = ControlPlace(control);
         if (place.top < y) continue;
         ::SetWindowPos(control, nullptr, place.left, place.top + delta, 0, 0,

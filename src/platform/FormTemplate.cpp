@@ -62,8 +62,7 @@ std::vector<std::byte> WithFont(std::span<const std::byte> dialogTemplate, const
     const bool isExtended = reader.WordAt(kSignatureOffset) == kExtendedSignature;
     if (!isExtended || (reader.WordAt(kStyleOffset) & kSetFontStyle) == 0) return {};
 
-    const std::size_t fontStart = reader.AfterText(
-        reader.AfterTextOrOrdinal(reader.AfterTextOrOrdinal(kTextsOffset)));
+    const std::size_t fontStart = reader.AfterText(reader.AfterTextOrOrdinal(reader.AfterTextOrOrdinal(kTextsOffset)));
     const std::size_t itemsStart = Aligned(reader.AfterText(fontStart + kFontHead));
     if (itemsStart > dialogTemplate.size()) return {};
 

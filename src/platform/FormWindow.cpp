@@ -92,9 +92,8 @@ private:
 HWND CreateFormWindow(const wchar_t* name, int templateId, HWND owner, DLGPROC procedure, LPARAM argument)
 {
     const LibraryManifest manifest;
-    const INITCOMMONCONTROLSEX controls{sizeof controls,
-                                        ICC_STANDARD_CLASSES | ICC_BAR_CLASSES | ICC_TREEVIEW_CLASSES |
-                                            ICC_PROGRESS_CLASS};
+    const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_STANDARD_CLASSES | ICC_BAR_CLASSES | ICC_TREEVIEW_CLASSES |
+                                                             ICC_PROGRESS_CLASS};
     ::InitCommonControlsEx(&controls);
     RegisterFormClass(name);
     const auto dialogTemplate = WithFont(DialogResource(templateId), MessageFont());

@@ -8,7 +8,8 @@ namespace corvane
 
 // Makes the hidden window of a template from the library's resources in the user's message font. The window class is
 // registered under name. Throws Error.
-[[nodiscard]] HWND CreateFormWindow(const wchar_t* name, int templateId, HWND owner, DLGPROC procedure, LPARAM argument);
+[[nodiscard]] HWND CreateFormWindow(const wchar_t* name, int templateId, HWND owner, DLGPROC procedure,
+                                    LPARAM argument);
 
 // Takes back the window class once its last window is gone.
 void ForgetFormClass(const wchar_t* name) noexcept;

@@ -27,8 +27,7 @@ constexpr CLSID kRequestClasses[] = {
 HttpRequest::HttpRequest()
 {
     HRESULT result = REGDB_E_CLASSNOTREG;
-    for (const CLSID& classId : kRequestClasses)
-    {
+    for (const CLSID& classId : kRequestClasses) {
         result = ::CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, kRequest,
                                     reinterpret_cast<void**>(m_request.ReleaseAndGetAddressOf()));
         if (SUCCEEDED(result)) return;

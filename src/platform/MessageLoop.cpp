@@ -30,8 +30,7 @@ bool DispatchOne(bool& quit)
 {
     MSG message{};
     if (!::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) return false;
-    if (message.message == WM_QUIT)
-    {
+    if (message.message == WM_QUIT) {
         ::PostQuitMessage(static_cast<int>(message.wParam));
         quit = true;
         return false;
@@ -54,8 +53,7 @@ WaitEnd PumpUntil(const std::function<bool()>& done, std::optional<std::chrono::
 {
     const auto end = limit ? std::optional{Clock::now() + *limit} : std::nullopt;
     bool quit = false;
-    while (!done())
-    {
+    while (!done()) {
         const DWORD left = LeftUntil(end);
         if (left == 0) return WaitEnd::TimedOut;
         if (DispatchOne(quit)) continue;
@@ -73,8 +71,8 @@ void PumpFor(std::chrono::milliseconds time)
 void PumpPending()
 {
     bool quit = false;
-    while (DispatchOne(quit))
-    {}
+    while (DispatchOne(quit)) {
+    }
 }
 
 void AddDialogWindow(HWND window) { DialogWindows().push_back(window); }

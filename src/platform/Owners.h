@@ -101,7 +101,10 @@ public:
         return &m_text;
     }
     [[nodiscard]] BSTR Detach() noexcept { return std::exchange(m_text, nullptr); }
-    [[nodiscard]] std::wstring Text() const { return m_text == nullptr ? L"" : std::wstring(m_text, ::SysStringLen(m_text)); }
+    [[nodiscard]] std::wstring Text() const
+    {
+        return m_text == nullptr ? L"" : std::wstring(m_text, ::SysStringLen(m_text));
+    }
 
 private:
     BSTR m_text = nullptr;

@@ -31,20 +31,13 @@ void ReportError(const Error& error) noexcept
 
 Error CurrentError() noexcept
 {
-    try
-    {
+    try {
         throw;
-    }
-    catch (const Error& error)
-    {
+    } catch (const Error& error) {
         return error;
-    }
-    catch (const std::bad_alloc&)
-    {
+    } catch (const std::bad_alloc&) {
         return {kErrorOutOfMemory, L"CorvaneMSOfficePowerPoint", L"Out of memory"};
-    }
-    catch (...)
-    {
+    } catch (...) {
         return {kErrorInternal, L"CorvaneMSOfficePowerPoint", L"Internal error"};
     }
 }

@@ -48,13 +48,10 @@ void ReportError(const Error& error) noexcept;
 template<class Body>
 [[nodiscard]] std::optional<Error> Catch(Body&& body) noexcept
 {
-    try
-    {
+    try {
         std::forward<Body>(body)();
         return std::nullopt;
-    }
-    catch (...)
-    {
+    } catch (...) {
         return CurrentError();
     }
 }

@@ -42,7 +42,8 @@ std::wstring Variant::TextOf(const VARIANT& value)
 {
     if (value.vt == VT_EMPTY || value.vt == VT_NULL) return {};
     Variant text;
-    Check(::VariantChangeTypeEx(text.Put(), const_cast<VARIANT*>(&value), LOCALE_USER_DEFAULT, VARIANT_ALPHABOOL, VT_BSTR),
+    Check(::VariantChangeTypeEx(text.Put(), const_cast<VARIANT*>(&value), LOCALE_USER_DEFAULT, VARIANT_ALPHABOOL,
+                                VT_BSTR),
           L"Variant.Text");
     return std::wstring{ViewOf(text.m_value.bstrVal)};
 }

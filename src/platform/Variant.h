@@ -18,7 +18,7 @@ public:
     Variant(std::int32_t number) noexcept; // NOLINT(google-explicit-constructor): arguments of late-bound calls
     Variant(bool value) noexcept;          // NOLINT(google-explicit-constructor): idem
     Variant(std::wstring_view text);       // NOLINT(google-explicit-constructor): idem
-    Variant(const wchar_t* text) : Variant{std::wstring_view{text}} {} // NOLINT(google-explicit-constructor): idem
+    Variant(const wchar_t* text) : Variant{std::wstring_view{text}} {}      // NOLINT(google-explicit-constructor): idem
     Variant(const std::wstring& text) : Variant{std::wstring_view{text}} {} // NOLINT(google-explicit-constructor): idem
     Variant(IDispatch* object) noexcept; // NOLINT(google-explicit-constructor): idem; adds a reference
     Variant(const Variant&) = delete;

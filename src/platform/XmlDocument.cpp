@@ -23,8 +23,7 @@ constexpr CLSID kParserClasses[] = {
 ComPtr<IXMLDOMDocument2> CreateParser()
 {
     HRESULT result = REGDB_E_CLASSNOTREG;
-    for (const CLSID& classId : kParserClasses)
-    {
+    for (const CLSID& classId : kParserClasses) {
         ComPtr<IXMLDOMDocument2> document;
         result = ::CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, kDocument2,
                                     reinterpret_cast<void**>(document.GetAddressOf()));
@@ -42,8 +41,7 @@ void SetIfKnown(IXMLDOMDocument2& document, const wchar_t* name, const Variant& 
 // Steps from a node to the first element at or after it.
 XmlNode ElementFrom(ComPtr<IXMLDOMNode> node)
 {
-    while (node != nullptr)
-    {
+    while (node != nullptr) {
         DOMNodeType type = NODE_INVALID;
         node->get_nodeType(&type);
         if (type == NODE_ELEMENT) break;
@@ -93,10 +91,7 @@ void XmlNode::SetAttribute(const wchar_t* name, std::wstring_view value)
     Check(element->setAttribute(Bstr{name}.Get(), Variant{value}.Get()), kSource);
 }
 
-void XmlNode::Append(const XmlNode& child)
-{
-    Check(m_node->appendChild(child.m_node.Get(), nullptr), kSource);
-}
+void XmlNode::Append(const XmlNode& child) { Check(m_node->appendChild(child.m_node.Get(), nullptr), kSource); }
 
 XmlDocument::XmlDocument() : m_document{CreateParser()}
 {
@@ -121,8 +116,7 @@ std::vector<XmlNode> XmlDocument::Select(const wchar_t* path) const
     ComPtr<IXMLDOMNodeList> list;
     Check(m_document->selectNodes(Bstr{path}.Get(), list.GetAddressOf()), kSource);
     std::vector<XmlNode> nodes;
-    for (;;)
-    {
+    for (;;) {
         ComPtr<IXMLDOMNode> node;
         if (list->nextNode(node.GetAddressOf()) != S_OK) return nodes;
         nodes.emplace_back(std::move(node));

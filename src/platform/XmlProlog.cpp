@@ -18,21 +18,15 @@ bool DropThrough(std::wstring_view& text, std::wstring_view end) noexcept
 
 bool DeclaresDocumentType(std::wstring_view text) noexcept
 {
-    while (!text.empty())
-    {
+    while (!text.empty()) {
         const auto markup = text.find(L'<');
         if (markup == std::wstring_view::npos) return false;
         text.remove_prefix(markup);
-        if (text.starts_with(L"<!--"))
-        {
+        if (text.starts_with(L"<!--")) {
             if (!DropThrough(text, L"-->")) return false;
-        }
-        else if (text.starts_with(L"<?"))
-        {
+        } else if (text.starts_with(L"<?")) {
             if (!DropThrough(text, L"?>")) return false;
-        }
-        else
-        {
+        } else {
             return text.starts_with(L"<!");
         }
     }

@@ -25,7 +25,8 @@ struct FilterOutcome
 
 // The outcome of applying or clearing, or (canceled) of leaving the window: a filter is active when it narrows
 // anything, and changed when text or class differ from the last applied ones.
-[[nodiscard]] inline FilterOutcome OutcomeOf(const AppliedFilter& filter, const AppliedFilter& lastApplied, bool canceled)
+[[nodiscard]] inline FilterOutcome OutcomeOf(const AppliedFilter& filter, const AppliedFilter& lastApplied,
+                                             bool canceled)
 {
     const bool differs = filter.searchName != lastApplied.searchName || filter.classId != lastApplied.classId;
     return {!filter.searchName.empty() || filter.classId != 0, differs && !canceled, canceled};

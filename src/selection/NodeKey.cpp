@@ -51,14 +51,12 @@ std::optional<TreeTarget> TargetOfKey(TreeMode mode, std::wstring_view key)
 {
     TreeTarget target;
     target.projectId = IdBehind(key, L"p").value_or(0);
-    if (mode == TreeMode::RelatedDocument)
-    {
+    if (mode == TreeMode::RelatedDocument) {
         const auto related = IdBehind(key, L"rd");
         target.relatedDocId = related.value_or(0);
         return related ? std::optional{target} : std::nullopt;
     }
-    if (mode == TreeMode::GateDocument)
-    {
+    if (mode == TreeMode::GateDocument) {
         const auto gateDocument = IdBehind(key, L"gd");
         target.gateDocumentId = gateDocument.value_or(0);
         return gateDocument ? std::optional{target} : std::nullopt;

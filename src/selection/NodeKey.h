@@ -32,7 +32,7 @@ struct TreeLevel
     const wchar_t* element;
     const wchar_t* marker;
     const wchar_t* idAttribute;
-    int image;             // 0 when the icon set decides
+    int image;               // 0 when the icon set decides
     const wchar_t* iconKind; // null for a fixed picture
 };
 

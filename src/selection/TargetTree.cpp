@@ -34,10 +34,8 @@ void TargetTree::AddNode(const Position& parent, const XmlNode& element, std::si
     const Position node = Insert(parent, level, element.Text(level.idAttribute), element.Text(L"name"), iconSet);
     if (depth + 1 == levels.size()) return;
     const TreeLevel& below = levels[depth + 1];
-    if (m_mode == TreeMode::RelatedDocument)
-        Insert(node, below, L"0", std::wstring{kNewRelatedDocumentText}, iconSet);
-    for (XmlNode child = element.FirstElement(); child; child = child.NextElement())
-    {
+    if (m_mode == TreeMode::RelatedDocument) Insert(node, below, L"0", std::wstring{kNewRelatedDocumentText}, iconSet);
+    for (XmlNode child = element.FirstElement(); child; child = child.NextElement()) {
         if (child.Name() == below.element) AddNode(node, child, depth + 1, iconSet);
     }
 }
@@ -52,13 +50,12 @@ TargetTree::Position TargetTree::Insert(const Position& parent, const TreeLevel&
     insert.item.mask = TVIF_TEXT | TVIF_PARAM | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
     insert.item.pszText = const_cast<LPWSTR>(text.c_str());
     insert.item.lParam = static_cast<LPARAM>(m_keys.size());
-    insert.item.iImage = level.iconKind == nullptr ? TreeImages::IndexOf(level.image)
-                                                   : m_images.IndexOf(level.iconKind + iconSet);
+    insert.item.iImage =
+        level.iconKind == nullptr ? TreeImages::IndexOf(level.image) : m_images.IndexOf(level.iconKind + iconSet);
     insert.item.iSelectedImage = insert.item.iImage;
     node.item = TreeView_InsertItem(m_treeView, &insert);
     m_keys.push_back(node.key);
-    if (IsPreselected(node.key, level))
-    {
+    if (IsPreselected(node.key, level)) {
         TreeView_EnsureVisible(m_treeView, node.item);
         TreeView_SelectItem(m_treeView, node.item);
     }

@@ -29,7 +29,8 @@ int ScaledSize() noexcept
 class SelectedBitmap
 {
 public:
-    SelectedBitmap(HDC context, HBITMAP bitmap) noexcept : m_context{context}, m_previous{::SelectObject(context, bitmap)}
+    SelectedBitmap(HDC context, HBITMAP bitmap) noexcept
+        : m_context{context}, m_previous{::SelectObject(context, bitmap)}
     {}
     SelectedBitmap(const SelectedBitmap&) = delete;
     SelectedBitmap& operator=(const SelectedBitmap&) = delete;
@@ -54,7 +55,8 @@ UniqueBitmap ScreenBitmap(int size) noexcept
 TreeImages::TreeImages()
     : m_size{ScaledSize()}, m_list{::ImageList_Create(m_size, m_size, ILC_COLOR32, kPlainImage, kPlainImage)}
 {
-    for (const int id : {IDR_IMAGE_DELIVERABLE, IDR_IMAGE_ACTIVITY, IDR_IMAGE_RELATED, IDR_IMAGE_GATEDOC, IDR_IMAGE_PLAIN})
+    for (const int id :
+         {IDR_IMAGE_DELIVERABLE, IDR_IMAGE_ACTIVITY, IDR_IMAGE_RELATED, IDR_IMAGE_GATEDOC, IDR_IMAGE_PLAIN})
         AddResource(id);
 }
 

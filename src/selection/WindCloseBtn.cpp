@@ -41,8 +41,10 @@ bool EnableCloseButton(HWND window, bool enable) noexcept
     MenuItem command{MIIM_ID};
     command.info.wID = to;
     ::SetMenuItemInfoA(menu, from, FALSE, &command.info);
-    if (enable) state.info.fState -= kGrayed; // whatever the state was: this is the interface
-    else state.info.fState |= kGrayed;
+    if (enable)
+        state.info.fState -= kGrayed; // whatever the state was: this is the interface
+    else
+        state.info.fState |= kGrayed;
     ::SetMenuItemInfoA(menu, to, FALSE, &state.info);
 
     PumpPending();

@@ -56,8 +56,8 @@ void frmFilter::Apply()
 {
     const std::int16_t position = SelectedPosition();
     ProjectSearchName = Text(SearchString);
-    ClassID = static_cast<std::int32_t>(
-        ::SendMessageW(Control(ClassList), LB_GETITEMDATA, static_cast<WPARAM>(position), 0));
+    ClassID =
+        static_cast<std::int32_t>(::SendMessageW(Control(ClassList), LB_GETITEMDATA, static_cast<WPARAM>(position), 0));
     const AppliedFilter filter{ProjectSearchName, ClassID, position};
     m_outcome = OutcomeOf(filter, m_lastApplied, false);
     m_lastApplied = filter;

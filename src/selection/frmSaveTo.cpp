@@ -32,8 +32,8 @@ constexpr TreeModeRow kModes[] = {
 // Fetches one picture of an icon set through a file of its own, as the system's picture loader wants it.
 void LoadIcon(TreeImages& images, const std::wstring& server, const std::wstring& iconSet, const std::wstring& kind)
 {
-    BinaryStream picture = ExecuteASPWebserviceBinary(server, kServicePage, Operations::kSetIcon,
-                                                      {iconSet, kind + L"_offi.gif"});
+    BinaryStream picture =
+        ExecuteASPWebserviceBinary(server, kServicePage, Operations::kSetIcon, {iconSet, kind + L"_offi.gif"});
     const TemporaryFile file{L"gif"};
     picture.SaveTo(file.Path());
     images.AddFile(kind + iconSet, file.Path());
@@ -73,8 +73,7 @@ int frmSaveTo::HelpControl() const noexcept { return cmdHelp; }
 
 void frmSaveTo::Form_Load()
 {
-    if (!FilterActive)
-    {
+    if (!FilterActive) {
         FilterProjectSearchName.clear();
         FilterClassID = 0;
     }
@@ -96,8 +95,7 @@ void frmSaveTo::Form_Load()
 void frmSaveTo::FillServers()
 {
     const auto urls = m_servers->GetURLs();
-    for (const std::wstring& url : urls)
-    {
+    for (const std::wstring& url : urls) {
         if (!url.empty()) ::SendMessageW(Control(cmbServerURL), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(url.c_str()));
     }
     std::wstring text = ServerURL;
@@ -123,8 +121,8 @@ void frmSaveTo::cmbServerURL_Click()
 {
     const HWND combo = Control(cmbServerURL);
     const LRESULT index = ::SendMessageW(combo, CB_GETCURSEL, 0, 0);
-    std::wstring text(static_cast<std::size_t>(::SendMessageW(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(index), 0)) + 1,
-                      L'\0');
+    std::wstring text(
+        static_cast<std::size_t>(::SendMessageW(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(index), 0)) + 1, L'\0');
     ::SendMessageW(combo, CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.data()));
     SetText(cmbServerURL, text.c_str());
     // The list has to close before the server is asked.
@@ -171,12 +169,10 @@ XmlDocument frmSaveTo::QueryTree() const
 bool frmSaveTo::CheckEntryCount()
 {
     const ProcedureScope scope{L"frmSaveTo.CheckEntryCount"};
-    for (;;)
-    {
+    for (;;) {
         const std::size_t projects = QueryTree().Select(L"//project").size();
         LimitStep step = NextLimitStep(projects, nullptr);
-        if (step == LimitStep::ForceFilter)
-        {
+        if (step == LimitStep::ForceFilter) {
             ShowFilter(true);
             step = NextLimitStep(projects, &m_filter->Outcome());
         }
@@ -238,8 +234,7 @@ void frmSaveTo::cmdOK_Click()
 {
     if (Text(cmbServerURL) != m_currentServer) return Go();
     const auto target = TargetOfKey(Mode(), m_tree->SelectedKey());
-    if (!target)
-    {
+    if (!target) {
         ShowMessage(m_captions.nothingSelected, m_captions.refusalIsCritical ? kStyleCritical : kStylePlain);
         return;
     }
@@ -252,14 +247,17 @@ void frmSaveTo::TakeTarget(const TreeTarget& target)
 {
     ServerURL = m_currentServer;
     ProjectID = target.projectId;
-    switch (Mode())
-    {
+    switch (Mode()) {
     case TreeMode::Assignment:
         DeliverableID = target.deliverableId;
         ActivityID = target.activityId;
         break;
-    case TreeMode::RelatedDocument: RelatedDocID = target.relatedDocId; break;
-    case TreeMode::GateDocument: GateDocumentID = target.gateDocumentId; break;
+    case TreeMode::RelatedDocument:
+        RelatedDocID = target.relatedDocId;
+        break;
+    case TreeMode::GateDocument:
+        GateDocumentID = target.gateDocumentId;
+        break;
     }
 }
 
@@ -271,9 +269,6 @@ void frmSaveTo::TreeView1_DblClick()
 
 void frmSaveTo::cmdCancel_Click() { Hide(); }
 
-void frmSaveTo::cmdHelp_Click()
-{
-    ShowHelpTopic(Window(), kModes[static_cast<std::size_t>(DialogType)].topic);
-}
+void frmSaveTo::cmdHelp_Click() { ShowHelpTopic(Window(), kModes[static_cast<std::size_t>(DialogType)].topic); }
 
 } // namespace corvane

@@ -32,10 +32,7 @@ bool ClientEventsEnabled(const LateBound& oApplication)
     return WantsClientEvents(facts) && IsClientEventsSettingOn(CustomName(kClientEventsSetting));
 }
 
-void RunBeforeSaveEvent(const LateBound& oApplication) noexcept
-{
-    RunMacro(oApplication, L"KRXEvents.KRXBeforeSave");
-}
+void RunBeforeSaveEvent(const LateBound& oApplication) noexcept { RunMacro(oApplication, L"KRXEvents.KRXBeforeSave"); }
 
 void RunAfterSaveEvent(const LateBound& oApplication) noexcept { RunMacro(oApplication, L"KRXEvents.KRXAfterSave"); }
 

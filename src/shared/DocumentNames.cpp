@@ -37,7 +37,9 @@ std::wstring AsFileName(std::wstring_view title)
     std::wstring name{title};
     std::replace_if(
         name.begin(), name.end(),
-        [](wchar_t letter) { return letter < L' ' || std::wstring_view{L"\\/:*?\"<>|"}.find(letter) != std::wstring_view::npos; },
+        [](wchar_t letter) {
+            return letter < L' ' || std::wstring_view{L"\\/:*?\"<>|"}.find(letter) != std::wstring_view::npos;
+        },
         L'_');
     return name;
 }

@@ -26,8 +26,8 @@ namespace corvane
 // How a document gets to disk before its upload.
 enum class DiskSave
 {
-    InPlace,     // where it is, in its own format
-    InDocuments, // under its title in the user's Documents folder: it was never saved
+    InPlace,      // where it is, in its own format
+    InDocuments,  // under its title in the user's Documents folder: it was never saved
     TemporaryCopy // as a copy that lives until the upload is over: it cannot be written where it is
 };
 

@@ -36,8 +36,7 @@ void SetCustomProperty(const LateBound& oProperties, const std::wstring& sName, 
 {
     bool found = false;
     const std::int32_t count = oProperties.Number(L"Count");
-    for (std::int32_t index = 1; index <= count; ++index)
-    {
+    for (std::int32_t index = 1; index <= count; ++index) {
         const LateBound property = oProperties.Object(L"Item", index);
         if (property.Text(L"Name") != sName) continue;
         property.Put(L"Value", vValue.Copy());

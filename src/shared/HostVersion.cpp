@@ -10,8 +10,7 @@ int MajorVersion(std::wstring_view version) noexcept
                               ? version.size()
                               : version.find_first_not_of(L" \t"));
     int number = 0;
-    for (const wchar_t letter : version)
-    {
+    for (const wchar_t letter : version) {
         if (letter < L'0' || letter > L'9' || number > kLargest) break;
         number = number * 10 + (letter - L'0');
     }

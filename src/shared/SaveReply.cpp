@@ -21,8 +21,7 @@ constexpr int kWord2002 = 10;
 
 SaveReply ReadSaveReply(std::wstring_view answer)
 {
-    for (const auto& [prefix, kind] : kPrefixes)
-    {
+    for (const auto& [prefix, kind] : kPrefixes) {
         if (answer.starts_with(prefix) && answer.size() > prefix.size())
             return {kind, std::wstring{answer.substr(prefix.size())}};
     }

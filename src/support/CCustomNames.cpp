@@ -25,8 +25,7 @@ void CCustomNames::Refresh(const std::wstring& server, const std::wstring& page)
 {
     const ProcedureScope scope{L"CCustomNames.Refresh"};
     if (!Registry::KeyExists(kCacheKey)) Registry::CreateKey(kCacheKey);
-    for (const auto& [token, value] : m_query(server, page))
-    {
+    for (const auto& [token, value] : m_query(server, page)) {
         m_names.Set(token, value);
         if (Registry::ReadText(kCacheKey, token) != value) Registry::WriteText(kCacheKey, token, value);
     }

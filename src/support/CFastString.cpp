@@ -17,7 +17,8 @@ void CFastString::Append(std::wstring_view piece)
 {
     if (m_count % kBlock == 0) m_chunks.resize(static_cast<std::size_t>((m_count / kBlock + 1) * kBlock) + 1);
     const auto index = static_cast<std::size_t>(m_count);
-    if (index >= m_chunks.size()) throw Error{kErrorSubscriptOutOfRange, L"CFastString.Append", L"Subscript out of range"};
+    if (index >= m_chunks.size())
+        throw Error{kErrorSubscriptOutOfRange, L"CFastString.Append", L"Subscript out of range"};
     m_chunks[index] = piece;
     ++m_count;
 }
@@ -29,8 +30,7 @@ std::optional<std::wstring> CFastString::ToString(std::wstring_view delimiter)
     std::wstring joined;
     joined.reserve(std::accumulate(m_chunks.begin(), m_chunks.end(), delimiter.size() * (m_chunks.size() - 1),
                                    [](std::size_t sum, const std::wstring& piece) { return sum + piece.size(); }));
-    for (const std::wstring& piece : m_chunks)
-    {
+    for (const std::wstring& piece : m_chunks) {
         if (&piece != &m_chunks.front()) joined += delimiter;
         joined += piece;
     }

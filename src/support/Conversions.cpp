@@ -22,8 +22,7 @@ std::wstring_view Stripped(std::wstring_view text, std::wstring_view blanks)
 std::size_t TakeDigits(std::wstring_view& text, double& value, double step)
 {
     std::size_t count = 0;
-    for (double scale = step; count < text.size() && text[count] >= L'0' && text[count] <= L'9'; ++count)
-    {
+    for (double scale = step; count < text.size() && text[count] >= L'0' && text[count] <= L'9'; ++count) {
         const double digit = text[count] - L'0';
         value = step < 1 ? value + digit * scale : value * 10 + digit;
         scale *= step;
@@ -50,8 +49,7 @@ bool TakeSign(std::wstring_view& text)
 std::optional<double> BitsIn(std::wstring_view digits, std::uint32_t base)
 {
     std::uint64_t bits = 0;
-    for (const wchar_t letter : digits)
-    {
+    for (const wchar_t letter : digits) {
         const auto lower = static_cast<std::uint32_t>(letter | 0x20);
         const std::uint32_t digit = lower >= L'a' ? lower - L'a' + 10 : static_cast<std::uint32_t>(letter) - L'0';
         if (digit >= base || (lower > L'9' && lower < L'a')) return std::nullopt;
@@ -71,21 +69,20 @@ struct CapitalRun
     std::int32_t offset;
 };
 constexpr CapitalRun kCapitals[] = {
-    {U'A', U'Z', 1, 32},         {0x00C0, 0x00D6, 1, 32},     {0x00D8, 0x00DE, 1, 32}, // Latin
-    {0x0100, 0x012E, 2, 1},      {0x0132, 0x0136, 2, 1},      {0x0139, 0x0147, 2, 1}, // with further accents
-    {0x014A, 0x0176, 2, 1},      {0x0178, 0x0178, 1, -0x79},  {0x0179, 0x017D, 2, 1},
-    {0x0386, 0x0386, 1, 38},     {0x0388, 0x038A, 1, 37},     {0x038C, 0x038C, 1, 64}, // Greek
-    {0x038E, 0x038F, 1, 63},     {0x0391, 0x03A1, 1, 32},     {0x03A3, 0x03AB, 1, 32},
-    {0x0400, 0x040F, 1, 80},     {0x0410, 0x042F, 1, 32},     {0x0460, 0x0480, 2, 1}, // Cyrillic
-    {0x048A, 0x04BE, 2, 1},      {0x04C1, 0x04CD, 2, 1},      {0x04D0, 0x052E, 2, 1},
-    {0x1E00, 0x1E94, 2, 1},      {0x1EA0, 0x1EFE, 2, 1}, // Latin of Vietnamese and others
+    {U'A', U'Z', 1, 32},     {0x00C0, 0x00D6, 1, 32},    {0x00D8, 0x00DE, 1, 32}, // Latin
+    {0x0100, 0x012E, 2, 1},  {0x0132, 0x0136, 2, 1},     {0x0139, 0x0147, 2, 1},  // with further accents
+    {0x014A, 0x0176, 2, 1},  {0x0178, 0x0178, 1, -0x79}, {0x0179, 0x017D, 2, 1},
+    {0x0386, 0x0386, 1, 38}, {0x0388, 0x038A, 1, 37},    {0x038C, 0x038C, 1, 64}, // Greek
+    {0x038E, 0x038F, 1, 63}, {0x0391, 0x03A1, 1, 32},    {0x03A3, 0x03AB, 1, 32},
+    {0x0400, 0x040F, 1, 80}, {0x0410, 0x042F, 1, 32},    {0x0460, 0x0480, 2, 1}, // Cyrillic
+    {0x048A, 0x04BE, 2, 1},  {0x04C1, 0x04CD, 2, 1},     {0x04D0, 0x052E, 2, 1},
+    {0x1E00, 0x1E94, 2, 1},  {0x1EA0, 0x1EFE, 2, 1}, // Latin of Vietnamese and others
 };
 
 wchar_t LowerOf(wchar_t letter)
 {
     const auto code = static_cast<std::uint32_t>(letter);
-    for (const auto& [first, last, step, offset] : kCapitals)
-    {
+    for (const auto& [first, last, step, offset] : kCapitals) {
         if (code >= first && code <= last && (code - first) % step == 0)
             return static_cast<wchar_t>(static_cast<std::int32_t>(code) + offset);
     }
@@ -105,8 +102,7 @@ std::optional<double> NumberIn(std::wstring_view text)
     std::size_t digits = TakeDigits(text, value, 10);
     if (TakeOneOf(text, L".")) digits += TakeDigits(text, value, 0.1);
     if (digits == 0) return std::nullopt;
-    if (TakeOneOf(text, L"eEdD"))
-    {
+    if (TakeOneOf(text, L"eEdD")) {
         const bool small = TakeSign(text);
         double exponent = 0;
         if (TakeDigits(text, exponent, 10) == 0) return std::nullopt;
@@ -146,8 +142,7 @@ bool EqualIgnoringCase(std::wstring_view left, std::wstring_view right) { return
 std::wstring ReplaceAll(std::wstring_view text, std::wstring_view what, std::wstring_view with)
 {
     std::wstring result;
-    while (!what.empty())
-    {
+    while (!what.empty()) {
         const auto position = text.find(what);
         if (position == std::wstring_view::npos) break;
         result.append(text.substr(0, position)).append(with);

@@ -26,8 +26,8 @@ std::wstring& HelpFile()
 std::string AnsiPath(const std::wstring& path)
 {
     std::string ansi(path.size() * 4 + 1, '\0');
-    const int length =
-        ::WideCharToMultiByte(CP_ACP, 0, path.c_str(), -1, ansi.data(), static_cast<int>(ansi.size()), nullptr, nullptr);
+    const int length = ::WideCharToMultiByte(CP_ACP, 0, path.c_str(), -1, ansi.data(), static_cast<int>(ansi.size()),
+                                             nullptr, nullptr);
     ansi.resize(length > 0 ? static_cast<std::size_t>(length) - 1 : 0);
     return ansi;
 }
@@ -44,8 +44,7 @@ HtmlHelp Viewer()
 
 void Show(HWND owner, UINT command, DWORD_PTR data)
 {
-    if (!FileExists(HelpFile()))
-    {
+    if (!FileExists(HelpFile())) {
         ShowMessage(L"The help file \"" + HelpFile() + L"\" was not found.", kStyleExclamation);
         return;
     }

@@ -11,7 +11,7 @@ namespace corvane
 // What "settings.config" switches. A missing, unreadable or malformed file leaves every default.
 struct Settings
 {
-    bool traceEnabled = false;                          // setting "EnableTraceLogs"
+    bool traceEnabled = false;                            // setting "EnableTraceLogs"
     std::chrono::seconds requestTimeout{kDefaultTimeout}; // setting "RequestTimeoutSeconds"; 0 for none
 
     static constexpr int kDefaultTimeout = 300;

@@ -28,7 +28,10 @@ std::wstring SortableTime(const LocalTime& time)
     return {text.data(), static_cast<std::size_t>(length)};
 }
 
-std::wstring TraceTabs(std::int32_t level) { return level < 0 ? L"" : std::wstring(static_cast<std::size_t>(level) + 1, L'\t'); }
+std::wstring TraceTabs(std::int32_t level)
+{
+    return level < 0 ? L"" : std::wstring(static_cast<std::size_t>(level) + 1, L'\t');
+}
 
 std::wstring TraceLine(const LocalTime& time, std::int32_t level, std::int32_t extraIndent, std::wstring_view text)
 {

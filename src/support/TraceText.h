@@ -34,6 +34,7 @@ struct LocalTime
                                      std::wstring_view text);
 
 // The block that stands for a caught error.
-[[nodiscard]] std::wstring TraceErrorBlock(std::int32_t number, std::wstring_view description, std::wstring_view source);
+[[nodiscard]] std::wstring TraceErrorBlock(std::int32_t number, std::wstring_view description,
+                                           std::wstring_view source);
 
 } // namespace corvane

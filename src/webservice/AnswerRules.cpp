@@ -18,14 +18,9 @@ constexpr long kUploadUnreachable[] = {404};
 } // namespace
 
 // The two forms "ASPWebService" and "ASPWebservice" are the interface's.
-const ServiceProcedure kOperationCall{kOperationUnreachable,
-                                      true,
-                                      true,
-                                      false,
-                                      L"ExecuteASPWebService",
-                                      L"ExecuteASPWebservice",
-                                      L"ExecuteASPWebService",
-                                      &UnableToContact};
+const ServiceProcedure kOperationCall{
+    kOperationUnreachable, true, true, false, L"ExecuteASPWebService", L"ExecuteASPWebservice", L"ExecuteASPWebService",
+    &UnableToContact};
 const ServiceProcedure kAccessLogCall{
     kOperationUnreachable, true, true, false, L"UpdateUserLog", L"UpdateUserLog", L"UpdateUserLog", &UnableToContact};
 const ServiceProcedure kBinaryCall{kBinaryUnreachable,
@@ -36,14 +31,9 @@ const ServiceProcedure kBinaryCall{kBinaryUnreachable,
                                    L"ExecuteASPWebserviceBinary",
                                    L"ExecuteASPWebServiceBinary",
                                    &UnableToContact};
-const ServiceProcedure kUploadCall{kUploadUnreachable,
-                                   false,
-                                   false,
-                                   false,
-                                   L"ExecuteASPWSUploadFile",
-                                   L"ExecuteASPWSUploadFile",
-                                   L"ExecuteASPWSUploadFile",
-                                   &UnableToConnect};
+const ServiceProcedure kUploadCall{
+    kUploadUnreachable,        false,           false, false, L"ExecuteASPWSUploadFile", L"ExecuteASPWSUploadFile",
+    L"ExecuteASPWSUploadFile", &UnableToConnect};
 
 bool IsErrorDocument(std::wstring_view text)
 {

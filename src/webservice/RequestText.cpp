@@ -64,8 +64,7 @@ std::wstring RequestQuery(std::wstring_view operation, const Parameters& paramet
     std::wstring query = L"Op=" + std::wstring{operation} + L"&P1=" + std::wstring{kProtocolVersion};
     // The server takes the k-th parameter under the even number 2k.
     std::size_t number = 2;
-    for (const Parameter& parameter : parameters)
-    {
+    for (const Parameter& parameter : parameters) {
         query += L"&P" + std::to_wstring(number) + L"=" + EncodeURLParameter(ParameterText(parameter));
         number += 2;
     }

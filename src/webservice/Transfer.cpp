@@ -35,7 +35,8 @@ struct BodyAttempt
 BodyAttempt ReadInto(const std::wstring& path, std::uint64_t length, const std::string& header,
                      const std::string& trailer)
 {
-    BodyAttempt attempt{ByteArray{header.size() + static_cast<std::size_t>(length) + trailer.size()}, {length, 0, true}};
+    BodyAttempt attempt{ByteArray{header.size() + static_cast<std::size_t>(length) + trailer.size()},
+                        {length, 0, true}};
     const auto bytes = attempt.body.Bytes();
     const auto file = bytes.subspan(header.size(), static_cast<std::size_t>(length));
     std::memcpy(bytes.data(), header.data(), header.size());
@@ -69,8 +70,7 @@ ByteArray ReadBody(const std::wstring& server, const std::wstring& path, const s
     const std::string header = UploadHeader(uploadName);
     const std::string trailer = UploadTrailer();
     std::uint64_t length = 0;
-    for (int attempt = 1; attempt <= kReadAttempts; ++attempt)
-    {
+    for (int attempt = 1; attempt <= kReadAttempts; ++attempt) {
         const ReadablePath readable{path};
         if (attempt > 1) PumpFor(kPauseBetweenAttempts);
         length = FileLength(readable.Get()).value_or(length);

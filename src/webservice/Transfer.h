@@ -11,7 +11,8 @@ namespace corvane
 
 // Uploads a file under a name, once it is completely written and within the server's size limit. Throws Error with the
 // source "ExecuteASPWSUploadFile"; errors of the size query pass unchanged.
-void ExecuteASPWSUploadFile(const std::wstring& sServer, const std::wstring& sFilePath, const std::wstring& sUploadName);
+void ExecuteASPWSUploadFile(const std::wstring& sServer, const std::wstring& sFilePath,
+                            const std::wstring& sUploadName);
 
 // Calls an operation by GET and returns its answer as a binary stream, positioned at its end. Does not record the
 // user's access. Throws Error.

@@ -55,20 +55,18 @@ void UpdateUserLog(const std::wstring& sServer, const std::wstring& sWebService)
 {
     const ProcedureScope scope{L"WebService.UpdateUserLog"};
     if (!AccessLogPending()) return;
-    const std::wstring url =
-        Endpoint(sServer, sWebService) + L"?" + RequestQuery(Operations::kUpdateUserAccessLog, {});
+    const std::wstring url = Endpoint(sServer, sWebService) + L"?" + RequestQuery(Operations::kUpdateUserAccessLog, {});
     HttpRequest request;
     OpenRequest(kAccessLogCall, [&] { request.Open(L"POST", url); });
-    const auto failure = Catch([&] {
-        Exchange(request, kAccessLogCall, sServer, RequestLimit(), [&] { request.SendEmptyDocument(); });
-    });
+    const auto failure = Catch(
+        [&] { Exchange(request, kAccessLogCall, sServer, RequestLimit(), [&] { request.SendEmptyDocument(); }); });
     if (request.Status() == kFailedDependency) SetAccessLogged(false);
     if (failure) throw *failure;
     SetAccessLogged(true);
 }
 
-WebAnswer ExecuteASPWebService(const std::wstring& sServer, const std::wstring& sWebService, const Operation& sOperation,
-                               const Parameters& vParams)
+WebAnswer ExecuteASPWebService(const std::wstring& sServer, const std::wstring& sWebService,
+                               const Operation& sOperation, const Parameters& vParams)
 {
     const ProcedureScope scope{L"WebService.ExecuteASPWebService"};
     UpdateUserLog(sServer, sWebService);
@@ -86,7 +84,8 @@ WebAnswer ExecuteASPWebService(const std::wstring& sServer, const std::wstring& 
     WebAnswer answer;
     answer.text = Exchange(request, kOperationCall, sServer, RequestLimit(),
                            [&] { isPost ? request.Send(query) : request.Send(); });
-    if (sOperation.answer == AnswerForm::Xml) static_cast<void>(answer.document.emplace().Load(answer.text, kNamespaces));
+    if (sOperation.answer == AnswerForm::Xml)
+        static_cast<void>(answer.document.emplace().Load(answer.text, kNamespaces));
     return answer;
 }
 

@@ -21,11 +21,12 @@ struct WebAnswer
 
 // Calls an operation on a server's page and waits for the answer while messages are handled. sServer is used as it
 // stands. Throws Error: number 225 for transport failures, the server's own number for an error document.
-WebAnswer ExecuteASPWebService(const std::wstring& sServer, const std::wstring& sWebService, const Operation& sOperation,
-                               const Parameters& vParams);
+WebAnswer ExecuteASPWebService(const std::wstring& sServer, const std::wstring& sWebService,
+                               const Operation& sOperation, const Parameters& vParams);
 
 // The same on the service page, for operations of one answer form.
-[[nodiscard]] XmlDocument QueryXml(const std::wstring& server, const Operation& operation, const Parameters& parameters);
+[[nodiscard]] XmlDocument QueryXml(const std::wstring& server, const Operation& operation,
+                                   const Parameters& parameters);
 [[nodiscard]] std::wstring QueryText(const std::wstring& server, const Operation& operation,
                                      const Parameters& parameters);
 

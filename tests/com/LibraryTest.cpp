@@ -6,13 +6,11 @@ namespace
 {
 
 class Library : public AddInLibrary
-{
-};
+{};
 
 TEST_F(Library, KnowsItsFourClassesAndNoOther)
 {
-    for (const CLSID& id : {CLSID_Connect, CLSID_CController, CLSID_CTraceLog, CLSID_CRbnBtnInfo})
-    {
+    for (const CLSID& id : {CLSID_Connect, CLSID_CController, CLSID_CTraceLog, CLSID_CRbnBtnInfo}) {
         auto* object = Create<IUnknown>(id);
         ASSERT_NE(object, nullptr);
         EXPECT_EQ(CanUnload(), S_FALSE) << "a living object must keep the library";
@@ -43,8 +41,8 @@ TEST_F(Library, ConnectAnswersItsInterfacesWithOneIdentity)
 {
     auto* identity = Create<IUnknown>(CLSID_Connect);
     ASSERT_NE(identity, nullptr);
-    for (const IID& id : {__uuidof(IDTExtensibility2), __uuidof(IRibbonExtensibility), __uuidof(_Connect), IID_IDispatch})
-    {
+    for (const IID& id :
+         {__uuidof(IDTExtensibility2), __uuidof(IRibbonExtensibility), __uuidof(_Connect), IID_IDispatch}) {
         IUnknown* face = nullptr;
         ASSERT_EQ(identity->QueryInterface(id, reinterpret_cast<void**>(&face)), S_OK);
         IUnknown* same = nullptr;
@@ -64,10 +62,9 @@ TEST_F(Library, ConnectsPlainDispatchOffersTheRibbonCallbacks)
 {
     auto* dispatch = Create<IDispatch>(CLSID_Connect);
     ASSERT_NE(dispatch, nullptr);
-    std::array<const wchar_t*, 6> names = {L"RibbonHandler", L"GetEnabled", L"GetLabel", L"GetScreentip", L"GetSupertip",
-                                           L"onLoad"};
-    for (const wchar_t* name : names)
-    {
+    std::array<const wchar_t*, 6> names = {L"RibbonHandler", L"GetEnabled",  L"GetLabel",
+                                           L"GetScreentip",  L"GetSupertip", L"onLoad"};
+    for (const wchar_t* name : names) {
         DISPID member = DISPID_UNKNOWN;
         auto* text = const_cast<LPOLESTR>(name);
         EXPECT_EQ(dispatch->GetIDsOfNames(IID_NULL, &text, 1, 0, &member), S_OK) << "no such callback";

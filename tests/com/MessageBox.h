@@ -29,13 +29,11 @@ private:
 
     void Watch()
     {
-        while (!m_stop && !m_appeared)
-        {
+        while (!m_stop && !m_appeared) {
             const HWND box = ::FindWindowW(L"#32770", m_title.empty() ? nullptr : m_title.c_str());
             wchar_t text[512] = L"";
             if (box != nullptr) ::GetDlgItemTextW(box, kTextOfBox, text, 512);
-            if (box != nullptr && std::wstring{text}.starts_with(m_text))
-            {
+            if (box != nullptr && std::wstring{text}.starts_with(m_text)) {
                 m_appeared = true;
                 ::PostMessageW(box, WM_COMMAND, IDOK, 0);
             }

@@ -43,10 +43,9 @@ protected:
         if (::RegOpenKeyW(HKEY_CURRENT_USER, key.c_str(), &opened) != ERROR_SUCCESS) return 0;
         DWORD keys = 0;
         DWORD values = 0;
-        ::RegQueryInfoKeyW(opened, nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values, nullptr, nullptr, nullptr,
-                           nullptr);
-        for (DWORD index = 0; index < keys; ++index)
-        {
+        ::RegQueryInfoKeyW(opened, nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values, nullptr, nullptr,
+                           nullptr, nullptr);
+        for (DWORD index = 0; index < keys; ++index) {
             wchar_t name[MAX_PATH] = L"";
             ::RegEnumKeyW(opened, index, name, MAX_PATH);
             values += ValuesBelow(key + L"\\" + name);
@@ -69,8 +68,7 @@ TEST_F(Registration, WritesTheHostsKeyForTheUserAndTakesEverythingBack)
     ::RegGetValueW(HKEY_CURRENT_USER, kAddInKey, L"LoadBehavior", RRF_RT_REG_DWORD, nullptr, &loadBehaviour, &size);
     EXPECT_EQ(loadBehaviour, 3U);
 
-    for (const wchar_t* name : {L"Connect", L"CController", L"CTraceLog", L"CRbnBtnInfo"})
-    {
+    for (const wchar_t* name : {L"Connect", L"CController", L"CTraceLog", L"CRbnBtnInfo"}) {
         const std::wstring classes = L"Software\\Classes\\";
         const std::wstring classId = TextAt(classes + L"CorvaneMSOfficePowerPoint." + name + L"\\CLSID", L"");
         const std::wstring server = classes + L"CLSID\\" + classId + L"\\InprocServer32";

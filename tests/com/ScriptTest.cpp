@@ -29,14 +29,13 @@ protected:
     static std::vector<std::wstring> Keys()
     {
         std::vector<std::wstring> keys;
-        for (const wchar_t* name : {L"CController", L"CTraceLog", L"CRbnBtnInfo"})
-        {
+        for (const wchar_t* name : {L"CController", L"CTraceLog", L"CRbnBtnInfo"}) {
             const std::wstring classes = L"Software\\Classes\\";
             keys.push_back(classes + L"CorvaneMSOfficePowerPoint." + name);
             wchar_t classId[64] = L"";
             DWORD size = sizeof classId;
-            ::RegGetValueW(HKEY_CURRENT_USER, (keys.back() + L"\\CLSID").c_str(), nullptr, RRF_RT_REG_SZ, nullptr, classId,
-                           &size);
+            ::RegGetValueW(HKEY_CURRENT_USER, (keys.back() + L"\\CLSID").c_str(), nullptr, RRF_RT_REG_SZ, nullptr,
+                           classId, &size);
             keys.push_back(classes + L"CLSID\\" + classId);
         }
         return keys;
