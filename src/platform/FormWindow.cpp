@@ -64,15 +64,8 @@ class LibraryManifest
 {
 public:
     LibraryManifest() noexcept
-    {
-        ACTCTXW context{};
-        context.cbSize = sizeof context;
-        context.dwFlags = ACTCTX_FLAG_HMODULE_VALID | ACTCTX_FLAG_RESOURCE_NAME_VALID;
-        context.hModule = Library::Module();
-        context.lpResourceName = MAKEINTRESOURCEW(IDR_MANIFEST);
-        m_context = ::CreateActCtxW(&context);
-        m_active = m_context != INVALID_HANDLE_VALUE && ::ActivateActCtx(m_context, &m_cookie);
-    }
+        : m_context{Load()}, m_active{m_context != INVALID_HANDLE_VALUE && ::ActivateActCtx(m_context, &m_cookie)}
+    {}
     LibraryManifest(const LibraryManifest&) = delete;
     LibraryManifest& operator=(const LibraryManifest&) = delete;
     ~LibraryManifest()
@@ -82,9 +75,19 @@ public:
     }
 
 private:
-    HANDLE m_context = INVALID_HANDLE_VALUE;
+    static HANDLE Load() noexcept
+    {
+        ACTCTXW context{};
+        context.cbSize = sizeof context;
+        context.dwFlags = ACTCTX_FLAG_HMODULE_VALID | ACTCTX_FLAG_RESOURCE_NAME_VALID;
+        context.hModule = Library::Module();
+        context.lpResourceName = MAKEINTRESOURCEW(IDR_MANIFEST);
+        return ::CreateActCtxW(&context);
+    }
+
+    HANDLE m_context;
     ULONG_PTR m_cookie = 0;
-    bool m_active = false;
+    bool m_active;
 };
 
 } // namespace
