@@ -89,7 +89,7 @@ bool frmSaveRelatedDoc::LoadExistingDocument()
     if (ToBooleanSafe(document.Text(L"ProjectClosed"))) return false;
     SetText(txtProject, document.Text(L"ProjectName"));
     SetText(txtName, document.Text(L"Name"));
-    SetText(txtDescription, document.Text(L"Description"));
+    SetText(txtDescription, ReplaceAll(document.Text(L"Description"), L"\n", L"\r\n"));
     SetText(txtAuthor, document.Text(L"Author"));
     Check(chkPublish, ToBooleanSafe(document.Text(L"Published")));
     FillGroups();

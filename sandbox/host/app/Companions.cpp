@@ -22,9 +22,10 @@ struct OutlookSetting
     bool running;
 };
 constexpr OutlookSetting kOutlookSettings[] = {
-    {"new", MailMood::Willing, false},           {"running", MailMood::Willing, true},
-    {"refusing", MailMood::RefusesItems, false}, {"refusing-recipients", MailMood::RefusesRecipients, false},
-    {"failing", MailMood::Fails, false},
+    {"new", MailMood::Willing, false},
+    {"running", MailMood::Willing, true},
+    {"refusing", MailMood::Refusing, false},
+    {"failing", MailMood::Failing, false},
 };
 
 struct MailClientSetting

@@ -38,14 +38,13 @@ Value OutlookObject::GetVersion(const Arguments&) { return Value{L"16.0.0.4266"}
 void OutlookObject::FailWhere(MailMood mood) const
 {
     if (m_mood != mood) return;
-    if (mood == MailMood::Fails) throw AutomationError{E_FAIL, L"The mail store cannot be opened."};
+    if (mood == MailMood::Failing) throw AutomationError{E_FAIL, L"The mail store cannot be opened."};
     throw AutomationError{kDeclined, L"Application-defined or object-defined error"};
 }
 
 Value OutlookObject::CreateItem(const Arguments& arguments)
 {
-    FailWhere(MailMood::RefusesItems);
-    FailWhere(MailMood::Fails);
+    FailWhere(MailMood::Failing);
     if (arguments.At(0).Number() != kMailItem) throw AutomationError{E_INVALIDARG, L"Only mail items are offered."};
     return Value{MakeObject<MailItemObject>(this).Get()};
 }
@@ -66,7 +65,7 @@ std::span<const Member> MailItemObject::Members() const
 
 Value MailItemObject::To(const Arguments& arguments)
 {
-    m_outlook->FailWhere(MailMood::RefusesRecipients);
+    m_outlook->FailWhere(MailMood::Refusing);
     return Field(L"To", arguments);
 }
 

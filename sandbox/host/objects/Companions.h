@@ -25,13 +25,12 @@ private:
 
 using MailFields = std::map<std::wstring, std::wstring, std::less<>>;
 
-// What the mail program does when a new item is asked for.
+// What the mail program does with a new item.
 enum class MailMood
 {
     Willing,
-    RefusesItems,      // declines to be automated, at once ...
-    RefusesRecipients, // ... or when the recipients are set
-    Fails
+    Refusing, // declines the recipients, as when the user forbids an add-in to see addresses
+    Failing   // cannot make the item
 };
 
 // The mail program, as far as new mail items need it.
