@@ -1,6 +1,5 @@
 #include "addin/CAddInMenus.h"
 
-#include "addin/RibbonElement.h"
 #include "addin/RibbonXml.h"
 #include "platform/Error.h"
 #include "platform/Messages.h"
@@ -53,24 +52,24 @@ void CAddInMenus::SetUICaptions()
     m_captions = BuildUICaptions([&names](std::wstring_view term) { return names.Item(term); });
 }
 
-std::wstring CAddInMenus::GetOfficeRibbonXML() const noexcept
+std::wstring CAddInMenus::RibbonXml(std::wstring_view procedure, RibbonTab tab) const noexcept
 {
     std::wstring xml;
-    AtHostBoundary(L"CAddInMenus.GetOfficeRibbonXML", [&] {
+    AtHostBoundary(procedure, [&] {
         const int version = HostVersion();
-        xml = RibbonXmlText(BuildRibbon(version, m_captions, RibbonTab::Shared), CustomUINamespaceFor(version));
+        xml = RibbonXmlText(BuildRibbon(version, m_captions, tab), CustomUINamespaceFor(version));
     });
     return xml;
 }
 
+std::wstring CAddInMenus::GetOfficeRibbonXML() const noexcept
+{
+    return RibbonXml(L"CAddInMenus.GetOfficeRibbonXML", RibbonTab::Shared);
+}
+
 std::wstring CAddInMenus::GetOutlookRibbonXML() const noexcept
 {
-    std::wstring xml;
-    AtHostBoundary(L"CAddInMenus.GetOutlookRibbonXML", [&] {
-        const int version = HostVersion();
-        xml = RibbonXmlText(BuildRibbon(version, m_captions, RibbonTab::Own), CustomUINamespaceFor(version));
-    });
-    return xml;
+    return RibbonXml(L"CAddInMenus.GetOutlookRibbonXML", RibbonTab::Own);
 }
 
 void CAddInMenus::RibbonHandler2(const std::wstring& controlId) noexcept

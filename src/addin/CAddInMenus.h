@@ -1,6 +1,7 @@
 // The add-in's commands: what ribbon buttons, command-bar buttons and CController lead to.
 #pragma once
 
+#include "addin/RibbonElement.h"
 #include "addin/SaveCommand.h"
 #include "addin/UICaptions.h"
 #include "platform/EventSubscription.h"
@@ -50,6 +51,7 @@ public:
     void SaveRelatedDocClickHelper(std::wstring_view caller) noexcept { RunSave(kSaveRelatedDoc, caller); }
 
 private:
+    [[nodiscard]] std::wstring RibbonXml(std::wstring_view procedure, RibbonTab tab) const noexcept;
     void RunSave(const SaveCommand& command, std::wstring_view caller) noexcept;
     void Save(const SaveCommand& command, frmBusy& busy);
     void PickTarget(const SaveCommand& command);
