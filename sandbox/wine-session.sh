@@ -20,6 +20,8 @@ fi
 
 if [ ! -e "$WINEPREFIX/prepared" ]; then
   wineboot -i >/dev/null 2>&1 9>&-
+  # Documents and its like are folders of this Wine, not links into the person's home.
+  find "$WINEPREFIX/drive_c/users" -maxdepth 2 -type l -exec sh -c 'rm "$1" && mkdir "$1"' sh {} \;
   # Wine looks for its own fonts (captions, the message font) only here.
   cp /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
   wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d corvane /f >/dev/null 9>&-
