@@ -54,6 +54,7 @@ void Player::Expect(const Step& step)
     const std::string what = step.At(0);
     if (what == "addin") return ExpectAddIn(step);
     if (what == "document") return ExpectDocument(step);
+    if (what == "command") return ExpectCommand(step);
     if (!step.words[1].quoted) return WaitFor([&] { return StateFinding(what, step.At(1)); });
 
     const std::wstring wanted = Widen(step.Lines(1));
@@ -62,6 +63,16 @@ void Player::Expect(const Step& step)
         if (!window) return L"no " + Widen(what) + L" in " + m_form;
         const auto text = what == "caption" ? WindowText(window) : ControlText(window);
         return text == wanted ? Finding{} : L"it is " + Quoted(text);
+    });
+}
+
+void Player::ExpectCommand(const Step& step)
+{
+    WaitFor([&] {
+        bool there = false;
+        OnUi([&] { there = m_host.HasCommand(step.At(1)); });
+        return there == (step.At(2) == "present") ? Finding{}
+                                                  : std::wstring{there ? L"it is there" : L"it is not there"};
     });
 }
 

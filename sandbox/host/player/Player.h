@@ -80,6 +80,7 @@ private:
     void Expect(const Step& step);
     void ExpectAddIn(const Step& step);
     void ExpectDocument(const Step& step);
+    void ExpectCommand(const Step& step);
     [[nodiscard]] Finding StateFinding(const std::string& control, const std::string& state);
 
     Host& m_host;
