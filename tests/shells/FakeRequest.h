@@ -1,0 +1,63 @@
+// An XMLHTTP request whose transport behaves as a test wants.
+#pragma once
+
+#include <windows.h>
+
+#include <msxml2.h>
+
+// Lives on the stack and counts its references.
+class FakeRequest final : public IXMLHTTPRequest
+{
+public:
+    long readyState = 4; // once sent
+    HRESULT statusResult = S_OK;
+    long status = 200;
+    int aborted = 0;
+    ULONG references = 0;
+
+    STDMETHODIMP QueryInterface(REFIID, void** object) override
+    {
+        *object = this;
+        AddRef();
+        return S_OK;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override { return ++references; }
+    STDMETHODIMP_(ULONG) Release() override { return --references; }
+    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override
+    {
+        return E_NOTIMPL;
+    }
+    STDMETHODIMP open(BSTR, BSTR, VARIANT, VARIANT, VARIANT) override { return S_OK; }
+    STDMETHODIMP setRequestHeader(BSTR, BSTR) override { return S_OK; }
+    STDMETHODIMP getResponseHeader(BSTR, BSTR*) override { return E_NOTIMPL; }
+    STDMETHODIMP getAllResponseHeaders(BSTR*) override { return E_NOTIMPL; }
+    STDMETHODIMP send(VARIANT) override { return S_OK; }
+    STDMETHODIMP abort() override
+    {
+        ++aborted;
+        return S_OK;
+    }
+    STDMETHODIMP get_status(LONG* value) override
+    {
+        *value = status;
+        return statusResult;
+    }
+    STDMETHODIMP get_statusText(BSTR*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_responseXML(IDispatch**) override { return E_NOTIMPL; }
+    STDMETHODIMP get_responseText(BSTR* text) override
+    {
+        *text = ::SysAllocString(L"12");
+        return S_OK;
+    }
+    STDMETHODIMP get_responseBody(VARIANT*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_responseStream(VARIANT*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_readyState(LONG* state) override
+    {
+        *state = readyState;
+        return S_OK;
+    }
+    STDMETHODIMP put_onreadystatechange(IDispatch*) override { return S_OK; }
+};

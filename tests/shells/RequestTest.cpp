@@ -1,0 +1,108 @@
+// Requests whose transport fails in ways that only real Windows shows, and waits that end early.
+#include "FakeRequest.h"
+#include "OfferedClass.h"
+
+#include "platform/MessageLoop.h"
+#include "platform/Procedure.h"
+#include "webservice/AnswerRules.h"
+#include "webservice/Exchange.h"
+#include "webservice/WebService.h"
+
+#include <gtest/gtest.h>
+#include <optional>
+
+using namespace corvane;
+using namespace std::chrono_literals;
+
+namespace
+{
+
+constexpr CLSID kXmlHttp3 = {0xF5078F35, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
+constexpr CLSID kXmlHttp6 = {0x88D96A0A, 0xF192, 0x11D4, {0xA6, 0x5F, 0x00, 0x40, 0x96, 0x32, 0x51, 0xE5}};
+
+class Request : public testing::Test
+{
+protected:
+    Request() { SetRequestTimeout(20s); }
+    ~Request() override
+    {
+        SetRequestTimeout(0s);
+        EXPECT_EQ(m_transport.references, 0U);
+    }
+
+    // Sends a query and tells how it failed; number 0 when it did not.
+    static Error Query()
+    {
+        const auto failure =
+            Catch([] { static_cast<void>(QueryText(L"http://h", Operations::kGetUserId, Parameters{})); });
+        return failure.value_or(Error{0, L"", L""});
+    }
+    static void ExpectSendError()
+    {
+        const Error error = Query();
+        EXPECT_EQ(error.Number(), kTransportError);
+        EXPECT_EQ(error.Description(), L"Unable to contact server http://h.");
+    }
+
+    Apartment m_apartment;
+    FakeRequest m_transport;
+    const OfferedClass::Create m_create{
+        [this](REFIID id, void** object) { return m_transport.QueryInterface(id, object); }};
+    std::optional<OfferedClass> m_class{std::in_place, kXmlHttp3, m_create};
+};
+
+TEST_F(Request, AStatusThatIsNoneOfHttpIsAFailureToSend)
+{
+    for (const long status : {0L, 99L, 600L, 12002L, 12007L, 12029L, 12030L, 12152L}) {
+        SCOPED_TRACE(status);
+        m_transport.status = status;
+        ExpectSendError();
+    }
+}
+
+TEST_F(Request, AnAnswerThatRefusesToTellItsStatusIsAFailureToSend)
+{
+    m_transport.statusResult = E_FAIL;
+    ExpectSendError();
+}
+
+TEST_F(Request, TheTimeOutIsAFailureToSendAndAbandonsTheRequest)
+{
+    SetRequestTimeout(1s);
+    m_transport.readyState = 2; // for ever
+    ExpectSendError();
+    EXPECT_EQ(m_transport.aborted, 1);
+}
+
+TEST_F(Request, AQuitMessageEndsTheWaitAndIsStillThere)
+{
+    constexpr int kExitCode = 7;
+    m_transport.readyState = 2;
+    ::PostQuitMessage(kExitCode);
+    ExpectSendError();
+    EXPECT_EQ(m_transport.aborted, 1);
+    MSG message{};
+    EXPECT_FALSE(::GetMessageW(&message, nullptr, 0, 0));
+    EXPECT_EQ(message.wParam, static_cast<WPARAM>(kExitCode));
+}
+
+TEST_F(Request, TheComponentOfVersion6ServesWhereVersion3IsMissing)
+{
+    m_class.reset();
+    const OfferedClass missing{kXmlHttp3};
+    const OfferedClass newer{kXmlHttp6, m_create};
+    EXPECT_EQ(Query().Number(), 0);
+    EXPECT_GT(newer.Asked(), 0);
+}
+
+TEST(Wait, HandlesMessagesUntilTheLimit)
+{
+    const UINT_PTR timer = ::SetTimer(nullptr, 0, 20, nullptr);
+    int asked = 0;
+    EXPECT_EQ(PumpUntil([&] { return ++asked, false; }, 200ms), WaitEnd::TimedOut);
+    ::KillTimer(nullptr, timer);
+    EXPECT_GE(asked, 3);  // woken by the timer's messages
+    EXPECT_LE(asked, 60); // and asleep between them
+}
+
+} // namespace
