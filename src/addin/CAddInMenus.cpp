@@ -26,12 +26,6 @@ HWND WindowOf(const LateBound& application) noexcept
     return window;
 }
 
-LateBound OutlookInspectorOf(const LateBound& application)
-{
-    if (application.Text(L"Name") != kOutlookName) return {};
-    return application.Object(L"ActiveInspector");
-}
-
 } // namespace
 
 std::shared_ptr<CAddInMenus> g_oAddInMenus;

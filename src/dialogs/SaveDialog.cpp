@@ -113,6 +113,7 @@ void SaveDialog::SetControlsEnabled(bool enabled)
 void SaveDialog::BindDocument() const
 {
     if (!CanCarryProperties(oApplication)) return;
+    RequireNotFinal(oApplication);
     SetBindingProperties(oApplication, Binding());
     MarkDocumentChanged(oApplication);
 }

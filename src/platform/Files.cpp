@@ -1,6 +1,7 @@
 #include "platform/Files.h"
 
 #include "platform/HResult.h"
+#include "platform/LongPath.h"
 
 #include <shlobj.h>
 
@@ -17,8 +18,8 @@ constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELE
 
 UniqueFile OpenFile(const std::wstring& path, DWORD access, DWORD disposition) noexcept
 {
-    const HANDLE file =
-        ::CreateFileW(path.c_str(), access, kShareAll, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE file = ::CreateFileW(AsLongPath(path).c_str(), access, kShareAll, nullptr, disposition,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr);
     return UniqueFile{file == INVALID_HANDLE_VALUE ? nullptr : file};
 }
 
@@ -55,7 +56,7 @@ std::wstring NewGuidText()
 
 bool FileExists(const std::wstring& path) noexcept
 {
-    return ::GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+    return ::GetFileAttributesW(AsLongPath(path).c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
 std::wstring UnusedPath(const std::wstring& folder, const std::wstring& base, const std::wstring& extension)
@@ -72,7 +73,7 @@ std::wstring UnusedPath(const std::wstring& folder, const std::wstring& base, co
 
 bool MayWriteFile(const std::wstring& path) noexcept
 {
-    const DWORD attributes = ::GetFileAttributesW(path.c_str());
+    const DWORD attributes = ::GetFileAttributesW(AsLongPath(path).c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_READONLY) != 0) return false;
     // The host may hold the file without sharing: only a refusal of rights counts.
     return static_cast<bool>(OpenFile(path, GENERIC_WRITE, OPEN_EXISTING)) || ::GetLastError() != ERROR_ACCESS_DENIED;
@@ -109,6 +110,11 @@ void WriteFile(const std::wstring& path, std::span<const std::byte> bytes)
                L"WriteFile");
 }
 
+bool CopyWholeFile(const std::wstring& from, const std::wstring& to) noexcept
+{
+    return ::CopyFileW(AsLongPath(from).c_str(), AsLongPath(to).c_str(), FALSE) != FALSE;
+}
+
 bool FitsAnsiCodePage(const std::wstring& text)
 {
     if (text.empty()) return true;
@@ -128,7 +134,7 @@ TemporaryFile::TemporaryFile(const std::wstring& extension)
 
 TemporaryFile::~TemporaryFile()
 {
-    if (!m_path.empty()) ::DeleteFileW(m_path.c_str());
+    if (!m_path.empty()) ::DeleteFileW(AsLongPath(m_path).c_str());
 }
 
 } // namespace corvane

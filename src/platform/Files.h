@@ -1,4 +1,4 @@
-// Files and folders as the add-in needs them.
+// Files and folders as the add-in needs them. Paths may have any length.
 #pragma once
 
 #include "platform/Owners.h"
@@ -37,6 +37,9 @@ std::size_t ReadFile(const std::wstring& path, std::span<std::byte> into) noexce
 
 // Writes a new file or replaces one; throws Error.
 void WriteFile(const std::wstring& path, std::span<const std::byte> bytes);
+
+// Copies a file, replacing one that is there; false when it cannot.
+bool CopyWholeFile(const std::wstring& from, const std::wstring& to) noexcept;
 
 // True when the system's ANSI code page can hold every character of the text.
 [[nodiscard]] bool FitsAnsiCodePage(const std::wstring& text);

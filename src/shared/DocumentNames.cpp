@@ -6,6 +6,24 @@
 
 namespace corvane
 {
+namespace
+{
+
+// Leaves room for a number, an extension and the folder within what the system's dialogs can open.
+constexpr std::size_t kLongestName = 120;
+
+// Names that the system keeps for devices, whatever follows their first point.
+bool IsDeviceName(std::wstring_view name)
+{
+    const std::wstring stem = ToLower(Trim(name.substr(0, name.find(L'.'))));
+    for (const wchar_t* device : {L"con", L"prn", L"aux", L"nul", L"conin$", L"conout$"}) {
+        if (stem == device) return true;
+    }
+    const bool numbered = stem.size() == 4 && (stem.starts_with(L"com") || stem.starts_with(L"lpt"));
+    return numbered && std::wstring_view{L"0123456789\xB9\xB2\xB3"}.find(stem[3]) != std::wstring_view::npos;
+}
+
+} // namespace
 
 std::wstring ExtensionOf(std::wstring_view path)
 {
@@ -34,14 +52,17 @@ bool IsWebAddress(std::wstring_view fullName)
 
 std::wstring AsFileName(std::wstring_view title)
 {
-    std::wstring name{title};
+    std::wstring name = Trim(title);
     std::replace_if(
         name.begin(), name.end(),
         [](wchar_t letter) {
             return letter < L' ' || std::wstring_view{L"\\/:*?\"<>|"}.find(letter) != std::wstring_view::npos;
         },
         L'_');
-    return name;
+    name.resize(std::min(name.size(), kLongestName));
+    while (!name.empty() && (name.back() == L'.' || name.back() == L' '))
+        name.pop_back();
+    return name.empty() || IsDeviceName(name) ? L"_" + name : name;
 }
 
 DiskSave PlanDiskSave(const DocumentPlace& place)

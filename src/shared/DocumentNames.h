@@ -20,7 +20,8 @@ namespace corvane
 // True for a full name that is a web address ("https://...").
 [[nodiscard]] bool IsWebAddress(std::wstring_view fullName);
 
-// A title as a file name: characters that a file name cannot hold replaced by "_".
+// A title as a file name without extension: without blanks around it, what a file name cannot hold replaced by "_",
+// names of devices and empty ones put behind "_", cut to 120 characters.
 [[nodiscard]] std::wstring AsFileName(std::wstring_view title);
 
 // How a document gets to disk before its upload.

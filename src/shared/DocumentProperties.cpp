@@ -5,6 +5,10 @@
 #include "shared/HostVersion.h"
 #include "support/Conversions.h"
 
+#include <optional>
+#include <utility>
+#include <vector>
+
 namespace corvane
 {
 namespace
@@ -16,6 +20,44 @@ LateBound PropertiesOf(const LateBound& application)
 {
     return ActiveDocument(application).Object(L"CustomDocumentProperties");
 }
+
+// The properties of a binding as they were: put back unless the whole binding is written.
+class BindingBackup
+{
+public:
+    explicit BindingBackup(LateBound properties) : m_properties{std::move(properties)}
+    {
+        Keep(kServerProperty);
+        for (const auto& property : kBindingProperties)
+            Keep(property.name);
+    }
+    BindingBackup(const BindingBackup&) = delete;
+    BindingBackup& operator=(const BindingBackup&) = delete;
+    ~BindingBackup()
+    {
+        for (const auto& [name, value] : m_old)
+            PutBack(name, value);
+    }
+    void Drop() noexcept { m_old.clear(); }
+
+private:
+    void Keep(const wchar_t* name)
+    {
+        std::optional<Variant> value;
+        Ignoring([&] { value = m_properties.Object(L"Item", name).Property(L"Value"); });
+        m_old.emplace_back(name, std::move(value));
+    }
+    void PutBack(const wchar_t* name, const std::optional<Variant>& value) const noexcept
+    {
+        Ignoring([&] {
+            const LateBound property = m_properties.Object(L"Item", name);
+            value ? property.Put(L"Value", value->Copy()) : static_cast<void>(property.Call(L"Delete"));
+        });
+    }
+
+    LateBound m_properties;
+    std::vector<std::pair<const wchar_t*, std::optional<Variant>>> m_old;
+};
 
 } // namespace
 
@@ -51,9 +93,11 @@ void SetBindingProperties(const LateBound& oApplication, const DocumentBinding& 
 {
     const ProcedureScope scope{L"SharedCode.SetBindingProperties"};
     const LateBound properties = PropertiesOf(oApplication);
+    BindingBackup backup{properties};
     SetCustomProperty(properties, kServerProperty, binding.server, kPropertyText, oApplication);
     for (const auto& [name, id] : kBindingProperties)
         SetCustomProperty(properties, name, binding.*id, kPropertyNumber, oApplication);
+    backup.Drop();
 }
 
 DocumentBinding ReadBinding(const LateBound& oApplication)

@@ -1,7 +1,9 @@
 #include "shared/HostDocument.h"
 
+#include "platform/PersistedFile.h"
 #include "platform/Procedure.h"
 #include "shared/DocumentNames.h"
+#include "shared/HostTraits.h"
 #include "shared/HostVersion.h"
 
 namespace corvane
@@ -9,36 +11,80 @@ namespace corvane
 namespace
 {
 
-// What the object models of the hosts call things.
-struct HostTraits
+constexpr std::int32_t kPermissionDenied = 70;
+
+using SaveType = std::optional<std::int32_t>;
+
+void SaveWordCopy(const LateBound& document, const std::wstring& path, SaveType /*type*/)
 {
-    const wchar_t* name;
-    const wchar_t* activeDocument;   // null when the host has none
-    const wchar_t* classicExtension; // default up to version 11
-    const wchar_t* extension;        // default from version 12 on
-};
-
-constexpr HostTraits kHosts[] = {
-    {kWordName, L"ActiveDocument", L".doc", L".docx"},
-    {kExcelName, L"ActiveWorkbook", L".xls", L".xlsx"},
-    {kPowerPointName, L"ActivePresentation", L".ppt", L".pptx"},
-    {kOutlookName, nullptr, L".msg", L".msg"},
-};
-
-// PpSaveAsFileType of a new presentation, by the host's version.
-constexpr std::int32_t kSaveAsPresentation = 1;         // .ppt
-constexpr std::int32_t kSaveAsOpenXmlPresentation = 24; // .pptx
-
-const HostTraits* TraitsOf(const LateBound& application)
-{
-    const std::wstring name = application.Text(L"Name");
-    for (const HostTraits& host : kHosts) {
-        if (name == host.name) return &host;
-    }
-    return nullptr;
+    // Word has no member for it; SaveAs would make the copy the user's document.
+    SavePersistedCopy(document, path);
 }
 
-int VersionOf(const LateBound& application) { return MajorVersion(application.Text(L"Version")); }
+void SaveExcelCopy(const LateBound& workbook, const std::wstring& path, SaveType /*type*/)
+{
+    workbook.Call(L"SaveCopyAs", path);
+}
+
+void SavePowerPointCopy(const LateBound& presentation, const std::wstring& path, SaveType type)
+{
+    presentation.Call(L"SaveCopyAs", path, type ? Variant{*type} : Variant::Missing());
+}
+
+void SaveOutlookCopy(const LateBound& item, const std::wstring& path, SaveType type)
+{
+    item.Call(L"SaveAs", path, type ? Variant{*type} : Variant::Missing());
+}
+
+// What the object models do differently.
+struct HostModel
+{
+    const wchar_t* host;
+    const wchar_t* activeDocument; // null for the host whose items are neither files nor carry properties
+    const wchar_t* documentName;
+    void (*saveCopy)(const LateBound& document, const std::wstring& path, SaveType type);
+};
+
+constexpr HostModel kModels[] = {
+    {kWordName, L"ActiveDocument", L"Name", &SaveWordCopy},
+    {kExcelName, L"ActiveWorkbook", L"Name", &SaveExcelCopy},
+    {kPowerPointName, L"ActivePresentation", L"Name", &SavePowerPointCopy},
+    {kOutlookName, nullptr, L"Subject", &SaveOutlookCopy},
+};
+
+// An application as one of the four hosts.
+struct Host
+{
+    const HostTraits& traits;
+    const HostModel& model;
+    int version;
+
+    [[nodiscard]] SaveType TypeOf(std::wstring_view extension) const { return SaveTypeFor(traits, version, extension); }
+};
+
+std::optional<Host> HostOf(const LateBound& application)
+{
+    const std::wstring name = application.Text(L"Name");
+    const HostTraits* traits = FindHost(name);
+    for (const HostModel& model : kModels) {
+        if (traits != nullptr && name == model.host)
+            return Host{*traits, model, MajorVersion(application.Text(L"Version"))};
+    }
+    return std::nullopt;
+}
+
+// The document or item that a save is about; throws Error where there is none.
+LateBound SubjectOf(const LateBound& application, const LateBound& outlookInspector, const Host& host)
+{
+    if (host.model.activeDocument == nullptr) return outlookInspector.Object(L"CurrentItem");
+    return application.Object(host.model.activeDocument);
+}
+
+Host RequiredHost(const LateBound& application)
+{
+    if (const auto host = HostOf(application)) return *host;
+    throw Error{kErrorObjectNotSet, L"HostDocument", L"Object variable or With block variable not set"};
+}
 
 DocumentPlace PlaceOf(const LateBound& document)
 {
@@ -48,20 +94,39 @@ DocumentPlace PlaceOf(const LateBound& document)
     return place;
 }
 
-std::wstring SaveInDocuments(const LateBound& application, const LateBound& document, const std::wstring& title)
+std::wstring TitleOf(const Host& host, const LateBound& subject)
 {
-    const std::wstring extension = ExtensionOf(title);
-    const std::wstring base = AsFileName(title.substr(0, title.size() - extension.size()));
-    std::wstring path = UnusedPath(DocumentsFolder(), base, extension.substr(1));
-    const bool classic = !HasRibbon(VersionOf(application));
-    document.Call(L"SaveAs", path, classic ? kSaveAsPresentation : kSaveAsOpenXmlPresentation);
-    return path;
+    const bool everSaved = host.model.activeDocument != nullptr && !subject.Text(L"Path").empty();
+    return TitleOf(host.traits, host.version, subject.Text(host.model.documentName), everSaved);
 }
 
-SavedDocument SaveTemporaryCopy(const LateBound& document, const std::wstring& title)
+std::wstring UnusedDocumentPath(const std::wstring& title)
 {
-    TemporaryFile copy{ExtensionOf(title).substr(1)};
-    document.Call(L"SaveCopyAs", copy.Path());
+    const std::wstring extension = ExtensionOf(title);
+    std::wstring path;
+    const auto failure = Catch([&] {
+        path = UnusedPath(DocumentsFolder(), title.substr(0, title.size() - extension.size()), extension.substr(1));
+    });
+    if (!failure) return path;
+    throw Error{failure->Number(), failure->Source(),
+                L"The document has no file yet and the Documents folder cannot be reached (" + failure->Description() +
+                    L"). Please save the document to disk and then save it to Corvane again."};
+}
+
+SavedDocument SaveInDocuments(const Host& host, const LateBound& document)
+{
+    const std::wstring title = TitleOf(host, document);
+    std::wstring path = UnusedDocumentPath(title);
+    const SaveType type = host.TypeOf(ExtensionOf(title));
+    document.Call(L"SaveAs", path, type ? Variant{*type} : Variant::Missing());
+    return {std::move(path), std::nullopt};
+}
+
+SavedDocument SaveTemporaryCopy(const Host& host, const LateBound& subject)
+{
+    const std::wstring extension = ExtensionOf(TitleOf(host, subject));
+    TemporaryFile copy{extension.substr(1)};
+    host.model.saveCopy(subject, copy.Path(), host.TypeOf(extension));
     std::wstring path = copy.Path();
     return {std::move(path), std::move(copy)};
 }
@@ -70,19 +135,40 @@ SavedDocument SaveTemporaryCopy(const LateBound& document, const std::wstring& t
 
 LateBound ActiveDocument(const LateBound& application)
 {
-    const HostTraits* host = TraitsOf(application);
-    if (host == nullptr || host->activeDocument == nullptr) return {};
-    return application.Object(host->activeDocument);
+    const auto host = HostOf(application);
+    if (!host || host->model.activeDocument == nullptr) return {};
+    return application.Object(host->model.activeDocument);
+}
+
+LateBound OutlookInspectorOf(const LateBound& application)
+{
+    if (application.Text(L"Name") != kOutlookName) return {};
+    return application.Object(L"ActiveInspector");
 }
 
 bool IsDocumentOpen(const LateBound& application)
 {
     bool open = false;
-    Ignoring([&] { open = static_cast<bool>(ActiveDocument(application)); });
+    Ignoring([&] { open = ActiveDocument(application) || OutlookInspectorOf(application); });
     return open;
 }
 
-bool CanCarryProperties(const LateBound& application) { return IsDocumentOpen(application); }
+bool CanCarryProperties(const LateBound& application)
+{
+    bool carries = false;
+    Ignoring([&] { carries = static_cast<bool>(ActiveDocument(application)); });
+    return carries;
+}
+
+void RequireNotFinal(const LateBound& application)
+{
+    bool isFinal = false;
+    Ignoring([&] { isFinal = ActiveDocument(application).Number(L"Final") != 0; });
+    if (isFinal)
+        throw Error{kPermissionDenied, L"HostDocument",
+                    L"The document is marked as final, so it cannot be changed. Please turn the mark off and then save "
+                    L"the document to Corvane again."};
+}
 
 bool IsEditing(const LateBound& application)
 {
@@ -99,12 +185,10 @@ bool IsEditing(const LateBound& application)
     return editing;
 }
 
-std::wstring DocumentTitle(const LateBound& application, const LateBound& /*outlookInspector*/)
+std::wstring DocumentTitle(const LateBound& application, const LateBound& outlookInspector)
 {
-    const HostTraits* host = TraitsOf(application);
-    if (host == nullptr) return {};
-    const wchar_t* extension = HasRibbon(VersionOf(application)) ? host->extension : host->classicExtension;
-    return TitleWithExtension(ActiveDocument(application).Text(L"Name"), extension);
+    const Host host = RequiredHost(application);
+    return TitleOf(host, SubjectOf(application, outlookInspector, host));
 }
 
 std::wstring DocumentAuthor(const LateBound& application)
@@ -129,18 +213,19 @@ void MarkDocumentChanged(const LateBound& application) { ActiveDocument(applicat
 SavedDocument SaveDocumentToDisk(const LateBound& application, const LateBound& outlookInspector)
 {
     const ProcedureScope scope{L"SharedCode.SaveDocumentToDisk"};
-    const LateBound document = ActiveDocument(application);
-    const DocumentPlace place = PlaceOf(document);
-    const std::wstring title = DocumentTitle(application, outlookInspector);
+    const Host host = RequiredHost(application);
+    const LateBound subject = SubjectOf(application, outlookInspector, host);
+    if (host.model.activeDocument == nullptr) return SaveTemporaryCopy(host, subject);
+    const DocumentPlace place = PlaceOf(subject);
     switch (PlanDiskSave(place)) {
     case DiskSave::InDocuments:
-        return {SaveInDocuments(application, document, title), std::nullopt};
+        return SaveInDocuments(host, subject);
     case DiskSave::TemporaryCopy:
-        return SaveTemporaryCopy(document, title);
+        return SaveTemporaryCopy(host, subject);
     case DiskSave::InPlace:
         break;
     }
-    document.Call(L"Save");
+    subject.Call(L"Save");
     return {place.fullName, std::nullopt};
 }
 

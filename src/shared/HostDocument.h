@@ -13,14 +13,21 @@ namespace corvane
 // The host's active document; empty when there is none or the host keeps none (Outlook).
 [[nodiscard]] LateBound ActiveDocument(const LateBound& application);
 
-// Whether a document is open, and whether the active one can carry custom properties.
+// The inspector that shows Outlook's open item; empty when none is open and in other hosts.
+[[nodiscard]] LateBound OutlookInspectorOf(const LateBound& application);
+
+// Whether a document (in Outlook an item) is open, and whether the active one can carry custom properties.
 [[nodiscard]] bool IsDocumentOpen(const LateBound& application);
 [[nodiscard]] bool CanCarryProperties(const LateBound& application);
+
+// Throws an Error that tells the user what to do when the active document is marked as final.
+void RequireNotFinal(const LateBound& application);
 
 // Whether the host is editing a cell or an object (Excel), so that its documents cannot be touched.
 [[nodiscard]] bool IsEditing(const LateBound& application);
 
-// The document's name, with the default extension of the host's version when it has none. Throws the host's error.
+// The document's name, or the subject of Outlook's item, with the default extension of the host's version when it has
+// none. Throws the host's error.
 [[nodiscard]] std::wstring DocumentTitle(const LateBound& application, const LateBound& outlookInspector);
 
 // The document's author property; empty when it has none.
@@ -39,7 +46,9 @@ struct SavedDocument
     std::optional<TemporaryFile> copy;
 };
 
-// Saves the document to disk. Throws the host's error.
+// Saves the document to disk: where it is, in its own format; in the Documents folder when it was never saved; as a
+// temporary copy when it cannot be written where it is or is no file (a web address, an item of Outlook). Throws the
+// host's error.
 [[nodiscard]] SavedDocument SaveDocumentToDisk(const LateBound& application, const LateBound& outlookInspector);
 
 // Lets the user work in Excel again, or keeps the user out; nothing in other hosts. Errors are ignored.

@@ -55,7 +55,7 @@ public:
     {
         if (FitsAnsiCodePage(path)) return;
         m_copy.emplace(L"tmp");
-        ::CopyFileW(path.c_str(), m_copy->Path().c_str(), FALSE); // what cannot be copied yet reads as unfinished
+        CopyWholeFile(path, m_copy->Path()); // what cannot be copied yet reads as unfinished
     }
     [[nodiscard]] const std::wstring& Get() const noexcept { return m_copy ? m_copy->Path() : m_path; }
 

@@ -55,6 +55,13 @@ TEST(DocumentNames, ReplaceWhatAFileNameCannotHold)
 {
     EXPECT_EQ(AsFileName(L"Q1/Q2: \"plan\"?\t<a>|*\\"), L"Q1_Q2_ _plan____a____");
     EXPECT_EQ(AsFileName(L"r\xE9sum\xE9 \x20AC.pptx"), L"r\xE9sum\xE9 \x20AC.pptx");
+    EXPECT_EQ(AsFileName(L"  plan v1.2 . "), L"plan v1.2");
+    EXPECT_EQ(AsFileName(L" \t "), L"_");
+    EXPECT_EQ(AsFileName(std::wstring(500, L'x')), std::wstring(120, L'x'));
+    for (const wchar_t* device : {L"con", L"NUL.old", L"Com1", L"lpt\xB9", L"AUX .x"})
+        EXPECT_EQ(AsFileName(device), L"_" + std::wstring{device});
+    for (const wchar_t* plain : {L"console", L"com10", L"lptx", L"my con"})
+        EXPECT_EQ(AsFileName(plain), plain);
 }
 
 struct PlaceCase

@@ -1,0 +1,43 @@
+// What sets the hosts apart in names, extensions and file formats.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace corvane
+{
+
+// A format that a host saves in, by the number its object model gives it, for the versions that write it so.
+struct SaveFormat
+{
+    const wchar_t* extension;
+    std::int32_t type;
+    int firstVersion = 0;
+    int lastVersion = 10000;
+};
+
+struct HostTraits
+{
+    const wchar_t* name;             // Application.Name
+    const wchar_t* classicExtension; // of a new document up to version 11
+    const wchar_t* extension;        // and from version 12 on
+    std::span<const SaveFormat> formats;
+};
+
+// The host of an application's name; null for a program that is none of the four.
+[[nodiscard]] const HostTraits* FindHost(std::wstring_view applicationName) noexcept;
+
+// The extension of a new document of this host's version.
+[[nodiscard]] const wchar_t* DefaultExtension(const HostTraits& host, int version) noexcept;
+
+// The number of the format that an extension (with its point, in any letter case) stands for in this version.
+[[nodiscard]] std::optional<std::int32_t> SaveTypeFor(const HostTraits& host, int version, std::wstring_view extension);
+
+// A document's title: its name with the host's default extension where it has none. A document that was never saved
+// has only an extension that its host writes ("Plan v1.2" has none), and its title is fit to be a file's name.
+[[nodiscard]] std::wstring TitleOf(const HostTraits& host, int version, const std::wstring& name, bool everSaved);
+
+} // namespace corvane
