@@ -170,8 +170,9 @@ private:
     {
         const std::wstring id = CallByName(*arguments.At(0).Object(), L"id", DISPATCH_PROPERTYGET).Text();
         if (id == L"Hello") {
-            const std::wstring text = GetLabel(arguments).Text() + L"\r\nand " + std::to_wstring(m_closes) + L" closed";
-            ::MessageBoxW(nullptr, text.c_str(), L"Fake", MB_YESNO);
+            const std::wstring text =
+                GetLabel(arguments).Text() + L"\r\nand  " + std::to_wstring(m_closes) + L" closed";
+            ::MessageBoxW(nullptr, text.c_str(), L"Fake", MB_YESNO | MB_ICONQUESTION);
             return {};
         }
         const FormAnswer answer = ShowFakeForm();

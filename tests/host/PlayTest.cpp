@@ -152,8 +152,11 @@ quit
 
 TEST_F(PlayTest, PressesRibbonControlsAndAnswersMessages)
 {
-    const Outcome outcome = Play("new\nclose\nnew\ncommand Hello\n"
-                                 "message \"2 activations and 1 closed\" No\nno message\n");
+    const Outcome outcome =
+        Play("new\nclose\nnew\ncommand Hello\n"
+             "window message\nexpect caption \"Fake\"\nexpect icon question\n"
+             "message \"activations and  1\"\nmessage exactly \"2 activations\" \"and  1 closed\" No\n"
+             "no message\n");
     ExpectPassed(outcome);
     EXPECT_NE(outcome.output.find("DllCanUnloadNow: S_OK"), std::string::npos) << outcome.output;
 }
@@ -209,10 +212,18 @@ constexpr FailingStep kFailingSteps[] = {
 INSTANTIATE_TEST_SUITE_P(PlayTest, FailingStepTest, testing::ValuesIn(kFailingSteps),
                          [](const auto& given) { return std::string{given.param.name}; });
 
-TEST_F(PlayTest, ShowsTheTextOfAMessageThatDoesNotMatch)
+TEST_F(PlayTest, TellsMessagesApartToTheBlankAndShowsTheOneThatIsThere)
 {
-    const Outcome outcome = Play("new\ncommand Hello\nmessage \"not this\" Yes\n", L"--set patience=1");
-    ExpectFailed(outcome, "the message is \"1 activations and 0 closed\"");
+    const std::pair<const char*, const char*> faults[] = {
+        {"message \"activations and 0 closed\" Yes", "the message is \"1 activations\" \"and  0 closed\""},
+        {"message exactly \"1 activations\" Yes", "the message is \"1 activations\" \"and  0 closed\""},
+        {"message \"activations \" \"and\" Yes", "the message is \"1 activations\" \"and  0 closed\""},
+        {"message \"activations\" Cancel", "the message has no button Cancel"},
+        {"window message\nexpect icon exclamation", "it is question"},
+        {"window message\nexpect caption \"fake\"", "it is \"Fake\""},
+    };
+    for (const auto& [step, reason] : faults)
+        ExpectFailed(Play(std::string{"new\ncommand Hello\n"} + step + "\n", L"--set patience=1"), reason);
 }
 
 TEST_F(PlayTest, WritesShotsAndTheRibbonIntoItsFolder)

@@ -61,10 +61,9 @@ TEST(ScriptTest, SplitsTreePathsAtSlashesThatAreNotEscaped)
     EXPECT_EQ(SplitTreePath("Apollo/Risk\\/Reward/a\\b"), expected);
 }
 
-TEST(ScriptTest, CollapsesBlanksOfMessages)
+TEST(ScriptTest, JoinsTheLinesOfMessagesAndKeepsTheirBlanks)
 {
-    EXPECT_EQ(CollapseBlanks(" ERROR\r\nNumber: 5\r\n\r\n  Source: x "), "ERROR Number: 5 Source: x");
-    EXPECT_EQ(CollapseBlanks(" \r\n"), "");
+    EXPECT_EQ(LineBreaksAsBlanks("ERROR\r\nNumber: 5\r\n\r\n a  b "), "ERROR Number: 5  a  b ");
 }
 
 } // namespace

@@ -55,6 +55,7 @@ void Player::Expect(const Step& step)
     if (what == "addin") return ExpectAddIn(step);
     if (what == "document") return ExpectDocument(step);
     if (what == "command") return ExpectCommand(step);
+    if (what == "icon") return ExpectIcon(step);
     if (!step.words[1].quoted) return WaitFor([&] { return StateFinding(what, step.At(1)); });
 
     const std::wstring wanted = Widen(step.Lines(1));

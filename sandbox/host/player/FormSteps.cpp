@@ -4,6 +4,7 @@
 #include "automation/Text.h"
 #include "player/ControlNames.h"
 #include "player/Keys.h"
+#include "player/MessageBox.h"
 #include "player/Player.h"
 #include "player/Screen.h"
 #include "player/Tree.h"
@@ -42,6 +43,10 @@ std::wstring Joined(const std::vector<std::wstring>& texts)
 
 HWND Player::Form() const
 {
+    if (m_onMessage) {
+        const auto boxes = MessageBoxes();
+        return boxes.empty() ? nullptr : boxes.front();
+    }
     if (m_form.empty()) throw std::runtime_error{"no window is addressed yet"};
     return FindForm(m_form);
 }
@@ -77,8 +82,10 @@ void Player::Focus(HWND control)
 
 void Player::Window(const Step& step)
 {
-    m_form = Widen(step.At(0));
-    WaitFor([this] { return FindForm(m_form) ? Finding{} : L"no window " + m_form; });
+    const std::wstring name = Widen(step.At(0));
+    m_onMessage = step.At(0) == "message";
+    if (!m_onMessage) m_form = name;
+    WaitFor([&] { return Form() ? Finding{} : L"no window " + name; });
 }
 
 void Player::Closed(const Step& step)
@@ -191,38 +198,6 @@ void Player::Key(const Step& step)
     PressKey(m_host.Queue(), target, stroke);
     Settle();
     Settle(); // the release and the end of the held keys are posted by the first one's work
-}
-
-void Player::Message(const Step& step)
-{
-    const std::wstring wanted = Widen(CollapseBlanks(step.At(0)));
-    const std::wstring caption = Widen(step.At(1));
-    HWND button = nullptr;
-    HWND found = nullptr;
-    WaitFor([&] {
-        Finding instead = L"no message is open";
-        for (HWND box : MessageBoxes()) {
-            const std::wstring text = Widen(CollapseBlanks(Narrow(MessageText(box))));
-            if (text.find(wanted) != std::wstring::npos) {
-                button = caption.empty() ? nullptr : ButtonWithCaption(box, caption);
-                found = box;
-                return caption.empty() || button ? Finding{} : L"the message has no button " + caption;
-            }
-            instead = L"the message is \"" + text + L"\"";
-        }
-        return instead;
-    });
-    if (!button) return;
-    ::PostMessageW(button, BM_CLICK, 0, 0);
-    WaitFor([&] { return ::IsWindow(found) && ::IsWindowVisible(found) ? Finding{L"the message stays"} : Finding{}; });
-}
-
-void Player::No(const Step& step)
-{
-    if (step.At(0) != "message") throw std::runtime_error{"only \"no message\" is offered"};
-    Settle();
-    const auto boxes = MessageBoxes();
-    if (!boxes.empty()) throw AutomationError{E_FAIL, L"the message is \"" + MessageText(boxes.front()) + L"\""};
 }
 
 void Player::Repainted(const Step& step)

@@ -67,14 +67,17 @@ private:
     void Choose(const Step& step);
     void Check(const Step& step);
     void Key(const Step& step);
-    void Message(const Step& step);
-    void No(const Step& step);
     void Repainted(const Step& step);
     [[nodiscard]] HWND Form() const;
     [[nodiscard]] HWND Control(const std::string& name) const;
     [[nodiscard]] HWND UsableControl(const std::string& name);
     void Focus(HWND control);
     void ExpandNode(HWND tree, HTREEITEM node);
+
+    // Steps on message boxes.
+    void Message(const Step& step);
+    void No(const Step& step);
+    void ExpectIcon(const Step& step);
 
     // Expectations.
     void Expect(const Step& step);
@@ -86,7 +89,8 @@ private:
     Host& m_host;
     std::wstring m_path;
     std::vector<Step> m_steps;
-    std::wstring m_form; // the class of the window that steps address
+    std::wstring m_form;      // the class of the window that steps address
+    bool m_onMessage = false; // they address the topmost message box, until its button is pressed
     std::chrono::seconds m_patience;
     bool m_quit = false;
     bool m_faultsExpected = false;

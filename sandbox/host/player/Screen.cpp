@@ -14,7 +14,6 @@ namespace
 {
 
 constexpr UINT kPatience = 1000; // milliseconds
-constexpr wchar_t kMessageBoxClass[] = L"#32770";
 
 using Windows = std::vector<HWND>;
 
@@ -30,14 +29,6 @@ bool IsShownHere(HWND window)
     ::GetWindowThreadProcessId(window, &process);
     return process == ::GetCurrentProcessId() && ::IsWindowVisible(window);
 }
-
-std::wstring WithoutMark(std::wstring text)
-{
-    std::erase(text, L'&');
-    return text;
-}
-
-bool IsClass(HWND window, const wchar_t* name) { return ::lstrcmpiW(ClassOf(window).c_str(), name) == 0; }
 
 // The text that the window writes into the buffer.
 std::optional<std::wstring> Answer(HWND window, UINT message, WPARAM wParam)
@@ -111,13 +102,6 @@ HWND FindForm(const std::wstring& className)
     return found == windows.end() ? nullptr : *found;
 }
 
-std::vector<HWND> MessageBoxes()
-{
-    std::vector<HWND> boxes = VisibleWindows();
-    std::erase_if(boxes, [](HWND window) { return ClassOf(window) != kMessageBoxClass; });
-    return boxes;
-}
-
 HWND FindControl(HWND form, int id)
 {
     for (HWND child : ChildrenOf(form))
@@ -132,6 +116,8 @@ std::wstring ClassOf(HWND window)
     return name;
 }
 
+bool IsClass(HWND window, const wchar_t* name) { return ::lstrcmpiW(ClassOf(window).c_str(), name) == 0; }
+
 std::optional<std::wstring> WindowText(HWND window) { return Answer(window, WM_GETTEXT, kAnswerLength); }
 
 std::optional<std::wstring> ControlText(HWND control)
@@ -144,26 +130,6 @@ std::optional<std::wstring> ControlText(HWND control)
         return position ? std::optional{std::to_wstring(*position)} : std::nullopt;
     }
     return WindowText(control);
-}
-
-std::wstring MessageText(HWND box)
-{
-    std::wstring text;
-    for (HWND child : ChildrenOf(box)) {
-        if (!IsClass(child, WC_STATICW) && !IsClass(child, WC_EDITW)) continue;
-        const std::wstring part = WindowText(child).value_or(L"");
-        if (!part.empty()) text += (text.empty() ? L"" : L" ") + part;
-    }
-    return text;
-}
-
-HWND ButtonWithCaption(HWND box, const std::wstring& caption)
-{
-    for (HWND child : ChildrenOf(box))
-        if (IsClass(child, WC_BUTTONW) &&
-            ::lstrcmpiW(WithoutMark(WindowText(child).value_or(L"")).c_str(), caption.c_str()) == 0)
-            return child;
-    return nullptr;
 }
 
 bool IsDefaultButton(HWND form, HWND button)

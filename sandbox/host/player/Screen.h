@@ -18,21 +18,17 @@ namespace host
 
 // The visible window of this class, or null.
 [[nodiscard]] HWND FindForm(const std::wstring& className);
-[[nodiscard]] std::vector<HWND> MessageBoxes();
 
 // A descendant of the form by its id, or null.
 [[nodiscard]] HWND FindControl(HWND form, int id);
 
 [[nodiscard]] std::wstring ClassOf(HWND window);
+[[nodiscard]] bool IsClass(HWND window, const wchar_t* name); // without regard to case
 [[nodiscard]] std::optional<std::wstring> WindowText(HWND window);
 
 // What a user reads in the control: its text, the chosen entry of a list, the path of the chosen tree node, the first
 // part of a status bar, the position of a progress bar.
 [[nodiscard]] std::optional<std::wstring> ControlText(HWND control);
-
-// All the texts inside a message box, joined by blanks, and its buttons.
-[[nodiscard]] std::wstring MessageText(HWND box);
-[[nodiscard]] HWND ButtonWithCaption(HWND box, const std::wstring& caption);
 
 [[nodiscard]] bool IsDefaultButton(HWND form, HWND button);
 [[nodiscard]] HWND FocusOf(DWORD threadId);

@@ -22,7 +22,7 @@ constexpr VerbRule kVerbs[] = {
     {"new", 0, 0},        {"open", 1, 1},    {"saveas", 1, 2},    {"save", 0, 0},       {"activate", 1, 1},
     {"close", 0, 0},      {"quit", 0, 0},    {"command", 1, 1},   {"controller", 1, 1}, {"window", 1, 1},
     {"closed", 1, 1},     {"type", 2, kAny}, {"press", 1, 1},     {"select", 2, 2},     {"choose", 2, 2},
-    {"check", 2, 2},      {"key", 1, 1},     {"expect", 2, kAny}, {"message", 1, 2},    {"no", 1, 1},
+    {"check", 2, 2},      {"key", 1, 1},     {"expect", 2, kAny}, {"message", 1, kAny}, {"no", 1, 1},
     {"property", 2, 2},   {"shot", 1, 1},    {"show", 1, 1},      {"ran", 1, 1},        {"repainted", 1, 1},
     {"disconnect", 0, 0}, {"file", 2, 2},    {"mail", 2, kAny},
 };
@@ -158,14 +158,15 @@ std::vector<std::string> SplitTreePath(std::string_view path)
     return names;
 }
 
-std::string CollapseBlanks(std::string_view text)
+std::string LineBreaksAsBlanks(std::string_view text)
 {
+    constexpr std::string_view kBreaks = "\r\n";
     std::string out;
-    for (const char c : Trim(text)) {
-        if (kBlanks.find(c) == std::string_view::npos)
-            out += c;
-        else if (out.back() != ' ')
-            out += ' ';
+    bool inBreak = false;
+    for (const char c : text) {
+        const bool isBreak = kBreaks.find(c) != std::string_view::npos;
+        if (!isBreak || !inBreak) out += isBreak ? ' ' : c;
+        inBreak = isBreak;
     }
     return out;
 }

@@ -55,8 +55,8 @@ using Settings = std::map<std::string, std::string, std::less<>>;
 // The names of a tree path: "A/B" is A, B; "\/" is a slash inside a name.
 [[nodiscard]] std::vector<std::string> SplitTreePath(std::string_view path);
 
-// The text with every run of blanks and line ends as one blank, and none around it.
-[[nodiscard]] std::string CollapseBlanks(std::string_view text);
+// The text with every run of line breaks as one blank; its own blanks stay as they are.
+[[nodiscard]] std::string LineBreaksAsBlanks(std::string_view text);
 
 // Whether the text matches a pattern of "*" and "?", without regard to the case of ASCII letters.
 [[nodiscard]] bool MatchesPattern(std::string_view text, std::string_view pattern);

@@ -1,0 +1,83 @@
+#include "player/MessageBox.h"
+
+#include <algorithm>
+
+#include <commctrl.h>
+
+#include "player/Screen.h"
+
+namespace host
+{
+namespace
+{
+
+constexpr wchar_t kMessageBoxClass[] = L"#32770";
+
+struct IconName
+{
+    LPCWSTR resource;
+    const char* name;
+};
+
+const IconName kIcons[] = {
+    {IDI_HAND, "critical"},
+    {IDI_QUESTION, "question"},
+    {IDI_EXCLAMATION, "exclamation"},
+    {IDI_ASTERISK, "information"},
+};
+
+bool IsIconControl(HWND control)
+{
+    return IsClass(control, WC_STATICW) && (::GetWindowLongPtrW(control, GWL_STYLE) & SS_TYPEMASK) == SS_ICON;
+}
+
+// An icon of the system is loaded once: its handle tells it.
+std::optional<std::string> NameOf(HICON icon)
+{
+    for (const IconName& row : kIcons)
+        if (::LoadIconW(nullptr, row.resource) == icon) return row.name;
+    return std::nullopt;
+}
+
+std::wstring WithoutMark(std::wstring text)
+{
+    std::erase(text, L'&');
+    return text;
+}
+
+} // namespace
+
+std::vector<HWND> MessageBoxes()
+{
+    std::vector<HWND> boxes = VisibleWindows();
+    std::erase_if(boxes, [](HWND window) { return ClassOf(window) != kMessageBoxClass; });
+    return boxes;
+}
+
+std::wstring MessageText(HWND box)
+{
+    std::wstring text;
+    for (HWND child : ChildrenOf(box))
+        if (IsClass(child, WC_STATICW) && !IsIconControl(child)) text += WindowText(child).value_or(L"");
+    return text;
+}
+
+HWND ButtonWithCaption(HWND box, const std::wstring& caption)
+{
+    for (HWND child : ChildrenOf(box))
+        if (IsClass(child, WC_BUTTONW) &&
+            ::lstrcmpiW(WithoutMark(WindowText(child).value_or(L"")).c_str(), caption.c_str()) == 0)
+            return child;
+    return nullptr;
+}
+
+std::optional<std::string> MessageIcon(HWND box)
+{
+    const auto children = ChildrenOf(box);
+    const auto control = std::ranges::find_if(children, IsIconControl);
+    const auto icon = control == children.end() ? std::optional<LRESULT>{0} : Ask(*control, STM_GETICON);
+    if (!icon) return std::nullopt;
+    return *icon == 0 ? "none" : NameOf(reinterpret_cast<HICON>(*icon));
+}
+
+} // namespace host
