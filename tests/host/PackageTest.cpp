@@ -1,4 +1,4 @@
-#include "package/PresentationPackage.h"
+#include "package/OfficePackage.h"
 
 #include <stdexcept>
 
@@ -29,11 +29,11 @@ std::size_t Count(const std::string& text, const std::string& part)
     return count;
 }
 
-PresentationPackage Saved(const PresentationPackage& package) { return PresentationPackage::Parse(package.Write()); }
+OfficePackage Saved(const OfficePackage& package) { return OfficePackage::Parse(package.Write()); }
 
 TEST(PackageTest, NewPresentationCarriesTitleAndAuthorAsText)
 {
-    const auto package = Saved(PresentationPackage::New("R&D <plan>", "Ann \"A\" Lee"));
+    const auto package = Saved(OfficePackage::New("R&D <plan>", "Ann \"A\" Lee"));
     EXPECT_EQ(package.SlideTitle(), "R&D <plan>");
     EXPECT_EQ(package.CoreProperty("dc:creator"), "Ann \"A\" Lee");
     EXPECT_TRUE(package.CustomProperties().empty());
@@ -46,7 +46,7 @@ TEST(PackageTest, NewPresentationCarriesTitleAndAuthorAsText)
 
 TEST(PackageTest, KeepsCustomPropertiesOfEveryTypeThroughTwoSaves)
 {
-    auto package = PresentationPackage::New("t", "a");
+    auto package = OfficePackage::New("t", "a");
     package.SetCustomProperties(kProperties);
     package = Saved(package);
     package.SetCustomProperties(package.CustomProperties());
@@ -63,7 +63,7 @@ TEST(PackageTest, KeepsCustomPropertiesOfEveryTypeThroughTwoSaves)
 
 TEST(PackageTest, DeclaresTheCustomPartOnceAndNumbersPropertiesFromTwo)
 {
-    auto package = PresentationPackage::New("t", "a");
+    auto package = OfficePackage::New("t", "a");
     package.SetCustomProperties(kProperties);
     package.SetCustomProperties(kProperties);
 
@@ -78,17 +78,17 @@ TEST(PackageTest, DeclaresTheCustomPartOnceAndNumbersPropertiesFromTwo)
 
 TEST(PackageTest, LeavesForeignPartsAsTheyWere)
 {
-    Zip zip = Zip::Parse(PresentationPackage::New("t", "a").Write());
+    Zip zip = Zip::Parse(OfficePackage::New("t", "a").Write());
     const std::string foreign = "<?xml version='1.0'?>\r\n<x  a = '1'/><!-- kept -->";
     zip.Set("customXml/item1.xml", foreign);
-    auto package = PresentationPackage::Parse(zip.Write());
+    auto package = OfficePackage::Parse(zip.Write());
     package.SetCustomProperties(kProperties);
     EXPECT_EQ(*Saved(package).Parts().Find("customXml/item1.xml"), foreign);
 }
 
 TEST(PackageTest, FindsTheCustomPartByItsRelationWhateverItsNameAndPrefix)
 {
-    Zip zip = Zip::Parse(PresentationPackage::New("t", "a").Write());
+    Zip zip = Zip::Parse(OfficePackage::New("t", "a").Write());
     std::string relations = *zip.Find("_rels/.rels");
     relations.insert(relations.find("</Relationships>"),
                      R"(<Relationship Id="rId9" Type="http://schemas.openxmlformats.org/officeDocument/2006/)"
@@ -97,7 +97,7 @@ TEST(PackageTest, FindsTheCustomPartByItsRelationWhateverItsNameAndPrefix)
     zip.Set("docProps/other.xml",
             R"(<c:Properties xmlns:c="c" xmlns:v="v"><c:property name="A"><v:int>7</v:int>)"
             R"(</c:property><c:property name="B"><v:bool>1</v:bool></c:property></c:Properties>)");
-    auto package = PresentationPackage::Parse(zip.Write());
+    auto package = OfficePackage::Parse(zip.Write());
 
     const auto read = package.CustomProperties();
     ASSERT_EQ(read.size(), 2u);
@@ -111,8 +111,8 @@ TEST(PackageTest, RefusesArchivesThatAreNoPresentation)
 {
     Zip zip;
     zip.Set("readme.txt", "hello");
-    EXPECT_THROW(PresentationPackage::Parse(zip.Write()), std::runtime_error);
-    EXPECT_THROW(PresentationPackage::Parse("PK"), std::runtime_error);
+    EXPECT_THROW(OfficePackage::Parse(zip.Write()), std::runtime_error);
+    EXPECT_THROW(OfficePackage::Parse("PK"), std::runtime_error);
 }
 
 struct BadXml

@@ -179,7 +179,7 @@ const DynamicState* AddIn::Dynamic(const std::string& id) const
 ComPtr<RibbonControlObject> AddIn::ControlObject(const RibbonControl& control) const
 {
     ComPtr<IDispatch> context;
-    if (PresentationObject* active = m_session.Active()) context = MakeObject<DocumentWindowObject>(active);
+    if (DocumentObject* active = m_session.Active()) context = MakeObject<DocumentWindowObject>(active);
     return MakeObject<RibbonControlObject>(Widen(control.id), Widen(control.Attribute("tag")), context);
 }
 

@@ -5,7 +5,7 @@
 #include "app/Console.h"
 #include "automation/Text.h"
 #include "objects/CommandBars.h"
-#include "objects/Presentation.h"
+#include "objects/DocumentObject.h"
 #include "ui/MainWindow.h"
 
 namespace host
@@ -83,7 +83,7 @@ bool Host::RunMessages()
 
 void Host::Quit()
 {
-    while (PresentationObject* active = m_session.Active())
+    while (DocumentObject* active = m_session.Active())
         m_session.Close(*active);
     DisconnectAddIns();
     ::PostQuitMessage(0);
@@ -111,7 +111,7 @@ void Host::Press(const std::string& name)
 void Host::Perform(HostCommand command)
 {
     Guarded([&] {
-        PresentationObject* active = m_session.Active();
+        DocumentObject* active = m_session.Active();
         switch (command) {
         case HostCommand::New:
             m_session.New();
@@ -143,7 +143,7 @@ void Host::OpenWithDialog()
 
 void Host::SaveWithName()
 {
-    const ComPtr<PresentationObject> active{m_session.Active()};
+    const ComPtr<DocumentObject> active{m_session.Active()};
     if (!active) return;
     const std::wstring path = AskForPath(m_window->Handle(), true, active->File().FullName());
     if (!path.empty()) active->SaveAs(path, kSaveAsDefault);

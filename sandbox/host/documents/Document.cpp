@@ -86,7 +86,7 @@ Document Document::New(const std::wstring& name, const std::string& author)
     Document document;
     document.m_name = name;
     document.m_fullName = name;
-    document.m_package = PresentationPackage::New("Click to add title", author);
+    document.m_package = OfficePackage::New("Click to add title", author);
     document.ReadPackage(document.m_package->Write());
     return document;
 }
@@ -145,7 +145,7 @@ std::wstring Document::SlideTitle() const
 std::string Document::Bytes(const SaveFormat& format) const
 {
     if (format.compound) return WriteCompoundFile({m_builtIn, m_custom});
-    PresentationPackage package = m_package ? *m_package : PresentationPackage::New(m_builtIn.front().value, {});
+    OfficePackage package = m_package ? *m_package : OfficePackage::New(m_builtIn.front().value, {});
     for (std::size_t i = 0; i < m_builtIn.size(); ++i)
         if (kBuiltIn[i].coreElement) package.SetCoreProperty(kBuiltIn[i].coreElement, m_builtIn[i].value);
     package.SetCustomProperties(m_custom);
@@ -155,7 +155,7 @@ std::string Document::Bytes(const SaveFormat& format) const
 
 void Document::ReadPackage(const std::string& bytes)
 {
-    m_package = PresentationPackage::Parse(bytes);
+    m_package = OfficePackage::Parse(bytes);
     m_custom = m_package->CustomProperties();
     for (std::size_t i = 0; i < m_builtIn.size(); ++i)
         if (kBuiltIn[i].coreElement) m_builtIn[i].value = m_package->CoreProperty(kBuiltIn[i].coreElement);

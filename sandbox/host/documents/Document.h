@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "documents/Files.h"
-#include "package/PresentationPackage.h"
+#include "package/OfficePackage.h"
 
 namespace host
 {
@@ -71,7 +71,7 @@ private:
     bool m_readOnly = false;
     bool m_saved = true;
     const SaveFormat* m_format = nullptr;
-    std::optional<PresentationPackage> m_package; // none for a compound file
+    std::optional<OfficePackage> m_package; // none for a compound file
     std::vector<CustomProperty> m_builtIn;
     std::vector<CustomProperty> m_custom;
     FileHandle m_hold;

@@ -38,9 +38,9 @@ void* ApplicationObject::Interface(REFIID id)
     return id == IID_IConnectionPointContainer ? static_cast<IConnectionPointContainer*>(&m_events) : nullptr;
 }
 
-PresentationObject& ApplicationObject::Active(const wchar_t* what)
+DocumentObject& ApplicationObject::Active(const wchar_t* what)
 {
-    if (PresentationObject* active = m_session.Active()) return *active;
+    if (DocumentObject* active = m_session.Active()) return *active;
     throw AutomationError{kInvalidRequest, std::wstring{L"Application (unknown member) : Invalid request.  There is "
                                                         L"no active "} +
                                                what + L"."};
@@ -57,13 +57,13 @@ Value ApplicationObject::GetWindow(const Arguments&)
 
 Value ApplicationObject::GetPresentations(const Arguments&)
 {
-    return Value{MakeObject<PresentationsObject>(m_session).Get()};
+    return Value{MakeObject<DocumentsObject>(m_session).Get()};
 }
 
 Value ApplicationObject::GetWindows(const Arguments&)
 {
     std::vector<ComPtr<IDispatch>> windows;
-    for (const auto& presentation : m_session.Presentations())
+    for (const auto& presentation : m_session.OpenDocuments())
         windows.emplace_back(MakeObject<DocumentWindowObject>(presentation.Get()));
     return Value{MakeObject<ListObject>(L"DocumentWindows", kDocumentWindowsId, std::move(windows)).Get()};
 }
@@ -90,13 +90,13 @@ Value ApplicationObject::Activate(const Arguments&)
     return {};
 }
 
-PresentationsObject::PresentationsObject(Session& session)
+DocumentsObject::DocumentsObject(Session& session)
     : AutomationObject{L"Presentations", kPresentationsId}, m_session{session}
 {}
 
-std::span<const Member> PresentationsObject::Members() const
+std::span<const Member> DocumentsObject::Members() const
 {
-    using P = PresentationsObject;
+    using P = DocumentsObject;
     static constexpr Member kMembers[] = {
         {0, L"Item", kEither, Answer<&P::Item>},
         {11, L"Count", kGet, Answer<&P::Count>},
@@ -106,10 +106,10 @@ std::span<const Member> PresentationsObject::Members() const
     return kMembers;
 }
 
-Value PresentationsObject::Item(const Arguments& arguments)
+Value DocumentsObject::Item(const Arguments& arguments)
 {
     const Value index = arguments.At(0);
-    const auto& open = m_session.Presentations();
+    const auto& open = m_session.OpenDocuments();
     if (index.Type() != VT_BSTR) return Value{open[ItemPosition(index, open.size()) - 1].Get()};
     const std::wstring name = index.Text();
     for (const auto& presentation : open)
@@ -117,14 +117,11 @@ Value PresentationsObject::Item(const Arguments& arguments)
     throw AutomationError{E_INVALIDARG, L"Presentations.Item : " + name + L" is not open."};
 }
 
-Value PresentationsObject::Count(const Arguments&)
-{
-    return Value{static_cast<long>(m_session.Presentations().size())};
-}
+Value DocumentsObject::Count(const Arguments&) { return Value{static_cast<long>(m_session.OpenDocuments().size())}; }
 
-Value PresentationsObject::Add(const Arguments&) { return Value{&m_session.New()}; }
+Value DocumentsObject::Add(const Arguments&) { return Value{&m_session.New()}; }
 
-Value PresentationsObject::Open(const Arguments& arguments)
+Value DocumentsObject::Open(const Arguments& arguments)
 {
     const bool readOnly = arguments.Has(1) && arguments.At(1).Number() != 0;
     return Value{&m_session.Open(arguments.At(0).Text(), readOnly)};

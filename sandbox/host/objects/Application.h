@@ -1,7 +1,7 @@
 #pragma once
 
 #include "automation/EventSource.h"
-#include "objects/Presentation.h"
+#include "objects/DocumentObject.h"
 
 namespace host
 {
@@ -32,17 +32,17 @@ private:
     Value Run(const Arguments& arguments);
     Value Activate(const Arguments&);
 
-    [[nodiscard]] PresentationObject& Active(const wchar_t* what);
+    [[nodiscard]] DocumentObject& Active(const wchar_t* what);
 
     Session& m_session;
     EventSource m_events;
 };
 
 // The open presentations.
-class PresentationsObject final : public AutomationObject<IDispatch>
+class DocumentsObject final : public AutomationObject<IDispatch>
 {
 public:
-    explicit PresentationsObject(Session& session);
+    explicit DocumentsObject(Session& session);
 
     [[nodiscard]] std::span<const Member> Members() const override;
 

@@ -13,7 +13,7 @@ namespace host
 namespace
 {
 
-std::vector<CustomProperty>& PropertiesOf(PresentationObject& presentation, PropertySet set)
+std::vector<CustomProperty>& PropertiesOf(DocumentObject& presentation, PropertySet set)
 {
     return set == PropertySet::BuiltIn ? presentation.File().BuiltIn() : presentation.File().Custom();
 }
@@ -33,7 +33,7 @@ CustomProperty& ExistingProperty(std::vector<CustomProperty>& properties, const 
     throw AutomationError{E_INVALIDARG, L"There is no document property named " + Widen(name) + L"."};
 }
 
-void MarkChanged(PresentationObject& presentation)
+void MarkChanged(DocumentObject& presentation)
 {
     presentation.File().SetSaved(false);
     presentation.Host().Changed();
@@ -41,7 +41,7 @@ void MarkChanged(PresentationObject& presentation)
 
 } // namespace
 
-DocumentPropertiesObject::DocumentPropertiesObject(PresentationObject* presentation, PropertySet set)
+DocumentPropertiesObject::DocumentPropertiesObject(DocumentObject* presentation, PropertySet set)
     : AutomationObject{L"DocumentProperties", kDocumentPropertiesId}, m_presentation{presentation}, m_set{set}
 {}
 
@@ -87,7 +87,7 @@ Value DocumentPropertiesObject::Add(const Arguments& arguments)
     return Value{MakeObject<DocumentPropertyObject>(m_presentation.Get(), m_set, name).Get()};
 }
 
-DocumentPropertyObject::DocumentPropertyObject(PresentationObject* presentation, PropertySet set, std::string name)
+DocumentPropertyObject::DocumentPropertyObject(DocumentObject* presentation, PropertySet set, std::string name)
     : AutomationObject{L"DocumentProperty", kDocumentPropertyId},
       m_presentation{presentation}, m_set{set}, m_name{std::move(name)}
 {}

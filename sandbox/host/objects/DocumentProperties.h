@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "objects/Presentation.h"
+#include "objects/DocumentObject.h"
 
 namespace host
 {
@@ -17,7 +17,7 @@ enum class PropertySet
 class DocumentPropertiesObject final : public AutomationObject<IDispatch>
 {
 public:
-    DocumentPropertiesObject(PresentationObject* presentation, PropertySet set);
+    DocumentPropertiesObject(DocumentObject* presentation, PropertySet set);
 
     [[nodiscard]] std::span<const Member> Members() const override;
 
@@ -30,7 +30,7 @@ private:
 
     [[nodiscard]] std::vector<CustomProperty>& Properties();
 
-    ComPtr<PresentationObject> m_presentation;
+    ComPtr<DocumentObject> m_presentation;
     PropertySet m_set;
 };
 
@@ -38,7 +38,7 @@ private:
 class DocumentPropertyObject final : public AutomationObject<IDispatch>
 {
 public:
-    DocumentPropertyObject(PresentationObject* presentation, PropertySet set, std::string name);
+    DocumentPropertyObject(DocumentObject* presentation, PropertySet set, std::string name);
 
     [[nodiscard]] std::span<const Member> Members() const override;
 
@@ -50,7 +50,7 @@ private:
 
     [[nodiscard]] CustomProperty& Property();
 
-    ComPtr<PresentationObject> m_presentation;
+    ComPtr<DocumentObject> m_presentation;
     PropertySet m_set;
     std::string m_name;
 };

@@ -6,7 +6,7 @@
 #include "objects/Application.h"
 #include "objects/ComAddIn.h"
 #include "objects/CommandBars.h"
-#include "objects/Presentation.h"
+#include "objects/DocumentObject.h"
 
 namespace host
 {
@@ -40,43 +40,40 @@ Session::Session(Options options)
 
 Session::~Session() = default;
 
-PresentationObject* Session::Active() const
-{
-    return m_presentations.empty() ? nullptr : m_presentations.front().Get();
-}
+DocumentObject* Session::Active() const { return m_documents.empty() ? nullptr : m_documents.front().Get(); }
 
-PresentationObject& Session::New()
+DocumentObject& Session::New()
 {
     const std::wstring name = L"Presentation" + std::to_wstring(++m_lastNumber);
     std::string author = m_options.Setting("author");
     if (author.empty()) author = "Stand-in User";
-    Show(MakeObject<PresentationObject>(*this, Document::New(name, author)));
+    Show(MakeObject<DocumentObject>(*this, Document::New(name, author)));
     return *Active();
 }
 
-PresentationObject& Session::Open(const std::wstring& path, bool readOnly)
+DocumentObject& Session::Open(const std::wstring& path, bool readOnly)
 {
     const std::wstring full = FullPath(path);
-    for (const auto& open : m_presentations)
+    for (const auto& open : m_documents)
         if (SameText(open->File().FullName(), full)) {
             Activate(*open.Get());
             return *Active();
         }
-    Show(MakeObject<PresentationObject>(*this, Document::Open(full, readOnly)));
+    Show(MakeObject<DocumentObject>(*this, Document::Open(full, readOnly)));
     return *Active();
 }
 
-void Session::Show(ComPtr<PresentationObject> presentation)
+void Session::Show(ComPtr<DocumentObject> presentation)
 {
-    m_presentations.insert(m_presentations.begin(), std::move(presentation));
+    m_documents.insert(m_documents.begin(), std::move(presentation));
     FireActivate();
 }
 
-void Session::Activate(PresentationObject& presentation)
+void Session::Activate(DocumentObject& presentation)
 {
-    const auto found = std::ranges::find(m_presentations, &presentation, &ComPtr<PresentationObject>::Get);
-    if (found == m_presentations.end()) return;
-    std::rotate(m_presentations.begin(), found, found + 1);
+    const auto found = std::ranges::find(m_documents, &presentation, &ComPtr<DocumentObject>::Get);
+    if (found == m_documents.end()) return;
+    std::rotate(m_documents.begin(), found, found + 1);
     FireActivate();
 }
 
@@ -89,20 +86,20 @@ void Session::FireActivate()
     m_application->Events().Fire(kWindowActivate, arguments);
 }
 
-void Session::Close(PresentationObject& presentation)
+void Session::Close(DocumentObject& presentation)
 {
-    const ComPtr<PresentationObject> closing{&presentation};
+    const ComPtr<DocumentObject> closing{&presentation};
     const bool wasActive = Active() == &presentation;
     FireWith(*m_application.Get(), kPresentationClose, closing.Get());
     if (m_options.MajorVersion() >= kCloseFinalVersion)
         FireWith(*m_application.Get(), kPresentationCloseFinal, closing.Get());
-    std::erase_if(m_presentations, [&](const auto& open) { return open.Get() == closing.Get(); });
+    std::erase_if(m_documents, [&](const auto& open) { return open.Get() == closing.Get(); });
     closing->MarkClosed();
     Changed();
     if (wasActive && Active()) FireActivate();
 }
 
-bool Session::MayBeSaved(PresentationObject& presentation)
+bool Session::MayBeSaved(DocumentObject& presentation)
 {
     VARIANT_BOOL cancel = VARIANT_FALSE;
     const Value subject{&presentation};
@@ -120,7 +117,7 @@ void Session::RunMacro(const std::wstring& name)
     std::wstring macro = name;
     if (mark != std::wstring::npos) {
         const std::wstring owner = name.substr(0, mark);
-        if (std::ranges::none_of(m_presentations, [&](const auto& p) { return SameText(p->File().Name(), owner); }))
+        if (std::ranges::none_of(m_documents, [&](const auto& p) { return SameText(p->File().Name(), owner); }))
             throw AutomationError{kInvalidRequest, L"Application.Run : " + owner + L" is not open."};
         macro = name.substr(mark + 1);
     }
@@ -140,7 +137,7 @@ void Session::Changed()
 
 void Session::Release()
 {
-    m_presentations.clear();
+    m_documents.clear();
     m_addIns.clear();
     m_commandBars.Reset();
     m_application.Reset();

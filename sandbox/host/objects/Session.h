@@ -14,7 +14,7 @@ namespace host
 class ApplicationObject;
 class CommandBarsObject;
 class ComAddInObject;
-class PresentationObject;
+class DocumentObject;
 
 // The running host: its open presentations, the macros it knows and the objects that it shows to the add-in.
 // It lives on the user-interface thread and outlives every object that refers to it.
@@ -29,18 +29,18 @@ public:
     [[nodiscard]] CommandBarsObject& CommandBars() { return *m_commandBars.Get(); }
 
     // Open presentations, the active one first.
-    [[nodiscard]] const std::vector<ComPtr<PresentationObject>>& Presentations() const { return m_presentations; }
-    [[nodiscard]] PresentationObject* Active() const;
+    [[nodiscard]] const std::vector<ComPtr<DocumentObject>>& OpenDocuments() const { return m_documents; }
+    [[nodiscard]] DocumentObject* Active() const;
 
     // These make the presentation active and tell the add-in so.
-    PresentationObject& New();
-    PresentationObject& Open(const std::wstring& path, bool readOnly);
-    void Activate(PresentationObject& presentation);
+    DocumentObject& New();
+    DocumentObject& Open(const std::wstring& path, bool readOnly);
+    void Activate(DocumentObject& presentation);
 
-    void Close(PresentationObject& presentation);
+    void Close(DocumentObject& presentation);
 
     // Asks the add-in before a presentation is saved; false when it cancels.
-    [[nodiscard]] bool MayBeSaved(PresentationObject& presentation);
+    [[nodiscard]] bool MayBeSaved(DocumentObject& presentation);
 
     // Runs a macro "name" or "presentation!name". Throws AutomationError when there is none or it fails.
     void RunMacro(const std::wstring& name);
@@ -58,12 +58,12 @@ public:
     void Release();
 
 private:
-    void Show(ComPtr<PresentationObject> presentation);
+    void Show(ComPtr<DocumentObject> presentation);
     void FireActivate();
 
     Options m_options;
     int m_lastNumber = 0;
-    std::vector<ComPtr<PresentationObject>> m_presentations;
+    std::vector<ComPtr<DocumentObject>> m_documents;
     std::vector<ComPtr<ComAddInObject>> m_addIns;
     std::vector<std::wstring> m_macrosRun;
     ComPtr<ApplicationObject> m_application;

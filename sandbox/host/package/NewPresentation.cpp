@@ -1,5 +1,5 @@
 
-#include "package/PresentationPackage.h"
+#include "package/OfficePackage.h"
 #include "package/Xml.h"
 
 namespace host

@@ -1,7 +1,7 @@
 #include <stdexcept>
 
 #include "automation/Text.h"
-#include "objects/Presentation.h"
+#include "objects/DocumentObject.h"
 #include "player/Player.h"
 #include "player/Screen.h"
 
@@ -82,7 +82,7 @@ void Player::ExpectDocument(const Step& step)
     WaitFor([&, wanted = Widen(step.At(1))] {
         std::wstring name = L"no presentation";
         OnUi([&] {
-            if (PresentationObject* active = m_host.Documents().Active()) name = active->File().Name();
+            if (DocumentObject* active = m_host.Documents().Active()) name = active->File().Name();
         });
         return name == wanted ? Finding{} : L"it is " + name;
     });

@@ -4,7 +4,7 @@
 
 #include "automation/PropertyValue.h"
 #include "automation/Text.h"
-#include "objects/Presentation.h"
+#include "objects/DocumentObject.h"
 #include "player/Player.h"
 #include "player/Screen.h"
 #include "player/Screenshot.h"
@@ -41,9 +41,9 @@ std::vector<std::wstring> FilesMatching(const std::wstring& pattern)
     return names;
 }
 
-PresentationObject& ActiveOf(Host& host)
+DocumentObject& ActiveOf(Host& host)
 {
-    if (PresentationObject* active = host.Documents().Active()) return *active;
+    if (DocumentObject* active = host.Documents().Active()) return *active;
     throw std::runtime_error{"no presentation is open"};
 }
 
@@ -84,7 +84,7 @@ void Player::SaveAs(const Step& step)
 void Player::Activate(const Step& step)
 {
     OnUi([this, name = Widen(step.At(0))] {
-        for (const auto& presentation : m_host.Documents().Presentations())
+        for (const auto& presentation : m_host.Documents().OpenDocuments())
             if (presentation->File().Name() == name) return m_host.Documents().Activate(*presentation.Get());
         throw std::runtime_error{"no presentation of this name is open"};
     });

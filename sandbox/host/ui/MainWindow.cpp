@@ -4,7 +4,7 @@
 
 #include <windowsx.h>
 
-#include "objects/Presentation.h"
+#include "objects/DocumentObject.h"
 #include "ui/SlideArea.h"
 
 namespace host
@@ -58,7 +58,7 @@ void MainWindow::Show()
 
 void MainWindow::Refresh()
 {
-    PresentationObject* active = m_host.Documents().Active();
+    DocumentObject* active = m_host.Documents().Active();
     const std::wstring title = active ? active->File().Name() + L" - " + kProductName : kProductName;
     ::SetWindowTextW(m_window, title.c_str());
     if (m_host.Version() < kRibbonVersion) RebuildMenuBar();

@@ -42,7 +42,7 @@ std::wstring StateText(Document& file)
     return state;
 }
 
-void PaintStatus(HDC dc, const RECT& box, const Theme& theme, PresentationObject* presentation)
+void PaintStatus(HDC dc, const RECT& box, const Theme& theme, DocumentObject* presentation)
 {
     Fill(dc, box, kStrip);
     Fill(dc, {box.left, box.top, box.right, box.top + 1}, kLine);
@@ -55,7 +55,7 @@ void PaintStatus(HDC dc, const RECT& box, const Theme& theme, PresentationObject
 
 } // namespace
 
-void PaintSlideArea(HDC dc, const RECT& area, const Theme& theme, PresentationObject* presentation)
+void PaintSlideArea(HDC dc, const RECT& area, const Theme& theme, DocumentObject* presentation)
 {
     Fill(dc, area, kDesk);
     const RECT status{area.left, area.bottom - theme.Scale(kStatusHeight), area.right, area.bottom};

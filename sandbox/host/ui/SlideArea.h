@@ -1,6 +1,6 @@
 #pragma once
 
-#include "objects/Presentation.h"
+#include "objects/DocumentObject.h"
 #include "ui/Theme.h"
 
 namespace host
@@ -8,6 +8,6 @@ namespace host
 
 // Draws the active presentation into the area: a thumbnail, its title slide and a line on its state. Null: none is
 // open.
-void PaintSlideArea(HDC dc, const RECT& area, const Theme& theme, PresentationObject* presentation);
+void PaintSlideArea(HDC dc, const RECT& area, const Theme& theme, DocumentObject* presentation);
 
 } // namespace host

@@ -1,4 +1,4 @@
-#include "objects/Presentation.h"
+#include "objects/DocumentObject.h"
 
 #include <shlobj.h>
 
@@ -23,13 +23,13 @@ std::wstring UserDocumentsFolder()
 
 } // namespace
 
-PresentationObject::PresentationObject(Session& session, Document document)
+DocumentObject::DocumentObject(Session& session, Document document)
     : AutomationObject{L"Presentation", kPresentationId}, m_session{session}, m_document{std::move(document)}
 {}
 
-std::span<const Member> PresentationObject::Members() const
+std::span<const Member> DocumentObject::Members() const
 {
-    using P = PresentationObject;
+    using P = DocumentObject;
     static constexpr Member kMembers[] = {
         {2001, L"Application", kGet, Answer<&P::GetApplication>},
         {2020, L"BuiltInDocumentProperties", kEither, Answer<&P::GetBuiltIn>},
@@ -49,18 +49,18 @@ std::span<const Member> PresentationObject::Members() const
     return kMembers;
 }
 
-void PresentationObject::MarkClosed()
+void DocumentObject::MarkClosed()
 {
     m_closed = true;
     m_document = Document::New(m_document.Name(), {}); // lets go of the file
 }
 
-void PresentationObject::CheckOpen() const
+void DocumentObject::CheckOpen() const
 {
     if (m_closed) throw AutomationError{kInvalidRequest, L"Presentation : Object does not exist."};
 }
 
-void PresentationObject::Save()
+void DocumentObject::Save()
 {
     if (!m_document.HasFile()) return SaveAs(UserDocumentsFolder() + L"\\" + m_document.Name(), kSaveAsDefault);
     CheckOpen();
@@ -69,7 +69,7 @@ void PresentationObject::Save()
     m_session.Changed();
 }
 
-void PresentationObject::SaveAs(const std::wstring& path, long type)
+void DocumentObject::SaveAs(const std::wstring& path, long type)
 {
     CheckOpen();
     const SaveFormat& format = Format(type);
@@ -78,26 +78,26 @@ void PresentationObject::SaveAs(const std::wstring& path, long type)
     m_session.Changed();
 }
 
-const SaveFormat& PresentationObject::Format(long type) const
+const SaveFormat& DocumentObject::Format(long type) const
 {
     return FormatOfType(type, m_session.Settings().MajorVersion());
 }
 
-long PresentationObject::TypeArgument(const Arguments& arguments) const
+long DocumentObject::TypeArgument(const Arguments& arguments) const
 {
     return arguments.Has(1) ? arguments.At(1).Number() : kSaveAsDefault;
 }
 
-SaveFault PresentationObject::Fault() const { return SaveFaultNamed(m_session.Settings().Setting("save.fault")); }
+SaveFault DocumentObject::Fault() const { return SaveFaultNamed(m_session.Settings().Setting("save.fault")); }
 
-Value PresentationObject::GetApplication(const Arguments&) { return Value{&m_session.Application()}; }
-Value PresentationObject::GetName(const Arguments&) { return Value{m_document.Name()}; }
-Value PresentationObject::GetFullName(const Arguments&) { return Value{m_document.FullName()}; }
-Value PresentationObject::GetPath(const Arguments&) { return Value{m_document.Folder()}; }
-Value PresentationObject::GetReadOnly(const Arguments&) { return Value::OfTriState(m_document.IsReadOnly()); }
-Value PresentationObject::GetFinal(const Arguments&) { return Value::OfBoolean(false); }
+Value DocumentObject::GetApplication(const Arguments&) { return Value{&m_session.Application()}; }
+Value DocumentObject::GetName(const Arguments&) { return Value{m_document.Name()}; }
+Value DocumentObject::GetFullName(const Arguments&) { return Value{m_document.FullName()}; }
+Value DocumentObject::GetPath(const Arguments&) { return Value{m_document.Folder()}; }
+Value DocumentObject::GetReadOnly(const Arguments&) { return Value::OfTriState(m_document.IsReadOnly()); }
+Value DocumentObject::GetFinal(const Arguments&) { return Value::OfBoolean(false); }
 
-Value PresentationObject::Saved(const Arguments& arguments)
+Value DocumentObject::Saved(const Arguments& arguments)
 {
     CheckOpen();
     if (!arguments.IsPut()) return Value::OfTriState(m_document.IsSaved());
@@ -106,54 +106,54 @@ Value PresentationObject::Saved(const Arguments& arguments)
     return {};
 }
 
-Value PresentationObject::GetBuiltIn(const Arguments& arguments)
+Value DocumentObject::GetBuiltIn(const Arguments& arguments)
 {
     CheckOpen();
     const auto properties = MakeObject<DocumentPropertiesObject>(this, PropertySet::BuiltIn);
     return arguments.Has(0) ? properties->Item(arguments) : Value{properties.Get()};
 }
 
-Value PresentationObject::GetCustom(const Arguments& arguments)
+Value DocumentObject::GetCustom(const Arguments& arguments)
 {
     CheckOpen();
     const auto properties = MakeObject<DocumentPropertiesObject>(this, PropertySet::Custom);
     return arguments.Has(0) ? properties->Item(arguments) : Value{properties.Get()};
 }
 
-Value PresentationObject::GetWindows(const Arguments&)
+Value DocumentObject::GetWindows(const Arguments&)
 {
     CheckOpen();
     std::vector<ComPtr<IDispatch>> windows{ComPtr<IDispatch>{MakeObject<DocumentWindowObject>(this)}};
     return Value{MakeObject<ListObject>(L"DocumentWindows", kDocumentWindowsId, std::move(windows)).Get()};
 }
 
-Value PresentationObject::DoSave(const Arguments&)
+Value DocumentObject::DoSave(const Arguments&)
 {
     Save();
     return {};
 }
 
-Value PresentationObject::DoSaveAs(const Arguments& arguments)
+Value DocumentObject::DoSaveAs(const Arguments& arguments)
 {
     SaveAs(arguments.At(0).Text(), TypeArgument(arguments));
     return {};
 }
 
-Value PresentationObject::DoSaveCopyAs(const Arguments& arguments)
+Value DocumentObject::DoSaveCopyAs(const Arguments& arguments)
 {
     CheckOpen();
     m_document.SaveCopyAs(arguments.At(0).Text(), Format(TypeArgument(arguments)), Fault());
     return {};
 }
 
-Value PresentationObject::DoClose(const Arguments&)
+Value DocumentObject::DoClose(const Arguments&)
 {
     CheckOpen();
     m_session.Close(*this);
     return {};
 }
 
-DocumentWindowObject::DocumentWindowObject(PresentationObject* presentation)
+DocumentWindowObject::DocumentWindowObject(DocumentObject* presentation)
     : AutomationObject{L"DocumentWindow", kDocumentWindowId}, m_presentation{presentation}
 {}
 

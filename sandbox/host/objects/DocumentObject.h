@@ -9,10 +9,10 @@ namespace host
 class Session;
 
 // An open presentation, and what is left of it once it is closed and still referred to.
-class PresentationObject final : public AutomationObject<IDispatch>
+class DocumentObject final : public AutomationObject<IDispatch>
 {
 public:
-    PresentationObject(Session& session, Document document);
+    DocumentObject(Session& session, Document document);
 
     [[nodiscard]] std::span<const Member> Members() const override;
 
@@ -54,7 +54,7 @@ private:
 class DocumentWindowObject final : public AutomationObject<IDispatch>
 {
 public:
-    explicit DocumentWindowObject(PresentationObject* presentation);
+    explicit DocumentWindowObject(DocumentObject* presentation);
 
     [[nodiscard]] std::span<const Member> Members() const override;
 
@@ -64,7 +64,7 @@ private:
     Value GetActive(const Arguments&);
     Value DoActivate(const Arguments&);
 
-    ComPtr<PresentationObject> m_presentation;
+    ComPtr<DocumentObject> m_presentation;
 };
 
 } // namespace host

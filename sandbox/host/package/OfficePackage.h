@@ -23,14 +23,14 @@ enum class PackageKind
 };
 
 // A presentation in the package format. Parts that it does not understand stay as they were read.
-class PresentationPackage
+class OfficePackage
 {
 public:
     // A presentation of one title slide.
-    static PresentationPackage New(std::string_view title, std::string_view author);
+    static OfficePackage New(std::string_view title, std::string_view author);
 
     // Throws std::runtime_error when the bytes are no presentation package.
-    static PresentationPackage Parse(std::string_view bytes);
+    static OfficePackage Parse(std::string_view bytes);
 
     [[nodiscard]] std::string Write() const { return m_zip.Write(); }
 
@@ -49,7 +49,7 @@ public:
     [[nodiscard]] const Zip& Parts() const { return m_zip; }
 
 private:
-    explicit PresentationPackage(Zip zip) : m_zip{std::move(zip)} {}
+    explicit OfficePackage(Zip zip) : m_zip{std::move(zip)} {}
 
     [[nodiscard]] std::string PartOfRelation(std::string_view typeEnd) const;
     void AddRelation(std::string_view type, std::string_view target);

@@ -1,4 +1,4 @@
-#include "package/PresentationPackage.h"
+#include "package/OfficePackage.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -71,26 +71,26 @@ const XmlElement* FindTitleShape(const XmlElement& element)
 
 } // namespace
 
-PresentationPackage PresentationPackage::New(std::string_view title, std::string_view author)
+OfficePackage OfficePackage::New(std::string_view title, std::string_view author)
 {
-    return PresentationPackage{NewPresentationParts(title, author)};
+    return OfficePackage{NewPresentationParts(title, author)};
 }
 
-PresentationPackage PresentationPackage::Parse(std::string_view bytes)
+OfficePackage OfficePackage::Parse(std::string_view bytes)
 {
-    PresentationPackage package{Zip::Parse(bytes)};
+    OfficePackage package{Zip::Parse(bytes)};
     if (!package.m_zip.Find(kContentTypes) || package.PartOfRelation("/officeDocument").empty())
         throw std::runtime_error{"the archive is not a presentation"};
     return package;
 }
 
-std::vector<CustomProperty> PresentationPackage::CustomProperties() const
+std::vector<CustomProperty> OfficePackage::CustomProperties() const
 {
     const std::string* part = m_zip.Find(PartOfRelation("/custom-properties"));
     return part ? ReadCustomProperties(*part) : std::vector<CustomProperty>{};
 }
 
-void PresentationPackage::SetCustomProperties(const std::vector<CustomProperty>& properties)
+void OfficePackage::SetCustomProperties(const std::vector<CustomProperty>& properties)
 {
     std::string part = PartOfRelation("/custom-properties");
     if (part.empty()) {
@@ -102,7 +102,7 @@ void PresentationPackage::SetCustomProperties(const std::vector<CustomProperty>&
     m_zip.Set(part, WriteCustomProperties(properties));
 }
 
-std::string PresentationPackage::CoreProperty(std::string_view element) const
+std::string OfficePackage::CoreProperty(std::string_view element) const
 {
     const std::string* part = m_zip.Find(PartOfRelation("/core-properties"));
     if (!part) return {};
@@ -111,7 +111,7 @@ std::string PresentationPackage::CoreProperty(std::string_view element) const
     return found ? found->text : std::string{};
 }
 
-void PresentationPackage::SetCoreProperty(std::string_view element, std::string_view value)
+void OfficePackage::SetCoreProperty(std::string_view element, std::string_view value)
 {
     const std::string part = PartOfRelation("/core-properties");
     const std::string* text = m_zip.Find(part);
@@ -127,7 +127,7 @@ void PresentationPackage::SetCoreProperty(std::string_view element, std::string_
     m_zip.Set(part, WriteXml(root));
 }
 
-std::string PresentationPackage::SlideTitle() const
+std::string OfficePackage::SlideTitle() const
 {
     const std::string* part = m_zip.Find("ppt/slides/slide1.xml");
     if (!part) return {};
@@ -137,12 +137,12 @@ std::string PresentationPackage::SlideTitle() const
     return title;
 }
 
-void PresentationPackage::SetKind(PackageKind kind)
+void OfficePackage::SetKind(PackageKind kind)
 {
     SetContentType(PartOfRelation("/officeDocument"), MainContentType(kind));
 }
 
-std::string PresentationPackage::PartOfRelation(std::string_view typeEnd) const
+std::string OfficePackage::PartOfRelation(std::string_view typeEnd) const
 {
     const std::string* part = m_zip.Find(kRelations);
     if (!part) return {};
@@ -151,7 +151,7 @@ std::string PresentationPackage::PartOfRelation(std::string_view typeEnd) const
     return {};
 }
 
-void PresentationPackage::AddRelation(std::string_view type, std::string_view target)
+void OfficePackage::AddRelation(std::string_view type, std::string_view target)
 {
     XmlElement root = ParseXml(*m_zip.Find(kRelations));
     const auto taken = [&](const std::string& id) {
@@ -170,7 +170,7 @@ void PresentationPackage::AddRelation(std::string_view type, std::string_view ta
     m_zip.Set(kRelations, WriteXml(root));
 }
 
-void PresentationPackage::SetContentType(std::string_view part, std::string_view type)
+void OfficePackage::SetContentType(std::string_view part, std::string_view type)
 {
     std::string partName{'/'};
     partName += part;
