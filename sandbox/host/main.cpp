@@ -25,8 +25,8 @@ constexpr int kSuccess = 0;
 constexpr int kFailure = 1;
 constexpr int kUsage = 2;
 constexpr auto kEndPatience = 30s;
-constexpr wchar_t kUsageText[] = L"usage: corvane-host.exe [--version 16.0] [--connect-mode 1] [--play FILE] "
-                                 L"[--set NAME=VALUE]... [--out FOLDER]";
+constexpr wchar_t kUsageText[] = L"usage: corvane-host.exe [--host powerpoint] [--version 16.0] [--connect-mode 1] "
+                                 L"[--play FILE] [--set NAME=VALUE]... [--out FOLDER]";
 
 std::vector<std::wstring> CommandLineWords()
 {

@@ -128,7 +128,7 @@ struct FormatCase
 
 TEST_F(ObjectsTest, SavesEachFormatSoThatItOpensWithItsProperties)
 {
-    const FormatCase cases[] = {{L"a", kSaveAsDefault, L"a.pptx", false},
+    const FormatCase cases[] = {{L"a", 11, L"a.pptx", false},
                                 {L"b.pptm", 25, L"b.pptm", false},
                                 {L"c", 28, L"c.ppsx", false},
                                 {L"d", 1, L"d.ppt", true}};
@@ -178,7 +178,7 @@ TEST_F(ObjectsTest, RefusesToSaveWhatCannotBeWritten)
     EXPECT_EQ(Active().Call(L"ReadOnly").Number(), -1);
     EXPECT_EQ(FailureOf([&] { Active().Call(L"Save"); }), E_FAIL);
     EXPECT_EQ(FailureOf([&] { Active().Call(L"SaveAs", {L"C:\\no\\folder\\x.pptx"}); }), E_FAIL);
-    EXPECT_EQ(FailureOf([&] { Active().Call(L"SaveAs", {L"x.odp", 35L}); }), E_INVALIDARG);
+    EXPECT_EQ(FailureOf([&] { Active().Call(L"SaveAs", {L"x.xml", 34L}); }), E_INVALIDARG);
 }
 
 TEST_F(ObjectsTest, HoldsAnOpenFileAgainstWritersOnly)

@@ -33,7 +33,7 @@ OfficePackage Saved(const OfficePackage& package) { return OfficePackage::Parse(
 
 TEST(PackageTest, NewPresentationCarriesTitleAndAuthorAsText)
 {
-    const auto package = Saved(OfficePackage::New("R&D <plan>", "Ann \"A\" Lee"));
+    const auto package = Saved(OfficePackage::New(HostKind::PowerPoint, "R&D <plan>", "Ann \"A\" Lee"));
     EXPECT_EQ(package.SlideTitle(), "R&D <plan>");
     EXPECT_EQ(package.CoreProperty("dc:creator"), "Ann \"A\" Lee");
     EXPECT_TRUE(package.CustomProperties().empty());
@@ -46,7 +46,7 @@ TEST(PackageTest, NewPresentationCarriesTitleAndAuthorAsText)
 
 TEST(PackageTest, KeepsCustomPropertiesOfEveryTypeThroughTwoSaves)
 {
-    auto package = OfficePackage::New("t", "a");
+    auto package = OfficePackage::New(HostKind::PowerPoint, "t", "a");
     package.SetCustomProperties(kProperties);
     package = Saved(package);
     package.SetCustomProperties(package.CustomProperties());
@@ -63,7 +63,7 @@ TEST(PackageTest, KeepsCustomPropertiesOfEveryTypeThroughTwoSaves)
 
 TEST(PackageTest, DeclaresTheCustomPartOnceAndNumbersPropertiesFromTwo)
 {
-    auto package = OfficePackage::New("t", "a");
+    auto package = OfficePackage::New(HostKind::PowerPoint, "t", "a");
     package.SetCustomProperties(kProperties);
     package.SetCustomProperties(kProperties);
 
@@ -78,7 +78,7 @@ TEST(PackageTest, DeclaresTheCustomPartOnceAndNumbersPropertiesFromTwo)
 
 TEST(PackageTest, LeavesForeignPartsAsTheyWere)
 {
-    Zip zip = Zip::Parse(OfficePackage::New("t", "a").Write());
+    Zip zip = Zip::Parse(OfficePackage::New(HostKind::PowerPoint, "t", "a").Write());
     const std::string foreign = "<?xml version='1.0'?>\r\n<x  a = '1'/><!-- kept -->";
     zip.Set("customXml/item1.xml", foreign);
     auto package = OfficePackage::Parse(zip.Write());
@@ -88,7 +88,7 @@ TEST(PackageTest, LeavesForeignPartsAsTheyWere)
 
 TEST(PackageTest, FindsTheCustomPartByItsRelationWhateverItsNameAndPrefix)
 {
-    Zip zip = Zip::Parse(OfficePackage::New("t", "a").Write());
+    Zip zip = Zip::Parse(OfficePackage::New(HostKind::PowerPoint, "t", "a").Write());
     std::string relations = *zip.Find("_rels/.rels");
     relations.insert(relations.find("</Relationships>"),
                      R"(<Relationship Id="rId9" Type="http://schemas.openxmlformats.org/officeDocument/2006/)"

@@ -12,12 +12,15 @@ namespace host
 namespace
 {
 
-constexpr wchar_t kAddInsKey[] = L"Software\\Microsoft\\Office\\PowerPoint\\Addins";
-constexpr wchar_t kRibbonId[] = L"Microsoft.PowerPoint.Presentation";
 constexpr int kRibbonVersion = 12;
 constexpr DWORD kFailedLoadBehavior = 2;
 constexpr LONG kHostShutdown = 0;
 constexpr long kConnectAtStart = 1;
+
+std::wstring AddInsKey(const HostFacts& facts)
+{
+    return std::wstring{L"Software\\Microsoft\\Office\\"} + facts.registryName + L"\\Addins";
+}
 
 std::wstring Hex(HRESULT result)
 {
@@ -65,10 +68,10 @@ struct CallReport
 
 } // namespace
 
-std::vector<AddInEntry> RegisteredAddIns()
+std::vector<AddInEntry> RegisteredAddIns(const HostFacts& facts)
 {
     std::vector<AddInEntry> entries;
-    const RegistryKey addIns = RegistryKey::Open(HKEY_CURRENT_USER, kAddInsKey);
+    const RegistryKey addIns = RegistryKey::Open(HKEY_CURRENT_USER, AddInsKey(facts));
     for (const std::wstring& name : addIns.Children()) {
         const RegistryKey key = RegistryKey::Open(addIns.Get(), name);
         entries.push_back({name, key.Text(L"FriendlyName"), key.Text(L"Description"), key.Number(L"LoadBehavior")});
@@ -129,7 +132,7 @@ void AddIn::ReadRibbonXml()
     if (FAILED(m_extensibility->QueryInterface(kRibbonExtensibilityId,
                                                reinterpret_cast<void**>(extensibility.GetAddressOf()))))
         return;
-    const ComText id{kRibbonId};
+    const ComText id{m_session.Facts().ribbonId};
     ComText xml;
     ThrowIfFailed(extensibility->GetCustomUI(id.Get(), xml.Put()), L"GetCustomUI failed");
     const std::string text = Narrow(xml.Text());
@@ -179,7 +182,7 @@ const DynamicState* AddIn::Dynamic(const std::string& id) const
 ComPtr<RibbonControlObject> AddIn::ControlObject(const RibbonControl& control) const
 {
     ComPtr<IDispatch> context;
-    if (DocumentObject* active = m_session.Active()) context = MakeObject<DocumentWindowObject>(active);
+    if (DocumentObject* active = m_session.Active()) context = active->Window(1);
     return MakeObject<RibbonControlObject>(Widen(control.id), Widen(control.Attribute("tag")), context);
 }
 
@@ -237,7 +240,7 @@ void AddIn::Fail(const std::wstring& why)
         m_registration->SetConnected(false);
         m_callbacks.Reset();
         m_extensibility.Reset();
-        RegistryKey::Create(HKEY_CURRENT_USER, std::wstring{kAddInsKey} + L"\\" + m_entry.progId)
+        RegistryKey::Create(HKEY_CURRENT_USER, AddInsKey(m_session.Facts()) + L"\\" + m_entry.progId)
             .SetNumber(L"LoadBehavior", kFailedLoadBehavior);
         PrintError(L"the add-in could not be loaded: " + text);
     }

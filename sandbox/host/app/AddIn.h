@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/ClassLoader.h"
+#include "app/HostFacts.h"
 #include "automation/OfficeInterfaces.h"
 #include "objects/ComAddIn.h"
 #include "objects/RibbonObjects.h"
@@ -29,8 +30,8 @@ struct AddInEntry
     [[nodiscard]] bool LoadsAtStart() const { return (loadBehavior & 3) == 3; }
 };
 
-// The add-ins that the user's registry lists for PowerPoint.
-[[nodiscard]] std::vector<AddInEntry> RegisteredAddIns();
+// The add-ins that the user's registry lists for this host.
+[[nodiscard]] std::vector<AddInEntry> RegisteredAddIns(const HostFacts& facts);
 
 // What the add-in's callbacks answered for one control whose XML names them.
 struct DynamicState

@@ -15,17 +15,16 @@ namespace
 
 constexpr int kRibbonVersion = 12;
 constexpr wchar_t kControllerProgId[] = L"CorvaneMSOfficePowerPoint.CController";
-constexpr wchar_t kFileTypes[] = L"Presentations\0*.pptx;*.pptm;*.ppsx;*.ppt\0All files\0*.*\0";
 
 // The path that the user picks, or an empty text.
-std::wstring AskForPath(HWND owner, bool toSave, const std::wstring& proposal)
+std::wstring AskForPath(HWND owner, const HostFacts& facts, bool toSave, const std::wstring& proposal)
 {
     wchar_t path[MAX_PATH] = L"";
     ::lstrcpynW(path, proposal.c_str(), MAX_PATH);
     OPENFILENAMEW dialog{};
     dialog.lStructSize = sizeof dialog;
     dialog.hwndOwner = owner;
-    dialog.lpstrFilter = kFileTypes;
+    dialog.lpstrFilter = facts.fileTypes.data();
     dialog.lpstrFile = path;
     dialog.nMaxFile = MAX_PATH;
     dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | (toSave ? OFN_OVERWRITEPROMPT : OFN_FILEMUSTEXIST);
@@ -49,8 +48,8 @@ void Host::Show() { m_window->Show(); }
 
 void Host::LoadAddIns()
 {
-    const auto entries = RegisteredAddIns();
-    if (entries.empty()) Print(L"no add-in is registered for PowerPoint");
+    const auto entries = RegisteredAddIns(m_session.Facts());
+    if (entries.empty()) Print(std::wstring{L"no add-in is registered for "} + m_session.Facts().product);
     for (const AddInEntry& entry : entries) {
         if (!entry.LoadsAtStart()) {
             Print(entry.progId + L" is registered, but not to be loaded at start-up");
@@ -137,7 +136,7 @@ void Host::Perform(HostCommand command)
 
 void Host::OpenWithDialog()
 {
-    const std::wstring path = AskForPath(m_window->Handle(), false, {});
+    const std::wstring path = AskForPath(m_window->Handle(), m_session.Facts(), false, {});
     if (!path.empty()) m_session.Open(path, false);
 }
 
@@ -145,8 +144,8 @@ void Host::SaveWithName()
 {
     const ComPtr<DocumentObject> active{m_session.Active()};
     if (!active) return;
-    const std::wstring path = AskForPath(m_window->Handle(), true, active->File().FullName());
-    if (!path.empty()) active->SaveAs(path, kSaveAsDefault);
+    const std::wstring path = AskForPath(m_window->Handle(), m_session.Facts(), true, active->File().FullName());
+    if (!path.empty()) active->SaveAs(path, {});
 }
 
 void Host::CallController(const std::wstring& method)

@@ -18,6 +18,12 @@ long ToNumber(const std::wstring& text)
     return number;
 }
 
+HostKind ToHost(const std::wstring& option)
+{
+    if (const HostFacts* facts = FindHost(option)) return facts->kind;
+    throw std::invalid_argument{"there is no host " + Narrow(option)};
+}
+
 void AddSetting(Options& options, const std::wstring& word)
 {
     const std::string text = Narrow(word);
@@ -43,7 +49,9 @@ Options ParseOptions(const std::vector<std::wstring>& words)
         const std::wstring& name = words[i];
         if (i + 1 == words.size()) throw std::invalid_argument{Narrow(name) + " lacks its value or is unknown"};
         const std::wstring& value = words[++i];
-        if (name == L"--version")
+        if (name == L"--host")
+            options.host = ToHost(value);
+        else if (name == L"--version")
             options.version = value;
         else if (name == L"--connect-mode")
             options.connectMode = ToNumber(value);

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "app/HostFacts.h"
 #include "scenario/Script.h"
 
 namespace host
@@ -12,6 +13,7 @@ namespace host
 // What the command line asks for. Texts of settings are UTF-8, as scenarios are.
 struct Options
 {
+    HostKind host = HostKind::PowerPoint;
     std::wstring version = L"16.0";
     long connectMode = 1;
     std::wstring playFile;  // empty: a person uses the host

@@ -11,7 +11,11 @@ namespace host
 namespace
 {
 
-constexpr wchar_t kSource[] = L"Microsoft PowerPoint";
+const wchar_t*& Source()
+{
+    static const wchar_t* source = L"Microsoft Office";
+    return source;
+}
 
 std::map<std::wstring, int>& Ledger()
 {
@@ -30,7 +34,7 @@ HRESULT Report(EXCEPINFO* exception, HRESULT number, const std::wstring& descrip
     if (!exception) return number;
     *exception = {};
     exception->scode = number;
-    exception->bstrSource = ::SysAllocString(kSource);
+    exception->bstrSource = ::SysAllocString(Source());
     exception->bstrDescription = ::SysAllocString(description.c_str());
     return DISP_E_EXCEPTION;
 }
@@ -45,6 +49,8 @@ Value Arguments::At(std::size_t index) const
 
 ObjectCore::ObjectCore(const wchar_t* className) : m_className{className} { ++Ledger()[className]; }
 ObjectCore::~ObjectCore() { --Ledger()[m_className]; }
+
+void ObjectCore::SetSource(const wchar_t* source) { Source() = source; }
 
 std::wstring ObjectCore::Living()
 {

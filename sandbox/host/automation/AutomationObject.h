@@ -65,6 +65,9 @@ public:
     HRESULT FindNames(LPOLESTR* names, UINT count, DISPID* ids) const noexcept;
     HRESULT Call(DISPID id, WORD flags, const DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception) noexcept;
 
+    // What all objects of this process name as the source of their errors.
+    static void SetSource(const wchar_t* source);
+
     // The living objects as "Application x1, Presentation x2", or an empty text.
     static std::wstring Living();
 

@@ -1,11 +1,9 @@
 #include "documents/CompoundFile.h"
 
-#include <cstring>
+#include <algorithm>
 
-#include <ole2.h>
-#include <wrl/client.h>
-
-#include "automation/AutomationError.h"
+#include "documents/Storage.h"
+#include "package/Bytes.h"
 #include "package/PropertySet.h"
 
 namespace host
@@ -13,12 +11,7 @@ namespace host
 namespace
 {
 
-using Microsoft::WRL::ComPtr;
-
-constexpr DWORD kExclusive = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
 constexpr std::uint32_t kFirstUserId = 2;
-constexpr wchar_t kFailed[] = L"The compound file could not be processed.";
-constexpr char kSignature[] = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1";
 constexpr wchar_t kSummaryStream[] = L"\005SummaryInformation";
 constexpr wchar_t kDocumentSummaryStream[] = L"\005DocumentSummaryInformation";
 
@@ -31,49 +24,6 @@ struct SummaryId
 constexpr SummaryId kSummaryIds[] = {
     {"Title", 2}, {"Subject", 3}, {"Author", 4}, {"Keywords", 5}, {"Comments", 6}, {"Last Author", 8},
 };
-
-ComPtr<ILockBytes> MemoryBytes(const std::string& bytes)
-{
-    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, bytes.size());
-    if (!memory) throw AutomationError{E_OUTOFMEMORY, kFailed};
-    std::memcpy(::GlobalLock(memory), bytes.data(), bytes.size());
-    ::GlobalUnlock(memory);
-    ComPtr<ILockBytes> lockBytes;
-    ThrowIfFailed(::CreateILockBytesOnHGlobal(memory, TRUE, lockBytes.GetAddressOf()), kFailed);
-    return lockBytes;
-}
-
-std::string BytesOf(ILockBytes& lockBytes)
-{
-    STATSTG stat{};
-    ThrowIfFailed(lockBytes.Stat(&stat, STATFLAG_NONAME), kFailed);
-    std::string bytes(static_cast<std::size_t>(stat.cbSize.QuadPart), '\0');
-    ULONG read = 0;
-    ThrowIfFailed(lockBytes.ReadAt({}, bytes.data(), static_cast<ULONG>(bytes.size()), &read), kFailed);
-    bytes.resize(read);
-    return bytes;
-}
-
-void WriteStream(IStorage& storage, const wchar_t* name, const std::string& bytes)
-{
-    ComPtr<IStream> stream;
-    ThrowIfFailed(storage.CreateStream(name, STGM_CREATE | kExclusive, 0, 0, stream.GetAddressOf()), kFailed);
-    ThrowIfFailed(stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr), kFailed);
-}
-
-std::string ReadStream(IStorage& storage, const wchar_t* name)
-{
-    ComPtr<IStream> stream;
-    STATSTG stat{};
-    if (FAILED(storage.OpenStream(name, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0, stream.GetAddressOf())))
-        return {};
-    ThrowIfFailed(stream->Stat(&stat, STATFLAG_NONAME), kFailed);
-    std::string bytes(static_cast<std::size_t>(stat.cbSize.QuadPart), '\0');
-    ULONG read = 0;
-    ThrowIfFailed(stream->Read(bytes.data(), static_cast<ULONG>(bytes.size()), &read), kFailed);
-    bytes.resize(read);
-    return bytes;
-}
 
 PropertySection SummarySection(const std::vector<CustomProperty>& summary)
 {
@@ -93,30 +43,79 @@ PropertySection UserDefinedSection(const std::vector<CustomProperty>& custom)
     return section;
 }
 
-void Take(const PropertySection& section, CompoundContents& contents)
+void Take(const PropertySection& section, DocumentContents& contents)
 {
     for (const SetProperty& row : section.properties) {
         if (section.format == kUserDefinedSet && !row.property.name.empty()) contents.custom.push_back(row.property);
         if (section.format != kSummarySet) continue;
         for (const SummaryId& summary : kSummaryIds)
             if (summary.id == row.id)
-                contents.summary.push_back({summary.name, PropertyType::Text, row.property.value});
+                contents.builtIn.push_back({summary.name, PropertyType::Text, row.property.value});
     }
 }
 
+// The stream that carries the host's text, as far as it tells what the file is.
+struct MainStream
+{
+    HostKind host;
+    CLSID classId;
+    const wchar_t* name;
+    std::string (*start)(bool isTemplate);
+};
+
+// An empty document container.
+std::string SlidesStart(bool)
+{
+    std::string out;
+    AppendNumber(out, 0x000F, 2);
+    AppendNumber(out, 1000, 2);
+    AppendNumber(out, 0, 4);
+    return out;
+}
+
+// The base of the file information block: 32 bytes, the template flag is bit 0 of those at 10.
+std::string TextStart(bool isTemplate)
+{
+    std::string out;
+    AppendNumber(out, 0xA5EC, 2);
+    AppendNumber(out, 0x00C1, 2);
+    out.append(6, '\0');
+    AppendNumber(out, isTemplate ? 1 : 0, 2);
+    out.append(20, '\0');
+    return out;
+}
+
+// The records of the workbook's globals: begin, template, end.
+std::string SheetsStart(bool isTemplate)
+{
+    std::string out;
+    AppendNumber(out, 0x0010'0809, 4);
+    AppendNumber(out, 0x0005'0600, 4);
+    out.append(12, '\0');
+    if (isTemplate) AppendNumber(out, 0x0060, 4);
+    AppendNumber(out, 0x000A, 4);
+    return out;
+}
+
+constexpr CLSID OfficeClass(ULONG first) { return {first, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}}; }
+
+constexpr MainStream kMainStreams[] = {
+    {HostKind::PowerPoint,
+     {0x64818D10, 0x4F9B, 0x11CF, {0x86, 0xEA, 0x00, 0xAA, 0x00, 0xB9, 0x29, 0xE8}},
+     L"PowerPoint Document",
+     SlidesStart},
+    {HostKind::Word, OfficeClass(0x00020906), L"WordDocument", TextStart},
+    {HostKind::Excel, OfficeClass(0x00020820), L"Workbook", SheetsStart},
+};
+
 } // namespace
 
-bool IsCompoundFile(const std::string& bytes) { return bytes.starts_with(kSignature); }
-
-CompoundContents ReadCompoundFile(const std::string& bytes)
+DocumentContents ReadCompoundFile(const std::string& bytes)
 {
-    const auto memory = MemoryBytes(bytes);
-    ComPtr<IStorage> storage;
-    ThrowIfFailed(::StgOpenStorageOnILockBytes(memory.Get(), nullptr, kExclusive, nullptr, 0, storage.GetAddressOf()),
-                  kFailed);
-    CompoundContents contents;
+    const auto streams = ReadStorage(bytes);
+    DocumentContents contents;
     for (const wchar_t* name : {kSummaryStream, kDocumentSummaryStream}) {
-        const std::string stream = ReadStream(*storage.Get(), name);
+        const std::string stream = StreamNamed(streams, name);
         if (stream.empty()) continue;
         for (const PropertySection& section : ReadPropertySet(stream))
             Take(section, contents);
@@ -124,18 +123,14 @@ CompoundContents ReadCompoundFile(const std::string& bytes)
     return contents;
 }
 
-std::string WriteCompoundFile(const CompoundContents& contents)
+std::string WriteCompoundFile(HostKind host, bool isTemplate, const DocumentContents& contents)
 {
-    ComPtr<ILockBytes> memory;
-    ComPtr<IStorage> storage;
-    ThrowIfFailed(::CreateILockBytesOnHGlobal(nullptr, TRUE, memory.GetAddressOf()), kFailed);
-    ThrowIfFailed(::StgCreateDocfileOnILockBytes(memory.Get(), STGM_CREATE | kExclusive, 0, storage.GetAddressOf()),
-                  kFailed);
-    WriteStream(*storage.Get(), kSummaryStream, WritePropertySet({SummarySection(contents.summary)}));
-    WriteStream(*storage.Get(), kDocumentSummaryStream,
-                WritePropertySet({{kDocumentSummarySet, {}}, UserDefinedSection(contents.custom)}));
-    ThrowIfFailed(storage->Commit(STGC_DEFAULT), kFailed);
-    return BytesOf(*memory.Get());
+    const MainStream& main = *std::ranges::find(kMainStreams, host, &MainStream::host);
+    return WriteStorage(
+        main.classId,
+        {{main.name, main.start(isTemplate)},
+         {kSummaryStream, WritePropertySet({SummarySection(contents.builtIn)})},
+         {kDocumentSummaryStream, WritePropertySet({{kDocumentSummarySet, {}}, UserDefinedSection(contents.custom)})}});
 }
 
 } // namespace host

@@ -1,25 +1,17 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
-#include "package/CustomProperty.h"
+#include "app/HostFacts.h"
+#include "package/DocumentContents.h"
 
 namespace host
 {
 
-// What a version 11 presentation carries: its summary (by the names of Office's built-in properties) and its custom
-// properties. The slides themselves are not written: the stand-in shows the title only.
-struct CompoundContents
-{
-    std::vector<CustomProperty> summary;
-    std::vector<CustomProperty> custom;
-};
-
-[[nodiscard]] bool IsCompoundFile(const std::string& bytes);
-
-// Both throw AutomationError when the storage fails.
-[[nodiscard]] CompoundContents ReadCompoundFile(const std::string& bytes);
-[[nodiscard]] std::string WriteCompoundFile(const CompoundContents& contents);
+// A document of the binary formats: its summary and its custom properties, and as much of the host's own stream as
+// tells what it is. The text itself is not written: the stand-in shows the title only. Both throw AutomationError when
+// the storage fails.
+[[nodiscard]] DocumentContents ReadCompoundFile(const std::string& bytes);
+[[nodiscard]] std::string WriteCompoundFile(HostKind host, bool isTemplate, const DocumentContents& contents);
 
 } // namespace host

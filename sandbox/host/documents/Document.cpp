@@ -1,33 +1,23 @@
 #include "documents/Document.h"
 
 #include <algorithm>
+#include <span>
 
-#include "automation/AutomationError.h"
 #include "automation/Text.h"
 #include "documents/CompoundFile.h"
+#include "documents/MessageFile.h"
+#include "documents/PlainFormats.h"
+#include "documents/Refusal.h"
+#include "documents/Storage.h"
+#include "package/OpenDocument.h"
 
 namespace host
 {
 namespace
 {
 
-constexpr int kPackageVersion = 12;
-constexpr long kCompoundType = 1;
-constexpr long kPackageType = 24;
-
-constexpr SaveFormat kFormats[] = {
-    {kCompoundType, L"ppt", true, PackageKind::Presentation},
-    {5, L"pot", true, PackageKind::Presentation},
-    {7, L"pps", true, PackageKind::Presentation},
-    {8, L"ppa", true, PackageKind::Presentation},
-    {kPackageType, L"pptx", false, PackageKind::Presentation},
-    {25, L"pptm", false, PackageKind::MacroPresentation},
-    {26, L"potx", false, PackageKind::Template},
-    {27, L"potm", false, PackageKind::MacroTemplate},
-    {28, L"ppsx", false, PackageKind::Show},
-    {29, L"ppsm", false, PackageKind::MacroShow},
-    {30, L"ppam", false, PackageKind::AddIn},
-};
+constexpr char kFinalMark[] = "_MarkAsFinal";
+constexpr int kRibbonVersion = 12; // knows the final mark, and extensions that belong to formats
 
 struct BuiltInProperty
 {
@@ -45,64 +35,46 @@ constexpr BuiltInProperty kBuiltIn[] = {
     {"Last Author", "cp:lastModifiedBy"},
 };
 
-const SaveFormat& FormatOfFile(const std::wstring& path, bool compound)
-{
-    const std::wstring extension = Extension(path);
-    const auto found = std::ranges::find_if(
-        kFormats, [&](const SaveFormat& f) { return extension == f.extension && f.compound == compound; });
-    return found != std::end(kFormats) ? *found : FormatOfType(compound ? kCompoundType : kPackageType, 0);
-}
+constexpr BuiltInProperty kMailFields[] = {{"Subject", nullptr}, {"Body", nullptr}, {"To", nullptr}, {"CC", nullptr}};
 
-std::wstring WithExtension(const std::wstring& path, const SaveFormat& format)
+std::span<const BuiltInProperty> BuiltInOf(HostKind host)
 {
-    return FullPath(Extension(path).empty() ? path + L"." + format.extension : path);
-}
-
-bool IsWriteProtected(const std::wstring& path)
-{
-    const DWORD attributes = ::GetFileAttributesW(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+    return host == HostKind::Outlook ? std::span<const BuiltInProperty>{kMailFields} : kBuiltIn;
 }
 
 } // namespace
 
-const SaveFormat& FormatOfType(long type, int hostVersion)
+Document::Document(HostVersion host) : m_host{host}
 {
-    if (type == kSaveAsDefault) type = hostVersion < kPackageVersion ? kCompoundType : kPackageType;
-    const auto found = std::ranges::find(kFormats, type, &SaveFormat::type);
-    if (found == std::end(kFormats))
-        throw AutomationError{E_INVALIDARG, L"This host does not save in format " + std::to_wstring(type) + L"."};
-    return *found;
+    for (const BuiltInProperty& row : BuiltInOf(host.kind))
+        m_contents.builtIn.push_back({row.name, PropertyType::Text, {}});
 }
 
-Document::Document()
+Document Document::New(HostVersion host, const std::wstring& name, const std::string& author)
 {
-    for (const BuiltInProperty& row : kBuiltIn)
-        m_builtIn.push_back({row.name, PropertyType::Text, {}});
-}
-
-Document Document::New(const std::wstring& name, const std::string& author)
-{
-    Document document;
+    Document document{host};
     document.m_name = name;
     document.m_fullName = name;
-    document.m_package = OfficePackage::New("Click to add title", author);
-    document.ReadPackage(document.m_package->Write());
+    if (host.kind != HostKind::Outlook)
+        document.ReadPackage(OfficePackage::New(host.kind, "Click to add title", author).Write());
     return document;
 }
 
-Document Document::Open(const std::wstring& path, bool readOnly)
+Document Document::Open(HostVersion host, const std::wstring& path, bool readOnly)
 {
-    Document document;
+    Document document{host};
     const std::wstring full = FullPath(path);
-    const std::string bytes = ReadWholeFile(full);
-    const bool compound = IsCompoundFile(bytes);
+    bool storage = false;
     try {
-        compound ? document.ReadCompound(bytes) : document.ReadPackage(bytes);
-    } catch (const std::runtime_error& error) {
-        throw AutomationError{E_FAIL, L"PowerPoint cannot read " + full + L": " + Widen(error.what())};
+        const std::string bytes = ReadWholeFile(full);
+        storage = IsStorage(bytes);
+        document.Read(bytes, storage);
+    } catch (const FileError& error) {
+        Refuse(host.kind, RefusalOfSystemError(error.Code()), full);
+    } catch (const std::exception& error) {
+        Refuse(host.kind, Refusal::NotRead, full + L": " + Widen(error.what()));
     }
-    document.m_format = &FormatOfFile(full, compound);
+    document.m_format = &FormatOfFile(host.kind, full, storage, host.major);
     document.m_readOnly = readOnly || IsWriteProtected(full);
     document.TakeFile(full);
     return document;
@@ -110,71 +82,156 @@ Document Document::Open(const std::wstring& path, bool readOnly)
 
 void Document::Save(SaveFault fault)
 {
-    if (m_readOnly) throw AutomationError{E_FAIL, L"PowerPoint cannot save " + m_fullName + L": it is read-only."};
-    SaveAs(m_fullName, *m_format, fault);
+    if (m_readOnly) Refuse(m_host.kind, Refusal::ReadOnly, m_fullName);
+    CheckEditable();
+    if (m_saved && FactsOf(m_host.kind).savesOnlyChanges) return;
+    m_hold = FileHandle{};
+    Write(m_file, *m_format, fault);
+    if (fault != SaveFault::Growing) m_hold = HoldOpenDocument(m_file, m_readOnly); // its completion still has to write
+    m_saved = true;
 }
 
 void Document::SaveAs(const std::wstring& path, const SaveFormat& format, SaveFault fault)
 {
-    const std::wstring full = WithExtension(path, format);
-    const std::string bytes = Bytes(format);
+    const std::wstring full = CheckedPath(path, format);
     m_hold = FileHandle{};
-    try {
-        WriteDocumentFile(full, bytes, fault);
-    } catch (const AutomationError&) {
-        if (m_hasFile) m_hold = HoldOpenDocument(m_fullName, m_readOnly);
-        throw;
-    }
+    Write(full, format, fault);
     m_format = &format;
     m_readOnly = false;
     m_saved = true;
     TakeFile(full);
-    if (fault == SaveFault::Growing) m_hold = FileHandle{}; // its completion still has to write
+    if (fault == SaveFault::Growing) m_hold = FileHandle{};
 }
 
-void Document::SaveCopyAs(const std::wstring& path, const SaveFormat& format, SaveFault fault) const
+void Document::SaveCopyAs(const std::wstring& path, const SaveFormat& format, SaveFault fault)
 {
-    WriteDocumentFile(WithExtension(path, format), Bytes(format), fault);
+    Write(CheckedPath(path, format), format, fault);
 }
 
-std::wstring Document::SlideTitle() const
+void Document::CopyTo(const std::wstring& path, const SaveFormat& format, SaveFault fault)
 {
-    return Widen(m_package ? m_package->SlideTitle() : m_builtIn.front().value);
+    if (!IsUsableName(path)) Refuse(m_host.kind, Refusal::WrongName, path);
+    Write(FullPath(path), format, fault);
+}
+
+// Leaves the document's own file held as it was when the other cannot be written.
+void Document::Write(const std::wstring& path, const SaveFormat& format, SaveFault fault)
+{
+    m_spoil = FileHandle{};
+    try {
+        m_spoil = WriteDocumentFile(path, Bytes(format), fault);
+    } catch (const FileError& error) {
+        if (HasFile() && !m_hold.IsOpen()) m_hold = HoldOpenDocument(m_file, m_readOnly);
+        Refuse(m_host.kind, RefusalOfSystemError(error.Code()), path);
+    }
+}
+
+std::wstring Document::CheckedPath(const std::wstring& path, const SaveFormat& format) const
+{
+    if (!IsUsableName(path)) Refuse(m_host.kind, Refusal::WrongName, path);
+    const std::wstring extension = Extension(path);
+    const bool other = extension != format.extension && IsKnownExtension(m_host.kind, extension);
+    if (other && m_host.kind == HostKind::Excel && m_host.major >= kRibbonVersion)
+        Refuse(m_host.kind, Refusal::WrongExtension, path);
+    std::wstring full = FullPath(extension.empty() ? path + L"." + format.extension : path);
+    if (full.size() > FactsOf(m_host.kind).pathLimit) Refuse(m_host.kind, Refusal::WrongName, full);
+    return full;
+}
+
+std::wstring Document::Name() const
+{
+    const std::string subject = m_host.kind == HostKind::Outlook ? m_contents.BuiltIn("Subject") : std::string{};
+    return subject.empty() ? m_name : Widen(subject);
+}
+
+std::wstring Document::Title() const
+{
+    const std::string slide = m_package ? m_package->SlideTitle() : std::string{};
+    return Widen(slide.empty() ? m_contents.builtIn.front().value : slide);
+}
+
+void Document::ShowAs(const std::wstring& address)
+{
+    m_fullName = address;
+    m_name = FileName(address);
+}
+
+bool Document::IsFinal() const
+{
+    const auto found = std::ranges::find(m_contents.custom, kFinalMark, &CustomProperty::name);
+    return m_host.major >= kRibbonVersion && found != m_contents.custom.end() && found->value == "true";
+}
+
+void Document::SetFinal(bool final)
+{
+    std::erase_if(m_contents.custom, [](const CustomProperty& property) { return property.name == kFinalMark; });
+    if (final) m_contents.custom.push_back({kFinalMark, PropertyType::Boolean, "true"});
+}
+
+void Document::CheckEditable() const
+{
+    if (IsFinal()) Refuse(m_host.kind, Refusal::Final, m_name);
 }
 
 std::string Document::Bytes(const SaveFormat& format) const
 {
-    if (format.compound) return WriteCompoundFile({m_builtIn, m_custom});
-    OfficePackage package = m_package ? *m_package : OfficePackage::New(m_builtIn.front().value, {});
-    for (std::size_t i = 0; i < m_builtIn.size(); ++i)
-        if (kBuiltIn[i].coreElement) package.SetCoreProperty(kBuiltIn[i].coreElement, m_builtIn[i].value);
-    package.SetCustomProperties(m_custom);
-    package.SetKind(format.kind);
+    switch (format.container) {
+    case Container::Compound:
+        return WriteCompoundFile(m_host.kind, format.isTemplate, m_contents);
+    case Container::Message:
+        return WriteMessageFile(format.number == kUnicodeMessage, m_contents);
+    case Container::OpenDocument:
+        return WriteOpenDocument(format.type, m_contents);
+    case Container::RichText:
+        return WriteRichText(m_contents);
+    case Container::Values:
+        return WriteValues(m_contents);
+    case Container::Package:
+        break;
+    }
+    return PackageBytes(format);
+}
+
+std::string Document::PackageBytes(const SaveFormat& format) const
+{
+    OfficePackage package = m_package ? *m_package : OfficePackage::New(m_host.kind, m_contents.BuiltIn("Title"), {});
+    for (const BuiltInProperty& row : BuiltInOf(m_host.kind))
+        if (row.coreElement) package.SetCoreProperty(row.coreElement, m_contents.BuiltIn(row.name));
+    package.SetCustomProperties(m_contents.custom);
+    package.SetMainType(format.type);
     return package.Write();
+}
+
+void Document::Read(const std::string& bytes, bool storage)
+{
+    if (!storage)
+        ReadPackage(bytes);
+    else
+        Take(m_host.kind == HostKind::Outlook ? ReadMessageFile(bytes) : ReadCompoundFile(bytes));
 }
 
 void Document::ReadPackage(const std::string& bytes)
 {
     m_package = OfficePackage::Parse(bytes);
-    m_custom = m_package->CustomProperties();
-    for (std::size_t i = 0; i < m_builtIn.size(); ++i)
-        if (kBuiltIn[i].coreElement) m_builtIn[i].value = m_package->CoreProperty(kBuiltIn[i].coreElement);
+    DocumentContents read{{}, m_package->CustomProperties()};
+    for (const BuiltInProperty& row : BuiltInOf(m_host.kind))
+        if (row.coreElement)
+            read.builtIn.push_back({row.name, PropertyType::Text, m_package->CoreProperty(row.coreElement)});
+    Take(read);
 }
 
-void Document::ReadCompound(const std::string& bytes)
+void Document::Take(const DocumentContents& read)
 {
-    CompoundContents contents = ReadCompoundFile(bytes);
-    m_custom = std::move(contents.custom);
-    for (const CustomProperty& property : contents.summary)
-        for (CustomProperty& own : m_builtIn)
-            if (own.name == property.name) own.value = property.value;
+    m_contents.custom = read.custom;
+    for (CustomProperty& own : m_contents.builtIn)
+        own.value = read.BuiltIn(own.name);
 }
 
 void Document::TakeFile(const std::wstring& path)
 {
+    m_file = path;
     m_fullName = path;
     m_name = FileName(path);
-    m_hasFile = true;
     m_hold = HoldOpenDocument(path, m_readOnly);
 }
 

@@ -1,80 +1,89 @@
 #pragma once
 
 #include <optional>
-#include <span>
 #include <string>
 #include <vector>
 
 #include "documents/Files.h"
+#include "documents/SaveFormat.h"
+#include "package/DocumentContents.h"
 #include "package/OfficePackage.h"
 
 namespace host
 {
 
-// A format that the host can save in, by the number of PowerPoint's PpSaveAsFileType.
-struct SaveFormat
+// Which program a document belongs to.
+struct HostVersion
 {
-    long type;
-    const wchar_t* extension;
-    bool compound;
-    PackageKind kind;
+    HostKind kind = HostKind::PowerPoint;
+    int major = 16;
 };
 
-constexpr long kSaveAsDefault = 11;
-
-// The format of this number; the default is a compound file before version 12 and a package from then on.
-// Throws AutomationError when the host does not write this format.
-[[nodiscard]] const SaveFormat& FormatOfType(long type, int hostVersion);
-
-// A presentation's contents and its file. It knows nothing of windows and events.
+// A document's contents and its file. It knows nothing of windows and events. Where it is said to throw, it throws
+// AutomationError as its host reports.
 class Document
 {
 public:
-    // A never-saved presentation: its name has no extension and its path is empty.
-    static Document New(const std::wstring& name, const std::string& author);
+    // A never-saved document: its name has no extension and its path is empty.
+    static Document New(HostVersion host, const std::wstring& name, const std::string& author);
 
-    // Throws AutomationError when the file is missing or no presentation.
-    static Document Open(const std::wstring& path, bool readOnly);
+    // Throws when the file is missing or none of the host's.
+    static Document Open(HostVersion host, const std::wstring& path, bool readOnly);
 
-    // Writes the document to its own file. Throws AutomationError when it is read-only or the file cannot be written.
+    // Writes the document to its own file. Throws when it is read-only or final, or the file cannot be written.
     void Save(SaveFault fault);
 
     // Writes the document and makes the new file its own. A name without an extension gets the format's.
     void SaveAs(const std::wstring& path, const SaveFormat& format, SaveFault fault);
-    void SaveCopyAs(const std::wstring& path, const SaveFormat& format, SaveFault fault) const;
+    void SaveCopyAs(const std::wstring& path, const SaveFormat& format, SaveFault fault);
+    void CopyTo(const std::wstring& path, const SaveFormat& format, SaveFault fault); // under just this name
 
-    [[nodiscard]] const std::wstring& Name() const { return m_name; }
+    [[nodiscard]] std::wstring Name() const; // of a mail item: its subject
     [[nodiscard]] const std::wstring& FullName() const { return m_fullName; }
-    [[nodiscard]] bool HasFile() const { return m_hasFile; }
-    [[nodiscard]] std::wstring Folder() const { return m_hasFile ? FolderOf(m_fullName) : std::wstring{}; }
+    [[nodiscard]] bool HasFile() const { return !m_file.empty(); }
+    [[nodiscard]] const std::wstring& File() const { return m_file; }
+    [[nodiscard]] std::wstring Folder() const { return HasFile() ? FolderOf(m_fullName) : std::wstring{}; }
     [[nodiscard]] bool IsReadOnly() const { return m_readOnly; }
     [[nodiscard]] bool IsSaved() const { return m_saved; }
     void SetSaved(bool saved) { m_saved = saved; }
-    [[nodiscard]] std::wstring SlideTitle() const;
+    [[nodiscard]] std::wstring Title() const; // of its first slide; else of the document
     [[nodiscard]] const SaveFormat* Format() const { return m_format; }
 
-    // Built-in properties in the order of Office's numbers, from 1.
-    [[nodiscard]] std::vector<CustomProperty>& BuiltIn() { return m_builtIn; }
-    [[nodiscard]] std::vector<CustomProperty>& Custom() { return m_custom; }
+    // From now on the document is known by this web address; its file stays where it is until it is saved elsewhere.
+    void ShowAs(const std::wstring& address);
+
+    // Marked as final: kept in the file, as a custom property. Throws for a version that knows no such mark.
+    [[nodiscard]] bool IsFinal() const;
+    void SetFinal(bool final);
+    void CheckEditable() const; // throws when it is final
+
+    // Built-in properties in the order of Office's numbers, from 1; a mail item's are its fields.
+    [[nodiscard]] std::vector<CustomProperty>& BuiltIn() { return m_contents.builtIn; }
+    [[nodiscard]] std::vector<CustomProperty>& Custom() { return m_contents.custom; }
 
 private:
-    Document();
+    explicit Document(HostVersion host);
 
+    void Write(const std::wstring& path, const SaveFormat& format, SaveFault fault);
+    [[nodiscard]] std::wstring CheckedPath(const std::wstring& path, const SaveFormat& format) const;
     [[nodiscard]] std::string Bytes(const SaveFormat& format) const;
+    [[nodiscard]] std::string PackageBytes(const SaveFormat& format) const;
+    void Read(const std::string& bytes, bool storage);
     void ReadPackage(const std::string& bytes);
-    void ReadCompound(const std::string& bytes);
+    void Take(const DocumentContents& read);
     void TakeFile(const std::wstring& path);
 
+    HostVersion m_host;
     std::wstring m_name;
     std::wstring m_fullName;
-    bool m_hasFile = false;
+    std::wstring m_file; // empty when never saved
     bool m_readOnly = false;
     bool m_saved = true;
     const SaveFormat* m_format = nullptr;
-    std::optional<OfficePackage> m_package; // none for a compound file
-    std::vector<CustomProperty> m_builtIn;
-    std::vector<CustomProperty> m_custom;
-    FileHandle m_hold;
+    std::optional<OfficePackage> m_package; // none for other formats
+    DocumentContents m_contents;
+    FileHandle m_hold;  // on its own file
+    FileHandle m_spoil; // on what it wrote last
 };
 
 } // namespace host

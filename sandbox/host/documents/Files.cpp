@@ -6,7 +6,6 @@
 #include <thread>
 
 #include "app/Console.h"
-#include "automation/AutomationError.h"
 
 namespace host
 {
@@ -14,6 +13,28 @@ namespace
 {
 
 constexpr std::chrono::milliseconds kGrowthTime{2500};
+constexpr std::chrono::milliseconds kSlowTime{3000};
+constexpr std::size_t kUsualPath = 248; // what a folder's path may have; a file's may have a few letters more
+
+struct FaultRow
+{
+    SaveFault fault;
+    std::string_view name;
+    DWORD error; // what the save fails with, if it does
+};
+
+constexpr FaultRow kFaults[] = {
+    {SaveFault::Empty, "empty", ERROR_SUCCESS},
+    {SaveFault::Zeros, "zeros", ERROR_SUCCESS},
+    {SaveFault::Growing, "growing", ERROR_SUCCESS},
+    {SaveFault::Error, "error", ERROR_WRITE_FAULT},
+    {SaveFault::Locked, "locked", ERROR_SHARING_VIOLATION},
+    {SaveFault::Full, "full", ERROR_DISK_FULL},
+    {SaveFault::Denied, "denied", ERROR_ACCESS_DENIED},
+    {SaveFault::Slow, "slow", ERROR_SUCCESS},
+    {SaveFault::Gone, "gone", ERROR_SUCCESS},
+    {SaveFault::Held, "held", ERROR_SUCCESS},
+};
 
 std::wstring SystemReason(DWORD error)
 {
@@ -26,26 +47,25 @@ std::wstring SystemReason(DWORD error)
     return reason.empty() ? L"error " + std::to_wstring(error) : reason;
 }
 
-[[noreturn]] void Fail(const wchar_t* what, const std::wstring& path)
+[[noreturn]] void Fail(const std::wstring& path) { throw FileError{::GetLastError(), path}; }
+
+// The system takes longer paths in this form only.
+std::wstring SystemPath(const std::wstring& path)
 {
-    throw AutomationError{E_FAIL, std::wstring{what} + L" " + path + L": " + SystemReason(::GetLastError())};
+    if (path.size() < kUsualPath || path.starts_with(L"\\\\?\\")) return path;
+    return path.starts_with(L"\\\\") ? L"\\\\?\\UNC" + path.substr(1) : L"\\\\?\\" + path;
 }
 
-void WriteAll(HANDLE file, std::string_view bytes, const std::wstring& path)
+FileHandle OpenFile(const std::wstring& path, DWORD access, DWORD sharing, DWORD disposition = OPEN_EXISTING)
 {
-    DWORD written = 0;
-    if (!::WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) ||
-        written != bytes.size())
-        Fail(L"PowerPoint could not save", path);
+    return FileHandle{::CreateFileW(SystemPath(path).c_str(), access, sharing, nullptr, disposition, 0, nullptr)};
 }
 
 void CompleteLater(std::wstring path, std::string bytes)
 {
     std::thread{[path = std::move(path), bytes = std::move(bytes)] {
         std::this_thread::sleep_for(kGrowthTime);
-        const FileHandle file{::CreateFileW(path.c_str(), GENERIC_WRITE,
-                                            FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                            OPEN_EXISTING, 0, nullptr)};
+        const FileHandle file = OpenFile(path, GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
         DWORD written = 0;
         if (!file.IsOpen() ||
             !::WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr))
@@ -55,59 +75,73 @@ void CompleteLater(std::wstring path, std::string bytes)
 
 } // namespace
 
+FileError::FileError(DWORD code, const std::wstring& path)
+    : AutomationError{E_FAIL, path + L": " + SystemReason(code)}, m_code{code}
+{}
+
 SaveFault SaveFaultNamed(std::string_view name)
 {
-    if (name == "empty") return SaveFault::Empty;
-    if (name == "zeros") return SaveFault::Zeros;
-    if (name == "growing") return SaveFault::Growing;
-    if (name == "error") return SaveFault::Error;
-    return SaveFault::None;
+    const auto found = std::ranges::find(kFaults, name, &FaultRow::name);
+    return found == std::end(kFaults) ? SaveFault::None : found->fault;
 }
 
 std::string ReadWholeFile(const std::wstring& path)
 {
-    const FileHandle file{::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                        OPEN_EXISTING, 0, nullptr)};
+    const FileHandle file = OpenFile(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE);
     LARGE_INTEGER size{};
-    if (!file.IsOpen() || !::GetFileSizeEx(file.Get(), &size)) Fail(L"PowerPoint could not open", path);
+    if (!file.IsOpen() || !::GetFileSizeEx(file.Get(), &size)) Fail(path);
     std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
     DWORD read = 0;
-    if (!::ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr))
-        Fail(L"PowerPoint could not read", path);
+    if (!::ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr)) Fail(path);
     bytes.resize(read);
     return bytes;
 }
 
 void WriteWholeFile(const std::wstring& path, std::string_view bytes)
 {
-    const FileHandle file{::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr)};
-    if (!file.IsOpen()) Fail(L"PowerPoint could not save", path);
-    WriteAll(file.Get(), bytes, path);
+    const FileHandle file = OpenFile(path, GENERIC_WRITE, 0, CREATE_ALWAYS);
+    DWORD written = 0;
+    if (!file.IsOpen() || !::WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) ||
+        written != bytes.size())
+        Fail(path);
 }
 
-void WriteDocumentFile(const std::wstring& path, const std::string& bytes, SaveFault fault)
+FileHandle WriteDocumentFile(const std::wstring& path, const std::string& bytes, SaveFault fault)
 {
-    switch (fault) {
-    case SaveFault::None:
-        return WriteWholeFile(path, bytes);
-    case SaveFault::Empty:
-        return WriteWholeFile(path, {});
-    case SaveFault::Zeros:
-        return WriteWholeFile(path, std::string(bytes.size(), '\0'));
-    case SaveFault::Growing:
-        WriteWholeFile(path, std::string(bytes.size(), '\0'));
-        return CompleteLater(path, bytes);
-    case SaveFault::Error:
-        break;
-    }
-    throw AutomationError{E_FAIL, L"An error occurred while PowerPoint was saving the file " + path + L"."};
+    const auto row = std::ranges::find(kFaults, fault, &FaultRow::fault);
+    if (row != std::end(kFaults) && row->error != ERROR_SUCCESS) throw FileError{row->error, path};
+    if (fault == SaveFault::Slow) std::this_thread::sleep_for(kSlowTime);
+    const bool zeros = fault == SaveFault::Zeros || fault == SaveFault::Growing;
+    WriteWholeFile(path, fault == SaveFault::Empty ? std::string{} : zeros ? std::string(bytes.size(), '\0') : bytes);
+    if (fault == SaveFault::Growing) CompleteLater(path, bytes);
+    if (fault == SaveFault::Gone) ::DeleteFileW(SystemPath(path).c_str());
+    return fault == SaveFault::Held ? OpenFile(path, GENERIC_READ, 0) : FileHandle{};
 }
 
 FileHandle HoldOpenDocument(const std::wstring& path, bool readOnly)
 {
     const DWORD access = readOnly ? GENERIC_READ : GENERIC_READ | GENERIC_WRITE;
     const DWORD sharing = readOnly ? FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE : FILE_SHARE_READ;
-    return FileHandle{::CreateFileW(path.c_str(), access, sharing, nullptr, OPEN_EXISTING, 0, nullptr)};
+    return OpenFile(path, access, sharing);
+}
+
+bool IsWriteProtected(const std::wstring& path)
+{
+    const DWORD attributes = ::GetFileAttributesW(SystemPath(path).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
+bool IsUsableName(const std::wstring& path)
+{
+    const std::wstring name = FileName(path);
+    std::wstring stem = name.substr(0, name.find(L'.'));
+    while (stem.ends_with(L' '))
+        stem.pop_back();
+    std::ranges::transform(stem, stem.begin(), [](wchar_t c) { return std::towupper(c); });
+    const bool numbered = stem.size() == 4 && stem[3] >= L'1' && stem[3] <= L'9';
+    const bool port = numbered && (stem.starts_with(L"COM") || stem.starts_with(L"LPT"));
+    const bool device = stem == L"CON" || stem == L"PRN" || stem == L"AUX" || stem == L"NUL";
+    return !name.empty() && !port && !device && name.find_first_of(L"<>:\"|?*") == std::wstring::npos;
 }
 
 std::wstring FullPath(const std::wstring& path)

@@ -6,6 +6,8 @@
 
 #include <windows.h>
 
+#include "automation/AutomationError.h"
+
 namespace host
 {
 
@@ -41,17 +43,42 @@ enum class SaveFault
     Zeros,   // the right length, all zero
     Growing, // zeros first, the real bytes 2.5 s later
     Error,   // the save fails
+    Locked,  // another program has the file open
+    Full,    // there is no room
+    Denied,  // the folder may not be written to
+    Slow,    // it takes three seconds
+    Gone,    // right after the save the file is deleted
+    Held,    // right after the save another program opens it for itself alone
+};
+
+// A file that the system would not open, read or write.
+class FileError : public AutomationError
+{
+public:
+    FileError(DWORD code, const std::wstring& path);
+
+    [[nodiscard]] DWORD Code() const noexcept { return m_code; }
+
+private:
+    DWORD m_code;
 };
 
 [[nodiscard]] SaveFault SaveFaultNamed(std::string_view name);
 
-// These throw AutomationError with the path and the system's reason.
+// These throw FileError with the path and the system's reason. Paths may be longer than the system's usual limit.
 [[nodiscard]] std::string ReadWholeFile(const std::wstring& path);
 void WriteWholeFile(const std::wstring& path, std::string_view bytes);
-void WriteDocumentFile(const std::wstring& path, const std::string& bytes, SaveFault fault);
+
+// What is returned keeps others from the file where the fault asks for it; else it is not open.
+FileHandle WriteDocumentFile(const std::wstring& path, const std::string& bytes, SaveFault fault);
 
 // Holds the file as the real host holds the document that it shows: others may read it, but not write to it.
 [[nodiscard]] FileHandle HoldOpenDocument(const std::wstring& path, bool readOnly);
+
+[[nodiscard]] bool IsWriteProtected(const std::wstring& path);
+
+// Whether the last part of the path is a name that the system can give to a file: no device's name, no reserved letter.
+[[nodiscard]] bool IsUsableName(const std::wstring& path);
 
 [[nodiscard]] std::wstring FullPath(const std::wstring& path);
 [[nodiscard]] std::wstring FileName(const std::wstring& path);

@@ -1,79 +1,88 @@
 #include "objects/Application.h"
 
-#include "automation/OfficeInterfaces.h"
+#include "documents/Refusal.h"
 #include "objects/Collections.h"
 #include "objects/ComAddIn.h"
 #include "objects/CommandBars.h"
+#include "objects/HostModel.h"
 #include "objects/Session.h"
 
 namespace host
 {
+namespace
+{
+
+constexpr long kBuild = 4266;
+constexpr long kMailItem = 0; // of OlItemType
+
+Value Nothing() { return Value{static_cast<IDispatch*>(nullptr)}; }
+
+IID EventsOf(const HostModel& model) { return model.events ? model.events->id : IID_NULL; }
+
+} // namespace
 
 ApplicationObject::ApplicationObject(Session& session)
-    : AutomationObject{L"Application", kApplicationId}, m_session{session}, m_events{*this, kApplicationEventsId}
+    : AutomationObject{session.Model().application.name, session.Model().application.id}, m_session{session},
+      m_events{*this, EventsOf(session.Model())}
 {}
 
 std::span<const Member> ApplicationObject::Members() const
 {
-    using A = ApplicationObject;
-    static constexpr Member kMembers[] = {
-        {0, L"Name", kGet, Answer<&A::GetName>},
-        {2001, L"Presentations", kGet, Answer<&A::GetPresentations>},
-        {2002, L"Windows", kGet, Answer<&A::GetWindows>},
-        {2004, L"ActiveWindow", kGet, Answer<&A::GetActiveWindow>},
-        {2005, L"ActivePresentation", kGet, Answer<&A::GetActivePresentation>},
-        {2007, L"CommandBars", kGet, Answer<&A::GetCommandBars>},
-        {2013, L"Build", kGet, Answer<&A::GetBuild>},
-        {2014, L"Version", kGet, Answer<&A::GetVersion>},
-        {2022, L"Run", kMethod, Answer<&A::Run>},
-        {2023, L"Activate", kMethod, Answer<&A::Activate>},
-        {2031, L"HWND", kGet, Answer<&A::GetWindow>},
-        {2035, L"COMAddIns", kGet, Answer<&A::GetComAddIns>},
-    };
-    return kMembers;
+    return m_session.Model().application.Members(m_session.Settings().MajorVersion());
 }
 
 void* ApplicationObject::Interface(REFIID id)
 {
-    return id == IID_IConnectionPointContainer ? static_cast<IConnectionPointContainer*>(&m_events) : nullptr;
+    const bool events = id == IID_IConnectionPointContainer && m_session.Model().events;
+    return events ? static_cast<IConnectionPointContainer*>(&m_events) : nullptr;
 }
 
-DocumentObject& ApplicationObject::Active(const wchar_t* what)
+DocumentObject& ApplicationObject::ActiveOrFail()
 {
-    if (DocumentObject* active = m_session.Active()) return *active;
-    throw AutomationError{kInvalidRequest, std::wstring{L"Application (unknown member) : Invalid request.  There is "
-                                                        L"no active "} +
-                                               what + L"."};
+    if (DocumentObject* active = m_session.Reachable()) return *active;
+    Refuse(m_session.Kind(), Refusal::NoDocument);
 }
 
-Value ApplicationObject::GetName(const Arguments&) { return Value{L"Microsoft PowerPoint"}; }
-Value ApplicationObject::GetVersion(const Arguments&) { return Value{m_session.Settings().version}; }
-Value ApplicationObject::GetBuild(const Arguments&) { return Value{m_session.Settings().version + L".4266"}; }
+Value ApplicationObject::GetName(const Arguments&) { return Value{m_session.Facts().name}; }
 
-Value ApplicationObject::GetWindow(const Arguments&)
+Value ApplicationObject::GetVersion(const Arguments&)
+{
+    return Value{m_session.Settings().version + m_session.Facts().versionEnd};
+}
+
+Value ApplicationObject::GetBuild(const Arguments&)
+{
+    return Value{m_session.Settings().version + L"." + std::to_wstring(kBuild)};
+}
+
+Value ApplicationObject::GetBuildNumber(const Arguments&) { return Value{kBuild}; }
+
+Value ApplicationObject::GetWindowHandle(const Arguments&)
 {
     return Value{static_cast<long>(reinterpret_cast<LONG_PTR>(m_session.window))};
 }
 
-Value ApplicationObject::GetPresentations(const Arguments&)
-{
-    return Value{MakeObject<DocumentsObject>(m_session).Get()};
-}
+Value ApplicationObject::GetDocuments(const Arguments&) { return Value{MakeObject<DocumentsObject>(m_session).Get()}; }
 
 Value ApplicationObject::GetWindows(const Arguments&)
 {
     std::vector<ComPtr<IDispatch>> windows;
-    for (const auto& presentation : m_session.OpenDocuments())
-        windows.emplace_back(MakeObject<DocumentWindowObject>(presentation.Get()));
-    return Value{MakeObject<ListObject>(L"DocumentWindows", kDocumentWindowsId, std::move(windows)).Get()};
+    for (const auto& document : m_session.OpenDocuments())
+        for (long number = 1; !document->IsProtected() && number <= document->WindowCount(); ++number)
+            windows.push_back(document->Window(number));
+    return Value{m_session.WindowList(std::move(windows)).Get()};
 }
 
-Value ApplicationObject::GetActiveWindow(const Arguments&)
+Value ApplicationObject::GetActiveWindow(const Arguments&) { return Value{ActiveOrFail().Window(1).Get()}; }
+
+Value ApplicationObject::GetActiveWindowOrNothing(const Arguments&)
 {
-    return Value{MakeObject<DocumentWindowObject>(&Active(L"window")).Get()};
+    DocumentObject* active = m_session.Reachable();
+    return active ? Value{active->Window(1).Get()} : Nothing();
 }
 
-Value ApplicationObject::GetActivePresentation(const Arguments&) { return Value{&Active(L"presentation")}; }
+Value ApplicationObject::GetActiveDocument(const Arguments&) { return Value{&ActiveOrFail()}; }
+Value ApplicationObject::GetActiveDocumentOrNothing(const Arguments&) { return Value{m_session.Reachable()}; }
 Value ApplicationObject::GetCommandBars(const Arguments&) { return Value{&m_session.CommandBars()}; }
 
 Value ApplicationObject::GetComAddIns(const Arguments&) { return Value{MakeObject<ComAddInsObject>(m_session).Get()}; }
@@ -90,40 +99,54 @@ Value ApplicationObject::Activate(const Arguments&)
     return {};
 }
 
+Value ApplicationObject::Interactive(const Arguments& arguments)
+{
+    if (!arguments.IsPut()) return Value::OfBoolean(m_interactive);
+    m_interactive = arguments.At(0).Boolean();
+    return {};
+}
+
+Value ApplicationObject::GetReady(const Arguments&) { return Value::OfBoolean(!m_session.IsEditing()); }
+
+Value ApplicationObject::CreateItem(const Arguments& arguments)
+{
+    if (arguments.At(0).Number() != kMailItem) throw AutomationError{E_INVALIDARG, L"Only mail items are offered."};
+    return Value{m_session.MakeNew().Get()};
+}
+
 DocumentsObject::DocumentsObject(Session& session)
-    : AutomationObject{L"Presentations", kPresentationsId}, m_session{session}
+    : AutomationObject{session.Model().documents.name, session.Model().documents.id}, m_session{session}
 {}
 
 std::span<const Member> DocumentsObject::Members() const
 {
-    using P = DocumentsObject;
-    static constexpr Member kMembers[] = {
-        {0, L"Item", kEither, Answer<&P::Item>},
-        {11, L"Count", kGet, Answer<&P::Count>},
-        {2003, L"Add", kMethod, Answer<&P::Add>},
-        {2005, L"Open", kMethod, Answer<&P::Open>},
-    };
-    return kMembers;
+    return m_session.Model().documents.Members(m_session.Settings().MajorVersion());
+}
+
+std::vector<DocumentObject*> DocumentsObject::Reachable() const
+{
+    std::vector<DocumentObject*> reachable;
+    for (const auto& document : m_session.OpenDocuments())
+        if (!document->IsProtected()) reachable.push_back(document.Get());
+    return reachable;
 }
 
 Value DocumentsObject::Item(const Arguments& arguments)
 {
     const Value index = arguments.At(0);
-    const auto& open = m_session.OpenDocuments();
-    if (index.Type() != VT_BSTR) return Value{open[ItemPosition(index, open.size()) - 1].Get()};
+    const auto open = Reachable();
+    if (index.Type() != VT_BSTR) return Value{open[ItemPosition(index, open.size()) - 1]};
     const std::wstring name = index.Text();
-    for (const auto& presentation : open)
-        if (::lstrcmpiW(presentation->File().Name().c_str(), name.c_str()) == 0) return Value{presentation.Get()};
-    throw AutomationError{E_INVALIDARG, L"Presentations.Item : " + name + L" is not open."};
+    for (DocumentObject* document : open)
+        if (::lstrcmpiW(document->File().Name().c_str(), name.c_str()) == 0) return Value{document};
+    throw AutomationError{E_INVALIDARG, name + L" is not open."};
 }
 
-Value DocumentsObject::Count(const Arguments&) { return Value{static_cast<long>(m_session.OpenDocuments().size())}; }
-
+Value DocumentsObject::Count(const Arguments&) { return Value{static_cast<long>(Reachable().size())}; }
 Value DocumentsObject::Add(const Arguments&) { return Value{&m_session.New()}; }
 
-Value DocumentsObject::Open(const Arguments& arguments)
+Value DocumentsObject::OpenFile(const Arguments& arguments, bool readOnly)
 {
-    const bool readOnly = arguments.Has(1) && arguments.At(1).Number() != 0;
     return Value{&m_session.Open(arguments.At(0).Text(), readOnly)};
 }
 

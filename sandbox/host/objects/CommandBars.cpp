@@ -10,7 +10,7 @@ namespace host
 namespace
 {
 
-constexpr wchar_t kMenuBarName[] = L"Menu Bar";
+constexpr std::wstring_view kProductMark = L"%1";
 
 struct BuiltInEntry
 {
@@ -32,7 +32,7 @@ const std::vector<BuiltInMenu>& BuiltInMenus()
         {{30003, L"&Edit"}, {{128, L"&Undo"}}},
         {{30004, L"&View"}, {{6, L"&Normal"}}},
         {{30007, L"&Tools"}, {{797, L"&Customize..."}}},
-        {{30010, L"&Help"}, {{984, L"Microsoft PowerPoint &Help"}, {927, L"&About Microsoft PowerPoint"}}},
+        {{30010, L"&Help"}, {{984, L"Microsoft %1 &Help"}, {927, L"&About Microsoft %1"}}},
     };
     return kMenus;
 }
@@ -67,12 +67,16 @@ std::span<const Member> CommandBarObject::Members() const
     return kMembers;
 }
 
-void CommandBarObject::FillMenuBar()
+void CommandBarObject::FillMenuBar(const std::wstring& product)
 {
     for (const BuiltInMenu& menu : BuiltInMenus()) {
         CommandBarObject& bar = *Insert(kBarPopup, menu.menu.id, menu.menu.caption, m_entries.size()).Menu();
-        for (const BuiltInEntry& entry : menu.entries)
-            bar.Insert(kBarButton, entry.id, entry.caption, bar.m_entries.size());
+        for (const BuiltInEntry& entry : menu.entries) {
+            std::wstring caption = entry.caption;
+            const std::size_t mark = caption.find(kProductMark);
+            if (mark != std::wstring::npos) caption.replace(mark, kProductMark.size(), product);
+            bar.Insert(kBarButton, entry.id, caption, bar.m_entries.size());
+        }
     }
 }
 
@@ -81,6 +85,16 @@ BarControlObject* CommandBarObject::FindTag(const std::wstring& tag)
     for (const auto& entry : m_entries) {
         if (entry->Tag() == tag) return entry.Get();
         BarControlObject* below = entry->Menu() ? entry->Menu()->FindTag(tag) : nullptr;
+        if (below) return below;
+    }
+    return nullptr;
+}
+
+BarControlObject* CommandBarObject::FindId(long id)
+{
+    for (const auto& entry : m_entries) {
+        if (entry->Id() == id) return entry.Get();
+        BarControlObject* below = entry->Menu() ? entry->Menu()->FindId(id) : nullptr;
         if (below) return below;
     }
     return nullptr;
@@ -174,8 +188,10 @@ Value BarControlsObject::Add(const Arguments& arguments)
     return Value{&control};
 }
 
-CommandBarsObject::CommandBarsObject()
-    : AutomationObject{L"CommandBars", kCommandBarsId}, m_menuBar{MakeObject<CommandBarObject>(kMenuBarName)}
+CommandBarsObject::CommandBarsObject(std::wstring menuBar)
+    : AutomationObject{L"CommandBars", kCommandBarsId}, m_name{std::move(menuBar)}, m_menuBar{
+                                                                                        MakeObject<CommandBarObject>(
+                                                                                            m_name)}
 {}
 
 std::span<const Member> CommandBarsObject::Members() const
@@ -190,7 +206,7 @@ std::span<const Member> CommandBarsObject::Members() const
 Value CommandBarsObject::Item(const Arguments& arguments)
 {
     const Value index = arguments.At(0);
-    const bool known = index.Type() == VT_BSTR ? SameText(index.Text(), kMenuBarName) : ItemPosition(index, 1) == 1;
+    const bool known = index.Type() == VT_BSTR ? SameText(index.Text(), m_name) : ItemPosition(index, 1) == 1;
     if (!known) throw AutomationError{E_INVALIDARG, L"There is no command bar " + index.Text() + L"."};
     return Value{m_menuBar.Get()};
 }

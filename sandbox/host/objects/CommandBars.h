@@ -33,6 +33,7 @@ public:
     [[nodiscard]] CommandBarObject* Menu() { return m_menu.Get(); } // null for a button
 
     void SetParameter(std::wstring parameter) { m_parameter = std::move(parameter); }
+    void SetEnabled(bool enabled) { m_enabled = enabled; }
 
     // Fires Click to whoever listens to this button.
     void Press();
@@ -89,12 +90,14 @@ public:
     [[nodiscard]] std::span<const Member> Members() const override;
 
     // Puts in the host's own menus, with the control ids that Office gives them.
-    void FillMenuBar();
+    void FillMenuBar(const std::wstring& product);
 
     [[nodiscard]] const std::vector<ComPtr<BarControlObject>>& Entries() const { return m_entries; }
 
-    // The first entry with this tag, here or in a menu below, or null.
+    // The first entry with this tag, or the first command with this id, here or in a menu below; null when there is
+    // none.
     [[nodiscard]] BarControlObject* FindTag(const std::wstring& tag);
+    [[nodiscard]] BarControlObject* FindId(long id);
 
     BarControlObject& Insert(long type, long id, const std::wstring& caption, std::size_t position);
     void Remove(BarControlObject& control);
@@ -133,7 +136,7 @@ private:
 class CommandBarsObject final : public AutomationObject<IDispatch>
 {
 public:
-    CommandBarsObject();
+    explicit CommandBarsObject(std::wstring menuBar);
 
     [[nodiscard]] std::span<const Member> Members() const override;
     [[nodiscard]] CommandBarObject& MenuBar() { return *m_menuBar.Get(); }
@@ -142,6 +145,7 @@ private:
     Value Item(const Arguments& arguments);
     Value Count(const Arguments&);
 
+    std::wstring m_name; // of the menu bar
     ComPtr<CommandBarObject> m_menuBar;
 };
 

@@ -1,11 +1,17 @@
 #include "objects/DocumentObject.h"
 
+#include <algorithm>
+
 #include <shlobj.h>
 
 #include "automation/OfficeInterfaces.h"
+#include "automation/Text.h"
+#include "documents/Refusal.h"
 #include "objects/Application.h"
 #include "objects/Collections.h"
 #include "objects/DocumentProperties.h"
+#include "objects/DocumentWindow.h"
+#include "objects/HostModel.h"
 #include "objects/Session.h"
 
 namespace host
@@ -21,71 +27,64 @@ std::wstring UserDocumentsFolder()
     return folder;
 }
 
+std::optional<long> FormatArgument(const Arguments& arguments)
+{
+    return arguments.Has(1) ? std::optional{arguments.At(1).Number()} : std::nullopt;
+}
+
 } // namespace
 
 DocumentObject::DocumentObject(Session& session, Document document)
-    : AutomationObject{L"Presentation", kPresentationId}, m_session{session}, m_document{std::move(document)}
+    : AutomationObject{session.Model().document.name, session.Model().document.id}, m_session{session},
+      m_document{std::move(document)},
+      m_protected{session.Settings().Setting("document.view") == "protected"}, m_windows{session.WindowsOfNext()}
 {}
 
 std::span<const Member> DocumentObject::Members() const
 {
-    using P = DocumentObject;
-    static constexpr Member kMembers[] = {
-        {2001, L"Application", kGet, Answer<&P::GetApplication>},
-        {2020, L"BuiltInDocumentProperties", kEither, Answer<&P::GetBuiltIn>},
-        {2021, L"CustomDocumentProperties", kEither, Answer<&P::GetCustom>},
-        {2023, L"ReadOnly", kGet, Answer<&P::GetReadOnly>},
-        {2024, L"FullName", kGet, Answer<&P::GetFullName>},
-        {2025, L"Name", kGet, Answer<&P::GetName>},
-        {2026, L"Path", kGet, Answer<&P::GetPath>},
-        {2027, L"Saved", kGetPut, Answer<&P::Saved>},
-        {2030, L"Windows", kGet, Answer<&P::GetWindows>},
-        {2035, L"Save", kMethod, Answer<&P::DoSave>},
-        {2036, L"SaveAs", kMethod, Answer<&P::DoSaveAs>},
-        {2037, L"SaveCopyAs", kMethod, Answer<&P::DoSaveCopyAs>},
-        {2039, L"Close", kMethod, Answer<&P::DoClose>},
-        {2080, L"Final", kGet, Answer<&P::GetFinal>},
-    };
-    return kMembers;
+    return m_session.Model().document.Members(m_session.Settings().MajorVersion());
 }
+
+ComPtr<IDispatch> DocumentObject::Window(long number) { return MakeObject<DocumentWindowObject>(this, number); }
 
 void DocumentObject::MarkClosed()
 {
     m_closed = true;
-    m_document = Document::New(m_document.Name(), {}); // lets go of the file
+    m_document = Document::New(m_session.Version(), m_document.Name(), {}); // lets go of the file
 }
 
 void DocumentObject::CheckOpen() const
 {
-    if (m_closed) throw AutomationError{kInvalidRequest, L"Presentation : Object does not exist."};
+    if (m_closed) Refuse(m_session.Kind(), Refusal::Closed);
 }
 
 void DocumentObject::Save()
 {
-    if (!m_document.HasFile()) return SaveAs(UserDocumentsFolder() + L"\\" + m_document.Name(), kSaveAsDefault);
     CheckOpen();
+    if (!m_document.HasFile()) {
+        if (m_session.Facts().asksForName) Refuse(m_session.Kind(), Refusal::NotSaved, m_document.Name());
+        return SaveAs(UserDocumentsFolder() + L"\\" + m_document.Name(), {});
+    }
     if (!m_session.MayBeSaved(*this)) return;
     m_document.Save(Fault());
     m_session.Changed();
 }
 
-void DocumentObject::SaveAs(const std::wstring& path, long type)
+void DocumentObject::SaveAs(const std::wstring& path, std::optional<long> format)
 {
     CheckOpen();
-    const SaveFormat& format = Format(type);
+    const SaveFormat& chosen = Format(format);
     if (!m_session.MayBeSaved(*this)) return;
-    m_document.SaveAs(path, format, Fault());
+    m_document.SaveAs(path, chosen, Fault());
     m_session.Changed();
 }
 
-const SaveFormat& DocumentObject::Format(long type) const
+const SaveFormat& DocumentObject::Format(std::optional<long> number) const
 {
-    return FormatOfType(type, m_session.Settings().MajorVersion());
-}
-
-long DocumentObject::TypeArgument(const Arguments& arguments) const
-{
-    return arguments.Has(1) ? arguments.At(1).Number() : kSaveAsDefault;
+    const int version = m_session.Settings().MajorVersion();
+    if (number) return FormatOfNumber(m_session.Kind(), *number, version);
+    const bool keeps = m_document.Format() && m_session.Kind() != HostKind::PowerPoint;
+    return keeps ? *m_document.Format() : DefaultFormat(m_session.Kind(), version);
 }
 
 SaveFault DocumentObject::Fault() const { return SaveFaultNamed(m_session.Settings().Setting("save.fault")); }
@@ -94,14 +93,37 @@ Value DocumentObject::GetApplication(const Arguments&) { return Value{&m_session
 Value DocumentObject::GetName(const Arguments&) { return Value{m_document.Name()}; }
 Value DocumentObject::GetFullName(const Arguments&) { return Value{m_document.FullName()}; }
 Value DocumentObject::GetPath(const Arguments&) { return Value{m_document.Folder()}; }
-Value DocumentObject::GetReadOnly(const Arguments&) { return Value::OfTriState(m_document.IsReadOnly()); }
-Value DocumentObject::GetFinal(const Arguments&) { return Value::OfBoolean(false); }
+Value DocumentObject::GetReadOnly(const Arguments&) { return Value::OfBoolean(m_document.IsReadOnly()); }
+Value DocumentObject::GetReadOnlyState(const Arguments&) { return Value::OfTriState(m_document.IsReadOnly()); }
+
+void DocumentObject::PutSaved(const Arguments& arguments)
+{
+    m_document.SetSaved(arguments.At(0).Number() != 0);
+    m_session.Changed();
+}
 
 Value DocumentObject::Saved(const Arguments& arguments)
 {
     CheckOpen();
+    if (!arguments.IsPut()) return Value::OfBoolean(m_document.IsSaved());
+    PutSaved(arguments);
+    return {};
+}
+
+Value DocumentObject::SavedState(const Arguments& arguments)
+{
+    CheckOpen();
     if (!arguments.IsPut()) return Value::OfTriState(m_document.IsSaved());
-    m_document.SetSaved(arguments.At(0).Number() != 0);
+    PutSaved(arguments);
+    return {};
+}
+
+Value DocumentObject::Final(const Arguments& arguments)
+{
+    CheckOpen();
+    if (!arguments.IsPut()) return Value::OfBoolean(m_document.IsFinal());
+    m_document.SetFinal(arguments.At(0).Boolean());
+    m_document.SetSaved(false);
     m_session.Changed();
     return {};
 }
@@ -123,9 +145,13 @@ Value DocumentObject::GetCustom(const Arguments& arguments)
 Value DocumentObject::GetWindows(const Arguments&)
 {
     CheckOpen();
-    std::vector<ComPtr<IDispatch>> windows{ComPtr<IDispatch>{MakeObject<DocumentWindowObject>(this)}};
-    return Value{MakeObject<ListObject>(L"DocumentWindows", kDocumentWindowsId, std::move(windows)).Get()};
+    std::vector<ComPtr<IDispatch>> windows;
+    for (long number = 1; number <= m_windows; ++number)
+        windows.push_back(Window(number));
+    return Value{m_session.WindowList(std::move(windows)).Get()};
 }
+
+Value DocumentObject::GetWindow(const Arguments&) { return Value{Window(1).Get()}; }
 
 Value DocumentObject::DoSave(const Arguments&)
 {
@@ -135,14 +161,22 @@ Value DocumentObject::DoSave(const Arguments&)
 
 Value DocumentObject::DoSaveAs(const Arguments& arguments)
 {
-    SaveAs(arguments.At(0).Text(), TypeArgument(arguments));
+    SaveAs(arguments.At(0).Text(), FormatArgument(arguments));
     return {};
 }
 
 Value DocumentObject::DoSaveCopyAs(const Arguments& arguments)
 {
     CheckOpen();
-    m_document.SaveCopyAs(arguments.At(0).Text(), Format(TypeArgument(arguments)), Fault());
+    m_document.SaveCopyAs(arguments.At(0).Text(), Format(FormatArgument(arguments)), Fault());
+    return {};
+}
+
+Value DocumentObject::DoSaveCopyAsItIs(const Arguments& arguments)
+{
+    CheckOpen();
+    if (arguments.Count() != 1) throw AutomationError{DISP_E_BADPARAMCOUNT, L"Wrong number of arguments."};
+    m_document.CopyTo(arguments.At(0).Text(), Format({}), Fault());
     return {};
 }
 
@@ -153,33 +187,29 @@ Value DocumentObject::DoClose(const Arguments&)
     return {};
 }
 
-DocumentWindowObject::DocumentWindowObject(DocumentObject* presentation)
-    : AutomationObject{L"DocumentWindow", kDocumentWindowId}, m_presentation{presentation}
-{}
-
-std::span<const Member> DocumentWindowObject::Members() const
+Value DocumentObject::DoCloseSaving(const Arguments& arguments)
 {
-    using W = DocumentWindowObject;
-    static constexpr Member kMembers[] = {
-        {2005, L"Presentation", kGet, Answer<&W::GetPresentation>},
-        {2009, L"Active", kGet, Answer<&W::GetActive>},
-        {2011, L"Caption", kGet, Answer<&W::GetCaption>},
-        {2017, L"Activate", kMethod, Answer<&W::DoActivate>},
-    };
-    return kMembers;
+    CheckOpen();
+    if (arguments.Has(0) && arguments.At(0).Number() == -1) Save();
+    m_session.Close(*this);
+    return {};
 }
 
-Value DocumentWindowObject::GetCaption(const Arguments&) { return Value{m_presentation->File().Name()}; }
-Value DocumentWindowObject::GetPresentation(const Arguments&) { return Value{m_presentation.Get()}; }
-
-Value DocumentWindowObject::GetActive(const Arguments&)
+Value DocumentObject::DoDisplay(const Arguments&)
 {
-    return Value::OfTriState(m_presentation->Host().Active() == m_presentation.Get());
+    CheckOpen();
+    m_session.Display(*this);
+    return {};
 }
 
-Value DocumentWindowObject::DoActivate(const Arguments&)
+Value DocumentObject::Field(const char* name, const Arguments& arguments)
 {
-    m_presentation->Host().Activate(*m_presentation.Get());
+    CheckOpen();
+    CustomProperty& field = *std::ranges::find(m_document.BuiltIn(), name, &CustomProperty::name);
+    if (!arguments.IsPut()) return Value{Widen(field.value)};
+    field.value = Narrow(arguments.At(0).Text());
+    m_document.SetSaved(false);
+    m_session.Changed();
     return {};
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "automation/AutomationObject.h"
 #include "documents/Document.h"
 
@@ -8,7 +10,9 @@ namespace host
 
 class Session;
 
-// An open presentation, and what is left of it once it is closed and still referred to.
+// An open document of the host, and what is left of it once it is closed and still referred to: a presentation, a
+// document, a workbook or a mail item. Which of the answers it gives, and under which names, is told by the host's
+// model.
 class DocumentObject final : public AutomationObject<IDispatch>
 {
 public:
@@ -17,54 +21,57 @@ public:
     [[nodiscard]] std::span<const Member> Members() const override;
 
     [[nodiscard]] Document& File() { return m_document; }
-    [[nodiscard]] Session& Host() { return m_session; }
+    [[nodiscard]] Session& Owner() { return m_session; }
+    [[nodiscard]] bool IsProtected() const { return m_protected; } // in Protected View, out of programs' reach
+    [[nodiscard]] long WindowCount() const { return m_windows; }
+    [[nodiscard]] ComPtr<IDispatch> Window(long number);
     void MarkClosed();
 
-    // Tells the add-in first. A never-saved presentation goes into the user's documents folder.
+    // Tells the add-in first. A never-saved document goes into the user's documents folder where the host does not ask.
     void Save();
-    void SaveAs(const std::wstring& path, long type);
 
-private:
+    // Without a number: in the format that it has, or the host's default.
+    void SaveAs(const std::wstring& path, std::optional<long> format);
+
+    // The answers of the member tables. Saved and ReadOnly are Booleans or, by the ...State ones, numbers of three
+    // states.
     Value GetApplication(const Arguments&);
     Value GetName(const Arguments&);
     Value GetFullName(const Arguments&);
     Value GetPath(const Arguments&);
     Value GetReadOnly(const Arguments&);
+    Value GetReadOnlyState(const Arguments&);
     Value Saved(const Arguments& arguments);
-    Value GetFinal(const Arguments&);
+    Value SavedState(const Arguments& arguments);
+    Value Final(const Arguments& arguments);
     Value GetBuiltIn(const Arguments& arguments);
     Value GetCustom(const Arguments& arguments);
     Value GetWindows(const Arguments&);
+    Value GetWindow(const Arguments&);
     Value DoSave(const Arguments&);
     Value DoSaveAs(const Arguments& arguments);
     Value DoSaveCopyAs(const Arguments& arguments);
+    Value DoSaveCopyAsItIs(const Arguments& arguments); // in its own format, under just this name
     Value DoClose(const Arguments&);
+    Value DoCloseSaving(const Arguments& arguments); // saves first when asked to
+    Value DoDisplay(const Arguments&);
+    Value Subject(const Arguments& arguments) { return Field("Subject", arguments); }
+    Value Body(const Arguments& arguments) { return Field("Body", arguments); }
+    Value To(const Arguments& arguments) { return Field("To", arguments); }
+    Value Copy(const Arguments& arguments) { return Field("CC", arguments); }
 
+private:
     void CheckOpen() const;
-    [[nodiscard]] const SaveFormat& Format(long type) const;
-    [[nodiscard]] long TypeArgument(const Arguments& arguments) const;
+    [[nodiscard]] const SaveFormat& Format(std::optional<long> number) const;
     [[nodiscard]] SaveFault Fault() const;
+    void PutSaved(const Arguments& arguments);
+    Value Field(const char* name, const Arguments& arguments);
 
     Session& m_session;
     Document m_document;
+    bool m_protected;
+    long m_windows;
     bool m_closed = false;
-};
-
-// The window that shows a presentation.
-class DocumentWindowObject final : public AutomationObject<IDispatch>
-{
-public:
-    explicit DocumentWindowObject(DocumentObject* presentation);
-
-    [[nodiscard]] std::span<const Member> Members() const override;
-
-private:
-    Value GetCaption(const Arguments&);
-    Value GetPresentation(const Arguments&);
-    Value GetActive(const Arguments&);
-    Value DoActivate(const Arguments&);
-
-    ComPtr<DocumentObject> m_presentation;
 };
 
 } // namespace host

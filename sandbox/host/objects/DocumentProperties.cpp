@@ -13,9 +13,9 @@ namespace host
 namespace
 {
 
-std::vector<CustomProperty>& PropertiesOf(DocumentObject& presentation, PropertySet set)
+std::vector<CustomProperty>& PropertiesOf(DocumentObject& document, PropertySet set)
 {
-    return set == PropertySet::BuiltIn ? presentation.File().BuiltIn() : presentation.File().Custom();
+    return set == PropertySet::BuiltIn ? document.File().BuiltIn() : document.File().Custom();
 }
 
 CustomProperty* FindProperty(std::vector<CustomProperty>& properties, const std::string& name)
@@ -33,16 +33,17 @@ CustomProperty& ExistingProperty(std::vector<CustomProperty>& properties, const 
     throw AutomationError{E_INVALIDARG, L"There is no document property named " + Widen(name) + L"."};
 }
 
-void MarkChanged(DocumentObject& presentation)
+void MarkChanged(DocumentObject& document)
 {
-    presentation.File().SetSaved(false);
-    presentation.Host().Changed();
+    Session& session = document.Owner();
+    if (session.Settings().MajorVersion() <= session.Facts().lastMarkingVersion) document.File().SetSaved(false);
+    session.Changed();
 }
 
 } // namespace
 
-DocumentPropertiesObject::DocumentPropertiesObject(DocumentObject* presentation, PropertySet set)
-    : AutomationObject{L"DocumentProperties", kDocumentPropertiesId}, m_presentation{presentation}, m_set{set}
+DocumentPropertiesObject::DocumentPropertiesObject(DocumentObject* document, PropertySet set)
+    : AutomationObject{L"DocumentProperties", kDocumentPropertiesId}, m_document{document}, m_set{set}
 {}
 
 std::span<const Member> DocumentPropertiesObject::Members() const
@@ -56,10 +57,7 @@ std::span<const Member> DocumentPropertiesObject::Members() const
     return kMembers;
 }
 
-std::vector<CustomProperty>& DocumentPropertiesObject::Properties()
-{
-    return PropertiesOf(*m_presentation.Get(), m_set);
-}
+std::vector<CustomProperty>& DocumentPropertiesObject::Properties() { return PropertiesOf(*m_document.Get(), m_set); }
 
 Value DocumentPropertiesObject::Item(const Arguments& arguments)
 {
@@ -67,7 +65,7 @@ Value DocumentPropertiesObject::Item(const Arguments& arguments)
     const CustomProperty& property = index.Type() == VT_BSTR
                                          ? ExistingProperty(Properties(), Narrow(index.Text()))
                                          : Properties()[ItemPosition(index, Properties().size()) - 1];
-    return Value{MakeObject<DocumentPropertyObject>(m_presentation.Get(), m_set, property.name).Get()};
+    return Value{MakeObject<DocumentPropertyObject>(m_document.Get(), m_set, property.name).Get()};
 }
 
 Value DocumentPropertiesObject::Count(const Arguments&) { return Value{static_cast<long>(Properties().size())}; }
@@ -79,17 +77,18 @@ Value DocumentPropertiesObject::Add(const Arguments& arguments)
     if (arguments.At(1).Boolean()) throw AutomationError{E_NOTIMPL, L"Linked properties are not offered."};
     if (name.empty() || FindProperty(Properties(), name))
         throw AutomationError{E_INVALIDARG, L"The property name is empty or exists already."};
+    m_document->File().CheckEditable();
     const long type = arguments.Has(2) ? arguments.At(2).Number() : 0;
     if (type < 1 || type > 5) throw AutomationError{E_INVALIDARG, L"Unknown property type."};
 
     Properties().push_back(FromValue(name, static_cast<PropertyType>(type), arguments.At(3)));
-    MarkChanged(*m_presentation.Get());
-    return Value{MakeObject<DocumentPropertyObject>(m_presentation.Get(), m_set, name).Get()};
+    MarkChanged(*m_document.Get());
+    return Value{MakeObject<DocumentPropertyObject>(m_document.Get(), m_set, name).Get()};
 }
 
-DocumentPropertyObject::DocumentPropertyObject(DocumentObject* presentation, PropertySet set, std::string name)
-    : AutomationObject{L"DocumentProperty", kDocumentPropertyId},
-      m_presentation{presentation}, m_set{set}, m_name{std::move(name)}
+DocumentPropertyObject::DocumentPropertyObject(DocumentObject* document, PropertySet set, std::string name)
+    : AutomationObject{L"DocumentProperty", kDocumentPropertyId}, m_document{document}, m_set{set}, m_name{
+                                                                                                        std::move(name)}
 {}
 
 std::span<const Member> DocumentPropertyObject::Members() const
@@ -106,7 +105,7 @@ std::span<const Member> DocumentPropertyObject::Members() const
 
 CustomProperty& DocumentPropertyObject::Property()
 {
-    return ExistingProperty(PropertiesOf(*m_presentation.Get(), m_set), m_name);
+    return ExistingProperty(PropertiesOf(*m_document.Get(), m_set), m_name);
 }
 
 Value DocumentPropertyObject::GetName(const Arguments&) { return Value{Widen(Property().name)}; }
@@ -116,18 +115,20 @@ Value DocumentPropertyObject::ValueOf(const Arguments& arguments)
 {
     CustomProperty& property = Property();
     if (!arguments.IsPut()) return ToValue(property);
+    m_document->File().CheckEditable();
     property = FromValue(property.name, property.type, arguments.At(0));
-    MarkChanged(*m_presentation.Get());
+    MarkChanged(*m_document.Get());
     return {};
 }
 
 Value DocumentPropertyObject::Delete(const Arguments&)
 {
     if (m_set == PropertySet::BuiltIn) throw AutomationError{E_FAIL, L"A built-in property cannot be deleted."};
-    auto& properties = PropertiesOf(*m_presentation.Get(), m_set);
+    m_document->File().CheckEditable();
+    auto& properties = PropertiesOf(*m_document.Get(), m_set);
     const std::string name = Property().name;
     std::erase_if(properties, [&](const CustomProperty& property) { return property.name == name; });
-    MarkChanged(*m_presentation.Get());
+    MarkChanged(*m_document.Get());
     return {};
 }
 

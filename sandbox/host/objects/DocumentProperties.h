@@ -13,11 +13,11 @@ enum class PropertySet
     Custom,
 };
 
-// The built-in or the custom properties of a presentation.
+// The built-in or the custom properties of a document.
 class DocumentPropertiesObject final : public AutomationObject<IDispatch>
 {
 public:
-    DocumentPropertiesObject(DocumentObject* presentation, PropertySet set);
+    DocumentPropertiesObject(DocumentObject* document, PropertySet set);
 
     [[nodiscard]] std::span<const Member> Members() const override;
 
@@ -30,7 +30,7 @@ private:
 
     [[nodiscard]] std::vector<CustomProperty>& Properties();
 
-    ComPtr<DocumentObject> m_presentation;
+    ComPtr<DocumentObject> m_document;
     PropertySet m_set;
 };
 
@@ -38,7 +38,7 @@ private:
 class DocumentPropertyObject final : public AutomationObject<IDispatch>
 {
 public:
-    DocumentPropertyObject(DocumentObject* presentation, PropertySet set, std::string name);
+    DocumentPropertyObject(DocumentObject* document, PropertySet set, std::string name);
 
     [[nodiscard]] std::span<const Member> Members() const override;
 
@@ -50,7 +50,7 @@ private:
 
     [[nodiscard]] CustomProperty& Property();
 
-    ComPtr<DocumentObject> m_presentation;
+    ComPtr<DocumentObject> m_document;
     PropertySet m_set;
     std::string m_name;
 };

@@ -1,53 +1,100 @@
 #include "objects/Session.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <optional>
 
 #include "automation/Text.h"
+#include "documents/Refusal.h"
 #include "objects/Application.h"
+#include "objects/Collections.h"
 #include "objects/ComAddIn.h"
 #include "objects/CommandBars.h"
-#include "objects/DocumentObject.h"
 
 namespace host
 {
 namespace
 {
 
-// Dispatch ids of PowerPoint's EApplication.
-constexpr DISPID kPresentationClose = 2004;
-constexpr DISPID kWindowActivate = 2009;
-constexpr DISPID kPresentationBeforeSave = 2018;
-constexpr DISPID kPresentationCloseFinal = 2031;
 constexpr int kCloseFinalVersion = 14;
+constexpr long kNewCommand = 18; // FileNew, out of use while a cell is edited
 
-void FireWith(ApplicationObject& application, DISPID event, IDispatch* first)
+struct EditingRow
 {
-    const Value presentation{first};
-    VARIANT arguments[] = {presentation.Get()};
-    application.Events().Fire(event, arguments);
+    std::string_view value;
+    unsigned long number;
+    bool refusesQuestions; // a host that is busy refuses every call
+};
+
+constexpr EditingRow kEditing[] = {
+    {"800AC472", 0x800AC472, false},
+    {"800A03EC", 0x800A03EC, false},
+    {"8001010A", 0x8001010A, true},
+    {"80010001", 0x80010001, true},
+};
+
+const EditingRow* EditingOf(const Options& options)
+{
+    const auto found = std::ranges::find(kEditing, options.Setting("editing"), &EditingRow::value);
+    return found == std::end(kEditing) ? nullptr : &*found;
+}
+
+[[noreturn]] void RefuseEditing(const EditingRow& row)
+{
+    throw AutomationError{static_cast<HRESULT>(row.number), L"The user is editing a cell."};
 }
 
 bool SameText(const std::wstring& a, const std::wstring& b) { return ::lstrcmpiW(a.c_str(), b.c_str()) == 0; }
+
+std::wstring OwnerOfMacro(const std::wstring& name)
+{
+    const std::size_t mark = name.rfind(L'!');
+    return mark == std::wstring::npos ? std::wstring{} : name.substr(0, mark);
+}
 
 } // namespace
 
 Session::Session(Options options)
     : m_options{std::move(options)}, m_application{MakeObject<ApplicationObject>(*this)},
-      m_commandBars{MakeObject<CommandBarsObject>()}
+      m_commandBars{MakeObject<CommandBarsObject>(Facts().menuBar)}
 {
-    m_commandBars->MenuBar().FillMenuBar();
+    ObjectCore::SetSource(Facts().source);
+    m_commandBars->MenuBar().FillMenuBar(Facts().product);
+    ShowEditing();
 }
 
 Session::~Session() = default;
 
+void Session::Set(const std::string& name, const std::string& value)
+{
+    m_options.settings[name] = value;
+    ShowEditing();
+    Changed();
+}
+
 DocumentObject* Session::Active() const { return m_documents.empty() ? nullptr : m_documents.front().Get(); }
+
+DocumentObject* Session::Reachable() const
+{
+    for (const auto& document : m_documents)
+        if (document->WindowCount() > 0) return document->IsProtected() ? nullptr : document.Get();
+    return nullptr;
+}
+
+ComPtr<DocumentObject> Session::MakeNew()
+{
+    std::wstring name = Widen(m_options.Setting("document.name"));
+    if (name.empty()) name = Facts().newName + (Facts().numbersNew ? std::to_wstring(++m_lastNumber) : L"");
+    std::string author = m_options.Setting("author");
+    if (author.empty()) author = "Stand-in User";
+    Document document = Document::New(Version(), name, author);
+    Prepare(document);
+    return MakeObject<DocumentObject>(*this, std::move(document));
+}
 
 DocumentObject& Session::New()
 {
-    const std::wstring name = L"Presentation" + std::to_wstring(++m_lastNumber);
-    std::string author = m_options.Setting("author");
-    if (author.empty()) author = "Stand-in User";
-    Show(MakeObject<DocumentObject>(*this, Document::New(name, author)));
+    Show(MakeNew());
     return *Active();
 }
 
@@ -55,23 +102,56 @@ DocumentObject& Session::Open(const std::wstring& path, bool readOnly)
 {
     const std::wstring full = FullPath(path);
     for (const auto& open : m_documents)
-        if (SameText(open->File().FullName(), full)) {
+        if (SameText(open->File().File(), full)) {
             Activate(*open.Get());
             return *Active();
         }
-    Show(MakeObject<DocumentObject>(*this, Document::Open(full, readOnly)));
+    Document document = Document::Open(Version(), full, readOnly || m_options.Setting("document.readonly") == "true");
+    Prepare(document);
+    Show(MakeObject<DocumentObject>(*this, std::move(document)));
     return *Active();
 }
 
-void Session::Show(ComPtr<DocumentObject> presentation)
+// Brings a new or an opened document into the state that the settings ask for.
+void Session::Prepare(Document& document) const
 {
-    m_documents.insert(m_documents.begin(), std::move(presentation));
+    const std::string address = m_options.Setting("document.url");
+    if (document.HasFile() && !address.empty()) document.ShowAs(Widen(address));
+    if (m_options.Setting("document.final") == "true") document.SetFinal(true);
+    for (const auto& [setting, field] :
+         {std::pair{"mail.subject", "Subject"}, {"mail.body", "Body"}, {"mail.to", "To"}})
+        for (CustomProperty& own : document.BuiltIn())
+            if (Kind() == HostKind::Outlook && own.name == field && own.value.empty())
+                own.value = m_options.Setting(setting);
+    document.SetSaved(m_options.Setting("document.changed") != "true");
+}
+
+long Session::WindowsOfNext() const
+{
+    const std::string windows = m_options.Setting("document.windows");
+    return windows.empty() ? 1 : std::strtol(windows.c_str(), nullptr, 10);
+}
+
+ComPtr<IDispatch> Session::WindowList(std::vector<ComPtr<IDispatch>> windows) const
+{
+    return MakeObject<ListObject>(Model().windows.name, Model().windows.id, std::move(windows));
+}
+
+void Session::Show(ComPtr<DocumentObject> document)
+{
+    m_documents.insert(m_documents.begin(), std::move(document));
     FireActivate();
 }
 
-void Session::Activate(DocumentObject& presentation)
+void Session::Display(DocumentObject& document)
 {
-    const auto found = std::ranges::find(m_documents, &presentation, &ComPtr<DocumentObject>::Get);
+    const auto found = std::ranges::find(m_documents, &document, &ComPtr<DocumentObject>::Get);
+    found == m_documents.end() ? Show(ComPtr<DocumentObject>{&document}) : Activate(document);
+}
+
+void Session::Activate(DocumentObject& document)
+{
+    const auto found = std::ranges::find(m_documents, &document, &ComPtr<DocumentObject>::Get);
     if (found == m_documents.end()) return;
     std::rotate(m_documents.begin(), found, found + 1);
     FireActivate();
@@ -80,52 +160,75 @@ void Session::Activate(DocumentObject& presentation)
 void Session::FireActivate()
 {
     Changed();
-    const Value presentation{Active()};
-    const Value documentWindow{MakeObject<DocumentWindowObject>(Active()).Get()};
-    VARIANT arguments[] = {presentation.Get(), documentWindow.Get()};
-    m_application->Events().Fire(kWindowActivate, arguments);
+    if (!Model().events || Active() != Reachable()) return;
+    const Value document{Active()};
+    const Value shown{Active()->Window(1).Get()};
+    VARIANT arguments[] = {document.Get(), shown.Get()};
+    m_application->Events().Fire(Model().events->activate, arguments);
 }
 
-void Session::Close(DocumentObject& presentation)
+void Session::Fire(DISPID event, DocumentObject& document)
 {
-    const ComPtr<DocumentObject> closing{&presentation};
-    const bool wasActive = Active() == &presentation;
-    FireWith(*m_application.Get(), kPresentationClose, closing.Get());
-    if (m_options.MajorVersion() >= kCloseFinalVersion)
-        FireWith(*m_application.Get(), kPresentationCloseFinal, closing.Get());
+    const Value subject{&document};
+    VARIANT arguments[] = {subject.Get()};
+    m_application->Events().Fire(event, arguments);
+}
+
+void Session::Close(DocumentObject& document)
+{
+    const ComPtr<DocumentObject> closing{&document};
+    const bool wasActive = Active() == &document;
+    if (const EventTable* events = Model().events) {
+        Fire(events->close, document);
+        if (m_options.MajorVersion() >= kCloseFinalVersion) Fire(events->closeFinal, document);
+    }
     std::erase_if(m_documents, [&](const auto& open) { return open.Get() == closing.Get(); });
     closing->MarkClosed();
     Changed();
     if (wasActive && Active()) FireActivate();
 }
 
-bool Session::MayBeSaved(DocumentObject& presentation)
+bool Session::MayBeSaved(DocumentObject& document)
 {
+    if (!Model().events) return true;
     VARIANT_BOOL cancel = VARIANT_FALSE;
-    const Value subject{&presentation};
+    const Value subject{&document};
     VARIANT byReference{};
     byReference.vt = VT_BOOL | VT_BYREF;
     byReference.pboolVal = &cancel;
     VARIANT arguments[] = {subject.Get(), byReference};
-    m_application->Events().Fire(kPresentationBeforeSave, arguments);
+    m_application->Events().Fire(Model().events->beforeSave, arguments);
     return cancel == VARIANT_FALSE;
+}
+
+bool Session::IsEditing() const { return EditingOf(m_options) != nullptr; }
+
+void Session::CheckReady() const
+{
+    if (const EditingRow* row = EditingOf(m_options)) RefuseEditing(*row);
+}
+
+void Session::CheckAnswering() const
+{
+    const EditingRow* row = EditingOf(m_options);
+    if (row && row->refusesQuestions) RefuseEditing(*row);
+}
+
+void Session::ShowEditing()
+{
+    if (BarControlObject* command = m_commandBars->MenuBar().FindId(kNewCommand)) command->SetEnabled(!IsEditing());
 }
 
 void Session::RunMacro(const std::wstring& name)
 {
-    const std::size_t mark = name.find(L'!');
-    std::wstring macro = name;
-    if (mark != std::wstring::npos) {
-        const std::wstring owner = name.substr(0, mark);
-        if (std::ranges::none_of(m_documents, [&](const auto& p) { return SameText(p->File().Name(), owner); }))
-            throw AutomationError{kInvalidRequest, L"Application.Run : " + owner + L" is not open."};
-        macro = name.substr(mark + 1);
-    }
+    const std::wstring owner = OwnerOfMacro(name);
+    const std::wstring macro = owner.empty() ? name : name.substr(owner.size() + 1);
+    const auto isOwner = [&](const auto& open) { return SameText(open->File().Name(), owner); };
+    if (!owner.empty() && std::ranges::none_of(m_documents, isOwner)) Refuse(Kind(), Refusal::NoMacro, name);
     const std::string answer = m_options.Setting("macro." + Narrow(macro));
-    if (answer.empty())
-        throw AutomationError{kInvalidRequest, L"Application.Run : Invalid request. Sub or function not defined."};
+    if (answer.empty()) Refuse(Kind(), Refusal::NoMacro, name);
     m_macrosRun.push_back(macro);
-    if (answer != "ok") throw AutomationError{kInvalidRequest, L"Application.Run : The macro failed."};
+    if (answer != "ok") Refuse(Kind(), Refusal::MacroFailed, name);
 }
 
 void Session::AddAddIn(ComPtr<ComAddInObject> addIn) { m_addIns.push_back(std::move(addIn)); }

@@ -7,6 +7,8 @@
 
 #include "app/Options.h"
 #include "automation/AutomationObject.h"
+#include "documents/Document.h"
+#include "objects/HostModel.h"
 
 namespace host
 {
@@ -16,8 +18,17 @@ class CommandBarsObject;
 class ComAddInObject;
 class DocumentObject;
 
-// The running host: its open presentations, the macros it knows and the objects that it shows to the add-in.
-// It lives on the user-interface thread and outlives every object that refers to it.
+// The running host: its open documents, the macros it knows and the objects that it shows to the add-in. It lives on
+// the user-interface thread and outlives every object that refers to it.
+//
+// A test has a host without a window by itself:
+//     Options options{.host = HostKind::Word, .version = L"14.0", .settings = {{"document.final", "true"}}};
+//     Session session{options};
+//     session.Open(path, false);                      // or New(); the document is in the state that the settings ask
+//     for IDispatch* application = &session.Application();
+// Settings are read when they matter: those of a document when it is opened, save.fault at each save, editing at each
+// call. Set changes one in between. The README lists them. Everything must be released, and Release called, for
+// ObjectCore::Living to be empty.
 class Session
 {
 public:
@@ -25,24 +36,43 @@ public:
     ~Session();
 
     [[nodiscard]] const Options& Settings() const { return m_options; }
+    void Set(const std::string& name, const std::string& value);
+
+    [[nodiscard]] HostKind Kind() const { return m_options.host; }
+    [[nodiscard]] HostVersion Version() const { return {m_options.host, m_options.MajorVersion()}; }
+    [[nodiscard]] const HostFacts& Facts() const { return FactsOf(m_options.host); }
+    [[nodiscard]] const HostModel& Model() const { return ModelOf(m_options.host); }
     [[nodiscard]] ApplicationObject& Application() { return *m_application.Get(); }
     [[nodiscard]] CommandBarsObject& CommandBars() { return *m_commandBars.Get(); }
 
-    // Open presentations, the active one first.
+    // Open documents, the active one first. Programs reach only what has a window and is not in Protected View as
+    // active.
     [[nodiscard]] const std::vector<ComPtr<DocumentObject>>& OpenDocuments() const { return m_documents; }
     [[nodiscard]] DocumentObject* Active() const;
+    [[nodiscard]] DocumentObject* Reachable() const;
 
-    // These make the presentation active and tell the add-in so.
+    // These make the document active and tell the add-in so. Display shows a document that MakeNew made.
     DocumentObject& New();
     DocumentObject& Open(const std::wstring& path, bool readOnly);
-    void Activate(DocumentObject& presentation);
+    void Activate(DocumentObject& document);
+    [[nodiscard]] ComPtr<DocumentObject> MakeNew();
+    void Display(DocumentObject& document);
 
-    void Close(DocumentObject& presentation);
+    void Close(DocumentObject& document);
 
-    // Asks the add-in before a presentation is saved; false when it cancels.
-    [[nodiscard]] bool MayBeSaved(DocumentObject& presentation);
+    [[nodiscard]] long WindowsOfNext() const; // how many windows the next document gets
+    [[nodiscard]] ComPtr<IDispatch> WindowList(std::vector<ComPtr<IDispatch>> windows) const;
 
-    // Runs a macro "name" or "presentation!name". Throws AutomationError when there is none or it fails.
+    // Asks the add-in before a document is saved; false when it cancels.
+    [[nodiscard]] bool MayBeSaved(DocumentObject& document);
+
+    // While the user edits a cell: CheckReady throws what most members then fail with, CheckAnswering what even
+    // questions fail with in the busier kinds of editing.
+    [[nodiscard]] bool IsEditing() const;
+    void CheckReady() const;
+    void CheckAnswering() const;
+
+    // Runs a macro "name" or "document!name". Throws AutomationError when there is none or it fails.
     void RunMacro(const std::wstring& name);
     [[nodiscard]] const std::vector<std::wstring>& MacrosRun() const { return m_macrosRun; }
 
@@ -58,8 +88,11 @@ public:
     void Release();
 
 private:
-    void Show(ComPtr<DocumentObject> presentation);
+    void Prepare(Document& document) const;
+    void Show(ComPtr<DocumentObject> document);
     void FireActivate();
+    void Fire(DISPID event, DocumentObject& document);
+    void ShowEditing();
 
     Options m_options;
     int m_lastNumber = 0;

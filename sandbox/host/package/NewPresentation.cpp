@@ -1,65 +1,19 @@
-
-#include "package/OfficePackage.h"
-#include "package/Xml.h"
+#include "package/NewParts.h"
 
 namespace host
 {
 namespace
 {
 
-struct NewPart
-{
-    std::string_view name;
-    std::string_view text;
-};
-
-constexpr std::string_view kTitleMark = "@TITLE@";
-constexpr std::string_view kAuthorMark = "@AUTHOR@";
-constexpr std::string_view kDeclaration = "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n";
-
-// The namespaces of every slide part.
-constexpr std::string_view kSlideNamespaces = "@NS@";
-constexpr std::string_view kSlideNamespacesText =
-    R"(xmlns:a="http://schemas.openxmlformats.org/drawingml/2006/main")"
-    R"( xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships")"
-    R"( xmlns:p="http://schemas.openxmlformats.org/presentationml/2006/main")";
-
-constexpr std::string_view kGroupHead = "@GROUP@";
-constexpr std::string_view kGroupHeadText =
-    R"(<p:nvGrpSpPr><p:cNvPr id="1" name=""/><p:cNvGrpSpPr/><p:nvPr/></p:nvGrpSpPr><p:grpSpPr><a:xfrm>)"
-    R"(<a:off x="0" y="0"/><a:ext cx="0" cy="0"/><a:chOff x="0" y="0"/><a:chExt cx="0" cy="0"/></a:xfrm></p:grpSpPr>)";
-
-constexpr std::string_view kTitleFrame = "@TITLEFRAME@";
-constexpr std::string_view kTitleFrameText =
-    R"(<p:spPr><a:xfrm><a:off x="1524000" y="2130425"/><a:ext cx="9144000" cy="1470025"/></a:xfrm>)"
-    R"(<a:prstGeom prst="rect"><a:avLst/></a:prstGeom></p:spPr>)";
-
-constexpr std::string_view kRelation = "@REL@";
-constexpr std::string_view kRelationText = "http://schemas.openxmlformats.org/officeDocument/2006/relationships";
-constexpr std::string_view kType = "@TYPE@";
-constexpr std::string_view kTypeText = "application/vnd.openxmlformats-officedocument";
-
-constexpr NewPart kParts[] = {
-    {"[Content_Types].xml",
-     R"(<Types xmlns="http://schemas.openxmlformats.org/package/2006/content-types">
-<Default Extension="rels" ContentType="application/vnd.openxmlformats-package.relationships+xml"/>
-<Default Extension="xml" ContentType="application/xml"/>
-<Override PartName="/ppt/presentation.xml" ContentType="@TYPE@.presentationml.presentation.main+xml"/>
-<Override PartName="/ppt/slideMasters/slideMaster1.xml" ContentType="@TYPE@.presentationml.slideMaster+xml"/>
+constexpr std::string_view kTypes =
+    R"(<Override PartName="/ppt/slideMasters/slideMaster1.xml" ContentType="@TYPE@.presentationml.slideMaster+xml"/>
 <Override PartName="/ppt/slideLayouts/slideLayout1.xml" ContentType="@TYPE@.presentationml.slideLayout+xml"/>
 <Override PartName="/ppt/slides/slide1.xml" ContentType="@TYPE@.presentationml.slide+xml"/>
 <Override PartName="/ppt/theme/theme1.xml" ContentType="@TYPE@.theme+xml"/>
 <Override PartName="/ppt/presProps.xml" ContentType="@TYPE@.presentationml.presProps+xml"/>
-<Override PartName="/docProps/core.xml" ContentType="application/vnd.openxmlformats-package.core-properties+xml"/>
-<Override PartName="/docProps/app.xml" ContentType="@TYPE@.extended-properties+xml"/>
-</Types>)"},
-    {"_rels/.rels",
-     R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">
-<Relationship Id="rId1" Type="@REL@/officeDocument" Target="ppt/presentation.xml"/>
-<Relationship Id="rId2" Type="http://schemas.openxmlformats.org/package/2006/relationships/metadata/core-properties" )"
-     R"(Target="docProps/core.xml"/>
-<Relationship Id="rId3" Type="@REL@/extended-properties" Target="docProps/app.xml"/>
-</Relationships>)"},
+)";
+
+constexpr NewPart kParts[] = {
     {"ppt/presentation.xml",
      R"(<p:presentation @NS@><p:sldMasterIdLst><p:sldMasterId id="2147483648" r:id="rId1"/></p:sldMasterIdLst>)"
      R"(<p:sldIdLst><p:sldId id="256" r:id="rId2"/></p:sldIdLst><p:sldSz cx="12192000" cy="6858000"/>)"
@@ -118,58 +72,12 @@ constexpr NewPart kParts[] = {
      R"(</a:fontScheme><a:fmtScheme name="Plain"><a:fillStyleLst>@FILL@</a:fillStyleLst><a:lnStyleLst>@LINE@)"
      R"(</a:lnStyleLst><a:effectStyleLst>@EFFECT@</a:effectStyleLst><a:bgFillStyleLst>@FILL@</a:bgFillStyleLst>)"
      R"(</a:fmtScheme></a:themeElements></a:theme>)"},
-    {"docProps/core.xml",
-     R"(<cp:coreProperties xmlns:cp="http://schemas.openxmlformats.org/package/2006/metadata/core-properties" )"
-     R"(xmlns:dc="http://purl.org/dc/elements/1.1/"><dc:title>@TITLE@</dc:title><dc:creator>@AUTHOR@</dc:creator>)"
-     R"(<cp:lastModifiedBy>@AUTHOR@</cp:lastModifiedBy></cp:coreProperties>)"},
-    {"docProps/app.xml",
-     R"(<Properties xmlns="http://schemas.openxmlformats.org/officeDocument/2006/extended-properties">)"
-     R"(<Slides>1</Slides></Properties>)"},
 };
 
-// A format scheme holds three of each style: subtle, moderate, intense.
-constexpr std::string_view kFill = R"(<a:solidFill><a:schemeClr val="phClr"/></a:solidFill>)";
-constexpr std::string_view kLine = R"(<a:ln w="9525"><a:solidFill><a:schemeClr val="phClr"/></a:solidFill></a:ln>)";
-constexpr std::string_view kEffect = R"(<a:effectStyle><a:effectLst/></a:effectStyle>)";
-
-std::string Thrice(std::string_view text)
-{
-    std::string out;
-    for (int i = 0; i < 3; ++i)
-        out += text;
-    return out;
-}
-
-void ReplaceAll(std::string& text, std::string_view mark, std::string_view by)
-{
-    for (std::size_t at = text.find(mark); at != std::string::npos; at = text.find(mark, at + by.size()))
-        text.replace(at, mark.size(), by);
-}
+constexpr NewPackage kPackage{"ppt/presentation.xml", kTypes, kParts};
 
 } // namespace
 
-Zip NewPresentationParts(std::string_view title, std::string_view author)
-{
-    const std::pair<std::string_view, std::string> marks[] = {
-        {kSlideNamespaces, std::string{kSlideNamespacesText}},
-        {kGroupHead, std::string{kGroupHeadText}},
-        {kTitleFrame, std::string{kTitleFrameText}},
-        {kRelation, std::string{kRelationText}},
-        {kType, std::string{kTypeText}},
-        {"@FILL@", Thrice(kFill)},
-        {"@LINE@", Thrice(kLine)},
-        {"@EFFECT@", Thrice(kEffect)},
-        {kTitleMark, EscapeXml(title)},
-        {kAuthorMark, EscapeXml(author)},
-    };
-    Zip zip;
-    for (const NewPart& part : kParts) {
-        std::string text{part.text};
-        for (const auto& [mark, by] : marks)
-            ReplaceAll(text, mark, by);
-        zip.Set(part.name, std::string{kDeclaration} + text);
-    }
-    return zip;
-}
+const NewPackage& NewPresentation() { return kPackage; }
 
 } // namespace host

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "package/NewParts.h"
 #include "package/Xml.h"
 
 namespace host
@@ -16,27 +17,6 @@ constexpr std::string_view kCustomPart = "docProps/custom.xml";
 constexpr std::string_view kCustomType = "application/vnd.openxmlformats-officedocument.custom-properties+xml";
 constexpr std::string_view kCustomRelation =
     "http://schemas.openxmlformats.org/officeDocument/2006/relationships/custom-properties";
-
-std::string_view MainContentType(PackageKind kind)
-{
-    switch (kind) {
-    case PackageKind::MacroPresentation:
-        return "application/vnd.ms-powerpoint.presentation.macroEnabled.main+xml";
-    case PackageKind::Template:
-        return "application/vnd.openxmlformats-officedocument.presentationml.template.main+xml";
-    case PackageKind::MacroTemplate:
-        return "application/vnd.ms-powerpoint.template.macroEnabled.main+xml";
-    case PackageKind::Show:
-        return "application/vnd.openxmlformats-officedocument.presentationml.slideshow.main+xml";
-    case PackageKind::MacroShow:
-        return "application/vnd.ms-powerpoint.slideshow.macroEnabled.main+xml";
-    case PackageKind::AddIn:
-        return "application/vnd.ms-powerpoint.addin.macroEnabled.main+xml";
-    case PackageKind::Presentation:
-        break;
-    }
-    return "application/vnd.openxmlformats-officedocument.presentationml.presentation.main+xml";
-}
 
 // Relationship targets are relative to the package's root or begin with "/".
 std::string PartName(std::string_view target)
@@ -71,16 +51,16 @@ const XmlElement* FindTitleShape(const XmlElement& element)
 
 } // namespace
 
-OfficePackage OfficePackage::New(std::string_view title, std::string_view author)
+OfficePackage OfficePackage::New(HostKind host, std::string_view title, std::string_view author)
 {
-    return OfficePackage{NewPresentationParts(title, author)};
+    return OfficePackage{NewPackageParts(host, title, author)};
 }
 
 OfficePackage OfficePackage::Parse(std::string_view bytes)
 {
     OfficePackage package{Zip::Parse(bytes)};
     if (!package.m_zip.Find(kContentTypes) || package.PartOfRelation("/officeDocument").empty())
-        throw std::runtime_error{"the archive is not a presentation"};
+        throw std::runtime_error{"the archive is not a document of Office"};
     return package;
 }
 
@@ -137,10 +117,16 @@ std::string OfficePackage::SlideTitle() const
     return title;
 }
 
-void OfficePackage::SetKind(PackageKind kind)
+std::string OfficePackage::MainType() const
 {
-    SetContentType(PartOfRelation("/officeDocument"), MainContentType(kind));
+    std::string part{'/'};
+    part += PartOfRelation("/officeDocument");
+    for (const XmlElement& entry : ParseXml(*m_zip.Find(kContentTypes)).children)
+        if (entry.Attribute("PartName") == part) return entry.Attribute("ContentType");
+    return {};
 }
+
+void OfficePackage::SetMainType(std::string_view type) { SetContentType(PartOfRelation("/officeDocument"), type); }
 
 std::string OfficePackage::PartOfRelation(std::string_view typeEnd) const
 {

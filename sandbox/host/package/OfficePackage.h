@@ -4,32 +4,21 @@
 #include <string_view>
 #include <vector>
 
+#include "app/HostFacts.h"
 #include "package/CustomProperty.h"
 #include "package/Zip.h"
 
 namespace host
 {
 
-// What the main part of a presentation package declares itself to be.
-enum class PackageKind
-{
-    Presentation,
-    MacroPresentation,
-    Template,
-    MacroTemplate,
-    Show,
-    MacroShow,
-    AddIn,
-};
-
-// A presentation in the package format. Parts that it does not understand stay as they were read.
+// A document in the Open XML package format. Parts that it does not understand stay as they were read.
 class OfficePackage
 {
 public:
-    // A presentation of one title slide.
-    static OfficePackage New(std::string_view title, std::string_view author);
+    // The smallest package of this host: a title slide, a paragraph, a sheet.
+    static OfficePackage New(HostKind host, std::string_view title, std::string_view author);
 
-    // Throws std::runtime_error when the bytes are no presentation package.
+    // Throws std::runtime_error when the bytes are no such package.
     static OfficePackage Parse(std::string_view bytes);
 
     [[nodiscard]] std::string Write() const { return m_zip.Write(); }
@@ -44,7 +33,9 @@ public:
     // The text of the first slide's title, or an empty text.
     [[nodiscard]] std::string SlideTitle() const;
 
-    void SetKind(PackageKind kind);
+    // What the main part declares the package to be, as "...presentationml.template.main+xml".
+    [[nodiscard]] std::string MainType() const;
+    void SetMainType(std::string_view type);
 
     [[nodiscard]] const Zip& Parts() const { return m_zip; }
 
@@ -57,8 +48,5 @@ private:
 
     Zip m_zip;
 };
-
-// The parts of the smallest presentation: one title slide with its layout, master and theme.
-[[nodiscard]] Zip NewPresentationParts(std::string_view title, std::string_view author);
 
 } // namespace host

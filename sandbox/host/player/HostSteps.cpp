@@ -77,7 +77,8 @@ void Player::Save(const Step&)
 
 void Player::SaveAs(const Step& step)
 {
-    const long type = step.words.size() > 1 ? std::stol(step.At(1)) : kSaveAsDefault;
+    std::optional<long> type;
+    if (step.words.size() > 1) type = std::stol(step.At(1));
     OnUi([this, type, path = Widen(step.At(0))] { ActiveOf(m_host).SaveAs(path, type); });
 }
 

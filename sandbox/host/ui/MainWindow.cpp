@@ -13,10 +13,11 @@ namespace
 {
 
 constexpr wchar_t kClassName[] = L"CorvaneHostWindow";
-constexpr wchar_t kProductName[] = L"PowerPoint (stand-in)";
 constexpr int kRibbonVersion = 12;
 constexpr int kBackstageVersion = 14;
 constexpr WORD kIconId = 1;
+
+std::wstring ProductName(Host& host) { return std::wstring{host.Documents().Facts().product} + L" (stand-in)"; }
 
 void RegisterWindowClass(WNDPROC procedure)
 {
@@ -39,9 +40,9 @@ MainWindow::MainWindow(Host& host) : m_host{host}, m_menus{host}
     RECT work{};
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
     const int margin = m_theme.Scale(16);
-    ::CreateWindowExW(0, kClassName, kProductName, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, work.left + margin,
-                      work.top + margin, work.right - work.left - 2 * margin, work.bottom - work.top - 2 * margin,
-                      nullptr, nullptr, ::GetModuleHandleW(nullptr), this);
+    ::CreateWindowExW(0, kClassName, ProductName(host).c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
+                      work.left + margin, work.top + margin, work.right - work.left - 2 * margin,
+                      work.bottom - work.top - 2 * margin, nullptr, nullptr, ::GetModuleHandleW(nullptr), this);
 }
 
 MainWindow::~MainWindow()
@@ -59,7 +60,8 @@ void MainWindow::Show()
 void MainWindow::Refresh()
 {
     DocumentObject* active = m_host.Documents().Active();
-    const std::wstring title = active ? active->File().Name() + L" - " + kProductName : kProductName;
+    const std::wstring product = ProductName(m_host);
+    const std::wstring title = active ? active->File().Name() + L" - " + product : product;
     ::SetWindowTextW(m_window, title.c_str());
     if (m_host.Version() < kRibbonVersion) RebuildMenuBar();
     Layout();

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "objects/Session.h"
+
 namespace host
 {
 namespace
@@ -42,27 +44,27 @@ std::wstring StateText(Document& file)
     return state;
 }
 
-void PaintStatus(HDC dc, const RECT& box, const Theme& theme, DocumentObject* presentation)
+void PaintStatus(HDC dc, const RECT& box, const Theme& theme, DocumentObject* document)
 {
     Fill(dc, box, kStrip);
     Fill(dc, {box.left, box.top, box.right, box.top + 1}, kLine);
     RECT text{box.left + theme.Scale(12), box.top, box.right - theme.Scale(12), box.bottom};
-    if (!presentation) return Write(dc, text, L"No presentation is open", theme.Normal(), kSoftText, kLeft);
-    Write(dc, text, L"Slide 1 of 1", theme.Normal(), kSoftText, kLeft);
+    if (!document) return Write(dc, text, L"Nothing is open", theme.Normal(), kSoftText, kLeft);
+    Write(dc, text, document->Owner().Facts().status, theme.Normal(), kSoftText, kLeft);
     text.left += theme.Scale(kThumbnailsWidth);
-    Write(dc, text, StateText(presentation->File()), theme.Normal(), kSoftText, kLeft);
+    Write(dc, text, StateText(document->File()), theme.Normal(), kSoftText, kLeft);
 }
 
 } // namespace
 
-void PaintSlideArea(HDC dc, const RECT& area, const Theme& theme, DocumentObject* presentation)
+void PaintSlideArea(HDC dc, const RECT& area, const Theme& theme, DocumentObject* document)
 {
     Fill(dc, area, kDesk);
     const RECT status{area.left, area.bottom - theme.Scale(kStatusHeight), area.right, area.bottom};
-    PaintStatus(dc, status, theme, presentation);
-    if (!presentation) return;
+    PaintStatus(dc, status, theme, document);
+    if (!document) return;
 
-    const std::wstring title = presentation->File().SlideTitle();
+    const std::wstring title = document->File().Title();
     const RECT pane{area.left, area.top, area.left + theme.Scale(kThumbnailsWidth), status.top};
     Fill(dc, pane, kStrip);
     Fill(dc, {pane.right - 1, pane.top, pane.right, pane.bottom}, kLine);

@@ -6,8 +6,8 @@
 namespace host
 {
 
-// Draws the active presentation into the area: a thumbnail, its title slide and a line on its state. Null: none is
+// Draws the active document into the area: a thumbnail, its title slide and a line on its state. Null: none is
 // open.
-void PaintSlideArea(HDC dc, const RECT& area, const Theme& theme, DocumentObject* presentation);
+void PaintSlideArea(HDC dc, const RECT& area, const Theme& theme, DocumentObject* document);
 
 } // namespace host

@@ -1,0 +1,100 @@
+#include "app/HostFacts.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace host
+{
+namespace
+{
+
+using namespace std::string_view_literals;
+
+constexpr int kEveryVersion = 99;
+
+constexpr HostFacts kHosts[] = {
+    {.kind = HostKind::PowerPoint,
+     .option = L"powerpoint",
+     .name = L"Microsoft PowerPoint",
+     .product = L"PowerPoint",
+     .source = L"Microsoft PowerPoint",
+     .registryName = L"PowerPoint",
+     .ribbonId = L"Microsoft.PowerPoint.Presentation",
+     .noun = L"presentation",
+     .newName = L"Presentation",
+     .numbersNew = true,
+     .menuBar = L"Menu Bar",
+     .versionEnd = L"",
+     .status = L"Slide 1 of 1",
+     .fileTypes = L"Presentations\0*.pptx;*.pptm;*.ppsx;*.ppt\0All files\0*.*\0"sv,
+     .pathLimit = 259,
+     .lastMarkingVersion = kEveryVersion,
+     .savesOnlyChanges = false,
+     .asksForName = false},
+    {.kind = HostKind::Word,
+     .option = L"word",
+     .name = L"Microsoft Word",
+     .product = L"Word",
+     .source = L"Microsoft Word",
+     .registryName = L"Word",
+     .ribbonId = L"Microsoft.Word.Document",
+     .noun = L"document",
+     .newName = L"Document",
+     .numbersNew = true,
+     .menuBar = L"Menu Bar",
+     .versionEnd = L"",
+     .status = L"Page 1 of 1",
+     .fileTypes = L"Documents\0*.docx;*.docm;*.dotx;*.doc\0All files\0*.*\0"sv,
+     .pathLimit = 259,
+     .lastMarkingVersion = 0,
+     .savesOnlyChanges = true,
+     .asksForName = true},
+    {.kind = HostKind::Excel,
+     .option = L"excel",
+     .name = L"Microsoft Excel",
+     .product = L"Excel",
+     .source = L"Microsoft Excel",
+     .registryName = L"Excel",
+     .ribbonId = L"Microsoft.Excel.Workbook",
+     .noun = L"workbook",
+     .newName = L"Book",
+     .numbersNew = true,
+     .menuBar = L"Worksheet Menu Bar",
+     .versionEnd = L"",
+     .status = L"Sheet1",
+     .fileTypes = L"Workbooks\0*.xlsx;*.xlsm;*.xlsb;*.xls\0All files\0*.*\0"sv,
+     .pathLimit = 218,
+     .lastMarkingVersion = 11,
+     .savesOnlyChanges = true,
+     .asksForName = false},
+    {.kind = HostKind::Outlook,
+     .option = L"outlook",
+     .name = L"Outlook",
+     .product = L"Outlook",
+     .source = L"Microsoft Outlook",
+     .registryName = L"Outlook",
+     .ribbonId = L"Microsoft.Outlook.Mail.Compose",
+     .noun = L"item",
+     .newName = L"Untitled",
+     .numbersNew = false,
+     .menuBar = L"Menu Bar",
+     .versionEnd = L".0.4266",
+     .status = L"Message",
+     .fileTypes = L"Messages\0*.msg\0All files\0*.*\0"sv,
+     .pathLimit = 259,
+     .lastMarkingVersion = 0,
+     .savesOnlyChanges = false,
+     .asksForName = true},
+};
+
+} // namespace
+
+const HostFacts& FactsOf(HostKind kind) { return *std::ranges::find(kHosts, kind, &HostFacts::kind); }
+
+const HostFacts* FindHost(std::wstring_view option)
+{
+    const auto found = std::ranges::find(kHosts, option, &HostFacts::option);
+    return found == std::end(kHosts) ? nullptr : &*found;
+}
+
+} // namespace host

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "objects/DocumentObject.h"
+
+namespace host
+{
+
+// A window that shows a document, or a mail item's inspector.
+class DocumentWindowObject final : public AutomationObject<IDispatch>
+{
+public:
+    explicit DocumentWindowObject(DocumentObject* document, long number = 1);
+
+    [[nodiscard]] std::span<const Member> Members() const override;
+
+    // The answers of the member tables.
+    Value GetCaption(const Arguments&);
+    Value GetDocument(const Arguments&);
+    Value GetActive(const Arguments&);
+    Value GetActiveState(const Arguments&);
+    Value GetCommandBars(const Arguments&);
+    Value DoActivate(const Arguments&);
+
+private:
+    [[nodiscard]] bool IsActive() const;
+
+    ComPtr<DocumentObject> m_document;
+    long m_number; // 1 for the first window of the document
+};
+
+} // namespace host

@@ -1,0 +1,116 @@
+#include "package/NewParts.h"
+
+#include "package/Xml.h"
+
+namespace host
+{
+namespace
+{
+
+constexpr std::string_view kDeclaration = "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n";
+
+constexpr NewPart kCommonParts[] = {
+    {"[Content_Types].xml",
+     R"(<Types xmlns="http://schemas.openxmlformats.org/package/2006/content-types">
+<Default Extension="rels" ContentType="application/vnd.openxmlformats-package.relationships+xml"/>
+<Default Extension="xml" ContentType="application/xml"/>
+@TYPES@<Override PartName="/docProps/core.xml" ContentType="application/vnd.openxmlformats-package.core-properties+xml"/>
+<Override PartName="/docProps/app.xml" ContentType="@TYPE@.extended-properties+xml"/>
+</Types>)"},
+    {"_rels/.rels",
+     R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">
+<Relationship Id="rId1" Type="@REL@/officeDocument" Target="@MAIN@"/>
+<Relationship Id="rId2" Type="http://schemas.openxmlformats.org/package/2006/relationships/metadata/core-properties" )"
+     R"(Target="docProps/core.xml"/>
+<Relationship Id="rId3" Type="@REL@/extended-properties" Target="docProps/app.xml"/>
+</Relationships>)"},
+};
+
+constexpr NewPart kPropertyParts[] = {
+    {"docProps/core.xml",
+     R"(<cp:coreProperties xmlns:cp="http://schemas.openxmlformats.org/package/2006/metadata/core-properties" )"
+     R"(xmlns:dc="http://purl.org/dc/elements/1.1/"><dc:title>@TITLE@</dc:title><dc:creator>@AUTHOR@</dc:creator>)"
+     R"(<cp:lastModifiedBy>@AUTHOR@</cp:lastModifiedBy></cp:coreProperties>)"},
+    {"docProps/app.xml",
+     R"(<Properties xmlns="http://schemas.openxmlformats.org/officeDocument/2006/extended-properties"/>)"},
+};
+
+// The namespaces of every slide part.
+constexpr std::string_view kSlideNamespaces =
+    R"(xmlns:a="http://schemas.openxmlformats.org/drawingml/2006/main")"
+    R"( xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships")"
+    R"( xmlns:p="http://schemas.openxmlformats.org/presentationml/2006/main")";
+
+constexpr std::string_view kGroupHead =
+    R"(<p:nvGrpSpPr><p:cNvPr id="1" name=""/><p:cNvGrpSpPr/><p:nvPr/></p:nvGrpSpPr><p:grpSpPr><a:xfrm>)"
+    R"(<a:off x="0" y="0"/><a:ext cx="0" cy="0"/><a:chOff x="0" y="0"/><a:chExt cx="0" cy="0"/></a:xfrm></p:grpSpPr>)";
+
+constexpr std::string_view kTitleFrame =
+    R"(<p:spPr><a:xfrm><a:off x="1524000" y="2130425"/><a:ext cx="9144000" cy="1470025"/></a:xfrm>)"
+    R"(<a:prstGeom prst="rect"><a:avLst/></a:prstGeom></p:spPr>)";
+
+// A format scheme holds three of each style: subtle, moderate, intense.
+constexpr std::string_view kFill = R"(<a:solidFill><a:schemeClr val="phClr"/></a:solidFill>)";
+constexpr std::string_view kLine = R"(<a:ln w="9525"><a:solidFill><a:schemeClr val="phClr"/></a:solidFill></a:ln>)";
+constexpr std::string_view kEffect = R"(<a:effectStyle><a:effectLst/></a:effectStyle>)";
+
+std::string Thrice(std::string_view text)
+{
+    std::string out;
+    for (int i = 0; i < 3; ++i)
+        out += text;
+    return out;
+}
+
+void ReplaceAll(std::string& text, std::string_view mark, std::string_view by)
+{
+    for (std::size_t at = text.find(mark); at != std::string::npos; at = text.find(mark, at + by.size()))
+        text.replace(at, mark.size(), by);
+}
+
+const NewPackage& NewPackageOf(HostKind host)
+{
+    switch (host) {
+    case HostKind::Word:
+        return NewTextDocument();
+    case HostKind::Excel:
+        return NewWorkbook();
+    case HostKind::PowerPoint:
+    case HostKind::Outlook:
+        break;
+    }
+    return NewPresentation();
+}
+
+} // namespace
+
+Zip NewPackageParts(HostKind host, std::string_view title, std::string_view author)
+{
+    const NewPackage& own = NewPackageOf(host);
+    const std::pair<std::string_view, std::string> marks[] = {
+        {"@TYPES@", std::string{own.types}},
+        {"@MAIN@", std::string{own.mainPart}},
+        {"@NS@", std::string{kSlideNamespaces}},
+        {"@GROUP@", std::string{kGroupHead}},
+        {"@TITLEFRAME@", std::string{kTitleFrame}},
+        {"@REL@", "http://schemas.openxmlformats.org/officeDocument/2006/relationships"},
+        {"@TYPE@", "application/vnd.openxmlformats-officedocument"},
+        {"@FILL@", Thrice(kFill)},
+        {"@LINE@", Thrice(kLine)},
+        {"@EFFECT@", Thrice(kEffect)},
+        {"@TITLE@", EscapeXml(title)},
+        {"@AUTHOR@", EscapeXml(author)},
+    };
+    Zip zip;
+    for (const std::span<const NewPart> parts :
+         {std::span<const NewPart>{kCommonParts}, own.parts, std::span<const NewPart>{kPropertyParts}})
+        for (const NewPart& part : parts) {
+            std::string text{part.text};
+            for (const auto& [mark, by] : marks)
+                ReplaceAll(text, mark, by);
+            zip.Set(part.name, std::string{kDeclaration} + text);
+        }
+    return zip;
+}
+
+} // namespace host
