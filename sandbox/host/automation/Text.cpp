@@ -32,4 +32,11 @@ std::string Narrow(std::wstring_view text) { return Encode(CP_UTF8, text); }
 std::wstring FromCodePage(std::string_view text) { return Decode(CP_ACP, text); }
 std::string ToCodePage(std::wstring_view text) { return Encode(CP_ACP, text); }
 
+std::wstring WithoutMark(std::wstring caption)
+{
+    for (std::size_t at = caption.find(L'&'); at != std::wstring::npos; at = caption.find(L'&', at + 1))
+        caption.erase(at, 1); // the letter behind it stays, also where it is a second mark
+    return caption;
+}
+
 } // namespace host

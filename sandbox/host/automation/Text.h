@@ -14,4 +14,7 @@ namespace host
 [[nodiscard]] std::wstring FromCodePage(std::string_view text);
 [[nodiscard]] std::string ToCodePage(std::wstring_view text);
 
+// A caption as a user reads it: without the mark of its access key, and one "&" for two.
+[[nodiscard]] std::wstring WithoutMark(std::wstring caption);
+
 } // namespace host

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "automation/OfficeInterfaces.h"
+#include "automation/Text.h"
 #include "objects/Collections.h"
 
 namespace host
@@ -10,40 +11,7 @@ namespace host
 namespace
 {
 
-constexpr std::wstring_view kProductMark = L"%1";
-
-struct BuiltInEntry
-{
-    long id;
-    const wchar_t* caption;
-};
-
-struct BuiltInMenu
-{
-    BuiltInEntry menu;
-    std::vector<BuiltInEntry> entries;
-};
-
-const std::vector<BuiltInMenu>& BuiltInMenus()
-{
-    static const std::vector<BuiltInMenu> kMenus = {
-        {{30002, L"&File"},
-         {{18, L"&New"}, {23, L"&Open..."}, {106, L"&Close"}, {3, L"&Save"}, {748, L"Save &As..."}, {752, L"E&xit"}}},
-        {{30003, L"&Edit"}, {{128, L"&Undo"}}},
-        {{30004, L"&View"}, {{6, L"&Normal"}}},
-        {{30007, L"&Tools"}, {{797, L"&Customize..."}}},
-        {{30010, L"&Help"}, {{984, L"Microsoft %1 &Help"}, {927, L"&About Microsoft %1"}}},
-    };
-    return kMenus;
-}
-
 bool SameText(const std::wstring& a, const std::wstring& b) { return ::lstrcmpiW(a.c_str(), b.c_str()) == 0; }
-
-std::wstring WithoutMark(std::wstring caption)
-{
-    std::erase(caption, L'&');
-    return caption;
-}
 
 } // namespace
 
@@ -65,19 +33,6 @@ std::span<const Member> CommandBarObject::Members() const
         {2, L"FindControl", kMethod, Answer<&CommandBarObject::FindControl>},
     };
     return kMembers;
-}
-
-void CommandBarObject::FillMenuBar(const std::wstring& product)
-{
-    for (const BuiltInMenu& menu : BuiltInMenus()) {
-        CommandBarObject& bar = *Insert(kBarPopup, menu.menu.id, menu.menu.caption, m_entries.size()).Menu();
-        for (const BuiltInEntry& entry : menu.entries) {
-            std::wstring caption = entry.caption;
-            const std::size_t mark = caption.find(kProductMark);
-            if (mark != std::wstring::npos) caption.replace(mark, kProductMark.size(), product);
-            bar.Insert(kBarButton, entry.id, caption, bar.m_entries.size());
-        }
-    }
 }
 
 BarControlObject* CommandBarObject::FindTag(const std::wstring& tag)

@@ -32,6 +32,7 @@ public:
     [[nodiscard]] bool IsVisible() const { return m_visible; }
     [[nodiscard]] CommandBarObject* Menu() { return m_menu.Get(); } // null for a button
 
+    void SetTag(std::wstring tag) { m_tag = std::move(tag); }
     void SetParameter(std::wstring parameter) { m_parameter = std::move(parameter); }
     void SetEnabled(bool enabled) { m_enabled = enabled; }
 
@@ -88,9 +89,6 @@ public:
     ~CommandBarObject() override;
 
     [[nodiscard]] std::span<const Member> Members() const override;
-
-    // Puts in the host's own menus, with the control ids that Office gives them.
-    void FillMenuBar(const std::wstring& product);
 
     [[nodiscard]] const std::vector<ComPtr<BarControlObject>>& Entries() const { return m_entries; }
 

@@ -7,6 +7,7 @@
 #include "automation/Text.h"
 #include "documents/Refusal.h"
 #include "objects/Application.h"
+#include "objects/BuiltInMenus.h"
 #include "objects/Collections.h"
 #include "objects/ComAddIn.h"
 #include "objects/CommandBars.h"
@@ -59,7 +60,7 @@ Session::Session(Options options)
       m_commandBars{MakeObject<CommandBarsObject>(Facts().menuBar)}
 {
     ObjectCore::SetSource(Facts().source);
-    m_commandBars->MenuBar().FillMenuBar(Facts().product);
+    FillMenuBar(m_commandBars->MenuBar(), Facts().product, m_options.Setting("menus"));
     ShowEditing();
 }
 

@@ -1,6 +1,8 @@
+#include <algorithm>
 #include <stdexcept>
 
 #include "automation/Text.h"
+#include "objects/CommandBars.h"
 #include "objects/DocumentObject.h"
 #include "player/Player.h"
 #include "player/Screen.h"
@@ -36,6 +38,23 @@ constexpr StateName kStates[] = {
     {"notdefault", [](HWND form, HWND control, HWND) { return !IsDefaultButton(form, control); }},
 };
 
+// The captions of a menu's entries as lines; nullopt when there is no such menu. The path is that of a menu, as "File".
+std::optional<std::wstring> MenuEntries(CommandBarObject& bar, const std::string& path)
+{
+    CommandBarObject* menu = &bar;
+    for (const std::string& name : SplitTreePath(path)) {
+        const auto& entries = menu->Entries();
+        const auto found = std::ranges::find_if(
+            entries, [&](const auto& entry) { return entry->Menu() && WithoutMark(entry->Caption()) == Widen(name); });
+        if (found == entries.end()) return std::nullopt;
+        menu = (*found)->Menu();
+    }
+    std::wstring captions;
+    for (const auto& entry : menu->Entries())
+        captions += (captions.empty() ? L"" : L"\r\n") + entry->Caption();
+    return captions;
+}
+
 } // namespace
 
 Player::Finding Player::StateFinding(const std::string& control, const std::string& state)
@@ -56,6 +75,7 @@ void Player::Expect(const Step& step)
     if (what == "document") return ExpectDocument(step);
     if (what == "command") return ExpectCommand(step);
     if (what == "icon") return ExpectIcon(step);
+    if (what == "menu") return ExpectMenu(step);
     if (!step.words[1].quoted) return WaitFor([&] { return StateFinding(what, step.At(1)); });
 
     const std::wstring wanted = Widen(step.Lines(1));
@@ -74,6 +94,17 @@ void Player::ExpectCommand(const Step& step)
         OnUi([&] { there = m_host.HasCommand(step.At(1)); });
         return there == (step.At(2) == "present") ? Finding{}
                                                   : std::wstring{there ? L"it is there" : L"it is not there"};
+    });
+}
+
+void Player::ExpectMenu(const Step& step)
+{
+    WaitFor([&, wanted = Widen(step.Lines(2))] {
+        std::optional<std::wstring> entries;
+        OnUi([&] { entries = MenuEntries(m_host.Documents().CommandBars().MenuBar(), step.At(1)); });
+        return entries == wanted ? Finding{}
+               : entries         ? L"it holds " + Quoted(entries)
+                                 : Finding{L"there is no such menu"};
     });
 }
 

@@ -4,6 +4,7 @@
 
 #include <commctrl.h>
 
+#include "automation/Text.h"
 #include "player/Screen.h"
 
 namespace host
@@ -37,12 +38,6 @@ std::optional<std::string> NameOf(HICON icon)
     for (const IconName& row : kIcons)
         if (::LoadIconW(nullptr, row.resource) == icon) return row.name;
     return std::nullopt;
-}
-
-std::wstring WithoutMark(std::wstring text)
-{
-    std::erase(text, L'&');
-    return text;
 }
 
 } // namespace

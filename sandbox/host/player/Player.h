@@ -84,6 +84,7 @@ private:
     void ExpectAddIn(const Step& step);
     void ExpectDocument(const Step& step);
     void ExpectCommand(const Step& step);
+    void ExpectMenu(const Step& step);
     [[nodiscard]] Finding StateFinding(const std::string& control, const std::string& state);
 
     Host& m_host;
