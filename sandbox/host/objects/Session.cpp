@@ -86,8 +86,7 @@ ComPtr<DocumentObject> Session::MakeNew()
 {
     std::wstring name = Widen(m_options.Setting("document.name"));
     if (name.empty()) name = Facts().newName + (Facts().numbersNew ? std::to_wstring(++m_lastNumber) : L"");
-    std::string author = m_options.Setting("author");
-    if (author.empty()) author = "Stand-in User";
+    const std::string author = m_options.settings.contains("author") ? m_options.Setting("author") : "Stand-in User";
     Document document = Document::New(Version(), name, author);
     Prepare(document);
     return MakeObject<DocumentObject>(*this, std::move(document));
