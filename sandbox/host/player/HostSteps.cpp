@@ -4,6 +4,7 @@
 
 #include "automation/PropertyValue.h"
 #include "automation/Text.h"
+#include "documents/Files.h"
 #include "objects/DocumentObject.h"
 #include "player/Player.h"
 #include "player/Screen.h"
@@ -195,17 +196,40 @@ void Player::Mail(const Step& step)
     });
 }
 
-void Player::Shot(const Step& step)
+// The displayed mail as a file that mail programs read.
+void Player::Letter(const Step& step)
+{
+    std::string letter;
+    OnUi([&] {
+        const MailFields* mail = m_host.LastMail();
+        if (!mail) throw std::runtime_error{"no mail is displayed"};
+        for (const auto& [name, value] : *mail)
+            if (name == L"To" || name == L"CC" || name == L"Subject") letter += Narrow(name + L": " + value + L"\r\n");
+        const auto body = mail->find(L"Body");
+        letter +=
+            "MIME-Version: 1.0\r\nContent-Type: text/plain; charset=utf-8\r\nContent-Transfer-Encoding: 8bit\r\n\r\n";
+        if (body != mail->end()) letter += Narrow(body->second);
+    });
+    WriteWholeFile(OutFile(step.At(0) + ".eml"), letter);
+}
+
+std::wstring Player::OutFile(const std::string& name) const
 {
     const std::wstring& folder = m_host.Documents().Settings().outFolder;
-    if (folder.empty()) throw std::runtime_error{"a shot needs --out"};
+    if (folder.empty()) throw std::runtime_error{"this step needs --out"};
+    return folder + L"\\" + Widen(name);
+}
+
+void Player::Shot(const Step& step)
+{
+    const std::wstring file = OutFile(step.At(0) + ".png");
     for (DWORD waited = 0; waited < kPaintPatience && AwaitsPaint(); waited += kPaintPoll)
         ::Sleep(kPaintPoll);
     // Painted surfaces reach the screen when their thread waits for messages again. A busy thread is shown as it is.
     for (int i = 0; i < 3; ++i)
         if (!m_host.Queue().Run([] { ::GdiFlush(); }, std::chrono::seconds{1})) break;
     ::Sleep(kPaintPoll);
-    SaveScreenshot(folder + L"\\" + Widen(step.At(0)) + L".png");
+    SaveScreenshot(file);
 }
 
 } // namespace host

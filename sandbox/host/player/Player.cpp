@@ -74,6 +74,7 @@ void Player::Perform(const Step& step)
         {"ran", &Player::Ran},
         {"file", &Player::File},
         {"mail", &Player::Mail},
+        {"letter", &Player::Letter},
         {"shot", &Player::Shot},
         {"window", &Player::Window},
         {"closed", &Player::Closed},

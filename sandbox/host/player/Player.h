@@ -53,9 +53,11 @@ private:
     void Ran(const Step& step);
     void File(const Step& step);
     void Mail(const Step& step);
+    void Letter(const Step& step);
     void Shot(const Step& step);
     void WaitUntilLoaded();
     void StartCommand(std::function<void()> command);
+    [[nodiscard]] std::wstring OutFile(const std::string& name) const;
     [[nodiscard]] Finding PropertyFinding(const std::wstring& name, const std::wstring& wanted);
 
     // Steps on windows.
