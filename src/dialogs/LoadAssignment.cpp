@@ -7,6 +7,8 @@
 #include "support/Conversions.h"
 #include "webservice/WebService.h"
 
+#include <algorithm>
+
 namespace corvane
 {
 namespace
@@ -167,29 +169,31 @@ void frmSaveAssignment::ShowActivityRow(bool shown)
 {
     if (shown == m_activityRowShown) return;
     m_activityRowShown = shown;
-    const RECT row = ControlPlace(Control(txtActivity));
-    const int rowHeight = row.top - ControlPlace(Control(txtDeliverable)).top;
-    const int step = shown ? rowHeight : -rowHeight;
-    const int below = ControlPlace(Control(VersionDetailsFrame)).top;
     for (const int control : {txtActivity, lblActivity})
         Show(control, shown);
-    GrowControl(Control(SaveToFrame), step);
-    ShiftBelow(Window(), below, step);
-    GrowForm(Window(), step);
+    ChangeLayout([this] {
+        const int row = ControlPlace(Control(txtActivity)).top - ControlPlace(Control(txtDeliverable)).top;
+        const int step = m_activityRowShown ? row : -row;
+        const int below = ControlPlace(Control(VersionDetailsFrame)).top;
+        Grow(Control(SaveToFrame), step);
+        ShiftBelow(Window(), below, step);
+        Grow(Window(), step);
+        StretchNotes();
+    });
+}
 
-    // Without the row the form has a height of its own; the notes take up the difference.
-    if (!shown) {
-        RECT form{};
-        ::GetWindowRect(Window(), &form);
-        m_stretch = PixelsOfTwips(kHeightWithoutActivity) - (form.bottom - form.top);
+// Without the activity's row the form has a height of its own; the notes take up the difference, down to one line.
+void frmSaveAssignment::StretchNotes()
+{
+    if (!m_activityRowShown) {
+        const int least = HeightOf(Control(txtAuthor)) - HeightOf(Control(txtNotes));
+        m_stretch = std::max(PixelsOfTwips(kHeightWithoutActivity) - HeightOf(Window()), least);
     }
-    const int stretch = shown ? -m_stretch : m_stretch;
+    const int stretch = m_activityRowShown ? -m_stretch : m_stretch;
     ShiftBelow(Window(), ControlPlace(Control(txtNotes)).bottom, stretch);
     for (const int control : {AssignmentDetailsFrame, txtNotes})
-        GrowControl(Control(control), stretch);
-    GrowForm(Window(), stretch);
-    ::SendMessageW(Control(StatusBar1), WM_SIZE, 0, 0);
-    ::RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        Grow(Control(control), stretch);
+    Grow(Window(), stretch);
 }
 
 } // namespace corvane

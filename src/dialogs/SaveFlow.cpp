@@ -24,12 +24,16 @@ bool SaveDialog::Save()
     if (start == SaveStart::Hide) Hide();
     if (start != SaveStart::Go) return false;
     bool saved = false;
+    const int focused = FocusedControl();
     const auto failure = Catch([&] { saved = UploadAndRecord(); });
     if (failure) ShowError(*failure);
     SetStatus(StatusBar1, L"Ready");
     SetControlsEnabled(true);
     SetHourglass(false);
-    if (saved) Hide();
+    if (saved)
+        Hide();
+    else
+        SetFocusTo(focused);
     return saved;
 }
 

@@ -38,6 +38,7 @@ private:
     [[nodiscard]] bool HasManageAccess() const;
     void Allow();
     void ShowActivityRow(bool shown);
+    void StretchNotes();
     void GetLatestVersionInfo(NotificationFacts& facts) const;
 
     UploadFacts m_facts;

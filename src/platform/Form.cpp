@@ -50,6 +50,7 @@ void Form::CreateWindowFromTemplate(HWND owner)
 {
     OpenForms().reserve(OpenForms().size() + 1);
     m_window = CreateFormWindow(m_name, m_templateId, owner, &Form::DialogProcedure, reinterpret_cast<LPARAM>(this));
+    m_tips = FormTips{m_window};
     AddDialogWindow(m_window);
     OpenForms().push_back(this);
 }
@@ -69,9 +70,25 @@ void Form::ShowModal()
     Load();
     const HWND owner = ::GetWindow(m_window, GW_OWNER);
     if (owner != nullptr && !::EnableWindow(owner, FALSE)) m_disabledOwner = owner;
-    CentreOnOwner(m_window);
+    m_focusBefore = ::GetFocus();
+    FitToScreen();
     SetShown(true);
     if (PumpUntil([this] { return !m_shown; }) == WaitEnd::Quit) Hide();
+}
+
+void Form::FitToScreen() noexcept
+{
+    m_scroll.Undo(m_window);
+    m_scroll.Cut(m_window, MoveOntoScreen(m_window, m_shown ? FormPlace::Own : FormPlace::OwnersMiddle));
+}
+
+void Form::ChangeLayout(const std::function<void()>& change)
+{
+    m_scroll.Undo(m_window);
+    change();
+    m_tips.FollowControls();
+    FitToScreen();
+    ::RedrawWindow(m_window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void Form::SetShown(bool shown) noexcept
@@ -80,16 +97,28 @@ void Form::SetShown(bool shown) noexcept
     ::ShowWindow(m_window, shown ? SW_SHOW : SW_HIDE);
     if (!shown) return;
     ::SetForegroundWindow(m_window);
+    // Activation went to the first control in tab order and selected its text; a long one would show its end.
+    ::SendMessageW(::GetFocus(), EM_SETSEL, 0, 0);
+    ::SendMessageW(::GetFocus(), EM_SCROLLCARET, 0, 0);
     const HWND first = Control(FirstControl());
-    ::SetFocus(::IsWindowEnabled(first) ? first : ::GetNextDlgTabItem(m_window, nullptr, FALSE));
+    const HWND focus = ::IsWindowEnabled(first) ? first : ::GetNextDlgTabItem(m_window, nullptr, FALSE);
+    if (focus != nullptr) SetFocusTo(::GetDlgCtrlID(focus));
+}
+
+void Form::GiveFocusBack() noexcept
+{
+    const HWND focus = std::exchange(m_focusBefore, nullptr);
+    if (::IsWindowVisible(focus) && ::IsWindowEnabled(::GetAncestor(focus, GA_ROOT))) ::SetFocus(focus);
 }
 
 void Form::Hide() noexcept
 {
     if (!m_shown) return;
+    const bool isActive = ::GetActiveWindow() == m_window;
     // The owner comes back to life first, so that it, and not another program, gets the focus.
     if (m_disabledOwner != nullptr) ::EnableWindow(std::exchange(m_disabledOwner, nullptr), TRUE);
     SetShown(false);
+    if (isActive) GiveFocusBack();
 }
 
 void Form::Unload() noexcept
@@ -98,6 +127,7 @@ void Form::Unload() noexcept
     Hide();
     Run(L"Form_Unload", &Form::Form_Unload);
     TakeOut(this);
+    m_tips.TakeAllBack();
     RemoveDialogWindow(m_window);
     ::DestroyWindow(std::exchange(m_window, nullptr));
     ForgetFormClass(m_name);
@@ -123,6 +153,7 @@ INT_PTR CALLBACK Form::DialogProcedure(HWND window, UINT message, WPARAM wParam,
 
 INT_PTR Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept
 {
+    if (m_scroll.OnMessage(m_window, message, wParam)) return TRUE;
     switch (message) {
     case WM_COMMAND:
         return OnNotification(LOWORD(wParam), HIWORD(wParam)) ? TRUE : FALSE;

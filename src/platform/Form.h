@@ -2,8 +2,12 @@
 // everything the system calls it with. It knows no particular form.
 #pragma once
 
+#include "platform/FormScroll.h"
+#include "platform/FormTips.h"
+
 #include <windows.h>
 
+#include <functional>
 #include <span>
 #include <string>
 
@@ -42,7 +46,8 @@ public:
     // Throws Error when the window cannot be made; an error of Form_Load is reported and the form stays.
     void Load();
 
-    // Loads the form if need be, shows it centred on its owner and returns when it is hidden or unloaded.
+    // Loads the form if need be, shows it in front of its owner and centred on it, and returns when it is hidden or
+    // unloaded. The control that had the keyboard before then has it again.
     void ShowModal();
     void Hide() noexcept;
     void Unload() noexcept;
@@ -73,11 +78,16 @@ protected:
 
     [[nodiscard]] HWND Control(int control) const noexcept { return ::GetDlgItem(m_window, control); }
     [[nodiscard]] std::wstring Text(int control) const;
-    void SetText(int control, const std::wstring& text) const noexcept;
+    // A text that its control cannot show whole ends in an ellipsis and has a tooltip.
+    void SetText(int control, const std::wstring& text) const;
     void SetCaption(const std::wstring& text) const noexcept;
     [[nodiscard]] std::wstring Caption() const;
     void Enable(int control, bool enabled) const noexcept;
     void SetFocusTo(int control) const noexcept;
+    // The control that has the keyboard; 0 for none of the form's.
+    [[nodiscard]] int FocusedControl() const noexcept;
+    // Gives a control the place behind a label, and with it the label's text as its name for screen readers.
+    void PutBehindLabel(int control, int label) const noexcept;
     [[nodiscard]] bool IsShown(int control) const noexcept;
     void Show(int control, bool shown) const noexcept;
     [[nodiscard]] bool IsChecked(int control) const noexcept;
@@ -91,6 +101,8 @@ protected:
     // The hourglass over the form, or the usual pointer.
     void SetHourglass(bool on) noexcept;
     void StartTimer(UINT milliseconds) const noexcept;
+    // Moves controls by change, which sees the form in its whole size, and fits the form to the screen again.
+    void ChangeLayout(const std::function<void()>& change);
 
 private:
     static INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
@@ -99,11 +111,16 @@ private:
     void Run(const wchar_t* procedure, void (Form::*run)()) noexcept;
     void CreateWindowFromTemplate(HWND owner);
     void SetShown(bool shown) noexcept;
+    void FitToScreen() noexcept;
+    void GiveFocusBack() noexcept;
 
     const wchar_t* m_name;
     int m_templateId;
     HWND m_window = nullptr;
     HWND m_disabledOwner = nullptr;
+    HWND m_focusBefore = nullptr; // had the keyboard when the form was shown
+    FormTips m_tips;
+    FormScroll m_scroll;
     bool m_shown = false;
     bool m_hourglass = false;
 };

@@ -33,10 +33,7 @@ LRESULT CALLBACK SelectAllProcedure(HWND window, UINT message, WPARAM wParam, LP
 
 std::wstring Form::Text(int control) const { return TextOf(Control(control)); }
 
-void Form::SetText(int control, const std::wstring& text) const noexcept
-{
-    ::SetWindowTextW(Control(control), text.c_str());
-}
+void Form::SetText(int control, const std::wstring& text) const { m_tips.SetText(Control(control), text); }
 
 void Form::SetCaption(const std::wstring& text) const noexcept { ::SetWindowTextW(m_window, text.c_str()); }
 
@@ -54,7 +51,27 @@ void Form::Enable(int control, bool enabled) const noexcept
 
 void Form::SetFocusTo(int control) const noexcept
 {
-    ::SendMessageW(m_window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(control)), TRUE);
+    const HWND window = Control(control);
+    DWORD start = 0;
+    DWORD end = 0;
+    ::SendMessageW(window, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    ::SendMessageW(m_window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(window), TRUE);
+    // The dialog manager has selected all of a text box; the caret stays where it was.
+    ::SendMessageW(window, EM_SETSEL, start, static_cast<LPARAM>(end));
+    ::SendMessageW(window, EM_SCROLLCARET, 0, 0);
+}
+
+int Form::FocusedControl() const noexcept
+{
+    HWND focus = ::GetFocus();
+    while (focus != nullptr && ::GetParent(focus) != m_window)
+        focus = ::GetAncestor(focus, GA_PARENT);
+    return focus == nullptr ? 0 : ::GetDlgCtrlID(focus);
+}
+
+void Form::PutBehindLabel(int control, int label) const noexcept
+{
+    ::SetWindowPos(Control(control), Control(label), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 bool Form::IsShown(int control) const noexcept

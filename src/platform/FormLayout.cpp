@@ -11,6 +11,13 @@ RECT ControlPlace(HWND control) noexcept
     return place;
 }
 
+int HeightOf(HWND window) noexcept
+{
+    RECT place{};
+    ::GetWindowRect(window, &place);
+    return place.bottom - place.top;
+}
+
 void ShiftBelow(HWND form, int y, int delta) noexcept
 {
     for (HWND control = ::GetWindow(form, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT)) {
@@ -21,18 +28,11 @@ void ShiftBelow(HWND form, int y, int delta) noexcept
     }
 }
 
-void GrowControl(HWND control, int delta) noexcept
-{
-    const RECT place = ControlPlace(control);
-    ::SetWindowPos(control, nullptr, 0, 0, place.right - place.left, place.bottom - place.top + delta,
-                   SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-void GrowForm(HWND form, int delta) noexcept
+void Grow(HWND window, int delta) noexcept
 {
     RECT place{};
-    ::GetWindowRect(form, &place);
-    ::SetWindowPos(form, nullptr, 0, 0, place.right - place.left, place.bottom - place.top + delta,
+    ::GetWindowRect(window, &place);
+    ::SetWindowPos(window, nullptr, 0, 0, place.right - place.left, place.bottom - place.top + delta,
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

@@ -9,12 +9,14 @@ namespace corvane
 // A control's rectangle in the client coordinates of its form.
 [[nodiscard]] RECT ControlPlace(HWND control) noexcept;
 
+// The height of a control, or of a form with its frame.
+[[nodiscard]] int HeightOf(HWND window) noexcept;
+
 // Moves every control of the form whose top lies at or below y by delta pixels.
 void ShiftBelow(HWND form, int y, int delta) noexcept;
 
 // Makes a control, or the form itself, taller by delta pixels.
-void GrowControl(HWND control, int delta) noexcept;
-void GrowForm(HWND form, int delta) noexcept;
+void Grow(HWND window, int delta) noexcept;
 
 // A length in twips (1/1440 inch) as pixels of the screen.
 [[nodiscard]] int PixelsOfTwips(int twips) noexcept;

@@ -7,8 +7,6 @@
 
 #include <commctrl.h>
 
-#include <algorithm>
-
 namespace corvane
 {
 namespace
@@ -90,6 +88,23 @@ private:
     bool m_active;
 };
 
+// A status bar finds its place and height by itself when it is made; from then on it moves as the other controls do.
+void ReleaseStatusBar(HWND form) noexcept
+{
+    const HWND bar = ::FindWindowExW(form, nullptr, STATUSCLASSNAMEW, nullptr);
+    if (bar == nullptr) return;
+    ::SetWindowLongPtrW(bar, GWL_STYLE, ::GetWindowLongPtrW(bar, GWL_STYLE) | CCS_NORESIZE | CCS_NOPARENTALIGN);
+}
+
+Box BoxOf(const RECT& place) noexcept { return {place.left, place.top, place.right, place.bottom}; }
+
+Box PlaceOf(HWND window) noexcept
+{
+    RECT place{};
+    ::GetWindowRect(window, &place);
+    return BoxOf(place);
+}
+
 } // namespace
 
 HWND CreateFormWindow(const wchar_t* name, int templateId, HWND owner, DLGPROC procedure, LPARAM argument)
@@ -103,29 +118,25 @@ HWND CreateFormWindow(const wchar_t* name, int templateId, HWND owner, DLGPROC p
     const HWND window = ::CreateDialogIndirectParamW(
         Library::Module(), reinterpret_cast<LPCDLGTEMPLATEW>(dialogTemplate.data()), owner, procedure, argument);
     CheckWin32(window != nullptr, L"Form");
+    ReleaseStatusBar(window);
     return window;
 }
 
 void ForgetFormClass(const wchar_t* name) noexcept { ::UnregisterClassW(name, Library::Module()); }
 
-void CentreOnOwner(HWND window) noexcept
+Extent MoveOntoScreen(HWND window, FormPlace place) noexcept
 {
     const HWND owner = ::GetWindow(window, GW_OWNER);
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
     ::GetMonitorInfoW(::MonitorFromWindow(owner != nullptr ? owner : window, MONITOR_DEFAULTTONEAREST), &monitor);
-    const RECT& work = monitor.rcWork;
-    RECT around = work;
-    if (owner != nullptr && !::IsIconic(owner)) ::GetWindowRect(owner, &around);
-    RECT own{};
-    ::GetWindowRect(window, &own);
-    const LONG width = own.right - own.left;
-    const LONG height = own.bottom - own.top;
-    const LONG left = (around.left + around.right - width) / 2;
-    const LONG top = (around.top + around.bottom - height) / 2;
-    ::SetWindowPos(window, nullptr, std::max(work.left, std::min(left, work.right - width)),
-                   std::max(work.top, std::min(top, work.bottom - height)), 0, 0,
-                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    const Box work = BoxOf(monitor.rcWork);
+    const bool showsOwner = ::IsWindowVisible(owner) && !::IsIconic(owner);
+    const Box own = PlaceOf(window);
+    const Box around = place == FormPlace::Own ? own : showsOwner ? PlaceOf(owner) : work;
+    const Box moved = PlaceInMiddle(own.Size(), around, work);
+    ::SetWindowPos(window, nullptr, moved.left, moved.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    return work.Size();
 }
 
 } // namespace corvane

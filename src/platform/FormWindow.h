@@ -1,6 +1,8 @@
 // How a form's window comes into being: its window class, its template in the user's font, its place on the screen.
 #pragma once
 
+#include "platform/FormPlacement.h"
+
 #include <windows.h>
 
 namespace corvane
@@ -14,7 +16,14 @@ namespace corvane
 // Takes back the window class once its last window is gone.
 void ForgetFormClass(const wchar_t* name) noexcept;
 
-// Moves the window to the middle of its owner (of the screen without one), inside the work area of that monitor.
-void CentreOnOwner(HWND window) noexcept;
+enum class FormPlace
+{
+    OwnersMiddle, // the middle of the screen without an owner that shows
+    Own           // where it is
+};
+
+// Moves the window inside the work area of its owner's monitor, as near to the place as that allows. Returns the size
+// of the work area.
+Extent MoveOntoScreen(HWND window, FormPlace place) noexcept;
 
 } // namespace corvane

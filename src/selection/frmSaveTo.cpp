@@ -157,7 +157,7 @@ void frmSaveTo::Go()
         m_servers->AddURL(Trim(server));
     });
     SetWorking(false);
-    SetFocusTo(m_treeLoaded ? TreeView1 : cmbServerURL);
+    FocusTree();
 }
 
 XmlDocument frmSaveTo::QueryTree() const
@@ -211,6 +211,14 @@ void frmSaveTo::cmdFilter_Click()
         if (CheckEntryCount() && !FilterCanceled && FilterChanged) LoadTree(Text(cmbServerURL));
     });
     SetWorking(false);
+    FocusTree();
+}
+
+// The controls were out of use meanwhile, and the keyboard went astray.
+void frmSaveTo::FocusTree()
+{
+    const int loaded = IsShown(TreeView1) ? TreeView1 : txtTree;
+    SetFocusTo(m_treeLoaded ? loaded : cmbServerURL);
 }
 
 void frmSaveTo::LoadTree(const std::wstring& server)
@@ -222,6 +230,7 @@ void frmSaveTo::LoadTree(const std::wstring& server)
     const auto projects = QueryTree().Select(L"//project");
     Show(TreeView1, !projects.empty());
     Show(txtTree, projects.empty());
+    PutBehindLabel(projects.empty() ? txtTree : TreeView1, lblTree);
     SetText(txtTree, m_captions.emptyText);
     const TreeTarget preselected{ProjectID, DeliverableID, ActivityID, RelatedDocID, GateDocumentID};
     for (const XmlNode& project : projects)

@@ -58,6 +58,7 @@ private:
     void FillServers();
     void Go();
     void SetWorking(bool working);
+    void FocusTree();
     [[nodiscard]] XmlDocument QueryTree() const;
     [[nodiscard]] bool CheckEntryCount();
     void LoadTree(const std::wstring& server);

@@ -1,0 +1,170 @@
+#include "platform/FormTips.h"
+
+#include "platform/AccessibleName.h"
+#include "platform/FormLayout.h"
+#include "platform/Owners.h"
+#include "platform/ShownText.h"
+
+#include <commctrl.h>
+
+namespace corvane
+{
+namespace
+{
+
+constexpr int kTipLettersALine = 60;
+
+// What decides how a control shows a text that is too long for it.
+enum class TextKind
+{
+    Typed,    // the user's own, or none
+    Shown,    // a read-only box: scrolls
+    Line,     // a label that draws its ellipsis itself
+    Lines,    // a label of several lines
+    Button,   // with room for its edges
+    CheckBox, // with room for its mark
+    Frame
+};
+
+bool IsClass(HWND control, const wchar_t* name) noexcept
+{
+    wchar_t own[32] = L"";
+    ::GetClassNameW(control, own, static_cast<int>(std::size(own)));
+    return ::lstrcmpiW(own, name) == 0;
+}
+
+TextKind KindOf(HWND control) noexcept
+{
+    const auto style = static_cast<DWORD>(::GetWindowLongPtrW(control, GWL_STYLE));
+    if (IsClass(control, WC_STATICW)) return (style & SS_ELLIPSISMASK) != 0 ? TextKind::Line : TextKind::Lines;
+    if (IsClass(control, WC_EDITW))
+        return (style & (ES_READONLY | ES_MULTILINE)) == ES_READONLY ? TextKind::Shown : TextKind::Typed;
+    if (!IsClass(control, WC_BUTTONW)) return TextKind::Typed;
+    const DWORD type = style & BS_TYPEMASK;
+    if (type == BS_GROUPBOX) return TextKind::Frame;
+    return type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON ? TextKind::Button : TextKind::CheckBox;
+}
+
+// What of a control's width is not for its text.
+int EdgesOf(TextKind kind, int letter) noexcept
+{
+    switch (kind) {
+    case TextKind::Button:
+    case TextKind::Shown:
+        return 2 * letter;
+    case TextKind::CheckBox:
+        return ::GetSystemMetrics(SM_CXMENUCHECK) + 2 * letter;
+    case TextKind::Frame:
+        return 4 * letter;
+    default:
+        return 0;
+    }
+}
+
+// Measures texts in a control's own font.
+class Ruler
+{
+public:
+    explicit Ruler(HWND control) noexcept : m_context{::CreateCompatibleDC(nullptr)}
+    {
+        ::SelectObject(m_context.Get(), reinterpret_cast<HFONT>(::SendMessageW(control, WM_GETFONT, 0, 0)));
+    }
+
+    [[nodiscard]] SIZE Measure(const std::wstring& text, UINT format, LONG width) const noexcept
+    {
+        RECT place{0, 0, width, 0};
+        ::DrawTextW(m_context.Get(), text.c_str(), static_cast<int>(text.size()), &place, DT_CALCRECT | format);
+        return {place.right, place.bottom};
+    }
+
+private:
+    UniqueDeviceContext m_context;
+};
+
+bool Fits(HWND control, TextKind kind, const std::wstring& text)
+{
+    RECT room{};
+    ::GetClientRect(control, &room);
+    const Ruler ruler{control};
+    if (kind == TextKind::Lines) {
+        const SIZE size = ruler.Measure(text, DT_WORDBREAK | DT_EXPANDTABS, room.right);
+        return size.cx <= room.right && size.cy <= room.bottom;
+    }
+    const UINT format = DT_SINGLELINE | (kind == TextKind::Shown ? DT_NOPREFIX : 0U);
+    const int letter = ruler.Measure(L"0", format, 0).cx;
+    return ruler.Measure(text, format, 0).cx + EdgesOf(kind, letter) <= room.right;
+}
+
+// Labels and frames let the mouse through to the form, which then is what the tooltip watches.
+TTTOOLINFOW ToolOf(HWND form, HWND control) noexcept
+{
+    TTTOOLINFOW tool{};
+    tool.cbSize = TTTOOLINFOW_V2_SIZE; // known to every edition of the controls
+    tool.hwnd = form;
+    tool.uId = reinterpret_cast<UINT_PTR>(control);
+    const TextKind kind = KindOf(control);
+    const bool isTransparent = kind == TextKind::Line || kind == TextKind::Lines || kind == TextKind::Frame;
+    tool.uFlags = TTF_SUBCLASS | (isTransparent ? 0U : TTF_IDISHWND);
+    tool.rect = ControlPlace(control);
+    if (kind == TextKind::Frame) {
+        const Ruler ruler{control};
+        tool.rect.bottom = tool.rect.top + ruler.Measure(L"0", DT_SINGLELINE, 0).cy;
+    }
+    return tool;
+}
+
+} // namespace
+
+FormTips::FormTips(HWND form) noexcept
+    : m_form{form}, m_tooltip{::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
+                                                WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT, CW_USEDEFAULT,
+                                                CW_USEDEFAULT, CW_USEDEFAULT, form, nullptr, nullptr, nullptr)}
+{
+    const Ruler ruler{form};
+    const int width = kTipLettersALine * static_cast<int>(ruler.Measure(L"0", DT_SINGLELINE, 0).cx);
+    ::SendMessageW(m_tooltip, TTM_SETMAXTIPWIDTH, 0, width);
+}
+
+void FormTips::SetText(HWND control, const std::wstring& text) const
+{
+    if (control == nullptr) return;
+    const TextKind kind = KindOf(control);
+    const bool hasRoom = kind == TextKind::Typed || Fits(control, kind, text);
+    const bool drawsAll = hasRoom || kind == TextKind::Line || kind == TextKind::Shown;
+    ::SetWindowTextW(control, drawsAll ? text.c_str() : Shortened(text, [&](const std::wstring& part) {
+                                                            return Fits(control, kind, part);
+                                                        }).c_str());
+    std::wstring whole = kind == TextKind::Shown ? text : WithoutAccessKeys(text);
+    TakeBack(control);
+    if (hasRoom) return;
+    if (!drawsAll) NameForReaders(control, whole);
+    TTTOOLINFOW tool = ToolOf(m_form, control);
+    tool.lpszText = whole.data();
+    ::SendMessageW(m_tooltip, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void FormTips::TakeBack(HWND control) const noexcept
+{
+    TTTOOLINFOW tool = ToolOf(m_form, control);
+    const auto argument = reinterpret_cast<LPARAM>(&tool);
+    if (::SendMessageW(m_tooltip, TTM_GETTOOLINFOW, 0, argument) == FALSE) return;
+    ::SendMessageW(m_tooltip, TTM_DELTOOLW, 0, argument);
+    NameForReaders(control, {});
+}
+
+void FormTips::TakeAllBack() const noexcept
+{
+    for (HWND control = ::GetWindow(m_form, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT))
+        TakeBack(control);
+}
+
+void FormTips::FollowControls() const noexcept
+{
+    for (HWND control = ::GetWindow(m_form, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT))
+    {
+        TTTOOLINFOW tool = ToolOf(m_form, control);
+        ::SendMessageW(m_tooltip, TTM_NEWTOOLRECTW, 0, reinterpret_cast<LPARAM>(&tool));
+    }
+}
+
+} // namespace corvane

@@ -1,0 +1,36 @@
+// Texts for which a control has no room: an ellipsis in the control, the whole text in a tooltip and for screen
+// readers.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace corvane
+{
+
+// The tooltips of one form. Their window belongs to the form's and goes with it.
+class FormTips
+{
+public:
+    FormTips() = default;
+    explicit FormTips(HWND form) noexcept;
+
+    // Puts a text into a control of the form. Labels, buttons, frames and texts that are only shown get a tooltip while
+    // they cannot show all of it.
+    void SetText(HWND control, const std::wstring& text) const;
+
+    // Takes the tooltips along after controls were moved.
+    void FollowControls() const noexcept;
+
+    // Removes all of them, and the names given to screen readers, before the form goes.
+    void TakeAllBack() const noexcept;
+
+private:
+    void TakeBack(HWND control) const noexcept;
+
+    HWND m_form = nullptr;
+    HWND m_tooltip = nullptr;
+};
+
+} // namespace corvane

@@ -1,0 +1,45 @@
+#include "platform/ShownText.h"
+
+#include <gtest/gtest.h>
+
+namespace corvane
+{
+namespace
+{
+
+TEST(ShownText, LeavesOutTheMarksOfAccessKeys)
+{
+    EXPECT_EQ(WithoutAccessKeys(L"Sa&ve && Send"), L"Save & Send");
+    EXPECT_EQ(WithoutAccessKeys(L"R&&D&&"), L"R&D&");
+    EXPECT_EQ(WithoutAccessKeys(L"End&"), L"End");
+}
+
+TEST(ShownText, EndsALongTextInAnEllipsis)
+{
+    struct
+    {
+        const char* name;
+        std::wstring text;
+        std::size_t room;
+        std::wstring expected;
+    } const kCases[] = {
+        {"Fits", L"Work Item", 9, L"Work Item"},
+        {"OneLetterTooLong", L"Work Items", 9, L"Work Ite…"},
+        {"NoBlankBeforeTheEllipsis", L"Work Items", 6, L"Work…"},
+        {"DoubledAmpersandStaysWhole", L"R&&D Desk", 3, L"R…"},
+        {"DoubledAmpersandFits", L"R&&D Desk", 4, L"R&&…"},
+        {"SurrogatesStayTogether",
+         L"a\xD83D\xDCC8"
+         L"b",
+         3, L"a…"},
+        {"NoRoomAtAll", L"Work", 0, L"…"},
+    };
+    for (const auto& item : kCases) {
+        SCOPED_TRACE(item.name);
+        EXPECT_EQ(Shortened(item.text, [&](const std::wstring& part) { return part.size() <= item.room; }),
+                  item.expected);
+    }
+}
+
+} // namespace
+} // namespace corvane
