@@ -1,5 +1,7 @@
 #include "FakeForm.h"
 
+#include <string_view>
+
 #include <windows.h>
 
 #include <commctrl.h>
@@ -46,12 +48,29 @@ void OnTreeNotice(HWND form, const NMTREEVIEWW& notice)
         ::EnableWindow(::GetDlgItem(form, cmdOK), TreeView_GetParent(tree, notice.itemNew.hItem) != nullptr);
 }
 
+// Spoils the layout in the way that is asked for.
+void Spoil(HWND form)
+{
+    wchar_t way[16] = L"";
+    ::GetDlgItemTextW(form, txtName, way, 16);
+    const auto move = [form](int control, int x, int y) {
+        ::SetWindowPos(::GetDlgItem(form, control), nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    };
+    if (way == std::wstring_view{L"cut"}) ::SetDlgItemTextW(form, chkPublish, L"Publish this at once to everybody");
+    if (way == std::wstring_view{L"shorten"}) ::SetDlgItemTextW(form, chkPublish, L"Publ\x2026");
+    if (way == std::wstring_view{L"overlap"}) move(cmdGo, 20, 60);
+    if (way == std::wstring_view{L"outside"}) move(cmdCancel, -5, 260);
+    if (way == std::wstring_view{L"leave"}) ::SetWindowPos(form, nullptr, -40, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    if (way == std::wstring_view{L"key"}) ::SetDlgItemTextW(form, lblNotes, L"&Pad");
+}
+
 void OnCommand(HWND form, WORD id, WORD code, FormAnswer& answer)
 {
     if (id == cmdGo && code == BN_CLICKED) {
         AddNode(::GetDlgItem(form, TreeView1), TVI_ROOT, L"Apollo", 1);
         SetStatus(form, L"Filled");
     }
+    if (id == txtName && code == EN_CHANGE) Spoil(form);
     if (id == txtNotes && code == EN_CHANGE) SetStatus(form, L"Noted");
     if (id == ClassList && code == LBN_SELCHANGE) SetStatus(form, L"Classed");
     if (id == cmdCancel) ::EndDialog(form, FALSE);

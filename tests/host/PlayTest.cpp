@@ -209,6 +209,29 @@ constexpr FailingStep kFailingSteps[] = {
     {"QuitWhileAFormIsOpen", "quit", "a command is still running"},
 };
 
+TEST_F(PlayTest, SeesWhatIsWrongInALayout)
+{
+    const struct
+    {
+        const char* way;
+        const char* step;
+        const char* finding;
+    } kSpoilt[] = {
+        {"cut", "fits frmSaveTo", "chkPublish cuts \"Publish this at once to everybody\" off"},
+        {"shorten", "fits frmSaveTo", "chkPublish is shortened without a tooltip"},
+        {"overlap", "fits frmSaveTo", "cmdGo and TreeView1 overlap"},
+        {"outside", "fits frmSaveTo", "cmdCancel reaches out of the form"},
+        {"leave", "fits frmSaveTo", "the form reaches out of the screen"},
+        {"key", "readable frmSaveTo", "lblNotes and chkPublish have the access key p"},
+        {"", "spoken txtNotes \"Name\"", "its name is \"Notes\""},
+        {"", "over frmSaveTo host", "it is not in the middle of its owner"},
+    };
+    for (const auto& item : kSpoilt) {
+        const std::string steps = "type txtName \"" + std::string{item.way} + "\"\n" + item.step + "\n";
+        ExpectFailed(Play(kOpenForm + steps, L"--set patience=1"), item.finding);
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(PlayTest, FailingStepTest, testing::ValuesIn(kFailingSteps),
                          [](const auto& given) { return std::string{given.param.name}; });
 

@@ -72,6 +72,7 @@ void Player::Expect(const Step& step)
 {
     const std::string what = step.At(0);
     if (what == "addin") return ExpectAddIn(step);
+    if (what == "host") return ExpectHost(step);
     if (what == "document") return ExpectDocument(step);
     if (what == "command") return ExpectCommand(step);
     if (what == "icon") return ExpectIcon(step);

@@ -38,7 +38,7 @@ WantedMessage WantedBy(const Step& step)
     return wanted;
 }
 
-bool Fits(const WantedMessage& wanted, const std::wstring& found)
+bool IsWanted(const WantedMessage& wanted, const std::wstring& found)
 {
     const std::string shown = wanted.isOneLine ? LineBreaksAsBlanks(Narrow(found)) : Narrow(found);
     return wanted.isWhole ? shown == wanted.text : shown.find(wanted.text) != std::string::npos;
@@ -67,7 +67,7 @@ void Player::Message(const Step& step)
         Finding instead = L"no message is open";
         for (HWND box : MessageBoxes()) {
             instead = ReportOf(box);
-            if (!Fits(wanted, MessageText(box))) continue;
+            if (!IsWanted(wanted, MessageText(box))) continue;
             button = ButtonWithCaption(box, wanted.button);
             found = box;
             return wanted.button.empty() || button ? Finding{} : L"the message has no button " + wanted.button;

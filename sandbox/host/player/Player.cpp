@@ -87,6 +87,10 @@ void Player::Perform(const Step& step)
         {"message", &Player::Message},
         {"no", &Player::No},
         {"repainted", &Player::Repainted},
+        {"fits", &Player::Fits},
+        {"readable", &Player::Readable},
+        {"spoken", &Player::Spoken},
+        {"over", &Player::Over},
         {"expect", &Player::Expect},
     };
     if (m_quit) throw std::runtime_error{"the host has quit"};

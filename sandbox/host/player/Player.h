@@ -70,6 +70,11 @@ private:
     void Check(const Step& step);
     void Key(const Step& step);
     void Repainted(const Step& step);
+    void Fits(const Step& step);
+    void Readable(const Step& step);
+    void Spoken(const Step& step);
+    void Over(const Step& step);
+    [[nodiscard]] HWND NamedWindow(const std::string& name);
     [[nodiscard]] HWND Form() const;
     [[nodiscard]] HWND Control(const std::string& name) const;
     [[nodiscard]] HWND UsableControl(const std::string& name);
@@ -84,6 +89,7 @@ private:
     // Expectations.
     void Expect(const Step& step);
     void ExpectAddIn(const Step& step);
+    void ExpectHost(const Step& step);
     void ExpectDocument(const Step& step);
     void ExpectCommand(const Step& step);
     void ExpectMenu(const Step& step);

@@ -24,7 +24,8 @@ constexpr VerbRule kVerbs[] = {
     {"closed", 1, 1},     {"type", 2, kAny}, {"press", 1, 1},     {"select", 2, 2},     {"choose", 2, 2},
     {"check", 2, 2},      {"key", 1, 1},     {"expect", 2, kAny}, {"message", 1, kAny}, {"no", 1, 1},
     {"property", 2, 2},   {"shot", 1, 1},    {"show", 1, 1},      {"ran", 1, 1},        {"repainted", 1, 1},
-    {"disconnect", 0, 0}, {"file", 2, 2},    {"mail", 2, kAny},   {"letter", 1, 1},
+    {"disconnect", 0, 0}, {"file", 2, 2},    {"mail", 2, kAny},   {"letter", 1, 1},     {"fits", 1, 1},
+    {"readable", 1, 1},   {"spoken", 2, 2},  {"over", 2, 2},
 };
 
 std::string_view Trim(std::string_view text)

@@ -1,0 +1,189 @@
+#include "player/FormFit.h"
+
+#include <algorithm>
+#include <vector>
+
+#include <commctrl.h>
+
+#include "automation/Text.h"
+#include "player/ControlNames.h"
+#include "player/Screen.h"
+
+namespace host
+{
+namespace
+{
+
+constexpr wchar_t kEllipsis = L'\x2026';
+
+struct Item
+{
+    HWND window;
+    std::wstring name;
+    std::wstring type; // the window class
+    std::wstring text;
+    DWORD style;
+    RECT place; // in the form's client area
+};
+
+bool Is(const Item& item, const wchar_t* type) { return ::lstrcmpiW(item.type.c_str(), type) == 0; }
+bool IsFrame(const Item& item) { return Is(item, WC_BUTTONW) && (item.style & BS_TYPEMASK) == BS_GROUPBOX; }
+
+std::vector<Item> ShownItems(HWND form)
+{
+    std::vector<Item> items;
+    for (HWND child = ::GetWindow(form, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        if (!::IsWindowVisible(child)) continue;
+        RECT place{};
+        ::GetWindowRect(child, &place);
+        ::MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&place), 2);
+        items.push_back({child, Widen(ControlNameOf(::GetDlgCtrlID(child))), ClassOf(child),
+                         ControlText(child).value_or(L""), static_cast<DWORD>(::GetWindowLongPtrW(child, GWL_STYLE)),
+                         place});
+    }
+    return items;
+}
+
+// The size of a text in the control's own font.
+SIZE Measure(const Item& item, const std::wstring& text, UINT format, LONG width)
+{
+    const HDC context = ::GetDC(item.window);
+    const auto font = reinterpret_cast<HFONT>(Ask(item.window, WM_GETFONT).value_or(0));
+    const HGDIOBJ before = ::SelectObject(context, font);
+    RECT place{0, 0, width, 0};
+    ::DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &place, DT_CALCRECT | format);
+    ::SelectObject(context, before);
+    ::ReleaseDC(item.window, context);
+    return {place.right, place.bottom};
+}
+
+// The room that the control leaves its text: without edges, a check box's mark, a frame's corners.
+SIZE RoomOf(const Item& item, int letter)
+{
+    RECT client{};
+    ::GetClientRect(item.window, &client);
+    SIZE room{client.right, client.bottom};
+    if (!Is(item, WC_BUTTONW)) return room;
+    const DWORD type = item.style & BS_TYPEMASK;
+    const bool isMarked = type == BS_AUTOCHECKBOX || type == BS_CHECKBOX;
+    room.cx -= isMarked ? ::GetSystemMetrics(SM_CXMENUCHECK) + letter : 2 * letter;
+    return room;
+}
+
+bool HasRoom(const Item& item)
+{
+    const int letter = Measure(item, L"0", DT_SINGLELINE, 0).cx;
+    const SIZE room = RoomOf(item, letter);
+    const bool isLabel = Is(item, WC_STATICW);
+    const bool wraps =
+        isLabel ? (item.style & SS_ELLIPSISMASK) == 0 : (item.style & ES_MULTILINE) && Is(item, WC_EDITW);
+    const UINT literal = isLabel || Is(item, WC_BUTTONW) ? 0U : DT_NOPREFIX;
+    const SIZE size = Measure(item, item.text, (wraps ? DT_WORDBREAK : DT_SINGLELINE) | literal, room.cx);
+    return size.cx <= room.cx && size.cy <= room.cy;
+}
+
+// Whether a whole line of its font fits the control's height.
+bool HasLine(const Item& item) { return Measure(item, L"Ay", DT_SINGLELINE, 0).cy <= RoomOf(item, 0).cy; }
+
+HWND TooltipOf(HWND form)
+{
+    HWND tooltip = nullptr;
+    while ((tooltip = ::FindWindowExW(nullptr, tooltip, TOOLTIPS_CLASSW, nullptr)) != nullptr)
+        if (::GetWindow(tooltip, GW_OWNER) == form) return tooltip;
+    return nullptr;
+}
+
+std::wstring TipOf(HWND form, HWND control)
+{
+    static TTTOOLINFOW tool; // lives on: see Ask
+    tool = {};
+    tool.cbSize = TTTOOLINFOW_V2_SIZE;
+    tool.hwnd = form;
+    tool.uId = reinterpret_cast<UINT_PTR>(control);
+    tool.lpszText = AnswerBuffer();
+    *tool.lpszText = L'\0';
+    static_cast<void>(Ask(TooltipOf(form), TTM_GETTEXTW, kAnswerLength, reinterpret_cast<LPARAM>(&tool)));
+    return AnswerBuffer();
+}
+
+std::wstring WithoutMarks(std::wstring text)
+{
+    std::erase(text, L'&');
+    return text;
+}
+
+std::wstring TextProblem(HWND form, const Item& item)
+{
+    const bool isShownText = Is(item, WC_STATICW) || Is(item, WC_BUTTONW) || Is(item, STATUSCLASSNAMEW) ||
+                             (Is(item, WC_EDITW) && (item.style & ES_READONLY));
+    const bool takesALine = isShownText || Is(item, WC_EDITW) || Is(item, WC_COMBOBOXW);
+    if (takesALine && !IsFrame(item) && !HasLine(item)) return L"is lower than a line of its text";
+    if (!isShownText || item.text.empty()) return {};
+    const std::wstring tip = WithoutMarks(TipOf(form, item.window));
+    const std::wstring shown = WithoutMarks(item.text);
+    const bool isShortened = shown.back() == kEllipsis && tip.starts_with(shown.substr(0, shown.size() - 1));
+    if (HasRoom(item)) return shown.back() == kEllipsis && !isShortened ? L"is shortened without a tooltip" : L"";
+    const bool drawsEllipsis = (Is(item, WC_STATICW) && (item.style & SS_ELLIPSISMASK)) || Is(item, WC_EDITW);
+    if (!drawsEllipsis) return L"cuts \"" + item.text + L"\" off";
+    return tip == shown ? L"" : L"cuts \"" + item.text + L"\" off without a tooltip";
+}
+
+bool Holds(const RECT& outer, const RECT& inner)
+{
+    return inner.left >= outer.left && inner.top >= outer.top && inner.right <= outer.right &&
+           inner.bottom <= outer.bottom;
+}
+
+std::wstring OverlapProblem(const std::vector<Item>& items)
+{
+    for (auto one = items.begin(); one != items.end(); ++one) {
+        for (auto other = one + 1; other != items.end(); ++other) {
+            RECT common{};
+            if (!::IntersectRect(&common, &one->place, &other->place)) continue;
+            const bool isFramed = (IsFrame(*one) && Holds(one->place, other->place)) ||
+                                  (IsFrame(*other) && Holds(other->place, one->place));
+            if (!isFramed) return one->name + L" and " + other->name + L" overlap";
+        }
+    }
+    return {};
+}
+
+std::wstring OutsideProblem(HWND form, const std::vector<Item>& items)
+{
+    RECT client{};
+    ::GetClientRect(form, &client);
+    const auto style = static_cast<DWORD>(::GetWindowLongPtrW(form, GWL_STYLE));
+    for (const Item& item : items) {
+        RECT place = item.place;
+        if (style & WS_HSCROLL) place.left = place.right = 0;
+        if (style & WS_VSCROLL) place.top = place.bottom = 0;
+        if (!Holds(client, place)) return item.name + L" reaches out of the form";
+    }
+    return {};
+}
+
+std::wstring ScreenProblem(HWND form)
+{
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    ::GetMonitorInfoW(::MonitorFromWindow(form, MONITOR_DEFAULTTONEAREST), &monitor);
+    RECT place{};
+    ::GetWindowRect(form, &place);
+    return Holds(monitor.rcWork, place) ? L"" : L"the form reaches out of the screen";
+}
+
+} // namespace
+
+std::wstring FitProblem(HWND form)
+{
+    const auto items = ShownItems(form);
+    for (const Item& item : items) {
+        const std::wstring problem = TextProblem(form, item);
+        if (!problem.empty()) return item.name + L" " + problem;
+    }
+    for (const std::wstring& problem : {OverlapProblem(items), OutsideProblem(form, items)})
+        if (!problem.empty()) return problem;
+    return ScreenProblem(form);
+}
+
+} // namespace host
