@@ -1,7 +1,7 @@
 # The commands for a person. Each first installs what the machine lacks.
 ARCH ?= x64
 
-.PHONY: all demo test check sandbox packages clean
+.PHONY: all demo test check sandbox shots packages clean
 
 all: packages
 	@for preset in x64 x86 native; do \
@@ -20,6 +20,9 @@ test: all
 
 check: all
 	tools/check
+
+shots: all
+	sandbox/shots $(ARCH)
 
 sandbox: all
 	sandbox/open
