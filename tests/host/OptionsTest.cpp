@@ -11,9 +11,10 @@ namespace
 
 TEST(OptionsTest, ReadsEveryOptionAndKeepsEqualsSignsInValues)
 {
-    const Options options =
-        ParseOptions({L"--version", L"12.0", L"--connect-mode", L"0", L"--play", L"a b.txt", L"--out", L"C:\\out",
-                      L"--set", L"SERVER=http://h/?a=b", L"--set", L"macro.M=ok", L"--set", L"EMPTY="});
+    const Options options = ParseOptions({L"--host", L"excel", L"--version", L"12.0", L"--connect-mode", L"0",
+                                          L"--play", L"a b.txt", L"--out", L"C:\\out", L"--set",
+                                          L"SERVER=http://h/?a=b", L"--set", L"macro.M=ok", L"--set", L"EMPTY="});
+    EXPECT_EQ(options.host, HostKind::Excel);
     EXPECT_EQ(options.MajorVersion(), 12);
     EXPECT_EQ(options.connectMode, 0);
     EXPECT_EQ(options.playFile, L"a b.txt");
@@ -27,11 +28,12 @@ TEST(OptionsTest, ReadsEveryOptionAndKeepsEqualsSignsInValues)
 TEST(OptionsTest, RefusesWhatItDoesNotUnderstand)
 {
     const std::vector<std::wstring> refused[] = {
-        {L"--version"}, {L"--verison", L"16.0"},   {L"--set", L"NAME"}, {L"--set", L"=value"}, {L"--version", L"new"},
-        {L"--play"},    {L"--connect-mode", L"1x"}};
+        {L"--host", L"access"}, {L"--version"}, {L"--verison", L"16.0"},   {L"--set", L"NAME"}, {L"--set", L"=value"},
+        {L"--version", L"new"}, {L"--play"},    {L"--connect-mode", L"1x"}};
     for (const auto& words : refused)
         EXPECT_THROW(static_cast<void>(ParseOptions(words)), std::invalid_argument);
     EXPECT_EQ(ParseOptions({}).version, L"16.0");
+    EXPECT_EQ(ParseOptions({}).host, HostKind::PowerPoint);
 }
 
 } // namespace

@@ -48,6 +48,7 @@ public:
     [[nodiscard]] const std::vector<std::unique_ptr<AddIn>>& AddIns() const { return m_addIns; }
     [[nodiscard]] const MailFields* LastMail() const { return m_companions->LastMail(); }
     [[nodiscard]] bool IsLoaded() const { return m_loaded; }
+    [[nodiscard]] const HostFacts& Facts() const { return m_session.Facts(); }
     [[nodiscard]] int Version() const { return m_session.Settings().MajorVersion(); }
 
     // The command is a ribbon control's id or, on command bars, an entry's tag.

@@ -30,6 +30,8 @@ struct HostFacts
     bool numbersNew;             // "Book1", "Book2"
     const wchar_t* menuBar;      // the command bar with its menus
     const wchar_t* versionEnd;   // behind the version that the options name, in Application.Version
+    int pageWidth;               // the shape of what the window shows
+    int pageHeight;
     const wchar_t* status;       // the status line's first part
     std::wstring_view fileTypes; // of its file dialogs
     std::size_t pathLimit;       // letters of a path that it saves to

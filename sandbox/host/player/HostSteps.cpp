@@ -65,6 +65,11 @@ void Player::New(const Step&)
     OnUi([this] { m_host.Documents().New(); });
 }
 
+void Player::Set(const Step& step)
+{
+    OnUi([&] { m_host.Documents().Set(step.At(0), step.At(1)); });
+}
+
 void Player::Open(const Step& step)
 {
     WaitUntilLoaded();

@@ -59,6 +59,7 @@ void Player::Perform(const Step& step)
         void (Player::*perform)(const Step&);
     };
     static constexpr Verb kVerbs[] = {
+        {"set", &Player::Set},
         {"new", &Player::New},
         {"open", &Player::Open},
         {"save", &Player::Save},

@@ -38,6 +38,7 @@ private:
     void CheckFaults();
 
     // Steps of the host.
+    void Set(const Step& step);
     void New(const Step&);
     void Open(const Step& step);
     void Save(const Step&);

@@ -17,7 +17,7 @@ constexpr int kRibbonVersion = 12;
 constexpr int kBackstageVersion = 14;
 constexpr WORD kIconId = 1;
 
-std::wstring ProductName(Host& host) { return std::wstring{host.Documents().Facts().product} + L" (stand-in)"; }
+std::wstring ProductName(const Host& host) { return std::wstring{host.Facts().product} + L" (stand-in)"; }
 
 void RegisterWindowClass(WNDPROC procedure)
 {

@@ -8,7 +8,7 @@
 namespace host
 {
 
-// The host's window: ribbon, Backstage or menu bar over the active presentation.
+// The host's window: ribbon, Backstage or menu bar over the active document.
 class MainWindow
 {
 public:

@@ -1,6 +1,7 @@
 #include "ui/Scene.h"
 
 #include <algorithm>
+#include <cwctype>
 
 #include "automation/Text.h"
 
@@ -28,6 +29,13 @@ constexpr OwnCommand kOwnCommands[] = {
     {L"Save", "FileSave", HostCommand::Save},    {L"Save As", "FileSaveAs", HostCommand::SaveAs},
     {L"Close", "FileClose", HostCommand::Close},
 };
+
+std::wstring GroupLabel(const Host& host)
+{
+    std::wstring label = host.Facts().noun;
+    label.front() = static_cast<wchar_t>(std::towupper(label.front()));
+    return label;
+}
 
 // Places items one after the other and counts the room they take.
 class Layout
@@ -121,7 +129,7 @@ private:
                            .label = own.label,
                            .picture = own.picture,
                            .command = own.command});
-            return CloseGroup(left, L"Presentation");
+            return CloseGroup(left, GroupLabel(m_host));
         }
         ForEachControl(&Ribbon::tabs, [&](const AddIn& addIn, const RibbonControl& tab) {
             if (tab.id != m_view.tab) return;

@@ -14,13 +14,13 @@ constexpr UINT kLeft = DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_PATH_ELLIPSIS;
 constexpr int kStatusHeight = 26;
 constexpr int kThumbnailsWidth = 190;
 
-// The largest box of a slide's shape in the middle of the area.
-RECT SlideBox(const RECT& area, int margin)
+// The largest box of the page's shape in the middle of the area.
+RECT PageBox(const RECT& area, const HostFacts& facts, int margin)
 {
     const int room = std::max<int>(1, area.right - area.left - 2 * margin);
     const int rows = std::max<int>(1, area.bottom - area.top - 2 * margin);
-    const int width = std::min(room, rows * 16 / 9);
-    const int height = width * 9 / 16;
+    const int width = std::min(room, rows * facts.pageWidth / facts.pageHeight);
+    const int height = width * facts.pageHeight / facts.pageWidth;
     const int left = (area.left + area.right - width) / 2;
     const int top = (area.top + area.bottom - height) / 2;
     return {left, top, left + width, top + height};
@@ -64,11 +64,12 @@ void PaintSlideArea(HDC dc, const RECT& area, const Theme& theme, DocumentObject
     PaintStatus(dc, status, theme, document);
     if (!document) return;
 
+    const HostFacts& facts = document->Owner().Facts();
     const std::wstring title = document->File().Title();
     const RECT pane{area.left, area.top, area.left + theme.Scale(kThumbnailsWidth), status.top};
     Fill(dc, pane, kStrip);
     Fill(dc, {pane.right - 1, pane.top, pane.right, pane.bottom}, kLine);
-    RECT thumbnail = SlideBox(pane, theme.Scale(18));
+    RECT thumbnail = PageBox(pane, facts, theme.Scale(18));
     ::OffsetRect(&thumbnail, 0, pane.top + theme.Scale(18) - thumbnail.top);
     PaintSlide(dc, thumbnail, title, theme.Thumbnail(), kAccent);
     RECT chosen = thumbnail;
@@ -76,7 +77,7 @@ void PaintSlideArea(HDC dc, const RECT& area, const Theme& theme, DocumentObject
     Frame(dc, chosen, kAccent);
 
     const RECT desk{pane.right, area.top, area.right, status.top};
-    PaintSlide(dc, SlideBox(desk, theme.Scale(36)), title, theme.SlideTitle(), kAccent);
+    PaintSlide(dc, PageBox(desk, facts, theme.Scale(36)), title, theme.SlideTitle(), kAccent);
 }
 
 } // namespace host
