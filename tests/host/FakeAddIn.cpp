@@ -80,7 +80,7 @@ public:
         if (!Environment(L"FAKE_FAIL").empty()) return E_FAIL;
         m_application = application;
         ComPtr<IConnectionPointContainer> container;
-        m_application.As(&container);
+        if (FAILED(m_application.As(&container))) return S_OK; // a host without events
         container->FindConnectionPoint(kApplicationEventsId, m_events.GetAddressOf());
         if (CallByName(*application, L"Version", DISPATCH_PROPERTYGET).Number() < 12) AddMenu();
         return m_events->Advise(static_cast<IDTExtensibility2*>(this), &m_cookie);
@@ -88,7 +88,7 @@ public:
 
     STDMETHODIMP OnDisconnection(LONG, SAFEARRAY**) override
     {
-        m_events->Unadvise(m_cookie);
+        if (m_events) m_events->Unadvise(m_cookie);
         m_events.Reset();
         m_ribbonUi.Reset();
         if (m_button) CallByName(*m_button.Get(), L"Delete", DISPATCH_METHOD);

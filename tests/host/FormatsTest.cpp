@@ -41,7 +41,7 @@ constexpr FormatRow kFormats[] = {
     {"excel", L"16.0", 50, L"xlsb", "ms-excel.sheet.binary.macroEnabled.main"},
     {"excel", L"16.0", 51, L"xlsx", "spreadsheetml.sheet.main+xml"},
     {"excel", L"16.0", 54, L"xltx", "spreadsheetml.template.main+xml"},
-    {"excel", L"16.0", 6, L"csv", "\"Click to add title\"\r\n"},
+    {"excel", L"16.0", 6, L"csv", "\"Book1\"\r\n"},
     {"excel", L"16.0", 60, L"ods", "opendocument.spreadsheet"},
 };
 

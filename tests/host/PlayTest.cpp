@@ -304,6 +304,16 @@ TEST_F(PlayTest, RefusesARibbonThatOfficeWouldRefuse)
     ExpectFailed(Play("new\nquit\n", L"--version 12.0"), "not known to this version");
 }
 
+TEST_F(PlayTest, LoadsTheAddInsOfTheHostThatItIs)
+{
+    for (const std::wstring host : {L"word", L"excel", L"outlook"}) {
+        const std::wstring key = L"Software\\Microsoft\\Office\\" + host + L"\\Addins\\" + test::kFakeProgId;
+        RegistryKey::Create(HKEY_CURRENT_USER, key).SetNumber(L"LoadBehavior", 3);
+        ExpectPassed(Play("new\nset author Bo\ncommand Hello\nmessage \"0 activations\" No\n", L"--host " + host));
+        ::RegDeleteTreeW(HKEY_CURRENT_USER, key.c_str());
+    }
+}
+
 TEST_F(PlayTest, OffersTheSiblingsLoginOnlyWhileItRuns)
 {
     ExpectPassed(Play("new\nquit\n", L"--set sibling.login=true --set outlook=running"));

@@ -55,8 +55,8 @@ Document Document::New(HostVersion host, const std::wstring& name, const std::st
     Document document{host};
     document.m_name = name;
     document.m_fullName = name;
-    if (host.kind != HostKind::Outlook)
-        document.ReadPackage(OfficePackage::New(host.kind, "Click to add title", author).Write());
+    const std::string title = host.kind == HostKind::PowerPoint ? "Click to add title" : Narrow(name);
+    if (host.kind != HostKind::Outlook) document.ReadPackage(OfficePackage::New(host.kind, title, author).Write());
     return document;
 }
 

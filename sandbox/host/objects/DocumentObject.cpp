@@ -19,11 +19,11 @@ namespace host
 namespace
 {
 
-std::wstring UserDocumentsFolder()
+std::wstring UserDocumentsFolder(HostKind host)
 {
     wchar_t folder[MAX_PATH] = L"";
-    ThrowIfFailed(::SHGetFolderPathW(nullptr, CSIDL_PERSONAL, nullptr, SHGFP_TYPE_CURRENT, folder),
-                  L"There is no documents folder.");
+    const HRESULT found = ::SHGetFolderPathW(nullptr, CSIDL_PERSONAL, nullptr, SHGFP_TYPE_CURRENT, folder);
+    if (FAILED(found) || folder[0] == L'\0') Refuse(host, Refusal::NotFound, L"the documents folder");
     return folder;
 }
 
@@ -63,7 +63,7 @@ void DocumentObject::Save()
     CheckOpen();
     if (!m_document.HasFile()) {
         if (m_session.Facts().asksForName) Refuse(m_session.Kind(), Refusal::NotSaved, m_document.Name());
-        return SaveAs(UserDocumentsFolder() + L"\\" + m_document.Name(), {});
+        return SaveAs(UserDocumentsFolder(m_session.Kind()) + L"\\" + m_document.Name(), {});
     }
     if (!m_session.MayBeSaved(*this)) return;
     m_document.Save(Fault());

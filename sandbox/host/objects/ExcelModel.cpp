@@ -14,22 +14,20 @@ using C = DocumentsObject;
 using D = DocumentObject;
 using W = DocumentWindowObject;
 
-// While a cell is edited most members fail, and in the busier kinds of editing even the command bars.
-template<auto Method>
-Value WhenReady(ObjectCore& object, const Arguments& arguments)
+// Asks the session first whether it takes the call now.
+template<auto Method, auto Check>
+Value Checked(ObjectCore& object, const Arguments& arguments)
 {
     using T = typename MethodTraits<decltype(Method)>::Class;
-    static_cast<T&>(object).Owner().CheckReady();
+    (static_cast<T&>(object).Owner().*Check)();
     return Answer<Method>(object, arguments);
 }
 
+// While a cell is edited most members fail, and in the busier kinds of editing even the command bars.
 template<auto Method>
-Value WhenAnswering(ObjectCore& object, const Arguments& arguments)
-{
-    using T = typename MethodTraits<decltype(Method)>::Class;
-    static_cast<T&>(object).Owner().CheckAnswering();
-    return Answer<Method>(object, arguments);
-}
+constexpr auto WhenReady = &Checked<Method, &Session::CheckReady>;
+template<auto Method>
+constexpr auto WhenAnswering = &Checked<Method, &Session::CheckAnswering>;
 
 constexpr Member kApplication[] = {
     {0, L"Name", kGet, Answer<&A::GetName>},

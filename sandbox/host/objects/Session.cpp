@@ -34,6 +34,10 @@ constexpr EditingRow kEditing[] = {
     {"80010001", 0x80010001, true},
 };
 
+// The settings of a new mail item's fields.
+constexpr std::pair<const char*, const char*> kMailSettings[] = {
+    {"mail.subject", "Subject"}, {"mail.body", "Body"}, {"mail.to", "To"}};
+
 const EditingRow* EditingOf(const Options& options)
 {
     const auto found = std::ranges::find(kEditing, options.Setting("editing"), &EditingRow::value);
@@ -118,10 +122,9 @@ void Session::Prepare(Document& document) const
     const std::string address = m_options.Setting("document.url");
     if (document.HasFile() && !address.empty()) document.ShowAs(Widen(address));
     if (m_options.Setting("document.final") == "true") document.SetFinal(true);
-    for (const auto& [setting, field] :
-         {std::pair{"mail.subject", "Subject"}, {"mail.body", "Body"}, {"mail.to", "To"}})
+    for (const auto& [setting, field] : kMailSettings)
         for (CustomProperty& own : document.BuiltIn())
-            if (Kind() == HostKind::Outlook && own.name == field && own.value.empty())
+            if (Kind() == HostKind::Outlook && !document.HasFile() && own.name == field)
                 own.value = m_options.Setting(setting);
     document.SetSaved(m_options.Setting("document.changed") != "true");
 }

@@ -36,10 +36,13 @@ void PaintSlide(HDC dc, const RECT& box, const std::wstring& title, HFONT font, 
     Frame(dc, box, kLine);
 }
 
-std::wstring StateText(Document& file)
+std::wstring StateText(DocumentObject& document)
 {
+    const Document& file = document.File();
     std::wstring state = file.HasFile() ? file.FullName() : L"Never saved";
     if (file.IsReadOnly()) state += L"  (read-only)";
+    if (file.IsFinal()) state += L"  (final)";
+    if (document.IsProtected()) state += L"  (Protected View)";
     if (!file.IsSaved()) state += L"  (changed)";
     return state;
 }
@@ -52,7 +55,7 @@ void PaintStatus(HDC dc, const RECT& box, const Theme& theme, DocumentObject* do
     if (!document) return Write(dc, text, L"Nothing is open", theme.Normal(), kSoftText, kLeft);
     Write(dc, text, document->Owner().Facts().status, theme.Normal(), kSoftText, kLeft);
     text.left += theme.Scale(kThumbnailsWidth);
-    Write(dc, text, StateText(document->File()), theme.Normal(), kSoftText, kLeft);
+    Write(dc, text, StateText(*document), theme.Normal(), kSoftText, kLeft);
 }
 
 } // namespace
