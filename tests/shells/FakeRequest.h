@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <msxml2.h>
+#include <string>
 
 // Lives on the stack and counts its references.
 class FakeRequest final : public IXMLHTTPRequest
@@ -12,6 +13,8 @@ public:
     long readyState = 4; // once sent
     HRESULT statusResult = S_OK;
     long status = 200;
+    const wchar_t* text = L"12"; // of every answer
+    std::string sent;            // the bytes of the last binary body
     int aborted = 0;
     ULONG references = 0;
 
@@ -34,7 +37,12 @@ public:
     STDMETHODIMP setRequestHeader(BSTR, BSTR) override { return S_OK; }
     STDMETHODIMP getResponseHeader(BSTR, BSTR*) override { return E_NOTIMPL; }
     STDMETHODIMP getAllResponseHeaders(BSTR*) override { return E_NOTIMPL; }
-    STDMETHODIMP send(VARIANT) override { return S_OK; }
+    STDMETHODIMP send(VARIANT body) override
+    {
+        if (body.vt != (VT_ARRAY | VT_UI1)) return S_OK;
+        sent.assign(static_cast<const char*>(body.parray->pvData), body.parray->rgsabound[0].cElements);
+        return S_OK;
+    }
     STDMETHODIMP abort() override
     {
         ++aborted;
@@ -47,9 +55,9 @@ public:
     }
     STDMETHODIMP get_statusText(BSTR*) override { return E_NOTIMPL; }
     STDMETHODIMP get_responseXML(IDispatch**) override { return E_NOTIMPL; }
-    STDMETHODIMP get_responseText(BSTR* text) override
+    STDMETHODIMP get_responseText(BSTR* answer) override
     {
-        *text = ::SysAllocString(L"12");
+        *answer = ::SysAllocString(text);
         return S_OK;
     }
     STDMETHODIMP get_responseBody(VARIANT*) override { return E_NOTIMPL; }

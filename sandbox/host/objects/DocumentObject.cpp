@@ -45,6 +45,18 @@ std::span<const Member> DocumentObject::Members() const
     return m_session.Model().document.Members(m_session.Settings().MajorVersion());
 }
 
+void* DocumentObject::Interface(REFIID id)
+{
+    const bool persists = m_session.Kind() == HostKind::Word && (id == IID_IPersistFile || id == IID_IPersist);
+    return persists ? static_cast<IPersistFile*>(&m_persistFile) : nullptr;
+}
+
+void DocumentObject::WriteCopy(const std::wstring& path)
+{
+    CheckOpen();
+    m_document.CopyTo(path, Format({}), Fault());
+}
+
 ComPtr<IDispatch> DocumentObject::Window(long number) { return MakeObject<DocumentWindowObject>(this, number); }
 
 void DocumentObject::MarkClosed()
@@ -176,7 +188,7 @@ Value DocumentObject::DoSaveCopyAsItIs(const Arguments& arguments)
 {
     CheckOpen();
     if (arguments.Count() != 1) throw AutomationError{DISP_E_BADPARAMCOUNT, L"Wrong number of arguments."};
-    m_document.CopyTo(arguments.At(0).Text(), Format({}), Fault());
+    WriteCopy(arguments.At(0).Text());
     return {};
 }
 

@@ -4,6 +4,7 @@
 
 #include "automation/AutomationObject.h"
 #include "documents/Document.h"
+#include "objects/PersistFile.h"
 
 namespace host
 {
@@ -19,6 +20,7 @@ public:
     DocumentObject(Session& session, Document document);
 
     [[nodiscard]] std::span<const Member> Members() const override;
+    [[nodiscard]] void* Interface(REFIID id) override;
 
     [[nodiscard]] Document& File() { return m_document; }
     [[nodiscard]] Session& Owner() { return m_session; }
@@ -32,6 +34,9 @@ public:
 
     // Without a number: in the format that it has, or the host's default.
     void SaveAs(const std::wstring& path, std::optional<long> format);
+
+    // Writes a copy in the document's own format under just this name.
+    void WriteCopy(const std::wstring& path);
 
     // The answers of the member tables. Saved and ReadOnly are Booleans or, by the ...State ones, numbers of three
     // states.
@@ -51,7 +56,7 @@ public:
     Value DoSave(const Arguments&);
     Value DoSaveAs(const Arguments& arguments);
     Value DoSaveCopyAs(const Arguments& arguments);
-    Value DoSaveCopyAsItIs(const Arguments& arguments); // in its own format, under just this name
+    Value DoSaveCopyAsItIs(const Arguments& arguments); // takes the name only
     Value DoClose(const Arguments&);
     Value DoCloseSaving(const Arguments& arguments); // saves first when asked to
     Value DoDisplay(const Arguments&);
@@ -72,6 +77,7 @@ private:
     bool m_protected;
     long m_windows;
     bool m_closed = false;
+    PersistFile m_persistFile{*this};
 };
 
 } // namespace host

@@ -1,0 +1,341 @@
+// A document in every state, in every host and version: what a save makes of it. Prints a line for each.
+#include "FakeRequest.h"
+#include "HostTest.h"
+#include "OfferedClass.h"
+
+#include "platform/Files.h"
+#include "platform/Procedure.h"
+#include "shared/DocumentNames.h"
+#include "shared/DocumentProperties.h"
+#include "shared/HostDocument.h"
+#include "shared/HostTraits.h"
+#include "shared/HostVersion.h"
+#include "webservice/Transfer.h"
+
+#include <cstdio>
+#include <gtest/gtest.h>
+
+using namespace corvane;
+
+namespace
+{
+
+constexpr CLSID kXmlHttp3 = {0xF5078F35, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
+const DocumentBinding kBinding{.server = L"http://h", .projectId = 12, .deliverableId = 45};
+
+enum Hosts : unsigned
+{
+    kPowerPoint = 1,
+    kWord = 2,
+    kExcel = 4,
+    kOutlook = 8,
+    kFiles = kPowerPoint | kWord | kExcel
+};
+
+enum class Document
+{
+    None,
+    New,
+    File,   // opened from a file
+    Renamed // opened from a file that was given this name, without an extension of its own
+};
+
+// Where a save leaves the document; or what it says instead. In names "*" is the extension of a new document.
+struct State
+{
+    const char* name;
+    unsigned hosts;
+    host::Settings settings;
+    Document document;
+    const wchar_t* fileName;
+    const char* outcome; // "in place", "in Documents", "a copy", or a part of the message
+    const wchar_t* uploadName = nullptr;
+    int firstVersion = 0;
+};
+
+const State kStates[] = {
+    {"no document", kFiles | kOutlook, {}, Document::None, L"", "no document"},
+    {"never saved, PowerPoint", kPowerPoint, {}, Document::New, L"", "in Documents", L"Presentation1*"},
+    {"never saved, Word", kWord, {}, Document::New, L"", "in Documents", L"Document1*"},
+    {"never saved, Excel", kExcel, {}, Document::New, L"", "in Documents", L"Book1*"},
+    {"name with a point", kFiles, {{"document.name", "Plan v1.2"}}, Document::New, L"", "in Documents", L"Plan v1.2*"},
+    {"name of a device", kFiles, {{"document.name", "con"}}, Document::New, L"", "in Documents", L"_con*"},
+    {"name no file can have",
+     kFiles,
+     {{"document.name", " Q1/Q2: ? "}},
+     Document::New,
+     L"",
+     "in Documents",
+     L"Q1_Q2_ _*"},
+    {"saved", kFiles, {}, Document::File, L"plan", "in place", L"plan*"},
+    {"changed", kFiles, {{"document.changed", "true"}}, Document::File, L"plan", "in place", L"plan*"},
+    {"two windows", kFiles, {{"document.windows", "2"}}, Document::File, L"plan", "in place", L"plan*"},
+    {"no window", kFiles, {{"document.windows", "0"}}, Document::File, L"plan", "no document"},
+    {"Protected View", kFiles, {{"document.view", "protected"}}, Document::File, L"plan", "no document"},
+    {"read-only", kFiles, {{"document.readonly", "true"}}, Document::File, L"plan", "a copy", L"plan*"},
+    {"marked as final", kFiles, {{"document.final", "true"}}, Document::File, L"plan", "marked as final", nullptr, 12},
+    {"at a web address",
+     kFiles,
+     {{"document.url", "https://h/Shared%20Documents/R&D/plan"}},
+     Document::File,
+     L"plan",
+     "a copy",
+     L"plan*"},
+    {"beyond the code page",
+     kFiles,
+     {},
+     Document::File,
+     L"\x043F\x043B\x0430\x043D \x20AC \x4E2D",
+     "in place",
+     L"\x043F\x043B\x0430\x043D \x20AC \x4E2D*"},
+    {"signs in the name", kFiles, {}, Document::File, L"it's 50% + #1 & co;", "in place", L"it's 50% + #1 & co;*"},
+    {"blanks around the name", kFiles, {}, Document::File, L" plan ", "in place", L" plan *"},
+    {"two points", kFiles, {}, Document::File, L"plan.v2", "in place", L"plan.v2*"},
+    {"no extension", kFiles, {}, Document::Renamed, L"plan", "in place", L"plan*"},
+    {"path beyond 260 letters",
+     kFiles,
+     {},
+     Document::Renamed,
+     L"a folder with a name of eighty letters, which is as long as many a project's own\\"
+     L"a folder with a name of eighty letters, which is as long as many a project's own\\"
+     L"a folder with a name of eighty letters, which is as long as many a project's own\\plan",
+     "in place",
+     L"plan*"},
+    {"file in use", kFiles, {{"save.fault", "locked"}}, Document::File, L"plan", "."},
+    {"disk full", kFiles, {{"save.fault", "full"}}, Document::File, L"plan", "."},
+    {"folder not to be written", kFiles, {{"save.fault", "denied"}}, Document::File, L"plan", "."},
+    {"editing a cell", kExcel, {{"editing", "800AC472"}}, Document::File, L"plan", "editing"},
+    {"editing, not answering", kExcel, {{"editing", "8001010A"}}, Document::File, L"plan", "editing"},
+    {"mail", kOutlook, {{"mail.subject", "Costs of May"}}, Document::New, L"", "a copy", L"Costs of May.msg"},
+    {"mail, signs",
+     kOutlook,
+     {{"mail.subject", "Re: 1/2 \"x\" & y"}},
+     Document::New,
+     L"",
+     "a copy",
+     L"Re_ 1_2 _x_ & y.msg"},
+    {"mail, no subject", kOutlook, {}, Document::New, L"", "a copy", L"_.msg"},
+};
+
+struct HostRow
+{
+    unsigned bit;
+    const char* option;
+    const wchar_t* name;
+};
+constexpr HostRow kHostRows[] = {{kPowerPoint, "powerpoint", L"Microsoft PowerPoint"},
+                                 {kWord, "word", L"Microsoft Word"},
+                                 {kExcel, "excel", L"Microsoft Excel"},
+                                 {kOutlook, "outlook", L"Outlook"}};
+
+// Where the user's documents are, until the object ends.
+class DocumentsAt
+{
+public:
+    explicit DocumentsAt(const std::wstring& folder)
+    {
+        DWORD size = sizeof m_old;
+        ::RegGetValueW(HKEY_CURRENT_USER, kKey, L"Personal", RRF_RT_ANY | RRF_NOEXPAND, nullptr, m_old, &size);
+        Set(folder);
+    }
+    ~DocumentsAt() { Set(m_old); }
+    DocumentsAt(const DocumentsAt&) = delete;
+    DocumentsAt& operator=(const DocumentsAt&) = delete;
+
+private:
+    static constexpr wchar_t kKey[] = L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders";
+    static void Set(const std::wstring& folder)
+    {
+        ::RegSetKeyValueW(HKEY_CURRENT_USER, kKey, L"Personal", REG_EXPAND_SZ, folder.c_str(),
+                          static_cast<DWORD>((folder.size() + 1) * sizeof(wchar_t)));
+    }
+    wchar_t m_old[MAX_PATH] = L"";
+};
+
+struct Result
+{
+    std::string outcome;
+    std::wstring uploadName;
+    bool uploaded = false;
+};
+
+class Matrix : public host::test::HostTest
+{
+protected:
+    void Play(const HostRow& row, const wchar_t* version, const State& state);
+    LateBound App() { return LateBound{ComPtr<IDispatch>{&session->Application()}}; }
+    Result Save();
+
+    Apartment m_apartment;
+    FakeRequest m_transport;
+    OfferedClass m_class{kXmlHttp3,
+                         [this](REFIID id, void** object) { return m_transport.QueryInterface(id, object); }};
+
+private:
+    void OpenDocument(const HostRow& row, const wchar_t* version, const State& state);
+    std::wstring FileOf(const State& state, const std::wstring& extension);
+    void ExpectBindingIsWholeOrAsItWas();
+    void ExpectUploadCarriesTheBinding(const HostRow& row, const wchar_t* version, const Result& result);
+};
+
+std::wstring ExtensionOfNew(const HostRow& row, const wchar_t* version)
+{
+    return DefaultExtension(*FindHost(row.name), MajorVersion(version));
+}
+
+// The steps of a save from the command to the upload, as the save dialogs take them.
+Result Matrix::Save()
+{
+    Result result;
+    const LateBound application = App();
+    if (IsEditing(application)) return {"editing", {}};
+    if (!IsDocumentOpen(application)) return {"no document", {}};
+    const auto failure = Catch([&] {
+        const LateBound inspector = OutlookInspectorOf(application);
+        if (CanCarryProperties(application)) {
+            RequireNotFinal(application);
+            SetBindingProperties(application, kBinding);
+            MarkDocumentChanged(application);
+        }
+        const std::wstring title = DocumentTitle(application, inspector);
+        const SavedDocument file = SaveDocumentToDisk(application, inspector);
+        result.uploadName = UploadNameOf(title, file.path);
+        ExecuteASPWSUploadFile(L"http://h", file.path, result.uploadName);
+        const bool inDocuments = file.path.starts_with(DocumentsFolder());
+        result.outcome = file.copy ? "a copy" : inDocuments ? "in Documents" : "in place";
+        result.uploaded = true;
+    });
+    if (failure) result.outcome = host::Narrow(failure->Description());
+    return result;
+}
+
+std::wstring Matrix::FileOf(const State& state, const std::wstring& extension)
+{
+    session->New();
+    const LateBound document = ActiveDocument(App());
+    document.Call(L"SaveAs", folder.File(state.document == Document::File ? state.fileName + extension : L"x"));
+    std::wstring path = document.Text(L"FullName");
+    document.Call(L"Close");
+    if (state.document != Document::Renamed) return path;
+    const std::wstring wanted = L"\\\\?\\" + folder.File(state.fileName);
+    for (std::size_t at = wanted.find(L'\\', folder.Path().size() + 5); at != std::wstring::npos;
+         at = wanted.find(L'\\', at + 1))
+        ::CreateDirectoryW(wanted.substr(0, at).c_str(), nullptr);
+    EXPECT_TRUE(::MoveFileExW(path.c_str(), wanted.c_str(), MOVEFILE_REPLACE_EXISTING));
+    return folder.File(state.fileName);
+}
+
+void Matrix::OpenDocument(const HostRow& row, const wchar_t* version, const State& state)
+{
+    Start(row.option, version);
+    const std::wstring extension = ExtensionOfNew(row, version);
+    const bool isFile = state.document == Document::File || state.document == Document::Renamed;
+    const std::wstring path = isFile ? FileOf(state, extension) : L"";
+    for (const auto& [name, value] : state.settings)
+        session->Set(name, name == "document.url" ? value + host::Narrow(extension) : value);
+    if (isFile) session->Open(path, false);
+    if (state.document == Document::New) session->New();
+}
+
+void Matrix::ExpectBindingIsWholeOrAsItWas()
+{
+    const DocumentBinding binding = ReadBinding(App());
+    EXPECT_TRUE(binding.server.empty() == (binding.projectId == 0) &&
+                (binding.projectId == 0) == (binding.deliverableId == 0));
+    for (const auto& property : kBindingProperties)
+        EXPECT_EQ(CustomPropertyExists(App(), property.name), !binding.server.empty()) << property.name;
+}
+
+void Matrix::ExpectUploadCarriesTheBinding(const HostRow& row, const wchar_t* version, const Result& result)
+{
+    const std::string& body = m_transport.sent;
+    EXPECT_NE(body.find("filename=\"" + host::Narrow(result.uploadName) + "\"\r\n"), std::string::npos);
+    const std::size_t start = body.find("\r\n\r\n") + 4;
+    const std::string file = body.substr(start, body.rfind("\r\n--") - start);
+    const std::wstring path = folder.File(L"uploaded" + ExtensionOf(result.uploadName));
+    corvane::WriteFile(path, std::as_bytes(std::span{file}));
+    if (row.bit == kOutlook) return;
+    Start(row.option, version);
+    session->Open(path, true);
+    EXPECT_EQ(ReadBinding(App()).server, kBinding.server);
+    EXPECT_EQ(ReadBinding(App()).deliverableId, kBinding.deliverableId);
+    session.reset();
+    ::DeleteFileW(path.c_str());
+}
+
+void Matrix::Play(const HostRow& row, const wchar_t* version, const State& state)
+{
+    m_transport.text = L"100000000";
+    OpenDocument(row, version, state);
+    const Result result = Save();
+    std::printf("%-10s %-4ls %-26s %s%s%s\n", row.option, version, state.name, result.outcome.c_str(),
+                result.uploaded ? ", uploaded as " : "", host::Narrow(result.uploadName).c_str());
+    EXPECT_NE(result.outcome.find(state.outcome), std::string::npos);
+    EXPECT_EQ(result.uploaded, state.uploadName != nullptr);
+    if (row.bit != kOutlook && IsDocumentOpen(App())) ExpectBindingIsWholeOrAsItWas();
+    if (!result.uploaded) return;
+    std::wstring name = state.uploadName;
+    if (name.ends_with(L'*')) name.replace(name.size() - 1, 1, ExtensionOfNew(row, version));
+    EXPECT_EQ(result.uploadName, name);
+    ExpectUploadCarriesTheBinding(row, version, result);
+}
+
+TEST_F(Matrix, OfHostVersionAndDocumentState)
+{
+    const DocumentsAt documents{folder.Path() + L"\\Documents"};
+    for (const HostRow& row : kHostRows) {
+        for (const wchar_t* version : {L"11.0", L"12.0", L"14.0", L"16.0"}) {
+            for (const State& state : kStates) {
+                if ((state.hosts & row.bit) == 0 || MajorVersion(version) < state.firstVersion) continue;
+                SCOPED_TRACE(testing::Message() << row.option << " " << MajorVersion(version) << " " << state.name);
+                Play(row, version, state);
+                session.reset();
+            }
+        }
+    }
+    EXPECT_EQ(m_transport.references, 0U);
+}
+
+// The upload waits five seconds for such a file, so these are played once.
+TEST_F(Matrix, OfFilesLostBetweenSaveAndUpload)
+{
+    const char* retry = "Please retry your Save to Corvane.";
+    Play(kHostRows[0], L"16.0",
+         {"deleted after the save", kPowerPoint, {{"save.fault", "gone"}}, Document::File, L"plan", retry});
+    Play(kHostRows[1], L"16.0",
+         {"held after the save", kWord, {{"save.fault", "held"}}, Document::File, L"plan", retry});
+}
+
+TEST_F(Matrix, OfADocumentsFolderThatIsGone)
+{
+    const DocumentsAt documents{L"Q:\\gone\\Documents"};
+    for (const HostRow& row : kHostRows)
+        if (row.bit != kOutlook)
+            Play(row, L"16.0",
+                 {"Documents missing", kFiles, {}, Document::New, L"", "save the document to disk and then"});
+}
+
+TEST_F(Matrix, LetsExcelAloneBeInteractiveOrNot)
+{
+    Start("excel");
+    for (const bool interactive : {false, true}) {
+        SetExcelInteractive(App(), interactive);
+        EXPECT_EQ(App().Number(L"Interactive") != 0, interactive);
+    }
+    Start("word");
+    SetExcelInteractive(App(), false); // no member, no error
+}
+
+TEST_F(Matrix, TakesTheStartOfAMailsBodyAndNoAuthorFromIt)
+{
+    Start("outlook", L"16.0", {{"mail.body", std::string(300, 'b')}});
+    session->New();
+    EXPECT_EQ(ItemBodyStart(App(), OutlookInspectorOf(App())), std::wstring(200, L'b'));
+    EXPECT_EQ(DocumentAuthor(App()), L"");
+    Start("excel");
+    session->New();
+    EXPECT_EQ(ItemBodyStart(App(), {}), L"");
+    EXPECT_EQ(DocumentAuthor(App()), L"Stand-in User");
+}
+
+} // namespace
