@@ -16,9 +16,9 @@ struct Options
     HostKind host = HostKind::PowerPoint;
     std::wstring version = L"16.0";
     long connectMode = 1;
-    std::wstring playFile;  // empty: a person uses the host
-    std::wstring outFolder; // empty: no files are written
-    Settings settings;
+    std::wstring playFile{};  // empty: a person uses the host
+    std::wstring outFolder{}; // empty: no files are written
+    Settings settings{};
 
     // The number before the first point of the version.
     [[nodiscard]] int MajorVersion() const;

@@ -22,13 +22,15 @@ class DocumentObject;
 // the user-interface thread and outlives every object that refers to it.
 //
 // A test has a host without a window by itself:
+//
 //     Options options{.host = HostKind::Word, .version = L"14.0", .settings = {{"document.final", "true"}}};
 //     Session session{options};
-//     session.Open(path, false);                      // or New(); the document is in the state that the settings ask
-//     for IDispatch* application = &session.Application();
-// Settings are read when they matter: those of a document when it is opened, save.fault at each save, editing at each
-// call. Set changes one in between. The README lists them. Everything must be released, and Release called, for
-// ObjectCore::Living to be empty.
+//     session.Open(path, false); // or New()
+//     IDispatch* application = &session.Application();
+//
+// Settings are read when they matter: a document's when it is opened or made, save.fault at each save, editing at each
+// call; Set changes one in between. The host's README lists them. ObjectCore::Living tells what is still referred to
+// once Release has been called.
 class Session
 {
 public:
