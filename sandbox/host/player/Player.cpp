@@ -1,5 +1,6 @@
 #include "player/Player.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "app/Console.h"
@@ -15,7 +16,9 @@ namespace
 using namespace std::chrono_literals;
 
 constexpr auto kPatience = 30s; // unless the setting "patience" gives other seconds
-constexpr auto kPollTime = 20ms;
+// A long wait is polled ever more rarely: looking costs the user interface time that is not the add-in's.
+constexpr auto kFirstPoll = 20ms;
+constexpr auto kSlowestPoll = 200ms;
 
 } // namespace
 
@@ -103,10 +106,12 @@ void Player::Perform(const Step& step)
 void Player::WaitFor(const std::function<Finding()>& check)
 {
     const auto end = std::chrono::steady_clock::now() + m_patience;
+    auto poll = kFirstPoll;
     for (Finding finding = check(); !finding.empty(); finding = check()) {
         CheckFaults();
         if (std::chrono::steady_clock::now() > end) throw AutomationError{E_FAIL, finding};
-        ::Sleep(static_cast<DWORD>(kPollTime.count()));
+        ::Sleep(static_cast<DWORD>(poll.count()));
+        poll = std::min(poll * 5 / 4, kSlowestPoll);
     }
 }
 
