@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <climits>
 #include <condition_variable>
 #include <stdexcept>
 #include <thread>
@@ -94,7 +95,8 @@ int RunScenario(Host& host, const std::wstring& path)
         return kFailure;
     }
     if (!clean) return kFailure;
-    Print(L"scenario passed: " + FileName(path) + L" (" + std::to_wstring(player.StepCount()) + L" steps)");
+    Print(L"scenario passed: " + FileName(path) + L" (" + std::to_wstring(player.StepCount()) + L" steps, " +
+          std::to_wstring(CHAR_BIT * sizeof(void*)) + L"-bit)");
     return kSuccess;
 }
 
