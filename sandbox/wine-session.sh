@@ -2,7 +2,8 @@
 # (x64, x86) and dpi. Sets WINEPREFIX and DISPLAY; file descriptor 9 holds the prefix until the run ends.
 
 export WINEPREFIX=${CORVANE_WINEPREFIX:-$top/build/wine/$arch} WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree,mshtml="
-if [ "$arch" = x86 ]; then export WINEARCH=win32; else export WINEARCH=win64; fi
+export WINEARCH=win64 # the commands of the 32-bit Wine set their own
+PATH=$("$top/tools/wine-path" "$arch") || exit 2
 
 # One run at a time uses a prefix: it holds the registration and the settings.
 mkdir -p "$WINEPREFIX"
