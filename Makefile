@@ -1,4 +1,4 @@
-# The commands for a person. Each first installs what the machine lacks.
+# The commands for a person. Each first installs what the machine lacks. ARCH=x86 tests, or opens, the 32-bit add-in.
 ARCH ?= x64
 
 .PHONY: all demo test check sandbox shots packages clean
@@ -25,7 +25,7 @@ shots: all
 	sandbox/shots $(ARCH)
 
 sandbox: all
-	sandbox/open
+	sandbox/open $(ARCH)
 
 clean:
 	rm -rf build

@@ -1,4 +1,4 @@
-# Sourced: the stand-in server for as long as the script runs. Wants: top (the project's folder).
+# Sourced: the stand-in server for as long as the script runs. Wants: top (the project's folder), arch (x64 unless set).
 
 # start_server FOLDER ARGUMENT...: starts it with these arguments, its output in FOLDER; sets url to its address.
 start_server() {
@@ -18,6 +18,6 @@ windows_path() { echo "Z:${1//\//\\}"; }
 
 # Makes a folder of ours the Documents folder of the sandbox's user, in place of the person's own.
 use_documents() {
-  "$top/sandbox/wine" x64 reg add 'HKCU\Software\Microsoft\Windows\CurrentVersion\Explorer\User Shell Folders' \
+  "$top/sandbox/wine" "${arch:-x64}" reg add 'HKCU\Software\Microsoft\Windows\CurrentVersion\Explorer\User Shell Folders' \
     /v Personal /d "$(windows_path "$1")" /f >/dev/null
 }
