@@ -186,6 +186,12 @@ def check_ribbon(outcome, rest):
     require(lint.returncode == 0, "the ribbon is not valid:\n" + lint.stderr)
 
 
+def check_ribbon_texts(outcome, rest):
+    elements = xml.etree.ElementTree.parse(outcome.file("customUI.xml")).iter()
+    texts = [one.get(name, "").strip() for one in elements for name in ("label", "screentip", "supertip")]
+    equal("texts of the ribbon", [text for text in texts if text], shlex.split(rest))
+
+
 def check_trace(outcome, rest):
     equal("trace files", len(outcome.traces), 0 if rest == "none" else 1)
     if rest != "none":
@@ -206,4 +212,4 @@ def check_cpu_below(outcome, rest):
 
 CHECKS = {"requests": check_requests, "header": check_header, "versions": check_versions, "version": check_version,
           "uploaded": check_uploaded, "bound": check_bound, "unbound": check_unbound, "ribbon": check_ribbon,
-          "trace": check_trace, "cpu-below": check_cpu_below}
+          "ribbon-texts": check_ribbon_texts, "trace": check_trace, "cpu-below": check_cpu_below}
