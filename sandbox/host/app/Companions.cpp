@@ -116,6 +116,11 @@ const MailFields* Companions::LastMail() const
     return m_outlook && !m_outlook->Displayed().empty() ? &m_outlook->Displayed().back() : nullptr;
 }
 
+void Companions::OnMail(std::function<void(const MailFields&)> show)
+{
+    if (m_outlook) m_outlook->onDisplay = std::move(show);
+}
+
 void Companions::RemoveTraces() const
 {
     if (m_login) m_login->RemoveTraces();

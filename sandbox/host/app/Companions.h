@@ -50,6 +50,9 @@ public:
     // The last mail item that was displayed, or null.
     [[nodiscard]] const MailFields* LastMail() const;
 
+    // What shows mail items to the user.
+    void OnMail(std::function<void(const MailFields&)> show);
+
     // Takes back what was written into the registry. Any thread.
     void RemoveTraces() const;
 

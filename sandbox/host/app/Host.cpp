@@ -6,6 +6,7 @@
 #include "automation/Text.h"
 #include "objects/CommandBars.h"
 #include "objects/DocumentObject.h"
+#include "ui/MailWindow.h"
 #include "ui/MainWindow.h"
 
 namespace host
@@ -40,6 +41,8 @@ Host::Host(Options options)
     m_window = std::make_unique<MainWindow>(*this);
     m_session.window = m_window->Handle();
     m_session.onChanged = [this] { m_window->Refresh(); };
+    m_mail = std::make_unique<MailWindow>(m_window->Handle());
+    m_companions->OnMail([this](const MailFields& mail) { m_mail->Show(mail); });
 }
 
 Host::~Host() = default;
@@ -71,6 +74,8 @@ bool Host::RunMessages()
         ::DispatchMessageW(&message);
     }
     m_session.onChanged = nullptr;
+    m_companions->OnMail(nullptr);
+    m_mail.reset();
     m_window.reset();
     m_addIns.clear();
     m_companions.reset();

@@ -14,6 +14,7 @@
 namespace host
 {
 
+class MailWindow;
 class MainWindow;
 
 // What the host's own menus and buttons do.
@@ -84,6 +85,7 @@ private:
     ClassLoader m_classes;
     std::vector<std::unique_ptr<AddIn>> m_addIns;
     std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<MailWindow> m_mail;
     bool m_loaded = false;
     int m_running = 0;
     std::mutex m_faultsMutex;

@@ -35,6 +35,12 @@ std::span<const Member> OutlookObject::Members() const
 Value OutlookObject::GetName(const Arguments&) { return Value{L"Outlook"}; }
 Value OutlookObject::GetVersion(const Arguments&) { return Value{L"16.0.0.4266"}; }
 
+void OutlookObject::Display(const MailFields& fields)
+{
+    m_displayed.push_back(fields);
+    if (onDisplay) onDisplay(fields);
+}
+
 void OutlookObject::FailWhere(MailMood mood) const
 {
     if (m_mood != mood) return;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -43,7 +44,8 @@ public:
 
     // The items that were shown to the user, the last one last.
     [[nodiscard]] const std::vector<MailFields>& Displayed() const { return m_displayed; }
-    void Display(const MailFields& fields) { m_displayed.push_back(fields); }
+    void Display(const MailFields& fields);
+    std::function<void(const MailFields&)> onDisplay;
 
     // Throws what the mail program reports where its mood is this one.
     void FailWhere(MailMood mood) const;

@@ -204,18 +204,19 @@ void Player::Mail(const Step& step)
 // The displayed mail as a file that mail programs read.
 void Player::Letter(const Step& step)
 {
-    std::string letter;
-    OnUi([&] {
-        const MailFields* mail = m_host.LastMail();
-        if (!mail) throw std::runtime_error{"no mail is displayed"};
-        for (const auto& [name, value] : *mail)
-            if (name == L"To" || name == L"CC" || name == L"Subject") letter += Narrow(name + L": " + value + L"\r\n");
-        const auto body = mail->find(L"Body");
-        letter +=
-            "MIME-Version: 1.0\r\nContent-Type: text/plain; charset=utf-8\r\nContent-Transfer-Encoding: 8bit\r\n\r\n";
-        if (body != mail->end()) letter += Narrow(body->second);
+    MailFields mail;
+    WaitFor([&] {
+        OnUi([&] {
+            if (const MailFields* last = m_host.LastMail()) mail = *last;
+        });
+        return mail.empty() ? Finding{L"no mail is displayed"} : Finding{};
     });
-    WriteWholeFile(OutFile(step.At(0) + ".eml"), letter);
+    std::wstring letter;
+    for (const wchar_t* header : {L"To", L"CC", L"Subject"})
+        if (mail.contains(header)) letter += header + (L": " + mail[header]) + L"\r\n";
+    letter +=
+        L"MIME-Version: 1.0\r\nContent-Type: text/plain; charset=utf-8\r\nContent-Transfer-Encoding: 8bit\r\n\r\n";
+    WriteWholeFile(OutFile(step.At(0) + ".eml"), Narrow(letter + mail[L"Body"]));
 }
 
 std::wstring Player::OutFile(const std::string& name) const
@@ -228,13 +229,18 @@ std::wstring Player::OutFile(const std::string& name) const
 void Player::Shot(const Step& step)
 {
     const std::wstring file = OutFile(step.At(0) + ".png");
+    HWND window = nullptr;
+    WaitFor([&, form = Widen(step.At(1))] {
+        window = FindForm(form);
+        return window || form.empty() ? Finding{} : L"no window " + form;
+    });
     for (DWORD waited = 0; waited < kPaintPatience && AwaitsPaint(); waited += kPaintPoll)
         ::Sleep(kPaintPoll);
     // Painted surfaces reach the screen when their thread waits for messages again. A busy thread is shown as it is.
     for (int i = 0; i < 3; ++i)
         if (!m_host.Queue().Run([] { ::GdiFlush(); }, std::chrono::seconds{1})) break;
     ::Sleep(kPaintPoll);
-    SaveScreenshot(file);
+    SaveScreenshot(file, window);
 }
 
 } // namespace host

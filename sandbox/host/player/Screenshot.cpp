@@ -24,14 +24,21 @@ struct Pixels
     std::vector<BYTE> bytes; // 32 bits a pixel, the top line first
 };
 
-// The screen's device context with a bitmap of its size, released together.
+RECT PlaceOf(HWND window)
+{
+    RECT place = {0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN)};
+    if (window && !::GetWindowRect(window, &place)) throw AutomationError{E_FAIL, L"The window is gone."};
+    return place;
+}
+
+// The screen's device context with a bitmap of the size of a part, released together.
 class ScreenCopy
 {
 public:
-    ScreenCopy()
-        : m_screen{::GetDC(nullptr)}, m_memory{::CreateCompatibleDC(m_screen)}, m_width{::GetSystemMetrics(
-                                                                                    SM_CXSCREEN)},
-          m_height{::GetSystemMetrics(SM_CYSCREEN)}, m_bitmap{::CreateCompatibleBitmap(m_screen, m_width, m_height)}
+    explicit ScreenCopy(const RECT& part)
+        : m_screen{::GetDC(nullptr)}, m_memory{::CreateCompatibleDC(m_screen)}, m_left{part.left}, m_top{part.top},
+          m_width{part.right - part.left}, m_height{part.bottom - part.top}, m_bitmap{::CreateCompatibleBitmap(
+                                                                                 m_screen, m_width, m_height)}
     {}
     ScreenCopy(const ScreenCopy&) = delete;
     ScreenCopy& operator=(const ScreenCopy&) = delete;
@@ -45,7 +52,7 @@ public:
     [[nodiscard]] Pixels Take()
     {
         const HGDIOBJ before = ::SelectObject(m_memory, m_bitmap);
-        const BOOL copied = ::BitBlt(m_memory, 0, 0, m_width, m_height, m_screen, 0, 0, SRCCOPY);
+        const BOOL copied = ::BitBlt(m_memory, 0, 0, m_width, m_height, m_screen, m_left, m_top, SRCCOPY);
         ::SelectObject(m_memory, before);
         BITMAPINFO info{};
         info.bmiHeader.biSize = sizeof info.bmiHeader;
@@ -63,6 +70,8 @@ public:
 private:
     HDC m_screen;
     HDC m_memory;
+    int m_left;
+    int m_top;
     int m_width;
     int m_height;
     HBITMAP m_bitmap;
@@ -89,9 +98,9 @@ void Encode(IWICImagingFactory& factory, IWICStream& stream, Pixels& pixels)
 
 } // namespace
 
-void SaveScreenshot(const std::wstring& path)
+void SaveScreenshot(const std::wstring& path, HWND window)
 {
-    Pixels pixels = ScreenCopy{}.Take();
+    Pixels pixels = ScreenCopy{PlaceOf(window)}.Take();
     for (std::size_t i = 3; i < pixels.bytes.size(); i += 4)
         pixels.bytes[i] = 0xff; // the screen has no transparency
     ComPtr<IWICImagingFactory> factory;

@@ -2,11 +2,13 @@
 
 #include <string>
 
+#include <windows.h>
+
 namespace host
 {
 
-// Writes the whole screen as a PNG. Throws AutomationError when the screen cannot be read or the file not written.
-// COM must be initialised on the calling thread.
-void SaveScreenshot(const std::wstring& path);
+// Writes a window as it shows on the screen, or the whole screen for null, as a PNG. Throws AutomationError when the
+// screen cannot be read or the file not written. COM must be initialised on the calling thread.
+void SaveScreenshot(const std::wstring& path, HWND window);
 
 } // namespace host
