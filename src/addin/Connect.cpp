@@ -119,6 +119,7 @@ STDMETHODIMP Connect::OnDisconnection(LONG /*RemoveMode*/, SAFEARRAY** /*custom*
     g_oAddInMenus.reset();
     m_events = EventSubscription{};
     m_oPowerPointApp.Release();
+    HttpRequest::AbortOwnerless();
     SetHostWindow(nullptr);
     return S_OK;
 }

@@ -3,7 +3,11 @@
 #include "platform/Error.h"
 #include "platform/HResult.h"
 #include "platform/MessageLoop.h"
+#include "platform/Procedure.h"
 #include "platform/XmlDocument.h"
+
+#include <cwchar>
+#include <vector>
 
 namespace corvane
 {
@@ -20,12 +24,43 @@ constexpr CLSID kRequestClasses[] = {
     {0x88D96A0A, 0xF192, 0x11D4, {0xA6, 0x5F, 0x00, 0x40, 0x96, 0x32, 0x51, 0xE5}},
 };
 
+// The requests that go on without their owners, oldest first. Never destroyed: at the end of a process without a
+// disconnection their component may already be gone.
+std::vector<ComPtr<IXMLHTTPRequest>>& Ownerless()
+{
+    static auto* const requests = new std::vector<ComPtr<IXMLHTTPRequest>>;
+    return *requests;
+}
+
+long StateOf(IXMLHTTPRequest& request)
+{
+    long state = 0;
+    Check(request.get_readyState(&state), kSource);
+    return state;
+}
+
+// Lets go of those that have come to an end, and ends the oldest where there are too many.
+void TidyOwnerless()
+{
+    constexpr std::size_t kMost = 8; // a failed connection may never come to an end
+    auto& requests = Ownerless();
+    std::erase_if(requests, [](const auto& request) {
+        long state = kComplete;
+        request->get_readyState(&state);
+        return state == kComplete;
+    });
+    if (requests.size() < kMost) return;
+    requests.front()->abort();
+    requests.erase(requests.begin());
+}
+
 [[noreturn]] void ThrowTransportFailure() { throw Error{ErrorNumberOf(E_FAIL), kSource, MessageOf(E_FAIL)}; }
 
 } // namespace
 
 HttpRequest::HttpRequest()
 {
+    TidyOwnerless();
     HRESULT result = REGDB_E_CLASSNOTREG;
     for (const CLSID& classId : kRequestClasses) {
         result = ::CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, kRequest,
@@ -37,7 +72,14 @@ HttpRequest::HttpRequest()
 
 HttpRequest::~HttpRequest()
 {
-    if (m_underWay) m_request->abort();
+    if (m_underWay) Ignoring([this] { Ownerless().push_back(m_request); });
+}
+
+void HttpRequest::AbortOwnerless() noexcept
+{
+    for (const auto& request : Ownerless())
+        request->abort();
+    Ownerless().clear();
 }
 
 void HttpRequest::Open(const wchar_t* method, const std::wstring& url)
@@ -69,21 +111,34 @@ void HttpRequest::SendBody(const Variant& body)
     m_underWay = true;
 }
 
-long HttpRequest::ReadyState() const
-{
-    long state = 0;
-    Check(m_request->get_readyState(&state), kSource);
-    return state;
-}
-
 void HttpRequest::Wait(std::optional<std::chrono::milliseconds> limit)
 {
     // Progress arrives as messages on this thread, so asking after each message misses nothing.
-    if (PumpUntil([this] { return ReadyState() == kComplete; }, limit) != WaitEnd::Done) ThrowTransportFailure();
+    if (PumpUntil([this] { return StateOf(*m_request.Get()) == kComplete; }, limit) != WaitEnd::Done)
+        ThrowTransportFailure();
     m_underWay = false;
     // The component reports a failed transport as a status of its own outside HTTP's range, or by refusing to tell.
     Check(m_request->get_status(&m_status), kSource);
-    if (m_status < 100 || m_status > 599) ThrowTransportFailure();
+    if (m_status < 100 || m_status > 599 || IsCutShort()) ThrowTransportFailure();
+}
+
+std::wstring HttpRequest::AnswerHeader(const wchar_t* name) const
+{
+    Bstr value;
+    m_request->getResponseHeader(Bstr{name}.Get(), value.Put());
+    return value.Text();
+}
+
+bool HttpRequest::IsCutShort() const
+{
+    // The component may pass off the beginning of an answer as the whole when the connection breaks. The length of an
+    // encoded one tells nothing of what it decodes to.
+    if (!AnswerHeader(L"Content-Encoding").empty()) return false;
+    const auto promised = std::wcstoull(AnswerHeader(L"Content-Length").c_str(), nullptr, 10);
+    Variant body;
+    if (promised == 0 || FAILED(m_request->get_responseBody(body.Put()))) return false;
+    const bool hasBytes = body.Get().vt == (VT_ARRAY | VT_UI1) && body.Get().parray != nullptr;
+    return promised > (hasBytes ? body.Get().parray->rgsabound[0].cElements : 0U);
 }
 
 std::wstring HttpRequest::Text() const

@@ -22,7 +22,12 @@ public:
     HttpRequest();
     HttpRequest(const HttpRequest&) = delete;
     HttpRequest& operator=(const HttpRequest&) = delete;
-    ~HttpRequest(); // a request still under way is abandoned
+    // A request still under way goes on without its owner: some platforms hand the connection of an aborted request
+    // to the next one, which then reads the late answer of the other.
+    ~HttpRequest();
+
+    // Ends the requests that go on without their owners.
+    static void AbortOwnerless() noexcept;
 
     // Opens the request asynchronously, without user name and password.
     void Open(const wchar_t* method, const std::wstring& url);
@@ -33,8 +38,9 @@ public:
     void Send(ByteArray bytes);
     void SendEmptyDocument();
 
-    // Waits for the whole answer while messages are handled. Throws Error when the transport failed, when the limit
-    // passed first, or when the thread is told to end. No limit means waiting for ever.
+    // Waits for the whole answer while messages are handled. Throws Error when the transport failed, when the answer is
+    // shorter than it says, when the limit passed first, or when the thread is told to end. No limit means waiting for
+    // ever.
     void Wait(std::optional<std::chrono::milliseconds> limit);
 
     // The answer: its HTTP status, its text (empty when it cannot be read as text) and its bytes.
@@ -44,7 +50,8 @@ public:
 
 private:
     void SendBody(const Variant& body);
-    [[nodiscard]] long ReadyState() const;
+    [[nodiscard]] std::wstring AnswerHeader(const wchar_t* name) const;
+    [[nodiscard]] bool IsCutShort() const;
 
     ComPtr<IXMLHTTPRequest> m_request;
     long m_status = 0;

@@ -8,7 +8,7 @@ namespace corvane
 namespace
 {
 
-std::chrono::seconds g_timeout{0};
+std::chrono::milliseconds g_timeout{0};
 
 std::wstring RequiredAttribute(const XmlNode& node, const wchar_t* name, const wchar_t* source)
 {
@@ -29,7 +29,7 @@ ErrorDocument ReadErrorDocument(const std::wstring& text, const wchar_t* source)
 
 } // namespace
 
-void SetRequestTimeout(std::chrono::seconds timeout) noexcept { g_timeout = timeout; }
+void SetRequestTimeout(std::chrono::milliseconds timeout) noexcept { g_timeout = timeout; }
 
 std::optional<std::chrono::milliseconds> RequestLimit(std::size_t bytes) noexcept
 {

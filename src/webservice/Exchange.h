@@ -13,7 +13,7 @@ namespace corvane
 {
 
 // How long a request may take; zero for no limit.
-void SetRequestTimeout(std::chrono::seconds timeout) noexcept;
+void SetRequestTimeout(std::chrono::milliseconds timeout) noexcept;
 
 // The limit for a request that carries so many bytes: the time-out and a second for every 32 KiB; nothing for none.
 [[nodiscard]] std::optional<std::chrono::milliseconds> RequestLimit(std::size_t bytes = 0) noexcept;
