@@ -10,6 +10,7 @@ namespace corvane
 {
 
 // Run-time error numbers as Automation clients know them.
+inline constexpr std::int32_t kErrorOverflow = 6;
 inline constexpr std::int32_t kErrorSubscriptOutOfRange = 9;
 inline constexpr std::int32_t kErrorTypeMismatch = 13;
 inline constexpr std::int32_t kErrorObjectNotSet = 91;

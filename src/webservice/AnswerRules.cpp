@@ -3,6 +3,7 @@
 #include "support/Conversions.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace corvane
 {
@@ -89,8 +90,10 @@ Error StatusError(AnswerMeaning meaning, long status, std::wstring_view server, 
 Error DocumentError(const ErrorDocument& document, const ServiceProcedure& procedure)
 {
     const std::int32_t number = ToLongSafe(document.number);
-    if (procedure.strictNumber && !NumberIn(document.number))
-        return {kErrorTypeMismatch, procedure.source, L"Type mismatch"};
+    const auto asItStands = NumberIn(document.number);
+    if (procedure.strictNumber && !asItStands) return {kErrorTypeMismatch, procedure.source, L"Type mismatch"};
+    if (procedure.strictNumber && number == 0 && std::abs(*asItStands) > 1)
+        return {kErrorOverflow, procedure.source, L"Overflow"};
     if (number == kServerTooOld)
         return {kTransportError, procedure.tooOldSource,
                 L"This Corvane for MS Office add-in must be used with a server where Corvane 8.0 or higher has been "
