@@ -30,10 +30,15 @@ Drop ParseDrop(const std::string& text)
 
 Fault ParseFault(const Json& rule)
 {
-    Fault fault{
-        .delayMs = rule.value("delayMs", 0), .status = {}, .body = {}, .drop = ParseDrop(rule.value("drop", ""))};
+    Fault fault{.delayMs = rule.value("delayMs", 0),
+                .status = {},
+                .body = {},
+                .contentType = rule.value("contentType", ""),
+                .location = rule.value("location", ""),
+                .drop = ParseDrop(rule.value("drop", ""))};
     if (rule.contains("status")) fault.status = rule["status"].get<int>();
     if (rule.contains("body")) fault.body = rule["body"].get<std::string>();
+    if (rule.contains("file")) fault.body = ReadAll(rule["file"].get<std::string>());
     return fault;
 }
 

@@ -24,6 +24,8 @@ struct Fault
     int delayMs = 0;
     std::optional<int> status;
     std::optional<std::string> body;
+    std::string contentType; // empty: as the body looks
+    std::string location;    // where a redirect leads
     Drop drop = Drop::Nowhere;
 };
 

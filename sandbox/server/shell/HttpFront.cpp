@@ -26,9 +26,12 @@ void ReuseAddressOnly(socket_t socket)
 void ApplyTo(Answer& answer, const Fault& fault)
 {
     if (fault.status) answer.status = *fault.status;
-    if (!fault.body) return;
-    answer.body = *fault.body;
-    answer.contentType = fault.body->starts_with('<') ? "text/xml; charset=utf-8" : "text/plain; charset=utf-8";
+    if (!fault.location.empty()) answer.headers.emplace_back("Location", fault.location);
+    if (fault.body) {
+        answer.body = *fault.body;
+        answer.contentType = fault.body->starts_with('<') ? "text/xml; charset=utf-8" : "text/plain; charset=utf-8";
+    }
+    if (!fault.contentType.empty()) answer.contentType = fault.contentType;
 }
 
 } // namespace
