@@ -247,8 +247,8 @@ void frmSaveTo::cmdOK_Click()
         ShowMessage(m_captions.nothingSelected, m_captions.refusalIsCritical ? kStyleCritical : kStylePlain);
         return;
     }
+    CustomNames().RefreshOnce(m_currentServer); // when this fails, nothing is chosen yet
     TakeTarget(*target);
-    CustomNames().RefreshOnce(ServerURL);
     Hide();
 }
 
