@@ -1,0 +1,92 @@
+"""Scenarios in which every step of a save meets faults, one after the other, until it succeeds in the same dialog.
+
+The server uses up one rule with each failing request. A rule without effect lets a request through.
+"""
+import json
+
+LOST = "Unable to contact server ${SERVER}."
+SECURE = "The server cannot be accessed or the page must be viewed over a secure channel."
+FAULTS = {"drop": {"drop": "before"}, "status": {"status": 500, "body": "no"}, "secure": {"status": 403},
+          "document": {"body": "<error number='7' source='Its own' description='Its words.'/>"}}
+SAVE = ["MaxFileUploadSize", "UploadTo"]
+STORIES = {  # command, tree, target, dialog, requests of the first loading, recording, later loading and recording
+    "deliverable": ("DelivAct", "GetMyAssignmentsAsTree", "Apollo/Concept/Business case", "frmSaveAssignment", {
+        "IsAutoSet": 1, "Op=GetUserID": 2, "IsProjectTeamMember": 1, "Op=GetUser&": 1, "GETPROJECTDELIVERABLE": 1,
+        "CHECKACTIVEWORKFLOW": 1}, "CDeliverable.UploadAndUpdate", "CDeliverable.UploadAndUpdate"),
+    "activity": ("DelivAct", "GetMyAssignmentsAsTree", "Apollo/Concept/Business case/Draft the business case",
+                 "frmSaveAssignment", {"GETPROJECTACTIVITY": 1, "CHECKACTIVEWORKFLOW": 2},
+                 "CActivity.UploadAndUpdate", "CActivity.UploadAndUpdate"),
+    "gate": ("GateDoc", "GetMyGateDocumentsAsTree", "Apollo/Gate 1/Project charter", "frmSaveGateDoc", {
+        "Op=GetUserID": 2, "IsProjectTeamMember": 1, "USERCANUPDATE": 1, "GETPROJECTGATEDOCUMENT": 1, "Op=GetUser&": 1},
+        "CGateDocument.UploadAndUpdate", "CGateDocument.UploadAndUpdate"),
+    "related": ("Related", "GetMyProjectsRelatedFiles", "Apollo/[New Related Document]", "frmSaveRelatedDoc", {
+        "Op=GetUser&": 1, "GetProjectRelatedFile": 0, "GetGroups": 1}, "CreateProjectRelatedFile2",
+        "UploadProjectRelatedFile2")}
+
+
+class Story:
+    def __init__(self, name):
+        self.name = name
+        self.command, self.tree, self.target, self.dialog, self.loading, self.first, self.later = STORIES[name]
+        self.rules, self.steps = [], []
+
+    def message(self, request, kind):
+        """The step that reads and closes what the user is told when the request meets the fault."""
+        upload = request == "UploadTo"
+        source = {"UploadTo": "ExecuteASPWSUploadFile", "UPDATEUSERACCESSLOG": "UpdateUserLog"}
+        number, lines, raised = 225, [LOST], source.get(request, "ExecuteASPWebService")
+        if kind == "drop" and upload:
+            lines = ["Unable to connect to server '${SERVER}'"]
+        elif kind == "document":
+            number, lines, raised = 7, ["Its words."], "Its own"
+        elif kind == "secure" and not upload:
+            lines = [SECURE]
+        elif kind != "drop":
+            number = FAULTS[kind]["status"]
+            lines = [f"Error: HTTP Status Code {number}", "", "Remote call to '${SERVER}' failed.", ""]
+        words = ["ERROR", f"Number: {number}", "Description: " + lines[0], *lines[1:], "Source: " + raised]
+        return "message exactly " + " ".join(f'"{word}"' for word in words) + " OK"
+
+    def meet(self, requests, kinds, after):
+        """Each request fails once in each way; after each message come these steps."""
+        for request in requests:
+            for kind in kinds:
+                self.rules.append({"match": request, "times": 1, **FAULTS[kind]})
+                self.steps += [self.message(request, kind), *after]
+
+    def pick(self):
+        return ["expect cmdOK enabled", f'select TreeView1 "{self.target}"', "press cmdOK"]
+
+    def text(self):
+        again = [f"command {self.command}"]
+        usable = [f"window {self.dialog}", 'expect StatusBar1 "Ready"', "expect cmdSave enabled"]
+        leave = [f"window {self.dialog}", "expect cmdSave disabled", "press cmdCancel", f"closed {self.dialog}", *again]
+        self.rules += [{"match": request, "times": times} for request, times in self.loading.items()]
+        self.steps += ["new", *again, "window frmSaveTo"]
+        all_alike = ["UPDATEUSERACCESSLOG"] if self.name == "deliverable" else []
+        self.meet([*all_alike, self.tree], FAULTS, ["expect cmdOK disabled", 'expect StatusBar1 "Ready"', "press cmdGo"])
+        self.steps += self.pick()
+        leave_tree = ["press cmdCancel", "closed frmSaveTo", *again, "window frmSaveTo", *self.pick()]
+        self.meet(["CConfig.GetValues"] if all_alike else [], ["document"], leave_tree)
+        self.steps += [*usable, "press cmdSave"]
+        self.meet([*SAVE, self.first], FAULTS, [*usable, "press cmdSave"])
+        self.steps += [f"closed {self.dialog}", *again]
+        for request in self.loading:
+            after = ["closed frmBusy", *again] if request == "IsAutoSet" else leave
+            self.meet([request], ["document"], after)
+        self.steps += [*usable, "press cmdSave"]
+        if self.later != self.first:
+            self.meet([self.later], FAULTS, [*usable, "press cmdSave"])
+        self.steps += [f"closed {self.dialog}", "no message", "quit"]
+        head = ["#! run --timeout 1", "#! faults " + json.dumps(self.rules),
+                r"#! registry Software\Halvex\Corvane\ServerURLMRU MRUServerURL1=${SERVER}"]
+        return "\n".join([*head, *self.steps, "#= versions 2", "#= uploaded documents/Presentation1.pptx"]) + "\n"
+
+
+def write_stories(folder):
+    """Writes the scenarios; their paths."""
+    folder.mkdir(parents=True, exist_ok=True)
+    paths = [folder / f"faults-{name}.txt" for name in STORIES]
+    for name, path in zip(STORIES, paths):
+        path.write_text(Story(name).text(), encoding="utf-8")
+    return paths
