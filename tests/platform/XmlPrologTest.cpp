@@ -20,6 +20,8 @@ TEST(XmlProlog, TellsADocumentTypeFromWhatMayStandBesideIt)
         {"BehindAByteOrderMark", L"\xFEFF<!DOCTYPE a><a/>", true},
         {"BehindAComment", L"<!-- a > b --><!DOCTYPE a><a/>", true},
         {"BehindSeveral", L"<?a?><!----><?b <x> ?>\n<!-- c --> <!DOCTYPE a><a/>", true},
+        {"BehindACommentThatBeginsLikeAnEnd", L"<!---><b> --><!DOCTYPE a><a/>", true},
+        {"BehindAnInstructionThatBeginsLikeAnEnd", L"<?><b> ?><!DOCTYPE a><a/>", true},
         {"InLowerCase", L"<!doctype a><a/>", true},
         {"InAComment", L"<!-- <b> <!DOCTYPE a> --><a/>", false},
         {"InAnInstruction", L"<?a <b> <!DOCTYPE a> ?><a/>", false},
