@@ -2,6 +2,8 @@
 
 #include "support/CFastString.h"
 
+#include <array>
+
 namespace corvane
 {
 namespace
@@ -24,28 +26,64 @@ constexpr bool IsPlain(wchar_t unit)
            (unit >= 128 && unit <= 255);
 }
 
-std::wstring PercentCoded(std::uint32_t byte)
+// Encoded text on its way into a string builder. A piece of the builder for each character would cost several times
+// what the encoding does, so characters are gathered into longer ones.
+class EncodedPieces
 {
-    constexpr std::wstring_view kDigits = L"0123456789ABCDEF";
-    return {L'%', kDigits[byte >> 4U], kDigits[byte & 0xFU]};
-}
+public:
+    void Encode(wchar_t unit)
+    {
+        if (m_length + kLongestCode > m_piece.size()) Finish();
+        const auto code = static_cast<std::uint32_t>(unit) & 0xFFFFU;
+        if (IsPlain(unit))
+            Add(unit);
+        else if (unit == L' ')
+            Add(L'+');
+        else if (code < 128)
+            AddByte(code);
+        else
+            AddUtf8(code);
+    }
 
-// A code unit above 255 in UTF-8, two or three bytes; half of a surrogate pair becomes the replacement character.
-std::wstring PercentCodedUtf8(std::uint32_t unit)
-{
-    if (unit >= 0xD800 && unit <= 0xDFFF) unit = kReplacementCharacter;
-    if (unit < 0x800) return PercentCoded(0xC0U | (unit >> 6U)) + PercentCoded(0x80U | (unit & 0x3FU));
-    return PercentCoded(0xE0U | (unit >> 12U)) + PercentCoded(0x80U | ((unit >> 6U) & 0x3FU)) +
-           PercentCoded(0x80U | (unit & 0x3FU));
-}
+    [[nodiscard]] std::wstring Text()
+    {
+        if (m_length != 0) Finish();
+        return m_builder.ToString().value_or(L"");
+    }
 
-std::wstring Encoded(wchar_t unit)
-{
-    if (IsPlain(unit)) return {unit};
-    if (unit == L' ') return L"+";
-    const auto code = static_cast<std::uint32_t>(unit) & 0xFFFFU;
-    return code < 128 ? PercentCoded(code) : PercentCodedUtf8(code);
-}
+private:
+    static constexpr std::size_t kLongestCode = 9; // three bytes
+
+    // A code unit above 255, two or three bytes; half of a surrogate pair becomes the replacement character.
+    void AddUtf8(std::uint32_t unit)
+    {
+        if (unit >= 0xD800 && unit <= 0xDFFF) unit = kReplacementCharacter;
+        if (unit < 0x800) {
+            AddByte(0xC0U | (unit >> 6U));
+        } else {
+            AddByte(0xE0U | (unit >> 12U));
+            AddByte(0x80U | ((unit >> 6U) & 0x3FU));
+        }
+        AddByte(0x80U | (unit & 0x3FU));
+    }
+    void AddByte(std::uint32_t byte)
+    {
+        constexpr std::wstring_view kDigits = L"0123456789ABCDEF";
+        Add(L'%');
+        Add(kDigits[byte >> 4U]);
+        Add(kDigits[byte & 0xFU]);
+    }
+    void Add(wchar_t letter) { m_piece[m_length++] = letter; }
+    void Finish()
+    {
+        m_builder.Append({m_piece.data(), m_length});
+        m_length = 0;
+    }
+
+    CFastString m_builder;
+    std::array<wchar_t, 4096> m_piece{};
+    std::size_t m_length = 0;
+};
 
 } // namespace
 
@@ -53,10 +91,10 @@ std::wstring ParameterText(const Parameter& parameter) { return std::visit(Param
 
 std::wstring EncodeURLParameter(std::wstring_view text)
 {
-    CFastString encoded;
+    EncodedPieces pieces;
     for (const wchar_t unit : text)
-        encoded.Append(Encoded(unit));
-    return encoded.ToString().value_or(L"");
+        pieces.Encode(unit);
+    return pieces.Text();
 }
 
 std::wstring RequestQuery(std::wstring_view operation, const Parameters& parameters)
