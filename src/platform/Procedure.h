@@ -3,6 +3,7 @@
 
 #include "platform/Error.h"
 
+#include <cstddef>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -30,6 +31,12 @@ class ProcedureScope
 {
 public:
     explicit ProcedureScope(std::wstring_view procedure) noexcept;
+    // A name written out has its length from the compiler: most scopes open while nobody listens, and counting letters
+    // would be most of their cost.
+    template<std::size_t Size>
+    explicit ProcedureScope(const wchar_t (&procedure)[Size]) noexcept
+        : ProcedureScope{std::wstring_view{procedure, Size - 1}}
+    {}
     ProcedureScope(const ProcedureScope&) = delete;
     ProcedureScope& operator=(const ProcedureScope&) = delete;
     ~ProcedureScope();
