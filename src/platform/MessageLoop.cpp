@@ -75,6 +75,14 @@ void PumpPending()
     }
 }
 
+void WorkPauses::Step()
+{
+    constexpr std::chrono::milliseconds kLongestWork{10};
+    if (Clock::now() - m_last < kLongestWork) return;
+    PumpPending();
+    m_last = Clock::now();
+}
+
 void AddDialogWindow(HWND window) { DialogWindows().push_back(window); }
 
 void RemoveDialogWindow(HWND window) noexcept

@@ -28,6 +28,18 @@ void PumpFor(std::chrono::milliseconds time);
 // Handles the messages that are waiting now, and returns.
 void PumpPending();
 
+// Keeps windows alive while this thread works for long: handles the messages that wait whenever the last look at them
+// is a while ago. Whoever works must expect what messages bring, such as its window being hidden.
+class WorkPauses
+{
+public:
+    // To be called after every small step of the work.
+    void Step();
+
+private:
+    std::chrono::steady_clock::time_point m_last = std::chrono::steady_clock::now();
+};
+
 // Windows whose dialog keys (Tab, Enter, Esc, access keys) the loops above serve.
 void AddDialogWindow(HWND window);
 void RemoveDialogWindow(HWND window) noexcept;

@@ -5,6 +5,26 @@
 namespace corvane
 {
 
+namespace
+{
+
+// Keeps a control from painting itself until all is in it.
+class PaintingOff
+{
+public:
+    explicit PaintingOff(HWND control) noexcept : m_control{control} { Set(FALSE); }
+    PaintingOff(const PaintingOff&) = delete;
+    PaintingOff& operator=(const PaintingOff&) = delete;
+    ~PaintingOff() { Set(TRUE); }
+
+private:
+    void Set(BOOL paints) const noexcept { ::SendMessageW(m_control, WM_SETREDRAW, static_cast<WPARAM>(paints), 0); }
+
+    HWND m_control;
+};
+
+} // namespace
+
 TargetTree::TargetTree(HWND treeView, TreeMode mode, IconLoader loadIcons)
     : m_treeView{treeView}, m_mode{mode}, m_loadIcons{std::move(loadIcons)}
 {
@@ -19,9 +39,20 @@ void TargetTree::Clear()
     m_keys.clear();
 }
 
-void TargetTree::AddProject(const XmlNode& project, const TreeTarget& preselected)
+void TargetTree::AddProjects(const std::vector<XmlNode>& projects, const TreeTarget& preselected,
+                             const std::function<bool()>& wanted)
 {
     m_preselected = preselected;
+    m_pauses = WorkPauses{};
+    const PaintingOff paintingOff{m_treeView};
+    for (const XmlNode& project : projects) {
+        if (!wanted()) return;
+        AddProject(project);
+    }
+}
+
+void TargetTree::AddProject(const XmlNode& project)
+{
     const std::wstring iconSet = project.Text(L"IconSet");
     if (m_iconSets.insert(iconSet).second) m_loadIcons(m_images, iconSet);
     AddNode({TVI_ROOT, {}}, project, 0, iconSet);
@@ -32,6 +63,7 @@ void TargetTree::AddNode(const Position& parent, const XmlNode& element, std::si
     const auto levels = TreeLevels(m_mode);
     const TreeLevel& level = levels[depth];
     const Position node = Insert(parent, level, element.Text(level.idAttribute), element.Text(L"name"), iconSet);
+    m_pauses.Step();
     if (depth + 1 == levels.size()) return;
     const TreeLevel& below = levels[depth + 1];
     if (m_mode == TreeMode::RelatedDocument) Insert(node, below, L"0", std::wstring{kNewRelatedDocumentText}, iconSet);

@@ -1,6 +1,7 @@
 // The tree control filled with the user's targets.
 #pragma once
 
+#include "platform/MessageLoop.h"
 #include "platform/XmlDocument.h"
 #include "selection/NodeKey.h"
 #include "selection/TreeImages.h"
@@ -27,8 +28,10 @@ public:
     ~TargetTree();
 
     void Clear();
-    // Adds a project with all below it; nodes whose ids equal those of preselected become visible and selected.
-    void AddProject(const XmlNode& project, const TreeTarget& preselected);
+    // Adds projects with all below them; nodes whose ids equal those of preselected become visible and selected.
+    // Messages are handled meanwhile; once wanted() no longer holds, the rest is left out.
+    void AddProjects(const std::vector<XmlNode>& projects, const TreeTarget& preselected,
+                     const std::function<bool()>& wanted);
 
     // The key of the selected node, empty when none is selected; and whether it has children.
     [[nodiscard]] std::wstring SelectedKey() const;
@@ -41,6 +44,7 @@ private:
         std::wstring key;
     };
 
+    void AddProject(const XmlNode& project);
     void AddNode(const Position& parent, const XmlNode& element, std::size_t depth, const std::wstring& iconSet);
     Position Insert(const Position& parent, const TreeLevel& level, const std::wstring& id, const std::wstring& text,
                     const std::wstring& iconSet);
@@ -53,6 +57,7 @@ private:
     std::set<std::wstring> m_iconSets;
     std::vector<std::wstring> m_keys; // by the number that a node carries
     TreeTarget m_preselected;
+    WorkPauses m_pauses;
 };
 
 } // namespace corvane

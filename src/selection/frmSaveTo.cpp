@@ -124,7 +124,8 @@ void frmSaveTo::cmbServerURL_Click()
     std::wstring text(
         static_cast<std::size_t>(::SendMessageW(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(index), 0)) + 1, L'\0');
     ::SendMessageW(combo, CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.data()));
-    SetText(cmbServerURL, text.c_str());
+    text.pop_back(); // the terminator
+    SetText(cmbServerURL, text);
     // The list has to close before the server is asked.
     ::PostMessageW(Window(), WM_COMMAND, MAKEWPARAM(cmdGo, BN_CLICKED), reinterpret_cast<LPARAM>(Control(cmdGo)));
 }
@@ -233,8 +234,8 @@ void frmSaveTo::LoadTree(const std::wstring& server)
     PutBehindLabel(projects.empty() ? txtTree : TreeView1, lblTree);
     SetText(txtTree, m_captions.emptyText);
     const TreeTarget preselected{ProjectID, DeliverableID, ActivityID, RelatedDocID, GateDocumentID};
-    for (const XmlNode& project : projects)
-        m_tree->AddProject(project, preselected);
+    const auto wanted = [this] { return ::IsWindowVisible(Window()) != FALSE; };
+    m_tree->AddProjects(projects, preselected, wanted);
     SetText(lblTree, FilterActive ? WithFilterMark(m_captions.treeLabel) : m_captions.treeLabel);
     m_treeLoaded = true;
 }
