@@ -1,7 +1,7 @@
 # The commands for a person. Each first installs what the machine lacks. ARCH=x86 tests, or opens, the 32-bit add-in.
 ARCH ?= x64
 
-.PHONY: all demo test check fuzz sandbox shots packages clean
+.PHONY: all demo test check bench fuzz sandbox shots packages clean
 
 all: packages
 	@for preset in x64 x86 native; do \
@@ -23,6 +23,10 @@ check: all
 
 shots: all
 	sandbox/shots $(ARCH)
+
+bench: all
+	ninja -C build/x64 --quiet bench
+	bench/run
 
 fuzz:
 	@tools/install-packages clang
