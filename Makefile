@@ -19,6 +19,7 @@ test: all
 	tests/run $(ARCH)
 
 check: all
+	@tools/install-packages cppcheck
 	tools/check
 
 shots: all

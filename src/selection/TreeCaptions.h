@@ -20,7 +20,7 @@ struct TreeCaptions
     std::wstring serverLabel;
     std::wstring emptyText;       // stands in place of a tree without projects
     std::wstring nothingSelected; // the refusal of OK without a target
-    bool refusalIsCritical;
+    bool refusalIsCritical = true;
 };
 
 [[nodiscard]] TreeCaptions TreeCaptionsFor(TreeMode mode, const NameLookup& name);

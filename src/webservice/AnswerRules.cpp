@@ -53,8 +53,9 @@ std::int32_t ToErrorNumber(std::wstring_view text)
 
 std::wstring HTTPErrorText(std::wstring_view server, long status, std::wstring_view /*responseText*/)
 {
-    return L"Error: HTTP Status Code " + std::to_wstring(status) + L"\r\n\r\nRemote call to '" + std::wstring{server} +
-           L"' failed.\r\n";
+    std::wstring text = L"Error: HTTP Status Code ";
+    text.append(std::to_wstring(status)).append(L"\r\n\r\nRemote call to '").append(server).append(L"' failed.\r\n");
+    return text;
 }
 
 std::wstring UnableToContact(std::wstring_view server)
