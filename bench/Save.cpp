@@ -8,12 +8,10 @@
 #include "resources/resource.h"
 #include "shared/DocumentProperties.h"
 
-#include <atomic>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <sstream>
-#include <thread>
 
 namespace bench
 {
@@ -27,27 +25,18 @@ constexpr long kPptx = 24;
 class InstantUser
 {
 public:
-    InstantUser()
-        : m_thread{[this] {
-              constexpr DWORD kPause = 5;
-              for (; !m_ended; ::Sleep(kPause))
-                  ::EnumWindows(&PressSave, 0);
-          }}
-    {}
-    ~InstantUser()
-    {
-        m_ended = true;
-        m_thread.join();
-    }
+    InstantUser() : m_timer{::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, &Look)} {}
+    ~InstantUser() { ::KillTimer(nullptr, m_timer); }
     InstantUser(const InstantUser&) = delete;
     InstantUser& operator=(const InstantUser&) = delete;
 
 private:
+    static void CALLBACK Look(HWND, UINT, UINT_PTR, DWORD)
+    {
+        ::EnumThreadWindows(::GetCurrentThreadId(), &PressSave, 0);
+    }
     static BOOL CALLBACK PressSave(HWND window, LPARAM)
     {
-        DWORD process = 0;
-        ::GetWindowThreadProcessId(window, &process);
-        if (process != ::GetCurrentProcessId()) return TRUE;
         const HWND button = ::GetDlgItem(window, cmdSave);
         if (button == nullptr || !::IsWindowVisible(window) || !::IsWindowEnabled(window) || !::IsWindowEnabled(button))
             return TRUE;
@@ -55,8 +44,7 @@ private:
         return FALSE;
     }
 
-    std::atomic<bool> m_ended = false;
-    std::thread m_thread;
+    UINT_PTR m_timer;
 };
 
 // Loads what both ways of saving need: the system's XML and HTTP libraries.

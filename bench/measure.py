@@ -97,7 +97,7 @@ def bench(*words, debug="-all"):
     done = subprocess.run(["wine", X64 / "bench/corvane-bench.exe", *map(str, words)], capture_output=True, text=True,
                           timeout=PATIENCE, env=dict(os.environ, WINEDEBUG=debug), errors="replace")
     if done.returncode != 0:
-        sys.exit(f"bench {words}: status {done.returncode}\n{done.stdout}\n{done.stderr[-2000:]}")
+        raise RuntimeError(f"{' '.join(map(str, words))}: status {done.returncode}\n{done.stdout}{done.stderr[-500:]}")
     figures = {}
     for name, value in re.findall(r"^([\w-]+) (-?[\d.]+)\s*$", done.stdout, re.M):
         figures.setdefault(name, []).append(float(value))
@@ -195,7 +195,7 @@ def load(table):
     trace = bench("load", library, debug="+file,+winsock,+wininet")["trace"]
     between = trace.partition("bench-begins")[2].partition("bench-ends")[0]
     if not between:
-        sys.exit("the trace of the load has no marks")
+        raise RuntimeError("the trace of the load has no marks")
     print("  files opened:", *files_opened(trace))
     sockets = len(re.findall(r"trace:(winsock|wininet):(?!DllMain)", between))
     print("  calls of the network:", sockets)
@@ -264,13 +264,18 @@ def main():
     HERE.mkdir(parents=True, exist_ok=True)
     begin, load_before = time.time(), os.getloadavg()
     table = Table()
-    for row in ROWS:
-        if row.__name__ in chosen:
+    failed = []
+    for row in (row for row in ROWS if row.__name__ in chosen):
+        try:
             row(table)
+        except (OSError, RuntimeError, subprocess.SubprocessError) as problem:
+            failed.append(row.__name__)
+            print(f"{row.__name__}: NOT MEASURED: {problem}", flush=True)
     conditions = {"processors": os.cpu_count(), "load before": load_before, "load after": os.getloadavg(),
-                  "seconds": round(time.time() - begin)}
+                  "seconds": round(time.time() - begin), "not measured": failed}
     print("conditions:", ", ".join(f"{name} {value}" for name, value in conditions.items()))
     (TOP / "build/bench.json").write_text(json.dumps({"conditions": conditions, "rows": table.rows}, indent=1) + "\n")
+    sys.exit(1 if failed else 0)
 
 
 main()
