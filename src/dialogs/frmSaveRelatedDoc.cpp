@@ -1,5 +1,6 @@
 #include "dialogs/frmSaveRelatedDoc.h"
 
+#include "platform/FormLists.h"
 #include "platform/Messages.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
@@ -17,11 +18,6 @@ constexpr int kSaveControls[] = {txtName, txtDescription, txtAuthor, cboGroup, c
 
 constexpr const wchar_t* kUploadRole = L"RU";
 constexpr const wchar_t* kDefaultGroup = L"[default]"; // in lower case
-
-int AddString(HWND combo, const std::wstring& text) noexcept
-{
-    return static_cast<int>(::SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str())));
-}
 
 // The text of a list entry.
 std::wstring ListText(HWND combo, int index)
@@ -103,7 +99,7 @@ void frmSaveRelatedDoc::FillGroups()
     ::SendMessageW(combo, CB_RESETCONTENT, 0, 0);
     const XmlDocument groups = QueryXml(ServerURL, Operations::kGetGroups, {ProjectID});
     for (const XmlNode& group : groups.Select(L"//fg:group"))
-        AddString(combo, group.Text(L"name"));
+        AddListEntry(combo, group.Text(L"name"));
 }
 
 void frmSaveRelatedDoc::SelectGroup(const std::wstring& group)
@@ -114,7 +110,7 @@ void frmSaveRelatedDoc::SelectGroup(const std::wstring& group)
     while (index < count && ListText(combo, index) != group)
         ++index;
     // A category that the project does not offer stays the document's own.
-    if (index == count && !group.empty()) index = AddString(combo, group);
+    if (index == count && !group.empty()) index = AddListEntry(combo, group);
     ::SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
 }
 
@@ -128,6 +124,7 @@ SaveDialog::SaveStart frmSaveRelatedDoc::BeginSave()
 {
     if (!Trim(Text(txtName)).empty()) return SaveStart::Go;
     ShowMessage(L"Name is required.", kStyleCritical);
+    SetFocusTo(txtName);
     return SaveStart::StayOpen;
 }
 

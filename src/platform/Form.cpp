@@ -69,8 +69,8 @@ void Form::ShowModal()
 {
     Load();
     const HWND owner = ::GetWindow(m_window, GW_OWNER);
+    m_focusBefore = ::GetFocus(); // disabling its window takes it away
     if (owner != nullptr && !::EnableWindow(owner, FALSE)) m_disabledOwner = owner;
-    m_focusBefore = ::GetFocus();
     FitToScreen();
     SetShown(true);
     if (PumpUntil([this] { return !m_shown; }) == WaitEnd::Quit) Hide();
@@ -79,7 +79,8 @@ void Form::ShowModal()
 void Form::FitToScreen() noexcept
 {
     m_scroll.Undo(m_window);
-    m_scroll.Cut(m_window, MoveOntoScreen(m_window, m_shown ? FormPlace::Own : FormPlace::OwnersMiddle));
+    m_scroll.Cut(m_window, WorkAreaFor(m_window).Size());
+    MoveOntoScreen(m_window, m_shown ? FormPlace::Own : FormPlace::OwnersMiddle);
 }
 
 void Form::ChangeLayout(const std::function<void()>& change)

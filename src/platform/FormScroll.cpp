@@ -137,8 +137,11 @@ void FormScroll::Cut(HWND form, const Extent& most) noexcept
     if (whole.width <= most.width && whole.height <= most.height) return;
     m_whole = whole;
     const Extent content = ClientSize(form);
-    Resize(form, {std::min(whole.width, most.width), std::min(whole.height, most.height)});
     const Extent bar{::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CYHSCROLL)};
+    // Where there is room, the window grows by a bar instead of giving up as much of its content.
+    const int width = whole.width + (whole.height > most.height ? bar.width : 0);
+    const int height = whole.height + (whole.width > most.width ? bar.height : 0);
+    Resize(form, {std::min(width, most.width), std::min(height, most.height)});
     const ScrollBars bars = BarsFor(content, ClientSize(form), bar);
     SetStyle(form, (bars.horizontal ? WS_HSCROLL : 0U) | (bars.vertical ? WS_VSCROLL : 0U));
     Resize(form, WindowSize(form));

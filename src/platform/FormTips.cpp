@@ -2,8 +2,8 @@
 
 #include "platform/AccessibleName.h"
 #include "platform/FormLayout.h"
-#include "platform/Owners.h"
 #include "platform/ShownText.h"
+#include "platform/TextRuler.h"
 
 #include <commctrl.h>
 
@@ -61,31 +61,11 @@ int EdgesOf(TextKind kind, int letter) noexcept
     }
 }
 
-// Measures texts in a control's own font.
-class Ruler
-{
-public:
-    explicit Ruler(HWND control) noexcept : m_context{::CreateCompatibleDC(nullptr)}
-    {
-        ::SelectObject(m_context.Get(), reinterpret_cast<HFONT>(::SendMessageW(control, WM_GETFONT, 0, 0)));
-    }
-
-    [[nodiscard]] SIZE Measure(const std::wstring& text, UINT format, LONG width) const noexcept
-    {
-        RECT place{0, 0, width, 0};
-        ::DrawTextW(m_context.Get(), text.c_str(), static_cast<int>(text.size()), &place, DT_CALCRECT | format);
-        return {place.right, place.bottom};
-    }
-
-private:
-    UniqueDeviceContext m_context;
-};
-
 bool Fits(HWND control, TextKind kind, const std::wstring& text)
 {
     RECT room{};
     ::GetClientRect(control, &room);
-    const Ruler ruler{control};
+    const TextRuler ruler{control};
     if (kind == TextKind::Lines) {
         const SIZE size = ruler.Measure(text, DT_WORDBREAK | DT_EXPANDTABS, room.right);
         return size.cx <= room.right && size.cy <= room.bottom;
@@ -107,7 +87,7 @@ TTTOOLINFOW ToolOf(HWND form, HWND control) noexcept
     tool.uFlags = TTF_SUBCLASS | (isTransparent ? 0U : TTF_IDISHWND);
     tool.rect = ControlPlace(control);
     if (kind == TextKind::Frame) {
-        const Ruler ruler{control};
+        const TextRuler ruler{control};
         tool.rect.bottom = tool.rect.top + ruler.Measure(L"0", DT_SINGLELINE, 0).cy;
     }
     return tool;
@@ -120,7 +100,7 @@ FormTips::FormTips(HWND form) noexcept
                                                 WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT, CW_USEDEFAULT,
                                                 CW_USEDEFAULT, CW_USEDEFAULT, form, nullptr, nullptr, nullptr)}
 {
-    const Ruler ruler{form};
+    const TextRuler ruler{form};
     const int width = kTipLettersALine * static_cast<int>(ruler.Measure(L"0", DT_SINGLELINE, 0).cx);
     ::SendMessageW(m_tooltip, TTM_SETMAXTIPWIDTH, 0, width);
 }

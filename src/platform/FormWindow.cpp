@@ -124,19 +124,24 @@ HWND CreateFormWindow(const wchar_t* name, int templateId, HWND owner, DLGPROC p
 
 void ForgetFormClass(const wchar_t* name) noexcept { ::UnregisterClassW(name, Library::Module()); }
 
-Extent MoveOntoScreen(HWND window, FormPlace place) noexcept
+Box WorkAreaFor(HWND window) noexcept
 {
     const HWND owner = ::GetWindow(window, GW_OWNER);
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
     ::GetMonitorInfoW(::MonitorFromWindow(owner != nullptr ? owner : window, MONITOR_DEFAULTTONEAREST), &monitor);
-    const Box work = BoxOf(monitor.rcWork);
+    return BoxOf(monitor.rcWork);
+}
+
+void MoveOntoScreen(HWND window, FormPlace place) noexcept
+{
+    const HWND owner = ::GetWindow(window, GW_OWNER);
+    const Box work = WorkAreaFor(window);
     const bool showsOwner = ::IsWindowVisible(owner) && !::IsIconic(owner);
     const Box own = PlaceOf(window);
     const Box around = place == FormPlace::Own ? own : showsOwner ? PlaceOf(owner) : work;
     const Box moved = PlaceInMiddle(own.Size(), around, work);
     ::SetWindowPos(window, nullptr, moved.left, moved.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-    return work.Size();
 }
 
 } // namespace corvane

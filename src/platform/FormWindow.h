@@ -22,8 +22,10 @@ enum class FormPlace
     Own           // where it is
 };
 
-// Moves the window inside the work area of its owner's monitor, as near to the place as that allows. Returns the size
-// of the work area.
-Extent MoveOntoScreen(HWND window, FormPlace place) noexcept;
+// The work area of the monitor that shows the window's owner; the window's own monitor without one.
+[[nodiscard]] Box WorkAreaFor(HWND window) noexcept;
+
+// Moves the window inside that work area, as near to the place as it allows.
+void MoveOntoScreen(HWND window, FormPlace place) noexcept;
 
 } // namespace corvane

@@ -1,5 +1,6 @@
 #include "selection/frmFilter.h"
 
+#include "platform/FormLists.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
 #include "support/Conversions.h"
@@ -22,8 +23,7 @@ std::span<const FormHandler> frmFilter::Handlers() const
 
 void frmFilter::AddClass(const std::wstring& name, std::int32_t classId)
 {
-    const LRESULT position =
-        ::SendMessageW(Control(ClassList), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
+    const int position = AddListEntry(Control(ClassList), name);
     ::SendMessageW(Control(ClassList), LB_SETITEMDATA, static_cast<WPARAM>(position), classId);
 }
 

@@ -1,6 +1,7 @@
 #include "selection/frmSaveTo.h"
 
 #include "platform/Files.h"
+#include "platform/FormLists.h"
 #include "platform/Messages.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
@@ -96,7 +97,7 @@ void frmSaveTo::FillServers()
 {
     const auto urls = m_servers->GetURLs();
     for (const std::wstring& url : urls) {
-        if (!url.empty()) ::SendMessageW(Control(cmbServerURL), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(url.c_str()));
+        if (!url.empty()) AddListEntry(Control(cmbServerURL), url);
     }
     std::wstring text = ServerURL;
     if (text.empty() && !urls.empty()) text = urls.front();

@@ -1,0 +1,15 @@
+// Entries of the forms' lists and combo boxes.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace corvane
+{
+
+// Appends an entry; the list can then show all of it: a combo box drops a list as wide as its longest entry, a list box
+// scrolls sideways. Returns the entry's position.
+int AddListEntry(HWND list, const std::wstring& text) noexcept;
+
+} // namespace corvane
