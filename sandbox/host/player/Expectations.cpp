@@ -25,6 +25,18 @@ struct StateName
 
 bool IsChecked(HWND control) { return Ask(control, BM_GETCHECK).value_or(BST_INDETERMINATE) == BST_CHECKED; }
 
+// Whether all of the control is in what its form shows of itself.
+bool IsInView(HWND form, HWND control)
+{
+    RECT view{};
+    RECT place{};
+    RECT common{};
+    ::GetClientRect(form, &view);
+    ::GetWindowRect(control, &place);
+    ::MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&place), 2);
+    return ::IntersectRect(&common, &view, &place) && ::EqualRect(&common, &place);
+}
+
 constexpr StateName kStates[] = {
     {"enabled", [](HWND, HWND control, HWND) { return ::IsWindowEnabled(control) != FALSE; }},
     {"disabled", [](HWND, HWND control, HWND) { return ::IsWindowEnabled(control) == FALSE; }},
@@ -34,6 +46,7 @@ constexpr StateName kStates[] = {
     {"unchecked", [](HWND, HWND control, HWND) { return !IsChecked(control); }},
     {"focused",
      [](HWND, HWND control, HWND focus) { return focus && (focus == control || ::IsChild(control, focus)); }},
+    {"inview", [](HWND form, HWND control, HWND) { return IsInView(form, control); }},
     {"default", [](HWND form, HWND control, HWND) { return IsDefaultButton(form, control); }},
     {"notdefault", [](HWND form, HWND control, HWND) { return !IsDefaultButton(form, control); }},
 };

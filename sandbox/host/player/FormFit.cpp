@@ -20,13 +20,12 @@ struct Item
 {
     HWND window;
     std::wstring name;
-    std::wstring type; // the window class
     std::wstring text;
     DWORD style;
     RECT place; // in the form's client area
 };
 
-bool Is(const Item& item, const wchar_t* type) { return ::lstrcmpiW(item.type.c_str(), type) == 0; }
+bool Is(const Item& item, const wchar_t* type) { return IsClass(item.window, type); }
 bool IsFrame(const Item& item) { return Is(item, WC_BUTTONW) && (item.style & BS_TYPEMASK) == BS_GROUPBOX; }
 
 std::vector<Item> ShownItems(HWND form)
@@ -37,9 +36,8 @@ std::vector<Item> ShownItems(HWND form)
         RECT place{};
         ::GetWindowRect(child, &place);
         ::MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&place), 2);
-        items.push_back({child, Widen(ControlNameOf(::GetDlgCtrlID(child))), ClassOf(child),
-                         ControlText(child).value_or(L""), static_cast<DWORD>(::GetWindowLongPtrW(child, GWL_STYLE)),
-                         place});
+        items.push_back({child, Widen(ControlNameOf(::GetDlgCtrlID(child))), ControlText(child).value_or(L""),
+                         static_cast<DWORD>(::GetWindowLongPtrW(child, GWL_STYLE)), place});
     }
     return items;
 }

@@ -42,6 +42,14 @@ Reading Read(const std::wstring& text)
     return reading;
 }
 
+// Wine's accessible objects take the first "&" of a text for a mark and leave the others as they are.
+std::wstring WithoutPairs(std::wstring name)
+{
+    for (std::size_t at = name.find(L"&&"); at != std::wstring::npos; at = name.find(L"&&", at + 1))
+        name.erase(at, 1);
+    return name;
+}
+
 // What the system's own accessible object answers.
 std::wstring AccessibleName(HWND control)
 {
@@ -73,9 +81,8 @@ std::wstring LabelOf(HWND control)
 std::wstring SpokenName(HWND control)
 {
     // Wine's accessible objects of lists, combo boxes and trees leave the label to their reader.
-    const bool isList = ::lstrcmpiW(ClassOf(control).c_str(), WC_COMBOBOXW) == 0;
-    const std::wstring name = isList ? L"" : AccessibleName(control);
-    return Read(name.empty() ? LabelOf(control) : name).text;
+    const std::wstring name = IsClass(control, WC_COMBOBOXW) ? L"" : AccessibleName(control);
+    return name.empty() ? Read(LabelOf(control)).text : WithoutPairs(name);
 }
 
 std::wstring ReadingProblem(HWND form)
@@ -85,8 +92,7 @@ std::wstring ReadingProblem(HWND form)
         if (!::IsWindowVisible(child)) continue;
         const std::wstring name = Widen(ControlNameOf(::GetDlgCtrlID(child)));
         if (HasStyle(child, WS_TABSTOP) && SpokenName(child).empty()) return name + L" has no name for screen readers";
-        const std::wstring type = ClassOf(child);
-        if (::lstrcmpiW(type.c_str(), WC_STATICW) != 0 && ::lstrcmpiW(type.c_str(), WC_BUTTONW) != 0) continue;
+        if (!IsClass(child, WC_STATICW) && !IsClass(child, WC_BUTTONW)) continue;
         const auto key = Read(WindowText(child).value_or(L"")).key;
         if (!key) continue;
         const auto [owner, isNew] = owners.try_emplace(*key, name);

@@ -39,7 +39,7 @@ std::wstring PlaceProblem(HWND window, HWND owner)
 
 } // namespace
 
-void Player::Fits(const Step& step)
+void Player::LayoutFits(const Step& step)
 {
     WaitFor([name = Widen(step.At(0))] {
         const HWND form = FindForm(name);

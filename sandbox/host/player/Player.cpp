@@ -91,7 +91,7 @@ void Player::Perform(const Step& step)
         {"message", &Player::Message},
         {"no", &Player::No},
         {"repainted", &Player::Repainted},
-        {"fits", &Player::Fits},
+        {"fits", &Player::LayoutFits},
         {"readable", &Player::Readable},
         {"spoken", &Player::Spoken},
         {"over", &Player::Over},

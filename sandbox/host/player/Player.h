@@ -71,7 +71,7 @@ private:
     void Check(const Step& step);
     void Key(const Step& step);
     void Repainted(const Step& step);
-    void Fits(const Step& step);
+    void LayoutFits(const Step& step);
     void Readable(const Step& step);
     void Spoken(const Step& step);
     void Over(const Step& step);
