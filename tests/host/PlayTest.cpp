@@ -26,6 +26,11 @@ std::wstring OwnFolder()
     return FolderOf(path);
 }
 
+int WidthOf(const std::string& png)
+{
+    return png.size() < 24 ? 0 : static_cast<unsigned char>(png[18]) * 256 + static_cast<unsigned char>(png[19]);
+}
+
 struct Outcome
 {
     DWORD status = 0;
@@ -205,6 +210,7 @@ constexpr FailingStep kFailingSteps[] = {
     {"MacroNotRun", "ran \"Fake.BeforeSave\"", "the macro was not run"},
     {"FileMissing", "file exists \"${FOLDER}\\nothing*.pptx\"", "there is no such file"},
     {"NoMail", "mail To \"x\"", "no mail"},
+    {"NoLetter", "letter \"x\"", "no mail is displayed"},
     {"UnknownCommand", "command Nowhere", "no control Nowhere"},
     {"QuitWhileAFormIsOpen", "quit", "a command is still running"},
 };
@@ -251,11 +257,14 @@ TEST_F(PlayTest, TellsMessagesApartToTheBlankAndShowsTheOneThatIsThere)
 
 TEST_F(PlayTest, WritesShotsAndTheRibbonIntoItsFolder)
 {
-    ExpectPassed(Play("new\nshow File\nshot \"one\"\n", L"--out \"" + folder.Path() + L"\""));
+    ExpectPassed(
+        Play("new\nshow File\nshot \"one\"\nshot \"window\" CorvaneHostWindow\n", L"--out \"" + folder.Path() + L"\""));
     const std::string picture = ReadWholeFile(folder.File(L"one.png"));
     ASSERT_TRUE(picture.starts_with("\x89PNG")) << "no picture";
-    const auto width = static_cast<unsigned char>(picture[18]) * 256 + static_cast<unsigned char>(picture[19]);
+    const int width = WidthOf(picture);
     EXPECT_EQ(width, ::GetSystemMetrics(SM_CXSCREEN));
+    const int part = WidthOf(ReadWholeFile(folder.File(L"window.png")));
+    EXPECT_TRUE(part > 0 && part < width) << "more than the window is in the picture";
     EXPECT_NE(ReadWholeFile(folder.File(L"customUI.xml")).find("label=\"Fake &amp;&amp; Co\""), std::string::npos);
 }
 
