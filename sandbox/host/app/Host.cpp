@@ -80,6 +80,7 @@ bool Host::RunMessages()
     m_addIns.clear();
     m_companions.reset();
     m_session.Release();
+    m_classes.UnloadUnused(); // what was running when the add-ins were disconnected
     const std::wstring living = ObjectCore::Living();
     if (!living.empty()) PrintError(L"still referenced by the add-in: " + living);
     return living.empty();

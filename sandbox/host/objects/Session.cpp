@@ -57,6 +57,18 @@ std::wstring OwnerOfMacro(const std::wstring& name)
     return mark == std::wstring::npos ? std::wstring{} : name.substr(0, mark);
 }
 
+// Handles messages for a second, as a macro does that shows a box or waits.
+void ServeMessages()
+{
+    constexpr ULONGLONG kPause = 1000;
+    const ULONGLONG end = ::GetTickCount64() + kPause;
+    for (MSG message{}; ::GetTickCount64() < end; ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT))
+        while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            ::TranslateMessage(&message);
+            ::DispatchMessageW(&message);
+        }
+}
+
 } // namespace
 
 Session::Session(Options options)
@@ -231,6 +243,7 @@ void Session::RunMacro(const std::wstring& name)
     const std::string answer = m_options.Setting("macro." + Narrow(macro));
     if (answer.empty()) Refuse(Kind(), Refusal::NoMacro, name);
     m_macrosRun.push_back(macro);
+    if (answer == "pause") return ServeMessages();
     if (answer != "ok") Refuse(Kind(), Refusal::MacroFailed, name);
 }
 

@@ -113,6 +113,12 @@ void Player::Quit(const Step&)
     m_host.Queue().Post([&host = m_host] { host.Quit(); });
 }
 
+void Player::Exit(const Step&)
+{
+    m_quit = true;
+    ::PostMessageW(m_host.Window().Handle(), WM_CLOSE, 0, 0);
+}
+
 void Player::Disconnect(const Step&)
 {
     OnUi([this] { m_host.DisconnectAddIns(); });

@@ -70,6 +70,7 @@ void Player::Perform(const Step& step)
         {"activate", &Player::Activate},
         {"close", &Player::Close},
         {"quit", &Player::Quit},
+        {"exit", &Player::Exit},
         {"disconnect", &Player::Disconnect},
         {"command", &Player::Command},
         {"controller", &Player::Controller},

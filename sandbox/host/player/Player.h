@@ -46,6 +46,7 @@ private:
     void Activate(const Step& step);
     void Close(const Step&);
     void Quit(const Step&);
+    void Exit(const Step&);
     void Disconnect(const Step&);
     void Command(const Step& step);
     void Controller(const Step& step);

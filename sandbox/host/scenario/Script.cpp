@@ -25,7 +25,7 @@ constexpr VerbRule kVerbs[] = {
     {"check", 2, 2},      {"key", 1, 1},      {"expect", 2, kAny}, {"message", 1, kAny}, {"no", 1, 1},
     {"property", 2, 2},   {"shot", 1, 2},     {"show", 1, 1},      {"ran", 1, 1},        {"repainted", 1, 1},
     {"disconnect", 0, 0}, {"file", 2, 2},     {"fits", 1, 1},      {"letter", 1, 1},     {"mail", 2, kAny},
-    {"over", 2, 2},       {"readable", 1, 1}, {"set", 2, 2},       {"spoken", 2, 2},
+    {"over", 2, 2},       {"readable", 1, 1}, {"set", 2, 2},       {"spoken", 2, 2},     {"exit", 0, 0},
 };
 
 std::string_view Trim(std::string_view text)
