@@ -42,8 +42,9 @@ HWND Form::TopWindow() noexcept
 void Form::UnloadNamed(std::wstring_view name) noexcept
 {
     const auto& forms = OpenForms();
-    const auto named = std::find_if(forms.begin(), forms.end(), [&](const Form* form) { return form->m_name == name; });
-    if (named != forms.end()) (*named)->Unload();
+    const auto named =
+        std::find_if(forms.rbegin(), forms.rend(), [&](const Form* form) { return form->m_name == name; });
+    if (named != forms.rend()) (*named)->Unload();
 }
 
 void Form::CreateWindowFromTemplate(HWND owner)

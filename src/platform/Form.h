@@ -54,7 +54,7 @@ public:
 
     [[nodiscard]] HWND Window() const noexcept { return m_window; }
 
-    // Unloads the open form of that name, if there is one.
+    // Unloads the open form of that name, the last opened where there are several.
     static void UnloadNamed(std::wstring_view name) noexcept;
 
     // The visible form in front of the others, or null.
