@@ -129,6 +129,7 @@ void SaveDialog::ShowError(const Error& error) const
 
 void SaveDialog::cmdChange_Click()
 {
+    if (m_saving) return;
     const auto ids = TargetIds();
     frmSaveTo tree;
     tree.DialogType = m_kind.treeDialogType;
@@ -149,7 +150,10 @@ void SaveDialog::cmdChange_Click()
     SetFocusTo(FirstControl());
 }
 
-void SaveDialog::cmdCancel_Click() { Hide(); }
+void SaveDialog::cmdCancel_Click()
+{
+    if (!m_saving) Hide();
+}
 
 void SaveDialog::cmdHelp_Click() { ShowHelpTopic(Window(), m_kind.helpTopic); }
 

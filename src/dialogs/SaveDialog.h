@@ -120,6 +120,7 @@ private:
 
     SaveDialogKind m_kind;
     UploadTerms m_terms;
+    bool m_saving = false; // a macro of the document may serve the dialog before its controls go out of use
     bool m_clientEvents = false;
     bool m_mailClientIsOutlook = false;
 };

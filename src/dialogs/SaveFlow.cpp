@@ -16,10 +16,25 @@ namespace
 {
 // How long "Save Complete" stays before the dialog goes.
 constexpr std::chrono::milliseconds kCompletePause{1000};
+
+// Sets a flag for as long as it lives.
+class Flagged
+{
+public:
+    explicit Flagged(bool& flag) noexcept : m_flag{flag} { m_flag = true; }
+    Flagged(const Flagged&) = delete;
+    Flagged& operator=(const Flagged&) = delete;
+    ~Flagged() { m_flag = false; }
+
+private:
+    bool& m_flag;
+};
 } // namespace
 
 bool SaveDialog::Save()
 {
+    if (m_saving) return false;
+    const Flagged saving{m_saving};
     const SaveStart start = BeginSave();
     if (start == SaveStart::Hide) Hide();
     if (start != SaveStart::Go) return false;
