@@ -129,7 +129,7 @@ void SaveDialog::ShowError(const Error& error) const
 
 void SaveDialog::cmdChange_Click()
 {
-    if (m_saving) return;
+    if (m_inMacro) return;
     const auto ids = TargetIds();
     frmSaveTo tree;
     tree.DialogType = m_kind.treeDialogType;
@@ -152,7 +152,7 @@ void SaveDialog::cmdChange_Click()
 
 void SaveDialog::cmdCancel_Click()
 {
-    if (!m_saving) Hide();
+    if (!m_inMacro) Hide();
 }
 
 void SaveDialog::cmdHelp_Click() { ShowHelpTopic(Window(), m_kind.helpTopic); }

@@ -120,7 +120,7 @@ private:
 
     SaveDialogKind m_kind;
     UploadTerms m_terms;
-    bool m_saving = false; // a macro of the document may serve the dialog before its controls go out of use
+    bool m_inMacro = false; // the document's before a save; it may serve the dialog, whose controls are still in use
     bool m_clientEvents = false;
     bool m_mailClientIsOutlook = false;
 };

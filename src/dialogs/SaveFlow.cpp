@@ -33,8 +33,7 @@ private:
 
 bool SaveDialog::Save()
 {
-    if (m_saving) return false;
-    const Flagged saving{m_saving};
+    if (m_inMacro) return false;
     const SaveStart start = BeginSave();
     if (start == SaveStart::Hide) Hide();
     if (start != SaveStart::Go) return false;
@@ -55,7 +54,10 @@ bool SaveDialog::Save()
 bool SaveDialog::UploadAndRecord()
 {
     const ProcedureScope scope{L"SaveDialog.UploadAndRecord"};
-    if (m_clientEvents) RunBeforeSaveEvent(oApplication);
+    if (m_clientEvents) {
+        const Flagged inMacro{m_inMacro};
+        RunBeforeSaveEvent(oApplication);
+    }
     SetStatus(StatusBar1, L"Contacting the server...");
     SetControlsEnabled(false);
     SetHourglass(true);
