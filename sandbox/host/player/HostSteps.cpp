@@ -2,6 +2,7 @@
 #include <optional>
 #include <stdexcept>
 
+#include "app/Console.h"
 #include "automation/PropertyValue.h"
 #include "automation/Text.h"
 #include "documents/Files.h"
@@ -247,6 +248,19 @@ void Player::Shot(const Step& step)
         if (!m_host.Queue().Run([] { ::GdiFlush(); }, std::chrono::seconds{1})) break;
     ::Sleep(kPaintPoll);
     SaveScreenshot(file, window);
+}
+
+void Player::MeasuredUsage(const Step& step)
+{
+    Settle();
+    const Usage now = MeasureUsage();
+    Print(L"usage: " + DescribeUsage(now));
+    if (step.words.empty()) return;
+    ++m_measured;
+    const int settled = std::stoi(step.At(0));
+    if (m_measured == settled) m_settledUsage = now;
+    if (m_measured > settled && !IsLevel(m_settledUsage, now))
+        throw AutomationError{E_FAIL, L"it has grown from " + DescribeUsage(m_settledUsage)};
 }
 
 } // namespace host

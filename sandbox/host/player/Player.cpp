@@ -81,6 +81,7 @@ void Player::Perform(const Step& step)
         {"mail", &Player::Mail},
         {"letter", &Player::Letter},
         {"shot", &Player::Shot},
+        {"usage", &Player::MeasuredUsage},
         {"window", &Player::Window},
         {"closed", &Player::Closed},
         {"type", &Player::Type},

@@ -10,6 +10,7 @@
 #include <commctrl.h>
 
 #include "app/Host.h"
+#include "player/Usage.h"
 #include "scenario/Script.h"
 
 namespace host
@@ -57,6 +58,7 @@ private:
     void Mail(const Step& step);
     void Letter(const Step& step);
     void Shot(const Step& step);
+    void MeasuredUsage(const Step& step);
     void WaitUntilLoaded();
     void StartCommand(std::function<void()> command);
     [[nodiscard]] std::wstring OutFile(const std::string& name) const;
@@ -103,6 +105,8 @@ private:
     std::wstring m_form;      // the class of the window that steps address
     bool m_onMessage = false; // they address the topmost message box, until its button is pressed
     std::chrono::seconds m_patience;
+    int m_measured = 0; // "usage" steps with a number so far
+    Usage m_settledUsage;
     bool m_quit = false;
     bool m_faultsExpected = false;
 };

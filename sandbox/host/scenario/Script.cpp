@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdlib>
 
 namespace host
 {
@@ -26,6 +27,7 @@ constexpr VerbRule kVerbs[] = {
     {"property", 2, 2},   {"shot", 1, 2},     {"show", 1, 1},      {"ran", 1, 1},        {"repainted", 1, 1},
     {"disconnect", 0, 0}, {"file", 2, 2},     {"fits", 1, 1},      {"letter", 1, 1},     {"mail", 2, kAny},
     {"over", 2, 2},       {"readable", 1, 1}, {"set", 2, 2},       {"spoken", 2, 2},     {"exit", 0, 0},
+    {"usage", 0, 1},      {"repeat", 1, 1},   {"end", 0, 0},
 };
 
 std::string_view Trim(std::string_view text)
@@ -120,6 +122,32 @@ private:
 
 char Lower(char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); }
 
+// Puts the steps between "repeat N" and "end" in place of these lines, N times.
+std::vector<Step> Unrolled(const std::vector<Step>& steps)
+{
+    std::vector<Step> all;
+    std::size_t begin = 0;
+    int times = 0;
+    for (const Step& step : steps) {
+        if (step.verb == "repeat") {
+            if (times != 0) throw ScriptError{step.line, step.source, "a repeat within another"};
+            begin = all.size();
+            times = std::atoi(step.At(0).c_str());
+            if (times < 1) throw ScriptError{step.line, step.source, "a repeat needs a number"};
+        } else if (step.verb == "end") {
+            if (times == 0) throw ScriptError{step.line, step.source, "an end without a repeat"};
+            const std::vector<Step> block{all.begin() + static_cast<std::ptrdiff_t>(begin), all.end()};
+            for (; times > 1; --times)
+                all.insert(all.end(), block.begin(), block.end());
+            times = 0;
+        } else {
+            all.push_back(step);
+        }
+    }
+    if (times != 0) throw ScriptError{steps.back().line, steps.back().source, "a repeat without an end"};
+    return all;
+}
+
 } // namespace
 
 std::string Step::At(std::size_t index) const { return index < words.size() ? words[index].text : std::string{}; }
@@ -142,7 +170,7 @@ std::vector<Step> ParseScript(std::string_view text, const Settings& settings)
         text.remove_prefix(std::min(end + 1, text.size()));
         if (!source.empty() && source.front() != '#') steps.push_back(LineReader{line, source, settings}.Read());
     }
-    return steps;
+    return Unrolled(steps);
 }
 
 std::vector<std::string> SplitTreePath(std::string_view path)

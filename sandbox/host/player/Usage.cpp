@@ -1,0 +1,91 @@
+#include "player/Usage.h"
+
+#include <windows.h>
+
+#include <cstring>
+#include <psapi.h>
+
+namespace host
+{
+namespace
+{
+
+std::size_t PrivateKilobytes()
+{
+    PROCESS_MEMORY_COUNTERS counters{};
+    ::GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof counters);
+    return counters.PagefileUsage / 1024;
+}
+
+// Asks for each possible handle: not every system tells their number.
+std::size_t KernelHandles()
+{
+    constexpr std::size_t kLast = 0x8000;
+    std::size_t count = 0;
+    for (std::size_t handle = 4; handle < kLast; handle += 4) {
+        DWORD flags = 0;
+        if (::GetHandleInformation(reinterpret_cast<HANDLE>(handle), &flags)) ++count;
+    }
+    return count;
+}
+
+// The entries in use of the table that GDI shares with its processes; its address is a member of the process block.
+std::size_t GdiObjects()
+{
+    if (const DWORD told = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS)) return told;
+    constexpr std::size_t kTableOffset = sizeof(void*) == 8 ? 0xF8 : 0x94;
+    constexpr std::size_t kEntrySize = 24;
+    constexpr std::size_t kTypeOffset = 14;
+    constexpr std::size_t kEntries = 0x4000;
+    const auto processBlock = reinterpret_cast<const char*(WINAPI*)()>(
+        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "RtlGetCurrentPeb")));
+    const char* table = nullptr;
+    if (processBlock) std::memcpy(&table, processBlock() + kTableOffset, sizeof table);
+    std::size_t count = 0;
+    for (std::size_t at = 0; table != nullptr && at < kEntries; ++at)
+        count += table[at * kEntrySize + kTypeOffset] != 0 ? 1 : 0;
+    return count;
+}
+
+BOOL CALLBACK CountOwn(HWND window, LPARAM count)
+{
+    DWORD process = 0;
+    ::GetWindowThreadProcessId(window, &process);
+    if (process == ::GetCurrentProcessId()) ++*reinterpret_cast<std::size_t*>(count);
+    return TRUE;
+}
+
+BOOL CALLBACK CountWithChildren(HWND window, LPARAM count)
+{
+    ::EnumChildWindows(window, &CountOwn, count);
+    return CountOwn(window, count);
+}
+
+std::size_t Windows()
+{
+    std::size_t count = 0;
+    ::EnumWindows(&CountWithChildren, reinterpret_cast<LPARAM>(&count));
+    for (HWND hidden = nullptr; (hidden = ::FindWindowExW(HWND_MESSAGE, hidden, nullptr, nullptr)) != nullptr;)
+        CountOwn(hidden, reinterpret_cast<LPARAM>(&count));
+    return count;
+}
+
+} // namespace
+
+Usage MeasureUsage() { return {PrivateKilobytes(), KernelHandles(), GdiObjects(), Windows()}; }
+
+std::wstring DescribeUsage(const Usage& usage)
+{
+    return std::to_wstring(usage.kilobytes) + L" KiB private, " + std::to_wstring(usage.handles) + L" handles, " +
+           std::to_wstring(usage.gdi) + L" GDI objects, " + std::to_wstring(usage.windows) + L" windows";
+}
+
+bool IsLevel(const Usage& before, const Usage& now)
+{
+    constexpr std::size_t kMoreKilobytes = 6 * 1024;
+    constexpr std::size_t kMore = 8;
+    return now.kilobytes <= before.kilobytes + kMoreKilobytes && now.handles <= before.handles + kMore &&
+           now.gdi <= before.gdi + kMore && now.windows <= before.windows;
+}
+
+} // namespace host
