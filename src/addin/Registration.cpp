@@ -20,6 +20,7 @@ constexpr const wchar_t* kClasses = L"Software\\Classes\\";
 constexpr const wchar_t* kAddIns = L"Software\\Microsoft\\Office\\PowerPoint\\Addins\\";
 constexpr const wchar_t* kFriendlyName = L"Corvane for MS Office - PowerPoint";
 constexpr const wchar_t* kDescription = L"Corvane Addin for MS Office Documents - PowerPoint";
+constexpr const wchar_t* kPlatformKey = sizeof(void*) == 8 ? L"\\0\\win64" : L"\\0\\win32";
 constexpr std::int32_t kLoadAtStartUp = 3;
 
 template<class Object>
@@ -51,6 +52,12 @@ std::wstring TypeLibraryKey()
 {
     return std::wstring{kClasses} + L"TypeLib\\" + TextOfGuid(LIBID_CorvaneMSOfficePowerPoint);
 }
+std::wstring TypeLibraryVersionKey()
+{
+    std::array<wchar_t, 16> version{};
+    ::swprintf(version.data(), version.size(), L"\\%x.%x", kVersionMajor, kVersionMinor);
+    return TypeLibraryKey() + version.data();
+}
 std::wstring AddInKey() { return kAddIns + ProgId(kPublicClasses[0]); }
 
 void RegisterClass(const PublicClass& entry, const std::wstring& library)
@@ -67,12 +74,24 @@ void RegisterClass(const PublicClass& entry, const std::wstring& library)
 
 void RegisterTypeLibrary(const std::wstring& library)
 {
-    constexpr const wchar_t* kPlatform = sizeof(void*) == 8 ? L"\\0\\win64" : L"\\0\\win32";
-    std::array<wchar_t, 16> version{};
-    ::swprintf(version.data(), version.size(), L"\\%x.%x", kVersionMajor, kVersionMinor);
-    const std::wstring key = TypeLibraryKey() + version.data();
-    Registry::WriteText(key, L"", kFriendlyName);
-    Registry::WriteText(key + kPlatform, L"", library);
+    Registry::WriteText(TypeLibraryVersionKey(), L"", kFriendlyName);
+    Registry::WriteText(TypeLibraryVersionKey() + kPlatformKey, L"", library);
+}
+
+// True while the library of the other bitness is registered: it has class keys of its own, but shares the rest.
+bool OtherBitnessRegistered() noexcept
+{
+    constexpr Registry::View kOther = sizeof(void*) == 8 ? Registry::View::Bits32 : Registry::View::Bits64;
+    // Where Windows has one bitness only, the other view shows the own keys, which are gone by now.
+    return Registry::KeyExists(ClassKey(kPublicClasses[0]), {.view = kOther});
+}
+
+void UnregisterShared() noexcept
+{
+    Registry::DeleteTree(AddInKey());
+    Registry::DeleteTree(TypeLibraryKey());
+    for (const PublicClass& entry : kPublicClasses)
+        Registry::DeleteTree(ProgIdKey(entry));
 }
 
 } // namespace
@@ -99,12 +118,10 @@ void Register()
 void Unregister() noexcept
 {
     Ignoring([] {
-        Registry::DeleteTree(AddInKey());
-        Registry::DeleteTree(TypeLibraryKey());
-        for (const PublicClass& entry : kPublicClasses) {
-            Registry::DeleteTree(ProgIdKey(entry));
+        for (const PublicClass& entry : kPublicClasses)
             Registry::DeleteTree(ClassKey(entry));
-        }
+        Registry::DeleteTree(TypeLibraryVersionKey() + kPlatformKey);
+        if (!OtherBitnessRegistered()) UnregisterShared();
     });
 }
 

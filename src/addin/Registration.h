@@ -18,7 +18,7 @@ struct PublicClass
 [[nodiscard]] const PublicClass* FindClass(REFCLSID id) noexcept;
 
 // Writes, or removes, every value of the library under HKEY_CURRENT_USER: its classes, its type library and its entry
-// among PowerPoint's add-ins. Register throws Error.
+// among PowerPoint's add-ins. What both bitnesses share stays until the last of them is removed. Register throws Error.
 void Register();
 void Unregister() noexcept;
 

@@ -5,16 +5,36 @@
 
 #include <shlwapi.h>
 
+#include <array>
+
 namespace corvane::Registry
 {
 namespace
 {
 
-UniqueRegistryKey OpenKey(const std::wstring& key) noexcept
+UniqueRegistryKey OpenKey(const std::wstring& key, Place place) noexcept
 {
+    constexpr REGSAM kViews[] = {0, KEY_WOW64_32KEY, KEY_WOW64_64KEY};
     UniqueRegistryKey opened;
-    ::RegOpenKeyExW(HKEY_CURRENT_USER, key.c_str(), 0, KEY_READ, opened.Put());
+    ::RegOpenKeyExW(place.hive == Hive::User ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE, key.c_str(), 0,
+                    KEY_READ | kViews[static_cast<std::size_t>(place.view)], opened.Put());
     return opened;
+}
+
+// The names that one of the registry's enumerations gives.
+template<class Enumeration>
+std::vector<std::wstring> Names(const UniqueRegistryKey& key, Enumeration enumerate)
+{
+    std::vector<std::wstring> names;
+    std::array<wchar_t, 16384> name{}; // the registry's longest value name, and its closing zero
+    auto length = static_cast<DWORD>(name.size());
+    while (key && enumerate(key.Get(), static_cast<DWORD>(names.size()), name.data(), &length, nullptr, nullptr,
+                            nullptr, nullptr) == ERROR_SUCCESS)
+    {
+        names.emplace_back(name.data(), length);
+        length = static_cast<DWORD>(name.size());
+    }
+    return names;
 }
 
 UniqueRegistryKey OpenOrCreate(const std::wstring& key)
@@ -35,13 +55,13 @@ void Write(const std::wstring& key, const std::wstring& name, DWORD type, const 
 
 } // namespace
 
-bool KeyExists(const std::wstring& key) noexcept { return static_cast<bool>(OpenKey(key)); }
+bool KeyExists(const std::wstring& key, Place place) noexcept { return static_cast<bool>(OpenKey(key, place)); }
 
 void CreateKey(const std::wstring& key) { static_cast<void>(OpenOrCreate(key)); }
 
-std::optional<std::wstring> ReadText(const std::wstring& key, const std::wstring& name)
+std::optional<std::wstring> ReadText(const std::wstring& key, const std::wstring& name, Place place)
 {
-    const UniqueRegistryKey opened = OpenKey(key);
+    const UniqueRegistryKey opened = OpenKey(key, place);
     DWORD size = 0;
     constexpr DWORD kTexts = RRF_RT_REG_SZ | RRF_RT_REG_EXPAND_SZ | RRF_NOEXPAND;
     if (!opened ||
@@ -55,15 +75,38 @@ std::optional<std::wstring> ReadText(const std::wstring& key, const std::wstring
     return text;
 }
 
-std::optional<std::int32_t> ReadNumber(const std::wstring& key, const std::wstring& name) noexcept
+std::optional<std::int32_t> ReadNumber(const std::wstring& key, const std::wstring& name, Place place) noexcept
 {
-    const UniqueRegistryKey opened = OpenKey(key);
+    const UniqueRegistryKey opened = OpenKey(key, place);
     std::int32_t number = 0;
     DWORD size = sizeof number;
     if (!opened ||
         ::RegGetValueW(opened.Get(), nullptr, name.c_str(), RRF_RT_REG_DWORD, nullptr, &number, &size) != ERROR_SUCCESS)
         return std::nullopt;
     return number;
+}
+
+std::vector<std::wstring> KeyNames(const std::wstring& key, Place place)
+{
+    return Names(OpenKey(key, place), ::RegEnumKeyExW);
+}
+
+std::vector<std::wstring> ValueNames(const std::wstring& key, Place place)
+{
+    return Names(OpenKey(key, place), ::RegEnumValueW);
+}
+
+std::vector<std::byte> ReadBytes(const std::wstring& key, const std::wstring& name, Place place)
+{
+    const UniqueRegistryKey opened = OpenKey(key, place);
+    DWORD size = 0;
+    if (!opened || ::RegQueryValueExW(opened.Get(), name.c_str(), nullptr, nullptr, nullptr, &size) != ERROR_SUCCESS)
+        return {};
+    std::vector<std::byte> bytes(size);
+    auto* const into = reinterpret_cast<BYTE*>(bytes.data());
+    if (::RegQueryValueExW(opened.Get(), name.c_str(), nullptr, nullptr, into, &size) != ERROR_SUCCESS) return {};
+    bytes.resize(size);
+    return bytes;
 }
 
 void WriteText(const std::wstring& key, const std::wstring& name, const std::wstring& text)

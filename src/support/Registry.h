@@ -1,21 +1,51 @@
-// The user's registry (HKEY_CURRENT_USER), value by value.
+// The registry, value by value. Written is only the user's (HKEY_CURRENT_USER).
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace corvane::Registry
 {
 
-[[nodiscard]] bool KeyExists(const std::wstring& key) noexcept;
+enum class Hive
+{
+    User,
+    Machine,
+};
+
+// Windows keeps some keys (Software of the machine, Software\Classes\CLSID of both) once for each bitness.
+enum class View
+{
+    Own, // that of the running program
+    Bits32,
+    Bits64,
+};
+
+struct Place
+{
+    Hive hive = Hive::User;
+    View view = View::Own;
+};
+
+[[nodiscard]] bool KeyExists(const std::wstring& key, Place place = {}) noexcept;
 
 // Creates the key with every level above it that is missing; throws Error.
 void CreateKey(const std::wstring& key);
 
 // A value's content; nothing when the value does not exist or is of another type.
-[[nodiscard]] std::optional<std::wstring> ReadText(const std::wstring& key, const std::wstring& name);
-[[nodiscard]] std::optional<std::int32_t> ReadNumber(const std::wstring& key, const std::wstring& name) noexcept;
+[[nodiscard]] std::optional<std::wstring> ReadText(const std::wstring& key, const std::wstring& name, Place place = {});
+[[nodiscard]] std::optional<std::int32_t> ReadNumber(const std::wstring& key, const std::wstring& name,
+                                                     Place place = {}) noexcept;
+
+// The names of the keys directly below a key, and of its values; none when it does not exist.
+[[nodiscard]] std::vector<std::wstring> KeyNames(const std::wstring& key, Place place = {});
+[[nodiscard]] std::vector<std::wstring> ValueNames(const std::wstring& key, Place place = {});
+
+// A value's bytes, whatever its type; none when it does not exist.
+[[nodiscard]] std::vector<std::byte> ReadBytes(const std::wstring& key, const std::wstring& name, Place place = {});
 
 // Write into a key, which is created when missing; an empty name is the key's default value. Both throw Error.
 void WriteText(const std::wstring& key, const std::wstring& name, const std::wstring& text);
