@@ -2,9 +2,8 @@
 
 #include "platform/Procedure.h"
 #include "selection/ServerList.h"
+#include "support/Policy.h"
 #include "support/Registry.h"
-
-#include <algorithm>
 
 namespace corvane
 {
@@ -12,20 +11,16 @@ namespace
 {
 constexpr const wchar_t* kListKey = L"Software\\Halvex\\Corvane\\ServerURLMRU";
 
-// A list of any length that somebody wrote into the registry stays one that a person could scroll.
-constexpr std::int32_t kLongestList = 1000;
-
 std::wstring ValueName(std::size_t index) { return L"MRUServerURL" + std::to_wstring(index + 1); }
 } // namespace
 
-CMRUServers::CMRUServers() : m_urls(kDefaultServerCount)
+CMRUServers::CMRUServers()
 {
     const ProcedureScope scope{L"CMRUServers.Class_Initialize"};
-    if (!Registry::KeyExists(kListKey)) return;
-    if (const auto count = Registry::ReadNumber(kListKey, L"MRUServerURLCount"))
-        m_urls.resize(static_cast<std::size_t>(std::clamp(*count, 0, kLongestList)));
+    m_urls.resize(ServerCount(Policy::Number(L"ServerURLCount"), Registry::ReadNumber(kListKey, L"MRUServerURLCount")));
     for (std::size_t index = 0; index < m_urls.size(); ++index)
         m_urls[index] = Registry::ReadText(kListKey, ValueName(index)).value_or(L"");
+    m_urls = WithPreset(m_urls, Policy::List(L"ServerURL"));
 }
 
 void CMRUServers::AddURL(const std::wstring& url)

@@ -5,6 +5,7 @@
 #include "platform/Procedure.h"
 #include "platform/XmlDocument.h"
 #include "support/Conversions.h"
+#include "support/Policy.h"
 
 namespace corvane
 {
@@ -37,13 +38,20 @@ void Apply(const XmlDocument& document, Settings& settings)
 Settings Settings::Read() noexcept
 {
     Settings settings;
+    Ignoring([&] { settings = ReadFrom(Library::Folder()); });
+    return settings;
+}
+
+Settings Settings::ReadFrom(const std::wstring& folder) noexcept
+{
+    Settings settings;
     Ignoring([&] {
-        const std::wstring path = Library::Folder() + L"\\settings.config";
+        const std::wstring path = folder + L"\\settings.config";
         if (!FileExists(path)) return;
         XmlDocument document;
         if (document.Load(ReadAnsiText(path))) Apply(document, settings);
     });
-    return settings;
+    return settings.Under({Policy::Number(L"EnableTraceLogs"), Policy::Number(L"RequestTimeoutSeconds")});
 }
 
 } // namespace corvane

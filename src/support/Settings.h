@@ -1,12 +1,20 @@
-// The settings file that an administrator may lay beside the add-in.
+// The settings of one installation: the file beside the add-in, and the administrators' policy above it.
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <optional>
 #include <string>
 
 namespace corvane
 {
+
+// Policy values that decide about settings; an absent one leaves the decision to the file.
+struct SettingsPolicy
+{
+    std::optional<std::int32_t> trace{};          // 0 off, anything else on
+    std::optional<std::int32_t> requestTimeout{}; // seconds, 0 for none; a negative number decides nothing
+};
 
 // What "settings.config" switches. A missing, unreadable or malformed file leaves every default.
 struct Settings
@@ -16,8 +24,13 @@ struct Settings
 
     static constexpr int kDefaultTimeout = 300;
 
-    // Reads the file in the add-in's folder. Never throws.
+    // Reads the file in the add-in's folder and the policy. Never throws.
     [[nodiscard]] static Settings Read() noexcept;
+    // The same for the add-in in this folder.
+    [[nodiscard]] static Settings ReadFrom(const std::wstring& folder) noexcept;
+
+    // These settings with the policy's decisions in their place.
+    [[nodiscard]] Settings Under(const SettingsPolicy& policy) const noexcept;
 };
 
 } // namespace corvane

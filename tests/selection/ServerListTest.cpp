@@ -37,6 +37,41 @@ TEST(ServerList, PutsTheLatestAddressFirst)
     }
 }
 
+struct PresetCase
+{
+    const char* name;
+    Urls user;
+    Urls preset;
+    Urls expected;
+};
+
+TEST(ServerList, PutsTheAdministratorsAddressesInFront)
+{
+    const PresetCase kCases[] = {
+        {"NoPresetChangesNothing", {L"A", L"", L"A"}, {}, {L"A", L"", L"A"}},
+        {"BlankPresetIsNone", {L"A", L""}, {L"  "}, {L"A", L""}},
+        {"NewUserGetsThePreset", {L"", L"", L""}, {L"http://a", L"http://b"}, {L"http://a", L"http://b", L""}},
+        {"LatestOfThePresetFirst",
+         {L"x", L"http://b", L""},
+         {L"http://a", L"http://b"},
+         {L"http://b", L"http://a", L"x"}},
+        {"UsersLastFallsOff", {L"x", L"y"}, {L"http://a"}, {L"http://a", L"x"}},
+        {"GrowsForThePresetOnly", {L"x"}, {L"http://a", L"http://b"}, {L"http://a", L"http://b"}},
+        {"BroughtIntoItsForm", {L"http://a", L""}, {L" A ", L"HTTP://A"}, {L"http://a", L""}},
+    };
+    for (const PresetCase& item : kCases)
+        EXPECT_EQ(WithPreset(item.user, item.preset), item.expected) << item.name;
+}
+
+TEST(ServerList, TakesItsLengthFromThePolicyThenTheUser)
+{
+    EXPECT_EQ(ServerCount({}, {}), 5U);
+    EXPECT_EQ(ServerCount({}, 3), 3U);
+    EXPECT_EQ(ServerCount(2, 3), 2U);
+    EXPECT_EQ(ServerCount(-1, 3), 0U);
+    EXPECT_EQ(ServerCount({}, INT32_MAX), 1000U);
+}
+
 struct AddressCase
 {
     const wchar_t* given;

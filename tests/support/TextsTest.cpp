@@ -1,5 +1,6 @@
 #include "platform/Error.h"
 #include "support/ErrorReport.h"
+#include "support/Settings.h"
 #include "support/TraceText.h"
 #include "support/VersionText.h"
 
@@ -11,6 +12,33 @@ namespace corvane
 namespace
 {
 constexpr LocalTime kMorning{2013, 7, 4, 9, 5, 3};
+}
+
+struct PolicyCase
+{
+    const char* name;
+    Settings file;
+    SettingsPolicy policy;
+    bool trace;
+    int timeout;
+};
+
+TEST(Settings, ObeyThePolicyWhereItDecides)
+{
+    using std::chrono::seconds;
+    constexpr PolicyCase kCases[] = {
+        {"NoPolicy", {true, seconds{20}}, {}, true, 20},
+        {"TraceOff", {true, seconds{20}}, {.trace = 0}, false, 20},
+        {"TraceOn", {false, seconds{20}}, {.trace = 1}, true, 20},
+        {"TimeOut", {true, seconds{20}}, {.requestTimeout = 60}, true, 60},
+        {"NoTimeOut", {true, seconds{20}}, {.requestTimeout = 0}, true, 0},
+        {"NegativeDecidesNothing", {true, seconds{20}}, {.requestTimeout = -1}, true, 20},
+    };
+    for (const PolicyCase& item : kCases) {
+        const Settings decided = item.file.Under(item.policy);
+        EXPECT_EQ(decided.traceEnabled, item.trace) << item.name;
+        EXPECT_EQ(decided.requestTimeout, seconds{item.timeout}) << item.name;
+    }
 }
 
 TEST(TraceText, NamesTheFileByItsTimeWithoutLeadingZeros)

@@ -1,0 +1,37 @@
+#include "support/Policy.h"
+
+#include "support/Registry.h"
+
+namespace corvane::Policy
+{
+namespace
+{
+
+constexpr const wchar_t* kKey = L"Software\\Policies\\Halvex\\Corvane";
+constexpr Registry::Place kMachine{.hive = Registry::Hive::Machine};
+constexpr Registry::Place kUser{.hive = Registry::Hive::User};
+
+std::vector<std::wstring> ListAt(const std::wstring& name, Registry::Place place)
+{
+    const std::wstring key = std::wstring{kKey} + L"\\" + name + L"s";
+    std::vector<std::wstring> texts;
+    while (auto text = Registry::ReadText(key, name + std::to_wstring(texts.size() + 1), place))
+        texts.push_back(*std::move(text));
+    return texts;
+}
+
+} // namespace
+
+std::optional<std::int32_t> Number(const std::wstring& name) noexcept
+{
+    const auto machine = Registry::ReadNumber(kKey, name, kMachine);
+    return machine ? machine : Registry::ReadNumber(kKey, name, kUser);
+}
+
+std::vector<std::wstring> List(const std::wstring& name)
+{
+    std::vector<std::wstring> machine = ListAt(name, kMachine);
+    return machine.empty() ? ListAt(name, kUser) : machine;
+}
+
+} // namespace corvane::Policy

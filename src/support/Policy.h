@@ -1,0 +1,20 @@
+// What administrators set for everybody, by Group Policy or by hand.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace corvane::Policy
+{
+
+// A value of "Software\\Policies\\Halvex\\Corvane": the machine's if it is there, else the user's; nothing when
+// neither is.
+[[nodiscard]] std::optional<std::int32_t> Number(const std::wstring& name) noexcept;
+
+// The texts "<name>1", "<name>2", ... up to the first that is missing, of the key "<name>s" below that one; the
+// machine's if it has any, else the user's.
+[[nodiscard]] std::vector<std::wstring> List(const std::wstring& name);
+
+} // namespace corvane::Policy
