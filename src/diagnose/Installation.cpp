@@ -1,0 +1,144 @@
+#include "diagnose/Installation.h"
+
+#include "platform/Files.h"
+#include "platform/HttpRequest.h"
+#include "platform/Procedure.h"
+#include "platform/XmlDocument.h"
+#include "support/Registry.h"
+
+#include <array>
+#include <cstring>
+
+namespace diagnose
+{
+namespace
+{
+
+using corvane::Registry::Hive;
+using corvane::Registry::Place;
+using corvane::Registry::ReadNumber;
+using corvane::Registry::ReadText;
+using corvane::Registry::View;
+
+constexpr const wchar_t* kProgId = L"CorvaneMSOfficePowerPoint.Connect";
+constexpr const wchar_t* kAddIns = L"Software\\Microsoft\\Office\\PowerPoint\\Addins\\";
+
+struct Corner
+{
+    const wchar_t* name;
+    int bits;
+    Place place;
+};
+
+// The user's before the machine's, as Windows looks them up.
+constexpr Corner kCorners[] = {
+    {L"user, 64-bit", 64, {Hive::User, View::Bits64}},
+    {L"user, 32-bit", 32, {Hive::User, View::Bits32}},
+    {L"machine, 64-bit", 64, {Hive::Machine, View::Bits64}},
+    {L"machine, 32-bit", 32, {Hive::Machine, View::Bits32}},
+};
+
+// The class behind the programmatic id, which both bitnesses share: the user's, else the machine's.
+std::optional<std::wstring> ClassId()
+{
+    const std::wstring key = std::wstring{L"Software\\Classes\\"} + kProgId + L"\\CLSID";
+    for (const Corner& corner : kCorners)
+        if (auto id = ReadText(key, L"", corner.place)) return id;
+    return std::nullopt;
+}
+
+Registration Describe(const Corner& corner, const std::wstring& library)
+{
+    return {corner.name, corner.bits, library, corvane::FileExists(library), BitsOf(library), VersionOf(library)};
+}
+
+// Where Windows has one bitness only, both views show the same keys; the library tells which one it is.
+bool IsOtherView(const std::vector<Registration>& found, const Registration& entry)
+{
+    for (const Registration& earlier : found)
+        if (earlier.library == entry.library && entry.bits != entry.libraryBits) return true;
+    return false;
+}
+
+} // namespace
+
+std::vector<Registration> FindRegistrations()
+{
+    std::vector<Registration> found;
+    const auto classId = ClassId();
+    if (!classId) return found;
+    const std::wstring key = L"Software\\Classes\\CLSID\\" + *classId + L"\\InprocServer32";
+    for (const Corner& corner : kCorners) {
+        const auto library = ReadText(key, L"", corner.place);
+        if (!library) continue;
+        const Registration entry = Describe(corner, *library);
+        if (!IsOtherView(found, entry)) found.push_back(entry);
+    }
+    return found;
+}
+
+std::vector<AddInEntry> FindAddIns()
+{
+    std::vector<AddInEntry> found;
+    const std::wstring key = std::wstring{kAddIns} + kProgId;
+    if (const auto value = ReadNumber(key, L"LoadBehavior")) found.push_back({L"user", 0, *value});
+    for (const Corner& corner : kCorners) {
+        if (corner.place.hive == Hive::User) continue;
+        if (const auto value = ReadNumber(key, L"LoadBehavior", corner.place))
+            found.push_back({corner.name, corner.bits, *value});
+    }
+    return found;
+}
+
+int BitsOf(const std::wstring& file)
+{
+    std::array<std::byte, 4096> head{};
+    const std::size_t length = corvane::ReadFile(file, head);
+    IMAGE_DOS_HEADER dos{};
+    if (length < sizeof dos) return 0;
+    std::memcpy(&dos, head.data(), sizeof dos);
+    IMAGE_FILE_HEADER header{};
+    const auto at = static_cast<std::size_t>(dos.e_lfanew) + sizeof(DWORD);
+    if (dos.e_magic != IMAGE_DOS_SIGNATURE || at + sizeof header > length) return 0;
+    std::memcpy(&header, head.data() + at, sizeof header);
+    return header.Machine == IMAGE_FILE_MACHINE_AMD64 ? 64 : header.Machine == IMAGE_FILE_MACHINE_I386 ? 32 : 0;
+}
+
+std::wstring VersionOf(const std::wstring& file)
+{
+    std::vector<std::byte> data(::GetFileVersionInfoSizeW(file.c_str(), nullptr));
+    void* found = nullptr;
+    UINT size = 0;
+    if (data.empty() || !::GetFileVersionInfoW(file.c_str(), 0, static_cast<DWORD>(data.size()), data.data()) ||
+        !::VerQueryValueW(data.data(), L"\\", &found, &size))
+        return {};
+    VS_FIXEDFILEINFO info{};
+    std::memcpy(&info, found, sizeof info);
+    return std::to_wstring(HIWORD(info.dwFileVersionMS)) + L"." + std::to_wstring(LOWORD(info.dwFileVersionMS)) + L"." +
+           std::to_wstring(HIWORD(info.dwFileVersionLS));
+}
+
+std::vector<std::wstring> MissingComponents()
+{
+    std::vector<std::wstring> missing;
+    if (const auto error = corvane::Catch([] { const corvane::XmlDocument document; }))
+        missing.push_back(L"MSXML, DOMDocument 4.0, 6.0 or 3.0 (" + error->Description() + L")");
+    if (const auto error = corvane::Catch([] { const corvane::HttpRequest request; }))
+        missing.push_back(L"MSXML, XMLHTTP 3.0 or 6.0 (" + error->Description() + L")");
+    return missing;
+}
+
+std::vector<std::wstring> ParserVersions()
+{
+    std::vector<std::wstring> versions;
+    for (const wchar_t* version : {L"3.0", L"4.0", L"6.0"}) {
+        CLSID id{};
+        corvane::ComPtr<IUnknown> parser;
+        if (SUCCEEDED(::CLSIDFromProgID((std::wstring{L"Msxml2.DOMDocument."} + version).c_str(), &id)) &&
+            SUCCEEDED(::CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(parser.GetAddressOf()))))
+            versions.emplace_back(version);
+    }
+    return versions;
+}
+
+} // namespace diagnose

@@ -1,0 +1,132 @@
+#include "diagnose/ServerCheck.h"
+
+#include "platform/Owners.h"
+#include "selection/ServerList.h"
+#include "webservice/AnswerRules.h"
+
+#include <wininet.h>
+
+#include <algorithm>
+#include <array>
+
+namespace diagnose
+{
+namespace
+{
+
+struct InternetTraits
+{
+    using Value = HINTERNET;
+    static constexpr Value kEmpty = nullptr;
+    static void Free(Value handle) noexcept { ::InternetCloseHandle(handle); }
+};
+using UniqueInternet = corvane::Unique<InternetTraits>;
+
+struct Meaning
+{
+    DWORD code;
+    const wchar_t* text;
+};
+
+constexpr Meaning kTransport[] = {
+    {ERROR_INTERNET_TIMEOUT, L"it did not answer in time"},
+    {ERROR_INTERNET_NAME_NOT_RESOLVED, L"its name is not known in this network"},
+    {ERROR_INTERNET_CANNOT_CONNECT, L"it refuses the connection, or nothing listens there"},
+    {ERROR_INTERNET_CONNECTION_ABORTED, L"the connection was cut"},
+    {ERROR_INTERNET_CONNECTION_RESET, L"the connection was reset"},
+    {ERROR_INTERNET_SEC_CERT_DATE_INVALID, L"its certificate has expired"},
+    {ERROR_INTERNET_SEC_CERT_CN_INVALID, L"its certificate is for another name"},
+    {ERROR_INTERNET_INVALID_CA, L"its certificate comes from an unknown authority"},
+    {ERROR_INTERNET_SECURITY_CHANNEL_ERROR, L"no secure channel could be made"},
+    {ERROR_INTERNET_INVALID_URL, L"the address is no web address"},
+    {ERROR_INTERNET_UNRECOGNIZED_SCHEME, L"the address is no web address"},
+    {ERROR_HTTP_INVALID_SERVER_RESPONSE, L"its answer is not HTTP"},
+};
+
+constexpr Meaning kStatuses[] = {
+    {401, L"it wants a sign-in that Windows did not give"},
+    {403, L"it refuses this user, or wants https"},
+    {404, L"there is no Corvane at this address"},
+    {407, L"the proxy wants a sign-in"},
+};
+
+template<std::size_t Count>
+std::wstring TextOf(const Meaning (&meanings)[Count], DWORD code)
+{
+    const auto* const found = std::ranges::find(meanings, code, &Meaning::code);
+    return found == std::end(meanings) ? std::wstring{} : std::wstring{L", "} + found->text;
+}
+
+std::wstring LastError()
+{
+    const DWORD code = ::GetLastError();
+    return L"error " + std::to_wstring(code) + TextOf(kTransport, code);
+}
+
+DWORD StatusOf(const UniqueInternet& answer)
+{
+    DWORD status = 0;
+    DWORD size = sizeof status;
+    ::HttpQueryInfoW(answer.Get(), HTTP_QUERY_STATUS_CODE | HTTP_QUERY_FLAG_NUMBER, &status, &size, nullptr);
+    return status;
+}
+
+// The answer's first bytes, letter by letter; enough to see what it is.
+std::wstring BeginningOf(const UniqueInternet& answer)
+{
+    std::array<char, 4096> bytes{};
+    DWORD length = 0;
+    ::InternetReadFile(answer.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &length);
+    return {bytes.begin(), bytes.begin() + length};
+}
+
+void Judge(const UniqueInternet& answer, ServerAnswer& result)
+{
+    const DWORD status = StatusOf(answer);
+    result.outcome = L"HTTP " + std::to_wstring(status) + TextOf(kStatuses, status);
+    if (status != HTTP_STATUS_OK) return;
+    const std::wstring text = BeginningOf(answer);
+    // The answer to this question is a number.
+    result.good = !text.empty() && text.find_first_not_of(L"0123456789 \r\n") == std::wstring::npos;
+    if (result.good)
+        result.outcome += L", answered";
+    else if (corvane::IsErrorDocument(text))
+        result.outcome += L", it reports an error of its own";
+    else
+        result.outcome += L", but the answer is not Corvane's";
+}
+
+UniqueInternet OpenSession(std::chrono::seconds limit)
+{
+    UniqueInternet session{::InternetOpenW(L"corvane-diagnose", INTERNET_OPEN_TYPE_PRECONFIG, nullptr, nullptr, 0)};
+    auto milliseconds = static_cast<DWORD>(std::chrono::milliseconds{limit}.count());
+    for (const DWORD option : {DWORD{INTERNET_OPTION_CONNECT_TIMEOUT}, DWORD{INTERNET_OPTION_RECEIVE_TIMEOUT}})
+        ::InternetSetOptionW(session.Get(), option, &milliseconds, sizeof milliseconds);
+    return session;
+}
+
+} // namespace
+
+ServerAnswer AskServer(const std::wstring& server, std::chrono::seconds limit)
+{
+    const std::wstring address = corvane::VerifyServerURL(server);
+    ServerAnswer result{.server = WithoutCredentials(address), .outcome = {}, .good = false};
+    const UniqueInternet session = OpenSession(limit);
+    constexpr DWORD kFlags = INTERNET_FLAG_RELOAD | INTERNET_FLAG_NO_CACHE_WRITE | INTERNET_FLAG_NO_UI;
+    const UniqueInternet answer{::InternetOpenUrlW(
+        session.Get(), (address + L"/WebServices/offi.asp?Op=GetUserID&P1=v6").c_str(), nullptr, 0, kFlags, 0)};
+    if (answer)
+        Judge(answer, result);
+    else
+        result.outcome = LastError();
+    return result;
+}
+
+std::wstring WithoutCredentials(const std::wstring& address)
+{
+    const std::size_t begin = address.find(L"//") == std::wstring::npos ? 0 : address.find(L"//") + 2;
+    const std::size_t at = address.rfind(L'@', address.find_first_of(L"/?#", begin));
+    return at == std::wstring::npos || at < begin ? address : address.substr(0, begin) + L"***" + address.substr(at);
+}
+
+} // namespace diagnose
