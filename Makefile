@@ -1,7 +1,7 @@
 # The commands for a person. Each first installs what the machine lacks. ARCH=x86 tests, or opens, the 32-bit add-in.
 ARCH ?= x64
 
-.PHONY: all demo test soak check bench fuzz sandbox shots packages clean
+.PHONY: all demo test soak check bench fuzz sandbox shots package test-package packages clean
 
 all: packages
 	@for preset in x64 x86 native; do \
@@ -38,6 +38,13 @@ fuzz:
 	@[ -e build/fuzz/build.ninja ] || cmake --preset fuzz >/dev/null
 	ninja -C build/fuzz --quiet fuzz
 	fuzz/run
+
+# Installers and policy templates, to dist. SIGN_PFX and SIGN_PASS sign them.
+package: all
+	packaging/build
+
+test-package: all
+	tests/package/run $(ARCH)
 
 sandbox: all
 	sandbox/open $(ARCH)

@@ -7,6 +7,8 @@
 #include "objects/Application.h"
 #include "objects/Session.h"
 
+#include <ranges>
+
 namespace host
 {
 namespace
@@ -70,13 +72,17 @@ struct CallReport
 
 std::vector<AddInEntry> RegisteredAddIns(const HostFacts& facts)
 {
-    std::vector<AddInEntry> entries;
-    const RegistryKey addIns = RegistryKey::Open(HKEY_CURRENT_USER, AddInsKey(facts));
-    for (const std::wstring& name : addIns.Children()) {
-        const RegistryKey key = RegistryKey::Open(addIns.Get(), name);
-        entries.push_back({name, key.Text(L"FriendlyName"), key.Text(L"Description"), key.Number(L"LoadBehavior")});
+    std::map<std::wstring, AddInEntry> entries;
+    for (HKEY hive : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
+        const RegistryKey addIns = RegistryKey::Open(hive, AddInsKey(facts));
+        for (const std::wstring& name : addIns.Children()) {
+            const RegistryKey key = RegistryKey::Open(addIns.Get(), name);
+            entries.try_emplace(name, AddInEntry{name, key.Text(L"FriendlyName"), key.Text(L"Description"),
+                                                 key.Number(L"LoadBehavior")});
+        }
     }
-    return entries;
+    const auto values = std::views::values(entries);
+    return {values.begin(), values.end()};
 }
 
 AddIn::AddIn(Session& session, ClassLoader& classes, AddInEntry entry)

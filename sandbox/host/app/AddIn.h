@@ -30,7 +30,7 @@ struct AddInEntry
     [[nodiscard]] bool LoadsAtStart() const { return (loadBehavior & 3) == 3; }
 };
 
-// The add-ins that the user's registry lists for this host.
+// The add-ins that the registry lists for this host; the user's entry counts before the machine's.
 [[nodiscard]] std::vector<AddInEntry> RegisteredAddIns(const HostFacts& facts);
 
 // What the add-in's callbacks answered for one control whose XML names them.
