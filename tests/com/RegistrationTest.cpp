@@ -82,4 +82,36 @@ TEST_F(Registration, WritesTheHostsKeyForTheUserAndTakesEverythingBack)
     EXPECT_EQ(Run("DllUnregisterServer"), S_OK) << "neither is taking back what is gone";
 }
 
+// The machine's registry stands in for the user's: of the two, Wine keeps the bitnesses apart only there.
+TEST_F(Registration, LeavesWhatTheOtherBitnessShares)
+{
+    BOOL hasOther = sizeof(void*) == 8;
+    if (!hasOther) ::IsWow64Process(::GetCurrentProcess(), &hasOther);
+    if (!hasOther) GTEST_SKIP() << "this Windows has one bitness only";
+    constexpr REGSAM kOther = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+    const std::wstring progId = L"Software\\Classes\\CorvaneMSOfficePowerPoint.Connect\\CLSID";
+    HKEY machine = nullptr;
+    ASSERT_EQ(::RegCreateKeyExW(HKEY_LOCAL_MACHINE, L"", 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &machine, nullptr),
+              ERROR_SUCCESS);
+    ASSERT_EQ(::RegOverridePredefKey(HKEY_CURRENT_USER, machine), ERROR_SUCCESS);
+
+    ASSERT_EQ(Run("DllRegisterServer"), S_OK);
+    const std::wstring other = L"Software\\Classes\\CLSID\\" + TextAt(progId, L"");
+    HKEY created = nullptr;
+    ASSERT_EQ(::RegCreateKeyExW(HKEY_LOCAL_MACHINE, other.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS | kOther, nullptr,
+                                &created, nullptr),
+              ERROR_SUCCESS);
+    EXPECT_EQ(Run("DllUnregisterServer"), S_OK);
+    EXPECT_NE(TextAt(progId, L""), L"(missing)");
+    EXPECT_NE(TextAt(kAddInKey, L"FriendlyName"), L"(missing)");
+    EXPECT_EQ(TextAt(other, L""), L"(missing)");
+
+    EXPECT_EQ(::RegDeleteKeyExW(HKEY_LOCAL_MACHINE, other.c_str(), kOther, 0), ERROR_SUCCESS);
+    EXPECT_EQ(Run("DllUnregisterServer"), S_OK);
+    EXPECT_EQ(TextAt(progId, L""), L"(missing)");
+    EXPECT_EQ(TextAt(kAddInKey, L"FriendlyName"), L"(missing)");
+    ::RegCloseKey(created);
+    ::RegCloseKey(machine);
+}
+
 } // namespace
