@@ -78,9 +78,10 @@ class Prefix:
         file.unlink()
 
     def files(self):
+        """The files on drive C but for temporary ones, what Windows keeps of web pages, and the user's documents."""
         drive = self.path / "drive_c"
         return {str(file.relative_to(drive)) for file in drive.rglob("*")
-                if not file.is_dir() and "Temp" not in file.parts}
+                if not file.is_dir() and not {"Temp", "INetCache", "INetCookies", "Documents"} & set(file.parts)}
 
     def unix_path(self, path):
         """Where a path on drive C lies on this machine."""
