@@ -65,9 +65,10 @@ void ReadList(const std::wstring& version, const std::wstring& list, std::vector
 {
     const std::wstring path = L"Resiliency\\" + list;
     const std::wstring key = kOffice + version + L"\\PowerPoint\\" + path;
+    const std::wstring where = L"PowerPoint " + version + L", " + path;
     const bool blocks = list == L"DisabledItems" || list == L"CrashingAddinList";
     for (const std::wstring& value : ValueNames(key))
-        if (NamesAddIn(key, value, {})) entries.push_back({L"PowerPoint " + version + L", " + path, blocks});
+        if (NamesAddIn(key, value, {})) entries.push_back({where, blocks});
 }
 
 void ReadResiliency(const std::wstring& version, std::vector<OfficeEntry>& entries)
