@@ -41,13 +41,11 @@ bool SaveDialog::Save()
     const int focused = FocusedControl();
     const auto failure = Catch([&] { saved = UploadAndRecord(); });
     if (failure) ShowError(*failure);
+    if (saved) Hide(); // first, since a control in use again could start another save
     SetStatus(StatusBar1, L"Ready");
     SetControlsEnabled(true);
     SetHourglass(false);
-    if (saved)
-        Hide();
-    else
-        SetFocusTo(focused);
+    if (!saved) SetFocusTo(focused);
     return saved;
 }
 
