@@ -27,10 +27,13 @@ void RegisterWindowClass()
     ::RegisterClassExW(&windowClass);
 }
 
+// What the window shows of a field: wrapping a line of many thousand addresses takes an edit control minutes.
 std::wstring FieldOf(const MailFields& mail, const wchar_t* name)
 {
+    constexpr std::size_t kMost = 4000;
     const auto found = mail.find(name);
-    return found == mail.end() ? std::wstring{} : found->second;
+    if (found == mail.end()) return {};
+    return found->second.size() > kMost ? found->second.substr(0, kMost) + L"\x2026" : found->second;
 }
 
 } // namespace
