@@ -73,6 +73,19 @@ TEST_F(Connection, AfterStartUpKeepsNothingAndOffersNoRibbon)
     Disconnect();
 }
 
+TEST_F(Connection, CallbacksBeforeAConnectionAndAfterItsEndAreNotServed)
+{
+    EXPECT_EQ(Ribbon(), L"");
+    Disconnect(); // of what never was
+    FakePowerPoint host{L"16.0"};
+    ConnectTo(host, kStartup);
+    Disconnect();
+    const MessageBoxAnswer box{L"ERROR\r\nNumber: 91\r\n"};
+    EXPECT_EQ(Ribbon(), L"");
+    EXPECT_TRUE(box.Appeared());
+    EXPECT_EQ(host.References(), 0U);
+}
+
 TEST_F(Connection, ASecondConnectionReplacesTheFirst)
 {
     FakePowerPoint first{L"16.0"};

@@ -1,7 +1,7 @@
 // Calls the server as lines of the standard input ask, fields divided by tabs:
 //   OPERATION SERVER TIMEOUT-MS PARAMETER...
 // OPERATION is a name of the protocol, or "upload" with a path and a name for parameters. Each call is answered by a
-// line of milliseconds, megabytes of memory at the most so far, error number (0 for none), source, description and
+// line of milliseconds, KiB of private memory afterwards, error number (0 for none), source, description and
 // the answer.
 #include "platform/Owners.h"
 #include "platform/Procedure.h"
@@ -93,7 +93,7 @@ void Answer(const std::string& line)
     PROCESS_MEMORY_COUNTERS memory{};
     ::GetProcessMemoryInfo(::GetCurrentProcess(), &memory, sizeof memory);
     const Error error = failure.value_or(Error{0, L"", L""});
-    std::cout << took << '\t' << memory.PeakPagefileUsage / 1'000'000 << '\t' << error.Number() << '\t'
+    std::cout << took << '\t' << memory.PagefileUsage / 1024 << '\t' << error.Number() << '\t'
               << Line(error.Source()) << '\t' << Line(error.Description()) << '\t' << Line(answer) << '\n'
               << std::flush;
 }

@@ -49,6 +49,9 @@ DocumentObject& ActiveOf(Host& host)
     throw std::runtime_error{"no presentation is open"};
 }
 
+// What a "usage" step grants from one time to the next, in KiB.
+std::size_t MemoryEachTime(const Step& step) { return step.words.size() > 1 ? std::stoul(step.At(1)) : 0; }
+
 } // namespace
 
 void Player::WaitUntilLoaded()
@@ -259,7 +262,8 @@ void Player::MeasuredUsage(const Step& step)
     ++m_measured;
     const int settled = std::stoi(step.At(0));
     if (m_measured == settled) m_settledUsage = now;
-    if (m_measured > settled && !IsLevel(m_settledUsage, now))
+    if (m_measured > settled &&
+        !IsLevel(m_settledUsage, now, static_cast<std::size_t>(m_measured - settled) * MemoryEachTime(step)))
         throw AutomationError{E_FAIL, L"it has grown from " + DescribeUsage(m_settledUsage)};
 }
 

@@ -80,11 +80,11 @@ std::wstring DescribeUsage(const Usage& usage)
            std::to_wstring(usage.gdi) + L" GDI objects, " + std::to_wstring(usage.windows) + L" windows";
 }
 
-bool IsLevel(const Usage& before, const Usage& now)
+bool IsLevel(const Usage& before, const Usage& now, std::size_t moreKilobytes)
 {
-    constexpr std::size_t kMoreKilobytes = 6 * 1024;
+    constexpr std::size_t kSlack = 2 * 1024; // KiB
     constexpr std::size_t kMore = 8;
-    return now.kilobytes <= before.kilobytes + kMoreKilobytes && now.handles <= before.handles + kMore &&
+    return now.kilobytes <= before.kilobytes + kSlack + moreKilobytes && now.handles <= before.handles + kMore &&
            now.gdi <= before.gdi + kMore && now.windows <= before.windows;
 }
 

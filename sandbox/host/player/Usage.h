@@ -20,7 +20,7 @@ struct Usage
 
 [[nodiscard]] std::wstring DescribeUsage(const Usage& usage);
 
-// Whether what is held now has not grown beyond what a cache or a thread of the system explains.
-[[nodiscard]] bool IsLevel(const Usage& before, const Usage& now);
+// Whether what is held now has not grown beyond what a cache or a thread of the system explains, and so much memory.
+[[nodiscard]] bool IsLevel(const Usage& before, const Usage& now, std::size_t moreKilobytes);
 
 } // namespace host
