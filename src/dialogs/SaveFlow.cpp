@@ -21,7 +21,7 @@ constexpr std::chrono::milliseconds kCompletePause{1000};
 class Flagged
 {
 public:
-    explicit Flagged(bool& flag) noexcept : m_flag{flag} { m_flag = true; }
+    explicit Flagged(bool& flag) noexcept : m_flag{flag} { flag = true; }
     Flagged(const Flagged&) = delete;
     Flagged& operator=(const Flagged&) = delete;
     ~Flagged() { m_flag = false; }
