@@ -1,7 +1,7 @@
 # The commands for a person. Each first installs what the machine lacks. ARCH=x86 tests, or opens, the 32-bit add-in.
 ARCH ?= x64
 
-.PHONY: all demo test soak check bench fuzz sandbox shots package test-package packages clean
+.PHONY: all demo test faults soak check bench fuzz sandbox shots package test-package packages clean
 
 all: packages
 	@for preset in x64 x86 native; do \
@@ -17,6 +17,10 @@ demo: all
 
 test: all
 	tests/run $(ARCH)
+
+# Every call of the server under every fault.
+faults: all
+	tests/faults/run $(ARCH)
 
 # A thousand saves in one host; what it holds after each round is in build/scenarios/soak/host.txt.
 soak: all
