@@ -93,8 +93,8 @@ void Answer(const std::string& line)
     PROCESS_MEMORY_COUNTERS memory{};
     ::GetProcessMemoryInfo(::GetCurrentProcess(), &memory, sizeof memory);
     const Error error = failure.value_or(Error{0, L"", L""});
-    std::cout << took << '\t' << memory.PagefileUsage / 1024 << '\t' << error.Number() << '\t'
-              << Line(error.Source()) << '\t' << Line(error.Description()) << '\t' << Line(answer) << '\n'
+    std::cout << took << '\t' << memory.PagefileUsage / 1024 << '\t' << error.Number() << '\t' << Line(error.Source())
+              << '\t' << Line(error.Description()) << '\t' << Line(answer) << '\n'
               << std::flush;
 }
 
