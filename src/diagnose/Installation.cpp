@@ -6,6 +6,7 @@
 #include "platform/XmlDocument.h"
 #include "support/Registry.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -52,12 +53,20 @@ Registration Describe(const Corner& corner, const std::wstring& library)
     return {corner.name, corner.bits, library, corvane::FileExists(library), BitsOf(library), VersionOf(library)};
 }
 
-// Where Windows has one bitness only, both views show the same keys; the library tells which one it is.
-bool IsOtherView(const std::vector<Registration>& found, const Registration& entry)
+bool Fits(const Registration& entry) { return entry.bits == entry.libraryBits; }
+
+// Where Windows keeps the views of a key together, both show one library: what does not fit goes when the same library
+// stands in the view that fits, or was found before.
+std::vector<Registration> WithoutRepeated(const std::vector<Registration>& found)
 {
-    for (const Registration& earlier : found)
-        if (earlier.library == entry.library && entry.bits != entry.libraryBits) return true;
-    return false;
+    std::vector<Registration> kept;
+    for (const Registration& entry : found) {
+        const bool repeated = std::ranges::any_of(found, [&](const Registration& other) {
+            return other.library == entry.library && (Fits(other) || &other < &entry);
+        });
+        if (Fits(entry) || !repeated) kept.push_back(entry);
+    }
+    return kept;
 }
 
 } // namespace
@@ -70,11 +79,9 @@ std::vector<Registration> FindRegistrations()
     const std::wstring key = L"Software\\Classes\\CLSID\\" + *classId + L"\\InprocServer32";
     for (const Corner& corner : kCorners) {
         const auto library = ReadText(key, L"", corner.place);
-        if (!library) continue;
-        const Registration entry = Describe(corner, *library);
-        if (!IsOtherView(found, entry)) found.push_back(entry);
+        if (library) found.push_back(Describe(corner, *library));
     }
-    return found;
+    return WithoutRepeated(found);
 }
 
 std::vector<AddInEntry> FindAddIns()

@@ -25,7 +25,9 @@ class Prefix:
 
     def __init__(self, arch):
         self.arch, self.path = arch, TOP / f"build/wine/package-{arch}"
-        self.environment = dict(os.environ, CORVANE_WINEPREFIX=str(self.path), WINEPREFIX=str(self.path))
+        wine = subprocess.run([TOP / "tools/wine-path", arch], stdout=subprocess.PIPE, text=True, check=True).stdout
+        self.environment = dict(os.environ, CORVANE_WINEPREFIX=str(self.path), WINEPREFIX=str(self.path),
+                                PATH=wine.strip())
         self.stop()
         shutil.rmtree(self.path, ignore_errors=True)
         self.path.mkdir(parents=True)

@@ -32,7 +32,7 @@ class Setup:
         status, report = prefix.run(program, "--server", server, "--timeout", "5")
         for text in self.expected:
             require(text in report, f"{self.name}: the report lacks {text!r}:\n{report}")
-        equal(f"{self.name}: findings", f"Findings: {self.findings or 'none'}" in report, True)
+        require(f"Findings: {self.findings or 'none'}" in report, f"{self.name}: not {self.findings} findings:\n{report}")
         equal(f"{self.name}: exit status", status, 1 if self.findings else 0)
         require("secret" not in report, f"{self.name}: the report holds the password:\n{report}")
 
