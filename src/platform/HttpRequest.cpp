@@ -42,7 +42,7 @@ long StateOf(IXMLHTTPRequest& request)
 // Lets go of those that have come to an end, and ends the oldest where there are too many.
 void TidyOwnerless()
 {
-    constexpr std::size_t kMost = 8; // a failed connection may never come to an end
+    constexpr std::size_t kMost = 256; // a failed connection may never come to an end
     auto& requests = Ownerless();
     std::erase_if(requests, [](const auto& request) {
         long state = kComplete;

@@ -82,12 +82,12 @@ TEST_F(Request, OnlySoManyGoOnAndNoneBeyondTheDisconnection)
 {
     SetRequestTimeout(1ms);
     m_transport.readyState = 2;
-    for (int i = 0; i < 20; ++i)
+    for (int i = 0; i < 260; ++i)
         ExpectSendError();
-    EXPECT_EQ(m_transport.references, 8U);
-    EXPECT_EQ(m_transport.aborted, 12);
+    EXPECT_EQ(m_transport.references, 256U);
+    EXPECT_EQ(m_transport.aborted, 4);
     HttpRequest::AbortOwnerless();
-    EXPECT_EQ(m_transport.aborted, 20);
+    EXPECT_EQ(m_transport.aborted, 260);
 }
 
 TEST_F(Request, AQuitMessageEndsTheWaitAndIsStillThere)
