@@ -190,14 +190,10 @@ void Player::Choose(const Step& step)
 void Player::Key(const Step& step)
 {
     const KeyStroke stroke = ParseKey(step.At(0));
-    HWND target = nullptr;
-    WaitFor([&] {
-        target = FocusOf(m_host.Queue().ThreadId());
-        return target ? Finding{} : Finding{L"no window has the focus"};
-    });
-    PressKey(m_host.Queue(), target, stroke);
-    Settle();
-    Settle(); // the release and the end of the held keys are posted by the first one's work
+    WaitFor([&] { return FocusOf(m_host.Queue().ThreadId()) ? Finding{} : L"no window has the focus"; });
+    PressKey(m_host.Queue(), stroke);
+    for (int work = 0; work < 3; ++work) // the press, the release, the end of the held keys: each is posted by the last
+        Settle();
 }
 
 void Player::Repainted(const Step& step)

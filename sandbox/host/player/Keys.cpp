@@ -80,17 +80,21 @@ KeyStroke ParseKey(const std::string& name)
     return stroke;
 }
 
-void PressKey(const UiQueue& queue, HWND target, const KeyStroke& stroke)
+void PressKey(const UiQueue& queue, const KeyStroke& stroke)
 {
-    const bool system = stroke.alt && !stroke.control;
-    queue.Post([stroke] { HoldKeys(stroke, true); });
-    ::PostMessageW(target, system ? WM_SYSKEYDOWN : WM_KEYDOWN, stroke.key, KeyBits(stroke.key, stroke.alt, false));
-    // The system adds this to a real F1; the default window procedure makes WM_HELP of it.
-    if (stroke.key == VK_F1) ::PostMessageW(target, kKeyF1, 0, 0);
-    // TranslateMessage posts the character behind the key, so the release must not overtake it.
+    // The focus is asked for where it is set: another thread would see it while a form is on its way to the front.
     queue.Post([=, &queue] {
-        ::PostMessageW(target, system ? WM_SYSKEYUP : WM_KEYUP, stroke.key, KeyBits(stroke.key, stroke.alt, true));
-        queue.Post([stroke] { HoldKeys(stroke, false); });
+        const HWND target = ::GetFocus();
+        const bool system = stroke.alt && !stroke.control;
+        HoldKeys(stroke, true);
+        ::PostMessageW(target, system ? WM_SYSKEYDOWN : WM_KEYDOWN, stroke.key, KeyBits(stroke.key, stroke.alt, false));
+        // The system adds this to a real F1; the default window procedure makes WM_HELP of it.
+        if (stroke.key == VK_F1) ::PostMessageW(target, kKeyF1, 0, 0);
+        // TranslateMessage posts the character behind the key, so the release must not overtake it.
+        queue.Post([=, &queue] {
+            ::PostMessageW(target, system ? WM_SYSKEYUP : WM_KEYUP, stroke.key, KeyBits(stroke.key, stroke.alt, true));
+            queue.Post([stroke] { HoldKeys(stroke, false); });
+        });
     });
 }
 

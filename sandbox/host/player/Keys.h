@@ -23,6 +23,6 @@ struct KeyStroke
 
 // Presses and releases the key in the window that has the focus, as key messages that pass through the message loop and
 // its dialog handling. The held keys show in the thread's key state while the messages are handled.
-void PressKey(const UiQueue& queue, HWND target, const KeyStroke& stroke);
+void PressKey(const UiQueue& queue, const KeyStroke& stroke);
 
 } // namespace host
