@@ -133,7 +133,8 @@ private:
         const Value menus = CallByName(*bar.Object(), L"Controls", DISPATCH_PROPERTYGET);
         const Value file = CallByName(*menus.Object(), L"Item", DISPATCH_PROPERTYGET, {1L});
         const Value entries = CallByName(*file.Object(), L"Controls", DISPATCH_PROPERTYGET);
-        m_button = CallByName(*entries.Object(), L"Add", DISPATCH_METHOD, {1L, 1L, L"p", 2L}).Object();
+        m_button =
+            CallByName(*entries.Object(), L"Add", DISPATCH_METHOD, {1L, 1L, L"p", 2L, Value::OfBoolean(true)}).Object();
         CallByName(*m_button.Get(), L"Tag", DISPATCH_PROPERTYPUT, {L"FakeTag"});
         CallByName(*m_button.Get(), L"Caption", DISPATCH_PROPERTYPUT, {L"Fake && Co"});
         ComPtr<IConnectionPointContainer> container;

@@ -35,6 +35,7 @@ struct MailClientSetting
 };
 constexpr MailClientSetting kMailClientSettings[] = {
     {"outlook", LR"("C:\Program Files\Microsoft Office\root\Office16\OUTLOOK.EXE" -c IPM.Note /mailto "%1")"},
+    {"express", LR"("C:\Program Files\Outlook Express\msimn.exe" /mailurl:%1)"},
     {"other", LR"("C:\Program Files\Post Office\post.exe" -compose "%1")"},
 };
 
@@ -100,7 +101,10 @@ Companions::Companions(const Options& options)
 void Companions::OfferOutlook(MailMood mood, bool running)
 {
     m_outlook = MakeObject<OutlookObject>(mood);
-    m_outlookClass.emplace(kOutlookClass, kOutlookProgId, [this] { return ComPtr<IDispatch>{m_outlook}; });
+    // The running one is to be found, not created: a second one could not open the mail store.
+    m_outlookClass.emplace(kOutlookClass, kOutlookProgId, [this, running] {
+        return ComPtr<IDispatch>{running ? MakeObject<OutlookObject>(MailMood::Failing) : m_outlook};
+    });
     if (running)
         ThrowIfFailed(::RegisterActiveObject(m_outlook.Get(), kOutlookClass, ACTIVEOBJECT_STRONG, &m_running),
                       L"The running mail program cannot be offered.");

@@ -138,6 +138,10 @@ Value BarControlsObject::Add(const Arguments& arguments)
     const std::size_t count = m_bar->m_entries.size();
     // One past the last position is allowed: it appends.
     const std::size_t position = arguments.Has(3) ? ItemPosition(arguments.At(3), count + 1) - 1 : count;
+    // What is not temporary stays in the user's menus for good when the add-in is gone.
+    const bool isBuiltIn = std::ranges::any_of(m_bar->m_entries, [](const auto& one) { return one->Id() != 1; });
+    if (isBuiltIn && !(arguments.Has(4) && arguments.At(4).Boolean()))
+        throw AutomationError{E_INVALIDARG, L"This host's own menus take temporary controls only."};
     BarControlObject& control = m_bar->Insert(type, id, {}, position);
     if (arguments.Has(2)) control.SetParameter(arguments.At(2).Text());
     return Value{&control};

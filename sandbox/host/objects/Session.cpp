@@ -244,6 +244,7 @@ void Session::RunMacro(const std::wstring& name)
     if (answer.empty()) Refuse(Kind(), Refusal::NoMacro, name);
     m_macrosRun.push_back(macro);
     if (answer == "pause") return ServeMessages();
+    if (answer == "save" && Active()) return Active()->Save();
     if (answer != "ok") Refuse(Kind(), Refusal::MacroFailed, name);
 }
 

@@ -90,6 +90,7 @@ void Player::Expect(const Step& step)
     if (what == "command") return ExpectCommand(step);
     if (what == "icon") return ExpectIcon(step);
     if (what == "menu") return ExpectMenu(step);
+    if (what == "closebox") return ExpectCloseBox(step);
     if (!step.words[1].quoted) return WaitFor([&] { return StateFinding(what, step.At(1)); });
 
     const std::wstring wanted = Widen(step.Lines(1));
@@ -119,6 +120,15 @@ void Player::ExpectMenu(const Step& step)
         return entries == wanted ? Finding{}
                : entries         ? L"it holds " + Quoted(entries)
                                  : Finding{L"there is no such menu"};
+    });
+}
+
+void Player::ExpectCloseBox(const Step& step)
+{
+    WaitFor([&] {
+        const UINT state = ::GetMenuState(::GetSystemMenu(Form(), FALSE), SC_CLOSE, MF_BYCOMMAND);
+        const bool enabled = state != static_cast<UINT>(-1) && !(state & (MF_GRAYED | MF_DISABLED));
+        return enabled == (step.At(1) == "enabled") ? Finding{} : Finding{L"it is not " + Widen(step.At(1))};
     });
 }
 

@@ -169,6 +169,32 @@ void Player::Select(const Step& step)
     Settle();
 }
 
+void Player::DoubleClick(const Step& step)
+{
+    const HWND tree = UsableControl(step.At(0));
+    const bool onNode = step.words.size() == 1;
+    if (!onNode && step.At(1) != "empty") throw std::runtime_error{"the chosen node or \"empty\" is clicked"};
+    POINT point{};
+    OnUi([&, tree, onNode] {
+        RECT place{};
+        ::GetClientRect(tree, &place);
+        point = {place.right - 2, place.bottom - 2};
+        if (onNode && TreeView_GetItemRect(tree, TreeView_GetSelection(tree), &place, TRUE))
+            point = {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+    });
+    POINT onScreen = point;
+    ::ClientToScreen(tree, &onScreen);
+    WaitFor([&] { // the display tells of the pointer's moves when it likes
+        POINT pointer{};
+        ::SetCursorPos(onScreen.x, onScreen.y);
+        Settle();
+        ::GetCursorPos(&pointer);
+        return pointer.x == onScreen.x && pointer.y == onScreen.y ? Finding{} : Finding{L"the pointer does not come"};
+    });
+    ::PostMessageW(tree, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+    Settle();
+}
+
 void Player::Choose(const Step& step)
 {
     const HWND list = UsableControl(step.At(0));

@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "app/Console.h"
+#include "app/Registry.h"
 #include "automation/PropertyValue.h"
 #include "automation/Text.h"
 #include "documents/Files.h"
@@ -177,12 +178,24 @@ void Player::Property(const Step& step)
     WaitFor([&] { return PropertyFinding(Widen(step.At(0)), Widen(step.At(1))); });
 }
 
+bool Player::HasRun(const std::string& macro)
+{
+    bool ran = false;
+    OnUi([&] { ran = std::ranges::count(m_host.Documents().MacrosRun(), Widen(macro)) > 0; });
+    return ran;
+}
+
 void Player::Ran(const Step& step)
 {
-    WaitFor([&, macro = Widen(step.At(0))] {
-        bool ran = false;
-        OnUi([&] { ran = std::ranges::count(m_host.Documents().MacrosRun(), macro) > 0; });
-        return ran ? Finding{} : Finding{L"the macro was not run"};
+    WaitFor([&] { return HasRun(step.At(0)) ? Finding{} : Finding{L"the macro was not run"}; });
+}
+
+void Player::Registry(const Step& step)
+{
+    WaitFor([&, wanted = Widen(step.At(2))] {
+        const std::wstring text =
+            RegistryKey::Open(HKEY_CURRENT_USER, Widen(step.At(0))).Text(Widen(step.At(1)).c_str());
+        return text == wanted ? Finding{} : L"it is \"" + text + L"\"";
     });
 }
 
@@ -240,9 +253,9 @@ void Player::Shot(const Step& step)
 {
     const std::wstring file = OutFile(step.At(0) + ".png");
     HWND window = nullptr;
-    WaitFor([&, form = Widen(step.At(1))] {
-        window = FindForm(form);
-        return window || form.empty() ? Finding{} : L"no window " + form;
+    WaitFor([&] {
+        window = step.At(1).empty() ? nullptr : NamedWindow(step.At(1));
+        return window || step.At(1).empty() ? Finding{} : L"no window " + Widen(step.At(1));
     });
     for (DWORD waited = 0; waited < kPaintPatience && AwaitsPaint(); waited += kPaintPoll)
         ::Sleep(kPaintPoll);

@@ -82,8 +82,12 @@ void Player::Message(const Step& step)
 
 void Player::No(const Step& step)
 {
-    if (step.At(0) != "message") throw std::runtime_error{"only \"no message\" is offered"};
     Settle();
+    if (step.At(0) == "macro") {
+        if (HasRun(step.At(1))) throw std::runtime_error{"the macro was run"};
+        return;
+    }
+    if (step.At(0) != "message") throw std::runtime_error{"only \"no message\" and \"no macro\" are offered"};
     const auto boxes = MessageBoxes();
     if (!boxes.empty()) throw AutomationError{E_FAIL, ReportOf(boxes.front())};
 }

@@ -54,6 +54,8 @@ private:
     void Show(const Step& step);
     void Property(const Step& step);
     void Ran(const Step& step);
+    [[nodiscard]] bool HasRun(const std::string& macro);
+    void Registry(const Step& step);
     void File(const Step& step);
     void Mail(const Step& step);
     void Letter(const Step& step);
@@ -70,6 +72,7 @@ private:
     void Type(const Step& step);
     void Press(const Step& step);
     void Select(const Step& step);
+    void DoubleClick(const Step& step);
     void Choose(const Step& step);
     void Check(const Step& step);
     void Key(const Step& step);
@@ -97,6 +100,7 @@ private:
     void ExpectDocument(const Step& step);
     void ExpectCommand(const Step& step);
     void ExpectMenu(const Step& step);
+    void ExpectCloseBox(const Step& step);
     [[nodiscard]] Finding StateFinding(const std::string& control, const std::string& state);
 
     Host& m_host;
