@@ -69,6 +69,7 @@ void Form::Load()
 void Form::ShowModal()
 {
     Load();
+    if (m_window == nullptr) return; // unloaded again while its loading waited
     const HWND owner = ::GetWindow(m_window, GW_OWNER);
     m_focusBefore = ::GetFocus(); // disabling its window takes it away
     if (owner != nullptr && !::EnableWindow(owner, FALSE)) m_disabledOwner = owner;

@@ -2,6 +2,8 @@
 
 #include "support/Conversions.h"
 
+#include <windowsx.h>
+
 namespace corvane
 {
 
@@ -119,6 +121,15 @@ bool TargetTree::SelectedHasChildren() const noexcept
 {
     const HTREEITEM selected = TreeView_GetSelection(m_treeView);
     return selected != nullptr && TreeView_GetChild(m_treeView, selected) != nullptr;
+}
+
+bool TargetTree::IsPointed() const noexcept
+{
+    const DWORD position = ::GetMessagePos();
+    TVHITTESTINFO hit{};
+    hit.pt = {GET_X_LPARAM(position), GET_Y_LPARAM(position)};
+    ::ScreenToClient(m_treeView, &hit.pt);
+    return TreeView_HitTest(m_treeView, &hit) != nullptr && (hit.flags & TVHT_ONITEM) != 0;
 }
 
 } // namespace corvane

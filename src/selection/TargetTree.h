@@ -33,9 +33,11 @@ public:
     void AddProjects(const std::vector<XmlNode>& projects, const TreeTarget& preselected,
                      const std::function<bool()>& wanted);
 
-    // The key of the selected node, empty when none is selected; and whether it has children.
+    // The key of the selected node, empty when none is selected; whether it has children; and whether the message being
+    // handled came from the mouse over a node.
     [[nodiscard]] std::wstring SelectedKey() const;
     [[nodiscard]] bool SelectedHasChildren() const noexcept;
+    [[nodiscard]] bool IsPointed() const noexcept;
 
 private:
     struct Position

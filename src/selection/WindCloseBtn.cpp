@@ -1,6 +1,7 @@
 #include "selection/WindCloseBtn.h"
 
 #include "platform/MessageLoop.h"
+#include "platform/Procedure.h"
 
 #include <array>
 
@@ -31,6 +32,7 @@ struct MenuItem
 
 bool EnableCloseButton(HWND window, bool enable) noexcept
 {
+    const ProcedureScope scope{L"WindCloseBtn.EnableCloseButton"};
     if (!::IsWindow(window)) return true;
     const HMENU menu = ::GetSystemMenu(window, FALSE);
     const UINT from = enable ? kDisabledCommand : SC_CLOSE;

@@ -42,8 +42,10 @@ void frmFilter::Form_Load()
 {
     FillClassList();
     SetText(SearchString, ProjectSearchName);
-    // By position, not by id: a list in another order shows another class.
-    ::SendMessageW(Control(ClassList), LB_SETCURSEL, static_cast<WPARAM>(m_lastApplied.listPosition), 0);
+    // By position, not by id: a list in another order shows another class, a shorter one shows all.
+    const HWND list = Control(ClassList);
+    if (::SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(m_lastApplied.listPosition), 0) == LB_ERR)
+        ::SendMessageW(list, LB_SETCURSEL, 0, 0);
 }
 
 std::int16_t frmFilter::SelectedPosition() const noexcept

@@ -83,14 +83,18 @@ void frmSaveTo::Form_Load()
     FillServers();
 
     m_captions = TreeCaptionsFor(Mode(), &CustomName);
-    if (FilterActive) m_captions.treeLabel = WithFilterMark(m_captions.treeLabel);
     SetCaption(m_captions.caption);
-    SetText(lblTree, m_captions.treeLabel);
+    ShowTreeLabel();
     SetText(lblServerURL, m_captions.serverLabel);
     SetStatus(StatusBar1, L"Ready");
     m_tree.emplace(Control(TreeView1), Mode(), [this](TreeImages& images, const std::wstring& iconSet) {
         LoadIconSet(images, m_currentServer, iconSet);
     });
+}
+
+void frmSaveTo::ShowTreeLabel()
+{
+    SetText(lblTree, FilterActive ? WithFilterMark(m_captions.treeLabel) : m_captions.treeLabel);
 }
 
 void frmSaveTo::FillServers()
@@ -146,20 +150,31 @@ void frmSaveTo::SetWorking(bool working)
     if (!working) SetStatus(StatusBar1, L"Ready");
 }
 
+bool frmSaveTo::Work(const std::function<void()>& work)
+{
+    SetWorking(true);
+    const auto failure = Catch(work);
+    if (failure && IsWanted()) ReportError(*failure);
+    SetWorking(false);
+    if (IsWanted()) FocusTree();
+    return IsWanted() && !failure;
+}
+
 void frmSaveTo::Go()
 {
-    if (Text(cmbServerURL).size() <= kSchemeOnly.size()) return;
+    if (!m_tree || Text(cmbServerURL).size() <= kSchemeOnly.size()) return;
     const std::wstring server = m_servers->VerifyURL(Text(cmbServerURL));
     SetText(cmbServerURL, server);
+    if (server != m_currentServer) { // another server's targets are none of this one's
+        m_tree->Clear();
+        m_treeLoaded = false;
+    }
     m_currentServer = server;
-    SetWorking(true);
-    Reporting([&] {
+    Work([&] {
         if (!CheckEntryCount()) return;
         LoadTree(server);
         m_servers->AddURL(Trim(server));
     });
-    SetWorking(false);
-    FocusTree();
 }
 
 XmlDocument frmSaveTo::QueryTree() const
@@ -173,9 +188,11 @@ bool frmSaveTo::CheckEntryCount()
     const ProcedureScope scope{L"frmSaveTo.CheckEntryCount"};
     for (;;) {
         const std::size_t projects = QueryTree().Select(L"//project").size();
+        if (!IsWanted()) return false;
         LimitStep step = NextLimitStep(projects, nullptr);
         if (step == LimitStep::ForceFilter) {
             ShowFilter(true);
+            if (!IsWanted()) return false;
             step = NextLimitStep(projects, &m_filter->Outcome());
         }
         if (step == LimitStep::Proceed) return true;
@@ -193,7 +210,8 @@ void frmSaveTo::ShowFilter(bool forced)
     m_filter->Server = Text(cmbServerURL);
     m_filter->Forced = forced;
     if (forced) ShowMessage(EntryLimitMessage(), kStylePlain);
-    m_filter->ShowModal();
+    m_filter->Load(); // asks the server, and the user may leave meanwhile
+    if (IsWanted()) m_filter->ShowModal();
     m_filter->Unload();
     const FilterOutcome outcome = m_filter->Outcome();
     FilterChanged = outcome.changed;
@@ -207,13 +225,11 @@ void frmSaveTo::ShowFilter(bool forced)
 void frmSaveTo::cmdFilter_Click()
 {
     if (Text(cmbServerURL) != m_currentServer) Go();
-    ShowFilter(false);
-    SetWorking(true);
-    Reporting([this] {
-        if (CheckEntryCount() && !FilterCanceled && FilterChanged) LoadTree(Text(cmbServerURL));
+    if (!IsWanted()) return;
+    Work([this] {
+        ShowFilter(false);
+        if (IsWanted() && CheckEntryCount() && !FilterCanceled && FilterChanged) LoadTree(Text(cmbServerURL));
     });
-    SetWorking(false);
-    FocusTree();
 }
 
 // The controls were out of use meanwhile, and the keyboard went astray.
@@ -235,9 +251,8 @@ void frmSaveTo::LoadTree(const std::wstring& server)
     PutBehindLabel(projects.empty() ? txtTree : TreeView1, lblTree);
     SetText(txtTree, m_captions.emptyText);
     const TreeTarget preselected{ProjectID, DeliverableID, ActivityID, RelatedDocID, GateDocumentID};
-    const auto wanted = [this] { return ::IsWindowVisible(Window()) != FALSE; };
-    m_tree->AddProjects(projects, preselected, wanted);
-    SetText(lblTree, FilterActive ? WithFilterMark(m_captions.treeLabel) : m_captions.treeLabel);
+    m_tree->AddProjects(projects, preselected, [this] { return IsWanted(); });
+    ShowTreeLabel();
     m_treeLoaded = true;
 }
 
@@ -249,7 +264,8 @@ void frmSaveTo::cmdOK_Click()
         ShowMessage(m_captions.nothingSelected, m_captions.refusalIsCritical ? kStyleCritical : kStylePlain);
         return;
     }
-    CustomNames().RefreshOnce(m_currentServer); // when this fails, nothing is chosen yet
+    // When this fails, or the user leaves meanwhile, nothing is chosen.
+    if (!Work([this] { CustomNames().RefreshOnce(m_currentServer); })) return;
     TakeTarget(*target);
     Hide();
 }
@@ -274,7 +290,7 @@ void frmSaveTo::TakeTarget(const TreeTarget& target)
 
 void frmSaveTo::TreeView1_DblClick()
 {
-    if (m_tree->SelectedHasChildren() || !TargetOfKey(Mode(), m_tree->SelectedKey())) return;
+    if (!m_tree->IsPointed() || m_tree->SelectedHasChildren() || !TargetOfKey(Mode(), m_tree->SelectedKey())) return;
     cmdOK_Click();
 }
 

@@ -8,6 +8,7 @@
 #include "selection/TreeCaptions.h"
 #include "selection/frmFilter.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -56,6 +57,12 @@ private:
 
     [[nodiscard]] TreeMode Mode() const noexcept { return static_cast<TreeMode>(DialogType); }
     void FillServers();
+    void ShowTreeLabel();
+    // False once the user has left the window, which may be in the middle of a wait for the server.
+    [[nodiscard]] bool IsWanted() const noexcept { return ::IsWindowVisible(Window()) != FALSE; }
+    // Does what waits for the server, with the controls out of use; tells of an error. True when it was done and the
+    // window is still wanted.
+    bool Work(const std::function<void()>& work);
     void Go();
     void SetWorking(bool working);
     void FocusTree();
