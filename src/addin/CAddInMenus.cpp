@@ -84,7 +84,13 @@ void CAddInMenus::RibbonHandler2(const std::wstring& controlId) noexcept
     }
 }
 
-void CAddInMenus::ShowHelp(std::wstring_view caller) const noexcept { AtHostBoundary(caller, &ShowHelpContents); }
+void CAddInMenus::ShowHelp(std::wstring_view caller) const noexcept
+{
+    AtHostBoundary(caller, [this] {
+        SetHostWindow(WindowOf(m_oApplication));
+        ShowHelpContents();
+    });
+}
 
 void CAddInMenus::ShowAbout(std::wstring_view caller) const noexcept
 {
@@ -115,22 +121,25 @@ void CAddInMenus::RunSave(const SaveCommand& command, std::wstring_view caller) 
                         kStylePlain, L"Save to Corvane");
     });
     if (editing) return;
-    const ProcedureScope scope{caller};
     Reporting([&] {
         frmBusy busy{m_procedures};
-        const auto failure = Catch([&] { Save(command, busy); });
+        // Loaded once before it is needed, so that it comes up at once.
+        auto failure = Catch([&] {
+            busy.Load();
+            busy.Unload();
+        });
+        const ProcedureScope scope{caller};
+        if (!failure) failure = Catch([&] { Save(command, busy); });
         if (failure) ReportError(*failure);
+        busy.Unload();
+        SetExcelInteractive(m_oApplication, true);
     });
-    SetExcelInteractive(m_oApplication, true);
 }
 
 void CAddInMenus::Save(const SaveCommand& command, frmBusy& busy)
 {
-    // Loaded once before it is needed, so that it comes up at once.
-    busy.Load();
-    busy.Unload();
     if (!IsDocumentOpen(m_oApplication)) {
-        ShowMessage(L"You must have a file open to save to Corvane", kStylePlain);
+        ShowMessage(L"You must have a file open to save to " + CustomName(L"Corvane"), kStylePlain);
         return;
     }
     busy.oOutlookInspector = OutlookInspectorOf(m_oApplication);

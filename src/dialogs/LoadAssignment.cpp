@@ -36,6 +36,7 @@ void frmSaveAssignment::LoadTarget()
     if (ProjectID >= 1)
         m_facts.isTeamMember = ToBooleanSafe(QueryText(ServerURL, Operations::kIsProjectTeamMember, {ProjectID}));
     ShowTypeCaptions();
+    SetText(AssignmentDetailsFrame, EscapeAmpersands(Terms().targetType + L" details"));
     m_facts.userId = ToLongSafe(QueryText(ServerURL, Operations::kGetUserId, {}));
     m_userName = FirstRow(QueryXml(ServerURL, Operations::kGetUser, {})).Text(L"Name");
     if (IsActivity())
@@ -43,17 +44,6 @@ void frmSaveAssignment::LoadTarget()
     else
         LoadDeliverable();
     Decide();
-}
-
-void frmSaveAssignment::ShowTypeCaptions() const
-{
-    constexpr const wchar_t* kEitherType = L"Deliverable or Activity";
-    const auto typed = [&](std::wstring_view text) { return ReplaceAll(text, kEitherType, Terms().targetType); };
-    SetCaption(typed(L"Save as Deliverable or Activity"));
-    SetText(lblAdvisory, EscapeAmpersands(typed(
-                             ReplaceAll(L"This will create a new version of the Deliverable or Activity document.",
-                                        L"Corvane", Terms().corvane))));
-    SetText(AssignmentDetailsFrame, EscapeAmpersands(typed(L"Deliverable or Activity details")));
 }
 
 std::int32_t frmSaveAssignment::WorkflowPermission(std::int32_t objectKind, std::int32_t objectId) const

@@ -10,6 +10,7 @@
 #include "shared/HostDocument.h"
 #include "shared/MailClient.h"
 #include "support/CCustomNames.h"
+#include "support/Conversions.h"
 
 namespace corvane
 {
@@ -72,6 +73,7 @@ void SaveDialog::LoadInputs()
 void SaveDialog::ReloadTarget()
 {
     // Until the rules have decided about this target, nothing is saved to it and no other is chosen.
+    m_couldSave = ::IsWindowEnabled(Control(cmdSave)) != FALSE;
     DisableSave();
     Enable(cmdChange, false);
     SetHourglass(true);
@@ -100,8 +102,24 @@ void SaveDialog::AllowSave() const noexcept
     Show(cmdSaveAndSend, m_mailClientIsOutlook);
 }
 
+void SaveDialog::LeaveSave() const noexcept
+{
+    Enable(cmdSave, m_couldSave);
+    Enable(cmdSaveAndSend, m_couldSave);
+}
+
+void SaveDialog::ShowTypeCaptions() const
+{
+    const auto& [caption, advisory, type] = m_kind.captions;
+    SetCaption(ReplaceAll(caption, type, m_terms.targetType));
+    SetText(lblAdvisory,
+            EscapeAmpersands(ReplaceAll(ReplaceAll(advisory, L"Corvane", m_terms.corvane), type, m_terms.targetType)));
+}
+
 void SaveDialog::SetControlsEnabled(bool enabled)
 {
+    const std::wstring procedure = std::wstring{m_kind.name} + L".SetControlsEnabled";
+    const ProcedureScope scope{procedure};
     for (const int control : {cmdSave, cmdCancel, cmdHelp, cmdChange})
         Enable(control, enabled);
     for (const int control : m_kind.controls)

@@ -18,6 +18,14 @@ namespace corvane
 
 class frmSaveTo;
 
+// Texts of a form that name its kind of target.
+struct TypeCaptions
+{
+    const wchar_t* caption = L"";
+    const wchar_t* advisory = L"";
+    const wchar_t* type = L""; // in both texts; becomes the customer's word
+};
+
 // What sets one save dialog apart from the others before it is opened.
 struct SaveDialogKind
 {
@@ -26,6 +34,7 @@ struct SaveDialogKind
     std::int32_t treeDialogType; // the tree's mode for Change
     HelpTopic helpTopic;
     SaveErrors errors;             // the server's refusals
+    TypeCaptions captions;         // empty where the template's texts stay
     std::span<const int> controls; // out of use while a save runs, beside the buttons
 };
 
@@ -84,10 +93,15 @@ protected:
     // Send only where the mail client is Outlook).
     void Refuse(Refusal refusal);
     void AllowSave() const noexcept;
+    // No outcome: the save buttons are what they were before the target was loaded.
+    void LeaveSave() const noexcept;
+    // Puts the customer's word for the target's type into the caption and the line above the buttons.
+    void ShowTypeCaptions() const;
     // Writes the binding into the document and makes the next save write it.
     void BindDocument() const;
     // The facts that every notification of this dialog shares.
-    [[nodiscard]] NotificationFacts NotificationOf(NotifiedKind kind, std::int32_t targetId, int nameControl) const;
+    [[nodiscard]] NotificationFacts NotificationOf(NotifiedKind kind, std::int32_t targetId,
+                                                   std::wstring targetName) const;
 
     [[nodiscard]] UploadTerms& Terms() noexcept { return m_terms; }
     [[nodiscard]] const UploadTerms& Terms() const noexcept { return m_terms; }
@@ -115,12 +129,13 @@ private:
     // Runs the save from its question to the hidden dialog. True when the version was recorded and not cancelled.
     bool Save();
     bool UploadAndRecord();
-    // Tells the user of an error of the save or the mail.
+    // Tells the user why the save ended.
     void ShowError(const Error& error) const;
 
     SaveDialogKind m_kind;
     UploadTerms m_terms;
-    bool m_inMacro = false; // the document's before a save; it may serve the dialog, whose controls are still in use
+    bool m_inMacro = false;   // the document's before a save; it may serve the dialog, whose controls are still in use
+    bool m_couldSave = false; // before the target was loaded
     bool m_clientEvents = false;
     bool m_mailClientIsOutlook = false;
 };

@@ -80,18 +80,18 @@ void SaveDialog::cmdSave_Click() { Save(); }
 void SaveDialog::cmdSaveAndSend_Click()
 {
     if (!Save()) return;
-    // The version stands whatever becomes of the mail.
+    // The version stands whatever becomes of the mail: an error's number refuses nothing any more.
     const auto failure =
         Catch([this] { DisplayNotification(ProjectID, ServerURL, [this] { return Notification(); }); });
-    if (failure) ShowError(*failure);
+    if (failure && failure->Number() != kAutomationDeclined) ReportError(*failure);
 }
 
-NotificationFacts SaveDialog::NotificationOf(NotifiedKind kind, std::int32_t targetId, int nameControl) const
+NotificationFacts SaveDialog::NotificationOf(NotifiedKind kind, std::int32_t targetId, std::wstring targetName) const
 {
     NotificationFacts facts;
     facts.kind = kind;
     facts.targetId = targetId;
-    facts.targetName = Text(nameControl);
+    facts.targetName = std::move(targetName);
     facts.projectId = ProjectID;
     facts.projectName = Text(txtProject);
     facts.server = ServerURL;

@@ -1,6 +1,7 @@
 #include "dialogs/frmSaveAssignment.h"
 
 #include "platform/Messages.h"
+#include "platform/Procedure.h"
 #include "resources/resource.h"
 #include "selection/frmSaveTo.h"
 #include "shared/DateText.h"
@@ -12,11 +13,14 @@ namespace corvane
 namespace
 {
 constexpr int kSaveControls[] = {chkComplete, chkPublish, txtAuthor, txtComments, txtNotes};
+constexpr TypeCaptions kTypeCaptions{L"Save as Deliverable or Activity",
+                                     L"This will create a new version of the Deliverable or Activity document.",
+                                     L"Deliverable or Activity"};
 } // namespace
 
 frmSaveAssignment::frmSaveAssignment() noexcept
     : SaveDialog{{L"frmSaveAssignment", IDD_frmSaveAssignment, static_cast<std::int32_t>(TreeMode::Assignment),
-                  HelpTopic::SaveAssignment, kAssignmentErrors, kSaveControls}}
+                  HelpTopic::SaveAssignment, kAssignmentErrors, kTypeCaptions, kSaveControls}}
 {}
 
 std::vector<SaveDialog::TargetId> frmSaveAssignment::TargetIds()
@@ -57,8 +61,9 @@ std::wstring frmSaveAssignment::Record(const std::wstring& uploadName)
 
 NotificationFacts frmSaveAssignment::Notification() const
 {
-    NotificationFacts facts = IsActivity() ? NotificationOf(NotifiedKind::Activity, ActivityID, txtActivity)
-                                           : NotificationOf(NotifiedKind::Deliverable, DeliverableID, txtDeliverable);
+    NotificationFacts facts = IsActivity()
+                                  ? NotificationOf(NotifiedKind::Activity, ActivityID, Text(txtActivity))
+                                  : NotificationOf(NotifiedKind::Deliverable, DeliverableID, Text(txtDeliverable));
     facts.term = IsActivity() ? Terms().activity : Terms().deliverable;
     GetLatestVersionInfo(facts);
     return facts;
@@ -66,6 +71,7 @@ NotificationFacts frmSaveAssignment::Notification() const
 
 void frmSaveAssignment::GetLatestVersionInfo(NotificationFacts& facts) const
 {
+    const ProcedureScope scope{L"frmSaveAssignment.GetLatestVersionInfo"};
     if (IsActivity()) {
         const XmlDocument versions = QueryXml(ServerURL, Operations::kGetActivityVersions, {ActivityID});
         const XmlNode latest = versions.SelectFirst(L"//prj:version[@vtype='latest']");

@@ -27,7 +27,6 @@ private:
     [[nodiscard]] NotificationFacts Notification() const override;
 
     [[nodiscard]] bool IsActivity() const noexcept { return ActivityID >= 1; }
-    void ShowTypeCaptions() const;
     void LoadDeliverable();
     void LoadActivity();
     void TakeSharedFacts(const XmlNode& row);

@@ -13,12 +13,14 @@ namespace corvane
 namespace
 {
 constexpr int kSaveControls[] = {chkPublish, txtAuthor, txtComments};
+constexpr TypeCaptions kTypeCaptions{L"Save as Gate Document", L"This will create a new version of the Gate Document",
+                                     L"Gate Document"};
 constexpr std::int32_t kGateDocumentObject = 3; // object kind of the update right
 } // namespace
 
 frmSaveGateDoc::frmSaveGateDoc() noexcept
     : SaveDialog{{L"frmSaveGateDoc", IDD_frmSaveGateDoc, static_cast<std::int32_t>(TreeMode::GateDocument),
-                  HelpTopic::SaveGateDocument, kGateDocumentErrors, kSaveControls}}
+                  HelpTopic::SaveGateDocument, kGateDocumentErrors, kTypeCaptions, kSaveControls}}
 {}
 
 std::vector<SaveDialog::TargetId> frmSaveGateDoc::TargetIds() { return {{GateDocumentID, &frmSaveTo::GateDocumentID}}; }
@@ -41,7 +43,7 @@ void frmSaveGateDoc::LoadTarget()
     LoadRights();
     if (HasTarget()) LoadGateDocument();
     if (ProjectID >= 1 && IsOutsider(m_facts)) {
-        AllowSave(); // the save itself refuses again
+        LeaveSave(); // the save itself refuses again
         ShowMessage(RefusalMessage(Refusal::OutsideTheTeam, Terms()), kStyleCritical);
         return;
     }
@@ -76,15 +78,6 @@ void frmSaveGateDoc::LoadGateDocument()
     m_facts.projectClosed = ToBooleanSafe(row.Text(L"ProjectClosed"));
 }
 
-void frmSaveGateDoc::ShowTypeCaptions() const
-{
-    constexpr const wchar_t* kType = L"Gate Document";
-    SetCaption(ReplaceAll(L"Save as Gate Document", kType, Terms().gateDocument));
-    const std::wstring advisory =
-        ReplaceAll(L"This will create a new version of the Gate Document", L"Corvane", Terms().corvane);
-    SetText(lblAdvisory, EscapeAmpersands(ReplaceAll(advisory, kType, Terms().gateDocument)));
-}
-
 bool frmSaveGateDoc::MaySave()
 {
     if (!IsOutsider(m_facts)) return true;
@@ -106,15 +99,21 @@ std::wstring frmSaveGateDoc::Record(const std::wstring& uploadName)
 
 NotificationFacts frmSaveGateDoc::Notification() const
 {
-    NotificationFacts facts = NotificationOf(NotifiedKind::GateDocument, GateDocumentID, txtGateDocument);
+    NotificationFacts facts = NotificationOf(NotifiedKind::GateDocument, GateDocumentID, Text(txtGateDocument));
     facts.term = Terms().gateDocument;
     facts.gateTerm = Terms().gate;
     facts.gateName = Text(txtGate);
+    GetLatestGateVersionInfo(facts);
+    return facts;
+}
+
+void frmSaveGateDoc::GetLatestGateVersionInfo(NotificationFacts& facts) const
+{
+    const ProcedureScope scope{L"frmSaveGateDoc.GetLatestGateVersionInfo"};
     const XmlDocument answer = QueryXml(ServerURL, Operations::kGetProjectGateDocument, {GateDocumentID, m_userId});
     const XmlNode row = FirstRow(answer);
     facts.version = row.Text(L"LatestVersion");
     facts.date = ShownDate(ParseDate(row.Text(L"LatestVersionUploadedOn"), kVersionTimeLayout));
-    return facts;
 }
 
 } // namespace corvane

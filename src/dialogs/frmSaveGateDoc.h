@@ -27,7 +27,7 @@ private:
 
     void LoadRights();
     void LoadGateDocument();
-    void ShowTypeCaptions() const;
+    void GetLatestGateVersionInfo(NotificationFacts& facts) const;
 
     GateDocumentFacts m_facts;
     std::int32_t m_userId = 0;

@@ -32,8 +32,13 @@ std::wstring ListText(HWND combo, int index)
 } // namespace
 
 frmSaveRelatedDoc::frmSaveRelatedDoc() noexcept
-    : SaveDialog{{L"frmSaveRelatedDoc", IDD_frmSaveRelatedDoc, static_cast<std::int32_t>(TreeMode::RelatedDocument),
-                  HelpTopic::SaveRelatedDocument, kRelatedDocumentErrors, kSaveControls}}
+    : SaveDialog{{L"frmSaveRelatedDoc",
+                  IDD_frmSaveRelatedDoc,
+                  static_cast<std::int32_t>(TreeMode::RelatedDocument),
+                  HelpTopic::SaveRelatedDocument,
+                  kRelatedDocumentErrors,
+                  {},
+                  kSaveControls}}
 {}
 
 std::vector<SaveDialog::TargetId> frmSaveRelatedDoc::TargetIds()
@@ -122,7 +127,9 @@ std::wstring frmSaveRelatedDoc::AuthorOfDocument() const
 
 SaveDialog::SaveStart frmSaveRelatedDoc::BeginSave()
 {
-    if (!Trim(Text(txtName)).empty()) return SaveStart::Go;
+    m_entered = {Trim(Text(txtName)), Trim(Text(txtAuthor)), Trim(Text(cboGroup)), Trim(Text(txtDescription)),
+                 IsChecked(chkPublish)};
+    if (!m_entered.name.empty()) return SaveStart::Go;
     ShowMessage(L"Name is required.", kStyleCritical);
     SetFocusTo(txtName);
     return SaveStart::StayOpen;
@@ -136,8 +143,8 @@ DocumentBinding frmSaveRelatedDoc::Binding() const
 std::wstring frmSaveRelatedDoc::Record(const std::wstring& uploadName)
 {
     return QueryText(ServerURL, IsNew() ? Operations::kCreateRelatedFile : Operations::kUploadRelatedFile,
-                     {IsNew() ? ProjectID : RelatedDocID, uploadName, Trim(Text(txtName)), Trim(Text(txtAuthor)),
-                      Trim(Text(cboGroup)), Trim(Text(txtDescription)), IsChecked(chkPublish) ? 1 : 0});
+                     {IsNew() ? ProjectID : RelatedDocID, uploadName, m_entered.name, m_entered.author,
+                      m_entered.category, m_entered.description, m_entered.publish ? 1 : 0});
 }
 
 void frmSaveRelatedDoc::AfterRecord(const std::wstring& reply)
@@ -151,12 +158,18 @@ void frmSaveRelatedDoc::AfterRecord(const std::wstring& reply)
 
 NotificationFacts frmSaveRelatedDoc::Notification() const
 {
-    NotificationFacts facts = NotificationOf(NotifiedKind::RelatedDocument, RelatedDocID, txtName);
+    NotificationFacts facts = NotificationOf(NotifiedKind::RelatedDocument, RelatedDocID, m_entered.name);
     facts.term = L"Related Document";
-    facts.author = Trim(Text(txtAuthor));
+    facts.author = m_entered.author;
+    GetRelatedVersionInfo(facts);
+    return facts;
+}
+
+void frmSaveRelatedDoc::GetRelatedVersionInfo(NotificationFacts& facts) const
+{
+    const ProcedureScope scope{L"frmSaveRelatedDoc.GetRelatedVersionInfo"};
     const XmlDocument answer = QueryXml(ServerURL, Operations::kGetRelatedFileDate, {RelatedDocID});
     facts.date = ShownDate(ParseDate(FirstRow(answer).Text(L"Date"), kVersionTimeLayout));
-    return facts;
 }
 
 } // namespace corvane

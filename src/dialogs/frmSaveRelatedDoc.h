@@ -33,6 +33,18 @@ private:
     void FillGroups();
     void SelectGroup(const std::wstring& group);
     [[nodiscard]] std::wstring AuthorOfDocument() const;
+    void GetRelatedVersionInfo(NotificationFacts& facts) const;
+
+    // What the user had entered when the save began, trimmed.
+    struct Entered
+    {
+        std::wstring name;
+        std::wstring author;
+        std::wstring category;
+        std::wstring description;
+        bool publish = false;
+    };
+    Entered m_entered;
 };
 
 } // namespace corvane

@@ -67,18 +67,23 @@ DateSource SourceOf(std::wstring_view text, std::wstring_view layout)
     return {};
 }
 
-// The pieces as 16-bit integers; nothing when one is no such number.
-std::optional<std::vector<int>> NumbersIn(std::wstring_view text, wchar_t separator)
+std::vector<std::wstring_view> Pieces(std::wstring_view text, wchar_t separator)
 {
-    std::vector<int> numbers;
+    std::vector<std::wstring_view> pieces;
     for (;;) {
         const auto end = text.find(separator);
-        const auto number = NumberIn(text.substr(0, end));
-        if (!number || std::abs(*number) > std::numeric_limits<std::int16_t>::max()) return std::nullopt;
-        numbers.push_back(static_cast<int>(std::nearbyint(*number)));
-        if (end == std::wstring_view::npos) return numbers;
+        pieces.push_back(text.substr(0, end));
+        if (end == std::wstring_view::npos) return pieces;
         text.remove_prefix(end + 1);
     }
+}
+
+// A piece as a 16-bit integer; nothing when it is missing or no such number.
+std::optional<int> NumberAt(const std::vector<std::wstring_view>& pieces, std::size_t position)
+{
+    const auto number = position < pieces.size() ? NumberIn(pieces[position]) : std::nullopt;
+    if (!number || std::abs(*number) > std::numeric_limits<std::int16_t>::max()) return std::nullopt;
+    return static_cast<int>(std::nearbyint(*number));
 }
 
 std::optional<CalendarDate> DateFromParts(int year, int month, int day)
@@ -102,10 +107,11 @@ std::optional<CalendarDate> ParseDate(std::wstring_view text, std::wstring_view 
 {
     const DateSource source = SourceOf(text, layout);
     if (source.layout == nullptr) return std::nullopt;
-    const auto numbers = NumbersIn(source.text, source.layout->separator);
-    if (!numbers || numbers->size() < 3) return std::nullopt;
-    return DateFromParts(numbers->at(source.layout->year), numbers->at(source.layout->month),
-                         numbers->at(source.layout->day));
+    const auto pieces = Pieces(source.text, source.layout->separator);
+    const auto year = NumberAt(pieces, source.layout->year);
+    const auto month = NumberAt(pieces, source.layout->month);
+    const auto day = NumberAt(pieces, source.layout->day);
+    return year && month && day ? DateFromParts(*year, *month, *day) : std::nullopt;
 }
 
 std::wstring ShownDate(const std::optional<CalendarDate>& date)

@@ -63,6 +63,7 @@ private:
 
 std::wstring GetCustomProperty(const LateBound& oApplication, const std::wstring& sName)
 {
+    const ProcedureScope scope{L"SharedCode.GetCustomProperty"};
     std::wstring text;
     Ignoring([&] { text = PropertiesOf(oApplication).Object(L"Item", sName).Text(L"Value"); });
     return text;
@@ -70,12 +71,14 @@ std::wstring GetCustomProperty(const LateBound& oApplication, const std::wstring
 
 bool CustomPropertyExists(const LateBound& oApplication, const std::wstring& sName)
 {
+    const ProcedureScope scope{L"SharedCode.CustomPropertyExists"};
     return !Catch([&] { static_cast<void>(PropertiesOf(oApplication).Object(L"Item", sName).Text(L"Name")); });
 }
 
 void SetCustomProperty(const LateBound& oProperties, const std::wstring& sName, const Variant& vValue,
                        std::int32_t lType, const LateBound& oApplication)
 {
+    const ProcedureScope scope{L"SharedCode.SetCustomProperty"};
     bool found = false;
     const std::int32_t count = oProperties.Number(L"Count");
     for (std::int32_t index = 1; index <= count; ++index) {

@@ -110,7 +110,7 @@ std::wstring UnusedDocumentPath(const std::wstring& title)
     if (!failure) return path;
     throw Error{failure->Number(), failure->Source(),
                 L"The document has no file yet and the Documents folder cannot be reached (" + failure->Description() +
-                    L"). Please save the document to disk and then save it to Corvane again."};
+                    L"). Please save the document to disk and then try again."};
 }
 
 SavedDocument SaveInDocuments(const Host& host, const LateBound& document)
@@ -165,9 +165,9 @@ void RequireNotFinal(const LateBound& application)
     bool isFinal = false;
     Ignoring([&] { isFinal = ActiveDocument(application).Number(L"Final") != 0; });
     if (isFinal)
-        throw Error{kPermissionDenied, L"HostDocument",
-                    L"The document is marked as final, so it cannot be changed. Please turn the mark off and then save "
-                    L"the document to Corvane again."};
+        throw Error{
+            kPermissionDenied, L"HostDocument",
+            L"The document is marked as final, so it cannot be changed. Please turn the mark off and then try again."};
 }
 
 bool IsEditing(const LateBound& application)

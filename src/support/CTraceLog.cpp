@@ -48,8 +48,9 @@ void CTraceLog::Open()
     ::CreateDirectoryW(folder.c_str(), nullptr);
     folder += L"Corvane for MS Office\\";
     ::CreateDirectoryW(folder.c_str(), nullptr);
-    const HANDLE file = ::CreateFileW((folder + TraceFileName(kApplicationName, Now())).c_str(), GENERIC_WRITE,
-                                      FILE_SHARE_READ, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE file =
+        ::CreateFileW((folder + TraceFileName(kApplicationName, Now())).c_str(), GENERIC_WRITE,
+                      FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file != INVALID_HANDLE_VALUE) m_file = UniqueFile{file};
 }
 

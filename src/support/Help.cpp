@@ -23,8 +23,10 @@ std::wstring& HelpFile()
     return file;
 }
 
-std::string AnsiPath(const std::wstring& path)
+// The viewer takes paths in the ANSI code page; a path with other letters has a short form without them.
+std::string AnsiPath(const std::wstring& longPath)
 {
+    const std::wstring path = FitsAnsiCodePage(longPath) ? longPath : ShortPath(longPath);
     std::string ansi(path.size() * 4 + 1, '\0');
     const int length = ::WideCharToMultiByte(CP_ACP, 0, path.c_str(), -1, ansi.data(), static_cast<int>(ansi.size()),
                                              nullptr, nullptr);
@@ -48,7 +50,8 @@ void Show(HWND owner, UINT command, DWORD_PTR data)
         ShowMessage(L"The help file \"" + HelpFile() + L"\" was not found.", kStyleExclamation);
         return;
     }
-    Viewer()(owner, AnsiPath(HelpFile()).c_str(), command, data);
+    if (Viewer()(owner, AnsiPath(HelpFile()).c_str(), command, data) == nullptr)
+        ShowMessage(L"The help file \"" + HelpFile() + L"\" could not be opened.", kStyleExclamation);
 }
 
 } // namespace

@@ -7,6 +7,10 @@
 #include "support/Conversions.h"
 #include "support/Policy.h"
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
 namespace corvane
 {
 namespace
@@ -24,13 +28,20 @@ std::wstring ReadAnsiText(const std::wstring& path)
     return text;
 }
 
+// Rounded up, since a time-out of none is asked for by nothing but a 0; and no longer than the system can count.
+std::chrono::seconds WholeSeconds(double seconds)
+{
+    constexpr double kLongest = std::numeric_limits<std::int32_t>::max();
+    return std::chrono::seconds{static_cast<std::int32_t>(std::min(std::ceil(seconds), kLongest))};
+}
+
 void Apply(const XmlDocument& document, Settings& settings)
 {
     const XmlNode trace = document.SelectFirst(L"settings/setting[@name='EnableTraceLogs']");
     settings.traceEnabled = ToBooleanSafe(trace.Text(L"value"));
     const XmlNode timeout = document.SelectFirst(L"settings/setting[@name='RequestTimeoutSeconds']");
     if (const auto seconds = NumberIn(timeout.Text(L"value")); seconds && *seconds >= 0)
-        settings.requestTimeout = std::chrono::seconds{ToLongSafe(timeout.Text(L"value"))};
+        settings.requestTimeout = WholeSeconds(*seconds);
 }
 
 } // namespace

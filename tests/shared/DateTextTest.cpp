@@ -37,6 +37,7 @@ constexpr DateCase kCases[] = {
     {"LayoutInOtherLetters", L"03/04/2013", L"mm/dd/yyyy", std::nullopt},
     {"UnknownLayout", L"03/04/2013", L"MMM dd, YYYY", std::nullopt},
     {"NoNumber", L"March/04/2013", L"MM/dd/yyyy", std::nullopt},
+    {"PieceTooMany", L"03/04/2013/x", L"MM/dd/yyyy", kDay},
     {"PieceMissing", L"03/2013", L"MM/dd/yyyy", std::nullopt},
     {"PieceTooLarge", L"03/40000/2013", L"MM/dd/yyyy", std::nullopt},
     {"NoText", L"", L"UTC", std::nullopt},
