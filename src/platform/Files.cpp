@@ -128,6 +128,13 @@ bool FitsAnsiCodePage(const std::wstring& text)
     return back == text;
 }
 
+std::wstring ShortPath(const std::wstring& path)
+{
+    std::array<wchar_t, kPathBuffer> shortPath{};
+    const DWORD length = ::GetShortPathNameW(path.c_str(), shortPath.data(), static_cast<DWORD>(shortPath.size()));
+    return length == 0 || length >= shortPath.size() ? path : shortPath.data();
+}
+
 TemporaryFile::TemporaryFile(const std::wstring& extension)
     : m_path{UnusedPath(TemporaryFolder(), NewGuidText(), extension)}
 {}

@@ -44,6 +44,9 @@ bool CopyWholeFile(const std::wstring& from, const std::wstring& to) noexcept;
 // True when the system's ANSI code page can hold every character of the text.
 [[nodiscard]] bool FitsAnsiCodePage(const std::wstring& text);
 
+// The path in the system's 8.3 form; the path itself where it has none.
+[[nodiscard]] std::wstring ShortPath(const std::wstring& path);
+
 // Owns a file in the temporary folder under a fresh GUID name; the file is deleted with its owner.
 class TemporaryFile
 {

@@ -99,11 +99,7 @@ void HttpRequest::Send(const std::wstring& text) { SendBody(Variant{text}); }
 
 void HttpRequest::Send(ByteArray bytes) { SendBody(bytes.Detach()); }
 
-void HttpRequest::SendEmptyDocument()
-{
-    const XmlDocument empty;
-    SendBody(Variant{static_cast<IDispatch*>(empty.Get())});
-}
+void HttpRequest::Send(const XmlDocument& document) { SendBody(Variant{static_cast<IDispatch*>(document.Get())}); }
 
 void HttpRequest::SendBody(const Variant& body)
 {

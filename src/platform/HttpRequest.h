@@ -13,6 +13,8 @@
 namespace corvane
 {
 
+class XmlDocument;
+
 // A request is opened, given headers, sent once and waited for; then its answer is read. Where a member throws Error,
 // the number is the failed call's HRESULT.
 class HttpRequest
@@ -36,7 +38,7 @@ public:
     void Send();
     void Send(const std::wstring& text);
     void Send(ByteArray bytes);
-    void SendEmptyDocument();
+    void Send(const XmlDocument& document);
 
     // Waits for the whole answer while messages are handled. Throws Error when the transport failed, when the answer is
     // shorter than it says, when the limit passed first, or when the thread is told to end. No limit means waiting for

@@ -58,6 +58,7 @@ WaitEnd PumpUntil(const std::function<bool()>& done, std::optional<std::chrono::
         if (left == 0) return WaitEnd::TimedOut;
         if (DispatchOne(quit)) continue;
         if (quit) return WaitEnd::Quit;
+        if (done()) break; // a message sent from elsewhere was handled while none was waiting
         ::MsgWaitForMultipleObjectsEx(0, nullptr, left, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
     }
     return WaitEnd::Done;

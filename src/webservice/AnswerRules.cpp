@@ -88,6 +88,8 @@ Error StatusError(AnswerMeaning meaning, long status, std::wstring_view server, 
     return {static_cast<std::int32_t>(status), procedure.source, HTTPErrorText(server, status, text)};
 }
 
+Error NullError(const wchar_t* source) { return {kErrorInvalidUseOfNull, source, L"Invalid use of Null"}; }
+
 Error DocumentError(const ErrorDocument& document, const ServiceProcedure& procedure)
 {
     const std::int32_t number = ToLongSafe(document.number);
@@ -99,7 +101,8 @@ Error DocumentError(const ErrorDocument& document, const ServiceProcedure& proce
         return {kTransportError, procedure.tooOldSource,
                 L"This Corvane for MS Office add-in must be used with a server where Corvane 8.0 or higher has been "
                 L"installed."};
-    return {procedure.strictNumber ? number : ToErrorNumber(document.number), document.source, document.description};
+    if (!document.source || !document.description) return NullError(procedure.source);
+    return {procedure.strictNumber ? number : ToErrorNumber(document.number), *document.source, *document.description};
 }
 
 Error OpenError(bool invalidUrl, const ServiceProcedure& procedure)

@@ -4,6 +4,7 @@
 #include "platform/Error.h"
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -59,20 +60,25 @@ extern const ServiceProcedure kUploadCall;
 
 [[nodiscard]] AnswerMeaning MeaningOf(long status, bool isErrorDocument, const ServiceProcedure& procedure);
 
-// What an error document says of itself, as it stands there.
+// What an error document says of itself, as it stands there. Only the number is always wanted: a server that is too old
+// needs no words.
 struct ErrorDocument
 {
     std::wstring number;
-    std::wstring source;
-    std::wstring description;
+    std::optional<std::wstring> source{};
+    std::optional<std::wstring> description{};
 };
 
 // The error of an answer that is neither a success nor an error document.
 [[nodiscard]] Error StatusError(AnswerMeaning meaning, long status, std::wstring_view server, std::wstring_view text,
                                 const ServiceProcedure& procedure);
 
-// The error that an error document stands for; type mismatch where the procedure wants an integer and there is none.
+// The error that an error document stands for; type mismatch where the procedure wants an integer and there is none,
+// invalid use of Null where words are missing.
 [[nodiscard]] Error DocumentError(const ErrorDocument& document, const ServiceProcedure& procedure);
+
+// The error of an attribute that is read and not there.
+[[nodiscard]] Error NullError(const wchar_t* source);
 
 // The error of a request that could not be opened, whether the address was unusable or anything else failed.
 [[nodiscard]] Error OpenError(bool invalidUrl, const ServiceProcedure& procedure);

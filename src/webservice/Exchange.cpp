@@ -10,12 +10,6 @@ namespace
 
 std::chrono::milliseconds g_timeout{0};
 
-std::wstring RequiredAttribute(const XmlNode& node, const wchar_t* name, const wchar_t* source)
-{
-    if (const auto value = node.Attribute(name)) return *value;
-    throw Error{kErrorInvalidUseOfNull, source, L"Invalid use of Null"};
-}
-
 // The first "error" element of an answer and its three attributes.
 ErrorDocument ReadErrorDocument(const std::wstring& text, const wchar_t* source)
 {
@@ -23,8 +17,9 @@ ErrorDocument ReadErrorDocument(const std::wstring& text, const wchar_t* source)
     static_cast<void>(document.Load(text));
     const XmlNode error = document.SelectFirst(L"//error");
     if (!error) throw Error{kErrorObjectNotSet, source, L"Object variable or With block variable not set"};
-    return {RequiredAttribute(error, L"number", source), RequiredAttribute(error, L"source", source),
-            RequiredAttribute(error, L"description", source)};
+    const auto number = error.Attribute(L"number");
+    if (!number) throw NullError(source);
+    return {*number, error.Attribute(L"source"), error.Attribute(L"description")};
 }
 
 } // namespace

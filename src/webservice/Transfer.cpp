@@ -8,8 +8,8 @@
 #include "webservice/UploadBody.h"
 #include "webservice/WebService.h"
 
-#include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace corvane
 {
@@ -74,7 +74,7 @@ ByteArray ReadBody(const std::wstring& server, const std::wstring& path, const s
         const ReadablePath readable{path};
         if (attempt > 1) PumpFor(kPauseBetweenAttempts);
         length = FileLength(readable.Get()).value_or(length);
-        if (length > static_cast<std::uint64_t>(std::max(limit, 0)))
+        if (std::cmp_greater(length, limit))
             throw Error{kTransportError, kUploadCall.source,
                         L"File size is greater than maximum allowed. Please contact your server administrator."};
         if (length == 0) continue;

@@ -2,6 +2,7 @@
 
 #include "platform/LateBound.h"
 #include "platform/Procedure.h"
+#include "platform/XmlDocument.h"
 #include "support/Conversions.h"
 #include "webservice/Exchange.h"
 
@@ -58,8 +59,9 @@ void UpdateUserLog(const std::wstring& sServer, const std::wstring& sWebService)
     const std::wstring url = Endpoint(sServer, sWebService) + L"?" + RequestQuery(Operations::kUpdateUserAccessLog, {});
     HttpRequest request;
     OpenRequest(kAccessLogCall, [&] { request.Open(L"POST", url); });
-    const auto failure = Catch(
-        [&] { Exchange(request, kAccessLogCall, sServer, RequestLimit(), [&] { request.SendEmptyDocument(); }); });
+    const XmlDocument empty;
+    const auto failure =
+        Catch([&] { Exchange(request, kAccessLogCall, sServer, RequestLimit(), [&] { request.Send(empty); }); });
     if (request.Status() == kFailedDependency) SetAccessLogged(false);
     if (failure) throw *failure;
     SetAccessLogged(true);

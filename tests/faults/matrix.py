@@ -85,6 +85,8 @@ FAULTS = {  # name: the server's rule or another server, the time-out, what the 
     "empty": ({"body": ""}, LONG, DONE), "truncated": ({"body": '<xml xmlns:z="#RowsetSchema"><z:row a='}, LONG, DONE),
     "wrong type": ({"body": "1", "contentType": "image/png"}, LONG, DONE),
     "upper case": ({"body": document(5, "ERROR")}, LONG, NO_OBJECT), "no element": ({"body": "a <error"}, LONG, NO_OBJECT),
+    "too old, no words": ({"body": "<error number='-2147219700'/>"}, LONG, lambda called: called.told(0x8004070C - 2**32)),
+    "no words": ({"body": "<error number='5'/>"}, LONG, NO_VALUE),
     "no number": ({"body": "<error source='s'/>"}, LONG, NO_VALUE),
     "redirected": ({"status": 302, "location": "/WebServices/offi.asp?Op=G%65tUserID&P1=v6"}, LONG, DONE),
     "round and round": ({"status": 302, "location": "/WebServices/x?OP"}, SHORT, Called.lost)}

@@ -11,6 +11,7 @@ class FakeRequest final : public IXMLHTTPRequest
 {
 public:
     long readyState = 4; // once sent
+    HRESULT openResult = S_OK;
     HRESULT statusResult = S_OK;
     long status = 200;
     const wchar_t* text = L"12"; // of every answer
@@ -33,7 +34,7 @@ public:
     {
         return E_NOTIMPL;
     }
-    STDMETHODIMP open(BSTR, BSTR, VARIANT, VARIANT, VARIANT) override { return S_OK; }
+    STDMETHODIMP open(BSTR, BSTR, VARIANT, VARIANT, VARIANT) override { return openResult; }
     STDMETHODIMP setRequestHeader(BSTR, BSTR) override { return S_OK; }
     STDMETHODIMP getResponseHeader(BSTR, BSTR*) override { return E_NOTIMPL; }
     STDMETHODIMP getAllResponseHeaders(BSTR*) override { return E_NOTIMPL; }

@@ -2,10 +2,12 @@
 #include "FakeRequest.h"
 #include "OfferedClass.h"
 
+#include "platform/Files.h"
 #include "platform/MessageLoop.h"
 #include "platform/Procedure.h"
 #include "webservice/AnswerRules.h"
 #include "webservice/Exchange.h"
+#include "webservice/Transfer.h"
 #include "webservice/WebService.h"
 
 #include <gtest/gtest.h>
@@ -65,6 +67,29 @@ TEST_F(Request, AnAnswerThatRefusesToTellItsStatusIsAFailureToSend)
 {
     m_transport.statusResult = E_FAIL;
     ExpectSendError();
+}
+
+TEST_F(Request, OnlyAnUnspecifiedFailureToOpenMeansTheAddress)
+{
+    m_transport.openResult = E_FAIL;
+    EXPECT_EQ(Query().Description(), L"Invalid URL.");
+    m_transport.openResult = E_INVALIDARG;
+    EXPECT_EQ(Query().Description(), L"Unable to contact server.");
+}
+
+TEST_F(Request, AFileOfJustTheServersLimitIsSentWithTheTimeItsSizeNeeds)
+{
+    EXPECT_EQ(RequestLimit(65536), 22s);
+    const TemporaryFile file{L"bin"};
+    const auto send = [&](std::size_t bytes) {
+        WriteFile(file.Path(), std::vector<std::byte>(bytes, std::byte{7}));
+        return Catch([&] { ExecuteASPWSUploadFile(L"http://h", file.Path(), L"n.bin"); });
+    };
+    EXPECT_FALSE(send(12)); // the answer to the question for the limit
+    EXPECT_NE(m_transport.sent.find(std::string(12, 7)), std::string::npos);
+    EXPECT_TRUE(send(13));
+    SetRequestTimeout(0s);
+    EXPECT_EQ(RequestLimit(65536), std::nullopt);
 }
 
 TEST_F(Request, TheTimeOutIsAFailureToSendAndTheRequestGoesOnUntilItEnds)
