@@ -27,7 +27,7 @@ soak: all
 	tests/scenarios/run $(ARCH) soak ROUNDS=200 SETTLED=10
 
 check: all
-	@tools/install-packages cppcheck
+	@tools/install-packages clang cppcheck
 	tools/check
 
 shots: all

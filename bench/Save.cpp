@@ -4,7 +4,7 @@
 #include "Benchmarks.h"
 #include "Measure.h"
 #include "objects/Application.h"
-#include "objects/Presentation.h"
+#include "objects/DocumentObject.h"
 #include "resources/resource.h"
 #include "shared/DocumentProperties.h"
 
@@ -95,7 +95,7 @@ void SaveBoundDocument(const Words& words)
 {
     AddInUnderTest addIn;
     addIn.Load(words[0]);
-    host::PresentationObject& presentation = addIn.Host().New();
+    host::DocumentObject& presentation = addIn.Host().New();
     corvane::DocumentBinding binding;
     binding.server = words[1];
     binding.projectId = 12;     // "Apollo"
