@@ -32,6 +32,12 @@ void TakeOut(Form* form) noexcept
 
 Form::~Form() { Unload(); }
 
+bool Form::IsForm(HWND window) noexcept
+{
+    const auto& forms = OpenForms();
+    return std::any_of(forms.begin(), forms.end(), [&](const Form* form) { return form->m_window == window; });
+}
+
 HWND Form::TopWindow() noexcept
 {
     const auto& forms = OpenForms();

@@ -57,6 +57,9 @@ public:
     // Unloads the open form of that name, the last opened where there are several.
     static void UnloadNamed(std::wstring_view name) noexcept;
 
+    // Whether the window is a loaded form's.
+    [[nodiscard]] static bool IsForm(HWND window) noexcept;
+
     // The visible form in front of the others, or null.
     [[nodiscard]] static HWND TopWindow() noexcept;
 

@@ -19,10 +19,11 @@ inline constexpr UINT kStyleInformation = MB_ICONASTERISK;    // 64
 void SetApplicationTitle(std::wstring title);
 [[nodiscard]] const std::wstring& ApplicationTitle() noexcept;
 
-// The window of the host; null while it is not known. Forms and messages that no form of ours owns belong to it.
-void SetHostWindow(HWND window) noexcept;
+// The window that the host tells as its own, or null where it tells none: then it is the thread's active window. Forms
+// and messages that no form of ours owns belong to it.
+void SetHostWindow(HWND told) noexcept;
 
-// The host's window, or the thread's active window where the host tells none.
+// The host's window; null while there is none. Never a form of ours: what a passing one owned would go with it.
 [[nodiscard]] HWND HostWindow() noexcept;
 
 // Shows text in a message box that belongs to the topmost form, or to the host. Without a title of its own it carries

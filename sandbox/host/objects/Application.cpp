@@ -59,6 +59,8 @@ Value ApplicationObject::GetBuildNumber(const Arguments&) { return Value{kBuild}
 
 Value ApplicationObject::GetWindowHandle(const Arguments&)
 {
+    if (m_session.Settings().Setting("host.window") == "untold")
+        throw AutomationError{DISP_E_MEMBERNOTFOUND, L"The object has no such member."};
     return Value{static_cast<long>(reinterpret_cast<LONG_PTR>(m_session.window))};
 }
 
