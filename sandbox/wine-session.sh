@@ -29,6 +29,9 @@ if [ ! -e "$WINEPREFIX/prepared" ]; then
   wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v corvane /d 1400x1050 /f >/dev/null 9>&-
   touch "$WINEPREFIX/prepared"
 fi
+# The share that Windows makes of its disk.
+mkdir -p "$WINEPREFIX/dosdevices/unc/localhost"
+ln -sfn ../../c: "$WINEPREFIX/dosdevices/unc/localhost/C$"
 if [ "$(cat "$WINEPREFIX/dpi" 2>/dev/null)" != "$dpi" ]; then
   wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f >/dev/null 9>&-
   wineserver -w

@@ -1,4 +1,5 @@
 // A document in every state, in every host and version: what a save makes of it. Prints a line for each.
+#include "DocumentStates.h"
 #include "FakeRequest.h"
 #include "HostTest.h"
 #include "OfferedClass.h"
@@ -22,111 +23,6 @@ namespace
 
 constexpr CLSID kXmlHttp3 = {0xF5078F35, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
 const DocumentBinding kBinding{.server = L"http://h", .projectId = 12, .deliverableId = 45};
-
-enum Hosts : unsigned
-{
-    kPowerPoint = 1,
-    kWord = 2,
-    kExcel = 4,
-    kOutlook = 8,
-    kFiles = kPowerPoint | kWord | kExcel
-};
-
-enum class Document
-{
-    None,
-    New,
-    File,   // opened from a file
-    Renamed // opened from a file that was given this name, without an extension of its own
-};
-
-// Where a save leaves the document; or what it says instead. In names "*" is the extension of a new document.
-struct State
-{
-    const char* name;
-    unsigned hosts;
-    host::Settings settings;
-    Document document;
-    const wchar_t* fileName;
-    const char* outcome; // "in place", "in Documents", "a copy", or a part of the message
-    const wchar_t* uploadName = nullptr;
-    int firstVersion = 0;
-};
-
-const State kStates[] = {
-    {"no document", kFiles | kOutlook, {}, Document::None, L"", "no document"},
-    {"never saved, PowerPoint", kPowerPoint, {}, Document::New, L"", "in Documents", L"Presentation1*"},
-    {"never saved, Word", kWord, {}, Document::New, L"", "in Documents", L"Document1*"},
-    {"never saved, Excel", kExcel, {}, Document::New, L"", "in Documents", L"Book1*"},
-    {"name with a point", kFiles, {{"document.name", "Plan v1.2"}}, Document::New, L"", "in Documents", L"Plan v1.2*"},
-    {"name of a device", kFiles, {{"document.name", "con"}}, Document::New, L"", "in Documents", L"_con*"},
-    {"name no file can have",
-     kFiles,
-     {{"document.name", " Q1/Q2: ? "}},
-     Document::New,
-     L"",
-     "in Documents",
-     L"Q1_Q2_ _*"},
-    {"saved", kFiles, {}, Document::File, L"plan", "in place", L"plan*"},
-    {"changed", kFiles, {{"document.changed", "true"}}, Document::File, L"plan", "in place", L"plan*"},
-    {"two windows", kFiles, {{"document.windows", "2"}}, Document::File, L"plan", "in place", L"plan*"},
-    {"no window", kFiles, {{"document.windows", "0"}}, Document::File, L"plan", "no document"},
-    {"Protected View", kFiles, {{"document.view", "protected"}}, Document::File, L"plan", "no document"},
-    {"read-only", kFiles, {{"document.readonly", "true"}}, Document::File, L"plan", "a copy", L"plan*"},
-    {"marked as final", kFiles, {{"document.final", "true"}}, Document::File, L"plan", "marked as final", nullptr, 12},
-    {"at a web address",
-     kFiles,
-     {{"document.url", "https://h/Shared%20Documents/R&D/plan"}},
-     Document::File,
-     L"plan",
-     "a copy",
-     L"plan*"},
-    {"beyond the code page",
-     kFiles,
-     {},
-     Document::File,
-     L"\x043F\x043B\x0430\x043D \x20AC \x4E2D",
-     "in place",
-     L"\x043F\x043B\x0430\x043D \x20AC \x4E2D*"},
-    {"signs in the name", kFiles, {}, Document::File, L"it's 50% + #1 & co;", "in place", L"it's 50% + #1 & co;*"},
-    {"blanks around the name", kFiles, {}, Document::File, L" plan ", "in place", L" plan *"},
-    {"two points", kFiles, {}, Document::File, L"plan.v2", "in place", L"plan.v2*"},
-    {"no extension", kFiles, {}, Document::Renamed, L"plan", "in place", L"plan*"},
-    {"path beyond 260 letters",
-     kFiles,
-     {},
-     Document::Renamed,
-     L"a folder with a name of eighty letters, which is as long as many a project's own\\"
-     L"a folder with a name of eighty letters, which is as long as many a project's own\\"
-     L"a folder with a name of eighty letters, which is as long as many a project's own\\plan",
-     "in place",
-     L"plan*"},
-    {"file in use", kFiles, {{"save.fault", "locked"}}, Document::File, L"plan", "."},
-    {"disk full", kFiles, {{"save.fault", "full"}}, Document::File, L"plan", "."},
-    {"folder not to be written", kFiles, {{"save.fault", "denied"}}, Document::File, L"plan", "."},
-    {"editing a cell", kExcel, {{"editing", "800AC472"}}, Document::File, L"plan", "editing"},
-    {"editing, not answering", kExcel, {{"editing", "8001010A"}}, Document::File, L"plan", "editing"},
-    {"mail", kOutlook, {{"mail.subject", "Costs of May"}}, Document::New, L"", "a copy", L"Costs of May.msg"},
-    {"mail, signs",
-     kOutlook,
-     {{"mail.subject", "Re: 1/2 \"x\" & y"}},
-     Document::New,
-     L"",
-     "a copy",
-     L"Re_ 1_2 _x_ & y.msg"},
-    {"mail, no subject", kOutlook, {}, Document::New, L"", "a copy", L"_.msg"},
-};
-
-struct HostRow
-{
-    unsigned bit;
-    const char* option;
-    const wchar_t* name;
-};
-constexpr HostRow kHostRows[] = {{kPowerPoint, "powerpoint", L"Microsoft PowerPoint"},
-                                 {kWord, "word", L"Microsoft Word"},
-                                 {kExcel, "excel", L"Microsoft Excel"},
-                                 {kOutlook, "outlook", L"Outlook"}};
 
 // Where the user's documents are, until the object ends.
 class DocumentsAt
@@ -213,9 +109,11 @@ std::wstring Matrix::FileOf(const State& state, const std::wstring& extension)
 {
     session->New();
     const LateBound document = ActiveDocument(App());
-    document.Call(L"SaveAs", folder.File(state.document == Document::File ? state.fileName + extension : L"x"));
+    const bool isNamed = state.document == Document::File || state.document == Document::Shared;
+    document.Call(L"SaveAs", folder.File(isNamed ? state.fileName + extension : L"x"));
     std::wstring path = document.Text(L"FullName");
     document.Call(L"Close");
+    if (state.document == Document::Shared) return path.replace(0, 2, L"\\\\localhost\\" + path.substr(0, 1) + L"$");
     if (state.document != Document::Renamed) return path;
     const std::wstring wanted = L"\\\\?\\" + folder.File(state.fileName);
     for (std::size_t at = wanted.find(L'\\', folder.Path().size() + 5); at != std::wstring::npos;
@@ -229,7 +127,7 @@ void Matrix::OpenDocument(const HostRow& row, const wchar_t* version, const Stat
 {
     Start(row.option, version);
     const std::wstring extension = ExtensionOfNew(row, version);
-    const bool isFile = state.document == Document::File || state.document == Document::Renamed;
+    const bool isFile = state.document != Document::None && state.document != Document::New;
     const std::wstring path = isFile ? FileOf(state, extension) : L"";
     for (const auto& [name, value] : state.settings)
         session->Set(name, name == "document.url" ? value + host::Narrow(extension) : value);
