@@ -1,6 +1,5 @@
 #include "selection/frmSaveTo.h"
 
-#include "platform/Files.h"
 #include "platform/FormLists.h"
 #include "platform/Messages.h"
 #include "platform/Procedure.h"
@@ -8,8 +7,6 @@
 #include "support/CCustomNames.h"
 #include "support/Conversions.h"
 #include "support/Help.h"
-#include "webservice/Transfer.h"
-#include "webservice/WebService.h"
 
 namespace corvane
 {
@@ -18,35 +15,9 @@ namespace
 
 constexpr std::wstring_view kSchemeOnly = L"http://";
 
-struct TreeModeRow
-{
-    const Operation& operation;
-    HelpTopic topic;
-};
 // By DialogType.
-constexpr TreeModeRow kModes[] = {
-    {Operations::kAssignmentTree, HelpTopic::AssignmentTree},
-    {Operations::kRelatedFileTree, HelpTopic::RelatedDocumentTree},
-    {Operations::kGateDocumentTree, HelpTopic::GateDocumentTree},
-};
-
-// Fetches one picture of an icon set through a file of its own, as the system's picture loader wants it.
-void LoadIcon(TreeImages& images, const std::wstring& server, const std::wstring& iconSet, const std::wstring& kind)
-{
-    BinaryStream picture =
-        ExecuteASPWebserviceBinary(server, kServicePage, Operations::kSetIcon, {iconSet, kind + L"_offi.gif"});
-    const TemporaryFile file{L"gif"};
-    picture.SaveTo(file.Path());
-    images.AddFile(kind + iconSet, file.Path());
-}
-
-// A missing icon is no error: its nodes show the plain picture.
-void LoadIconSet(TreeImages& images, const std::wstring& server, const std::wstring& iconSet)
-{
-    const ProcedureScope scope{L"frmSaveTo.LoadIconSet"};
-    for (const wchar_t* kind : {L"project", L"stage", L"gate"})
-        Ignoring([&] { LoadIcon(images, server, iconSet, kind); });
-}
+constexpr HelpTopic kHelpTopics[] = {HelpTopic::AssignmentTree, HelpTopic::RelatedDocumentTree,
+                                     HelpTopic::GateDocumentTree};
 
 } // namespace
 
@@ -87,9 +58,8 @@ void frmSaveTo::Form_Load()
     ShowTreeLabel();
     SetText(lblServerURL, m_captions.serverLabel);
     SetStatus(StatusBar1, L"Ready");
-    m_tree.emplace(Control(TreeView1), Mode(), [this](TreeImages& images, const std::wstring& iconSet) {
-        LoadIconSet(images, m_currentServer, iconSet);
-    });
+    m_tree.emplace(Control(TreeView1), Mode(),
+                   [this](TreeImages& images, const std::wstring& iconSet) { LoadIconSet(images, iconSet); });
 }
 
 void frmSaveTo::ShowTreeLabel()
@@ -177,51 +147,6 @@ void frmSaveTo::Go()
     });
 }
 
-XmlDocument frmSaveTo::QueryTree() const
-{
-    const Operation& operation = kModes[static_cast<std::size_t>(DialogType)].operation;
-    return QueryXml(m_currentServer, operation, {FilterClassID, FilterProjectSearchName});
-}
-
-bool frmSaveTo::CheckEntryCount()
-{
-    const ProcedureScope scope{L"frmSaveTo.CheckEntryCount"};
-    for (;;) {
-        const std::size_t projects = QueryTree().Select(L"//project").size();
-        if (!IsWanted()) return false;
-        LimitStep step = NextLimitStep(projects, nullptr);
-        if (step == LimitStep::ForceFilter) {
-            ShowFilter(true);
-            if (!IsWanted()) return false;
-            step = NextLimitStep(projects, &m_filter->Outcome());
-        }
-        if (step == LimitStep::Proceed) return true;
-        if (step == LimitStep::GiveUp) return false;
-    }
-}
-
-void frmSaveTo::ShowFilter(bool forced)
-{
-    const ProcedureScope scope{L"frmSaveTo.ShowFilter"};
-    FilterForced = forced;
-    if (m_filter == nullptr) m_filter = std::make_unique<frmFilter>();
-    m_filter->ProjectSearchName = FilterProjectSearchName;
-    m_filter->ClassID = FilterClassID;
-    m_filter->Server = Text(cmbServerURL);
-    m_filter->Forced = forced;
-    if (forced) ShowMessage(EntryLimitMessage(), kStylePlain);
-    m_filter->Load(); // asks the server, and the user may leave meanwhile
-    if (IsWanted()) m_filter->ShowModal();
-    m_filter->Unload();
-    const FilterOutcome outcome = m_filter->Outcome();
-    FilterChanged = outcome.changed;
-    FilterActive = outcome.active;
-    FilterCanceled = outcome.canceled;
-    FilterProjectSearchName = m_filter->ProjectSearchName;
-    FilterClassID = m_filter->ClassID;
-    SetText(cmbServerURL, m_filter->Server);
-}
-
 void frmSaveTo::cmdFilter_Click()
 {
     if (Text(cmbServerURL) != m_currentServer) Go();
@@ -237,23 +162,6 @@ void frmSaveTo::FocusTree()
 {
     const int loaded = IsShown(TreeView1) ? TreeView1 : txtTree;
     SetFocusTo(m_treeLoaded ? loaded : cmbServerURL);
-}
-
-void frmSaveTo::LoadTree(const std::wstring& server)
-{
-    const ProcedureScope scope{L"frmSaveTo.LoadTree"};
-    SetStatus(StatusBar1, L"Contacting the server...");
-    m_currentServer = server;
-    m_tree->Clear();
-    const auto projects = QueryTree().Select(L"//project");
-    Show(TreeView1, !projects.empty());
-    Show(txtTree, projects.empty());
-    PutBehindLabel(projects.empty() ? txtTree : TreeView1, lblTree);
-    SetText(txtTree, m_captions.emptyText);
-    const TreeTarget preselected{ProjectID, DeliverableID, ActivityID, RelatedDocID, GateDocumentID};
-    m_tree->AddProjects(projects, preselected, [this] { return IsWanted(); });
-    ShowTreeLabel();
-    m_treeLoaded = true;
 }
 
 void frmSaveTo::cmdOK_Click()
@@ -296,6 +204,6 @@ void frmSaveTo::TreeView1_DblClick()
 
 void frmSaveTo::cmdCancel_Click() { Hide(); }
 
-void frmSaveTo::cmdHelp_Click() { ShowHelpTopic(Window(), kModes[static_cast<std::size_t>(DialogType)].topic); }
+void frmSaveTo::cmdHelp_Click() { ShowHelpTopic(Window(), kHelpTopics[static_cast<std::size_t>(DialogType)]); }
 
 } // namespace corvane

@@ -69,6 +69,7 @@ private:
     [[nodiscard]] XmlDocument QueryTree() const;
     [[nodiscard]] bool CheckEntryCount();
     void LoadTree(const std::wstring& server);
+    void LoadIconSet(TreeImages& images, const std::wstring& iconSet) const;
     void ShowFilter(bool forced);
     void TakeTarget(const TreeTarget& target);
 

@@ -1,0 +1,102 @@
+// How the window of the target tree fetches the tree: the limit of entries, the filter that it forces, the icons.
+#include "selection/frmSaveTo.h"
+
+#include "platform/Files.h"
+#include "platform/Messages.h"
+#include "platform/Procedure.h"
+#include "resources/resource.h"
+#include "webservice/Transfer.h"
+#include "webservice/WebService.h"
+
+namespace corvane
+{
+namespace
+{
+
+// By DialogType.
+constexpr const Operation* kOperations[] = {&Operations::kAssignmentTree, &Operations::kRelatedFileTree,
+                                            &Operations::kGateDocumentTree};
+
+// Fetches one picture of an icon set through a file of its own, as the system's picture loader wants it.
+void LoadIcon(TreeImages& images, const std::wstring& server, const std::wstring& iconSet, const std::wstring& kind)
+{
+    BinaryStream picture =
+        ExecuteASPWebserviceBinary(server, kServicePage, Operations::kSetIcon, {iconSet, kind + L"_offi.gif"});
+    const TemporaryFile file{L"gif"};
+    picture.SaveTo(file.Path());
+    images.AddFile(kind + iconSet, file.Path());
+}
+
+} // namespace
+
+XmlDocument frmSaveTo::QueryTree() const
+{
+    return QueryXml(m_currentServer, *kOperations[static_cast<std::size_t>(DialogType)],
+                    {FilterClassID, FilterProjectSearchName});
+}
+
+bool frmSaveTo::CheckEntryCount()
+{
+    const ProcedureScope scope{L"frmSaveTo.CheckEntryCount"};
+    for (;;) {
+        const std::size_t projects = QueryTree().Select(L"//project").size();
+        if (!IsWanted()) return false;
+        LimitStep step = NextLimitStep(projects, nullptr);
+        if (step == LimitStep::ForceFilter) {
+            ShowFilter(true);
+            if (!IsWanted()) return false;
+            step = NextLimitStep(projects, &m_filter->Outcome());
+        }
+        if (step == LimitStep::Proceed) return true;
+        if (step == LimitStep::GiveUp) return false;
+    }
+}
+
+void frmSaveTo::ShowFilter(bool forced)
+{
+    const ProcedureScope scope{L"frmSaveTo.ShowFilter"};
+    FilterForced = forced;
+    if (m_filter == nullptr) m_filter = std::make_unique<frmFilter>();
+    m_filter->ProjectSearchName = FilterProjectSearchName;
+    m_filter->ClassID = FilterClassID;
+    m_filter->Server = Text(cmbServerURL);
+    m_filter->Forced = forced;
+    if (forced) ShowMessage(EntryLimitMessage(), kStylePlain);
+    m_filter->Load(); // asks the server, and the user may leave meanwhile
+    if (IsWanted()) m_filter->ShowModal();
+    m_filter->Unload();
+    const FilterOutcome outcome = m_filter->Outcome();
+    FilterChanged = outcome.changed;
+    FilterActive = outcome.active;
+    FilterCanceled = outcome.canceled;
+    FilterProjectSearchName = m_filter->ProjectSearchName;
+    FilterClassID = m_filter->ClassID;
+    SetText(cmbServerURL, m_filter->Server);
+}
+
+void frmSaveTo::LoadIconSet(TreeImages& images, const std::wstring& iconSet) const
+{
+    const ProcedureScope scope{L"frmSaveTo.LoadIconSet"};
+    // A missing icon is no error: its nodes show the plain picture.
+    for (const wchar_t* kind : {L"project", L"stage", L"gate"})
+        Ignoring([&] { LoadIcon(images, m_currentServer, iconSet, kind); });
+}
+
+void frmSaveTo::LoadTree(const std::wstring& server)
+{
+    const ProcedureScope scope{L"frmSaveTo.LoadTree"};
+    SetStatus(StatusBar1, L"Contacting the server...");
+    m_currentServer = server;
+    m_tree->Clear();
+    const auto projects = QueryTree().Select(L"//project");
+    Show(TreeView1, !projects.empty());
+    Show(txtTree, projects.empty());
+    PutBehindLabel(projects.empty() ? txtTree : TreeView1, lblTree);
+    SetText(txtTree, m_captions.emptyText);
+    const TreeTarget preselected{ProjectID, DeliverableID, ActivityID, RelatedDocID, GateDocumentID};
+    m_tree->AddProjects(projects, preselected, [this] { return IsWanted(); });
+    ShowTreeLabel();
+    m_treeLoaded = true;
+}
+
+} // namespace corvane
