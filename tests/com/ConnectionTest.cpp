@@ -100,6 +100,21 @@ TEST_F(Connection, ASecondConnectionReplacesTheFirst)
     Disconnect(); // once too often is no error
 }
 
+TEST_F(Connection, WhereTheMenusCannotBeRemovedEverythingIsLetGoAllTheSame)
+{
+    FakePowerPoint host{L"11.0"}; // it has no command bars
+    {
+        const MessageBoxAnswer box{L"ERROR\r\nNumber: "};
+        ConnectTo(host, kStartup);
+        EXPECT_TRUE(box.Appeared());
+    }
+    const MessageBoxAnswer box{L"ERROR\r\nNumber: "};
+    Disconnect();
+    EXPECT_TRUE(box.Appeared());
+    EXPECT_FALSE(host.HasListener());
+    EXPECT_EQ(host.References(), 0U);
+}
+
 TEST_F(Connection, AHostThatIsNoPowerPointIsReported)
 {
     FakeObject other{{{L"Name", L"Other"}, {L"Version", L"16.0"}, {L"Build", L"1"}}};
