@@ -76,12 +76,21 @@ void Form::ShowModal()
 {
     Load();
     if (m_window == nullptr) return; // unloaded again while its loading waited
-    const HWND owner = ::GetWindow(m_window, GW_OWNER);
-    m_focusBefore = ::GetFocus(); // disabling its window takes it away
-    if (owner != nullptr && !::EnableWindow(owner, FALSE)) m_disabledOwner = owner;
+    m_focusBefore = ::GetFocus();    // disabling its window takes it away
+    // A host may have a window for each document, and every document but the active one has to wait as well.
+    ::EnumThreadWindows(::GetCurrentThreadId(), &Form::DisableOther, reinterpret_cast<LPARAM>(this));
     FitToScreen();
     SetShown(true);
     if (PumpUntil([this] { return !m_shown; }) == WaitEnd::Quit) Hide();
+}
+
+BOOL CALLBACK Form::DisableOther(HWND window, LPARAM form) noexcept
+{
+    auto& self = *reinterpret_cast<Form*>(form);
+    if (window != self.m_window && ::IsWindowVisible(window) && ::IsWindowEnabled(window) &&
+        !Catch([&] { self.m_disabled.push_back(window); }))
+        ::EnableWindow(window, FALSE);
+    return TRUE;
 }
 
 void Form::FitToScreen() noexcept
@@ -124,10 +133,27 @@ void Form::Hide() noexcept
 {
     if (!m_shown) return;
     const bool isActive = ::GetActiveWindow() == m_window;
-    // The owner comes back to life first, so that it, and not another program, gets the focus.
-    if (m_disabledOwner != nullptr) ::EnableWindow(std::exchange(m_disabledOwner, nullptr), TRUE);
+    // The others come back to life first, so that the owner, and not another program, gets the focus.
+    EnableOthers();
     SetShown(false);
     if (isActive) GiveFocusBack();
+}
+
+void Form::EnableOthers() noexcept
+{
+    for (const HWND window : m_disabled)
+        ::EnableWindow(window, TRUE);
+    m_disabled.clear();
+}
+
+// A window goes with its owner, and a host may close that at any time: the command behind the form ends.
+void Form::OnWindowGone() noexcept
+{
+    EnableOthers();
+    m_shown = false;
+    TakeOut(this);
+    RemoveDialogWindow(m_window);
+    m_window = nullptr;
 }
 
 void Form::Unload() noexcept
@@ -187,6 +213,9 @@ INT_PTR Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept
         ::SetCursor(::LoadCursorW(nullptr, IDC_WAIT));
         ::SetWindowLongPtrW(m_window, DWLP_MSGRESULT, TRUE);
         return TRUE;
+    case WM_NCDESTROY: // not by Unload, which is no form's window any more when this comes
+        OnWindowGone();
+        return FALSE;
     default:
         return FALSE;
     }

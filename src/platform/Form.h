@@ -10,6 +10,7 @@
 #include <functional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace corvane
 {
@@ -115,12 +116,15 @@ private:
     void CreateWindowFromTemplate(HWND owner);
     void SetShown(bool shown) noexcept;
     void FitToScreen() noexcept;
+    void EnableOthers() noexcept;
+    void OnWindowGone() noexcept;
+    static BOOL CALLBACK DisableOther(HWND window, LPARAM form) noexcept;
     void GiveFocusBack() noexcept;
 
     const wchar_t* m_name;
     int m_templateId;
     HWND m_window = nullptr;
-    HWND m_disabledOwner = nullptr;
+    std::vector<HWND> m_disabled; // the thread's other windows while the form is shown
     HWND m_focusBefore = nullptr; // had the keyboard when the form was shown
     FormTips m_tips;
     FormScroll m_scroll;

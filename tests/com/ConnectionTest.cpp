@@ -27,6 +27,24 @@ protected:
 
     void ConnectTo(FakePowerPoint& host, LONG mode) { m_connect->OnConnection(&host, mode, &m_instance, nullptr); }
     void Disconnect() { EXPECT_EQ(m_connect->OnDisconnection(0, nullptr), S_OK); }
+    // Calls the ribbon's callback for a control with this id.
+    void Press(const wchar_t* id) const
+    {
+        FakeObject control{{{L"Id", id}}};
+        IDispatch* callbacks = nullptr;
+        m_connect->QueryInterface(IID_PPV_ARGS(&callbacks));
+        std::wstring name = L"RibbonHandler";
+        LPOLESTR names[] = {name.data()};
+        DISPID member = 0;
+        EXPECT_EQ(callbacks->GetIDsOfNames(IID_NULL, names, 1, 0, &member), S_OK);
+        VARIANTARG argument{};
+        argument.vt = VT_DISPATCH;
+        argument.pdispVal = &control;
+        DISPPARAMS parameters{&argument, nullptr, 1, 0};
+        EXPECT_EQ(callbacks->Invoke(member, IID_NULL, 0, DISPATCH_METHOD, &parameters, nullptr, nullptr, nullptr),
+                  S_OK);
+        callbacks->Release();
+    }
     // What the host gets when it asks for the ribbon.
     std::wstring Ribbon() const
     {
@@ -112,6 +130,39 @@ TEST_F(Connection, WhereTheMenusCannotBeRemovedEverythingIsLetGoAllTheSame)
     Disconnect();
     EXPECT_TRUE(box.Appeared());
     EXPECT_FALSE(host.HasListener());
+    EXPECT_EQ(host.References(), 0U);
+}
+
+TEST_F(Connection, AFormKeepsTheOtherWindowsOutOfUseAndEndsItsCommandWhenTheHostTakesItAway)
+{
+    static HWND owner;
+    static HWND other;
+    static bool otherWasInUse;
+    const auto window = [] {
+        return ::CreateWindowW(L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+    };
+    other = window();
+    owner = window();
+    ::SetActiveWindow(owner);
+    FakePowerPoint host{L"16.0"};
+    ConnectTo(host, kStartup);
+    struct Timer
+    {
+        static void CALLBACK Look(HWND, UINT, UINT_PTR timer, DWORD)
+        {
+            if (!::IsWindowVisible(::FindWindowW(L"frmAbout", nullptr))) return;
+            otherWasInUse = ::IsWindowEnabled(other) != FALSE;
+            ::KillTimer(nullptr, timer);
+            ::DestroyWindow(owner);
+        }
+    };
+    ::SetTimer(nullptr, 0, 20, &Timer::Look);
+    Press(L"AboutCorvaneOffice");
+    EXPECT_FALSE(otherWasInUse);
+    EXPECT_TRUE(::IsWindowEnabled(other));
+    EXPECT_EQ(::FindWindowW(L"frmAbout", nullptr), nullptr);
+    ::DestroyWindow(other);
+    Disconnect();
     EXPECT_EQ(host.References(), 0U);
 }
 

@@ -54,6 +54,7 @@ HWND Player::Form() const
 // The control, or null while its form or itself is not there.
 HWND Player::Control(const std::string& name) const
 {
+    if (name == "form") return Form();
     const auto id = ControlIdOf(name);
     if (!id) throw std::runtime_error{"no control is named " + name};
     const HWND form = Form();
