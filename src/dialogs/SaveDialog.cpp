@@ -52,6 +52,7 @@ void SaveDialog::Form_Load()
 void SaveDialog::LoadInputs()
 {
     SetStatus(StatusBar1, L"Ready");
+    m_document = ActiveDocumentName(oApplication);
     m_terms.corvane = CustomName(L"Corvane");
     m_terms.deliverable = CustomName(L"Deliverable");
     m_terms.activity = CustomName(L"Activity");
@@ -62,12 +63,14 @@ void SaveDialog::LoadInputs()
     ShowTerms();
     for (const int textBox : {txtAuthor, txtComments, txtNotes, txtName, txtDescription})
         SelectAllOnCtrlA(textBox);
-    if (!ServerURL.empty()) LoadUser();
+    // What needs no server comes first: Change may lead to another one when this one fails.
     m_clientEvents = ClientEventsEnabled(oApplication);
     Check(chkPublish, AutomaticallySetPublishCheckbox);
     m_mailClientIsOutlook = IsMailClientOutlook();
     Show(cmdSaveAndSend, m_mailClientIsOutlook);
-    if (!ServerURL.empty()) ReloadTarget();
+    if (ServerURL.empty()) return;
+    LoadUser();
+    ReloadTarget();
 }
 
 void SaveDialog::ReloadTarget()
@@ -80,7 +83,7 @@ void SaveDialog::ReloadTarget()
     const auto failure = Catch([this] { LoadTarget(); });
     SetHourglass(false);
     Enable(cmdChange, true);
-    if (failure) throw *failure;
+    if (failure && !m_left) throw *failure;
 }
 
 void SaveDialog::DisableSave() const noexcept
@@ -92,7 +95,12 @@ void SaveDialog::DisableSave() const noexcept
 void SaveDialog::Refuse(Refusal refusal)
 {
     DisableSave();
-    ShowMessage(RefusalMessage(refusal, m_terms), kStyleExclamation);
+    Tell(RefusalMessage(refusal, m_terms), kStyleExclamation);
+}
+
+void SaveDialog::Tell(const std::wstring& text, UINT style) const
+{
+    if (!m_left) ShowMessage(text, style);
 }
 
 void SaveDialog::AllowSave() const noexcept
@@ -165,12 +173,14 @@ void SaveDialog::cmdChange_Click()
     for (const auto& [own, inTree] : ids)
         own = tree.*inTree;
     ReloadTarget();
-    SetFocusTo(FirstControl());
+    if (!m_left) SetFocusTo(FirstControl());
 }
 
 void SaveDialog::cmdCancel_Click()
 {
-    if (!m_inMacro) Hide();
+    if (m_inMacro) return;
+    m_left = true;
+    Hide();
 }
 
 void SaveDialog::cmdHelp_Click() { ShowHelpTopic(Window(), m_kind.helpTopic); }

@@ -89,6 +89,9 @@ protected:
     // What the notification mail tells; asks the server for the latest version.
     [[nodiscard]] virtual NotificationFacts Notification() const = 0;
 
+    // Shows a message of the loading, unless the user has left the dialog meanwhile.
+    void Tell(const std::wstring& text, UINT style) const;
+
     // The outcome of the rules: the save buttons go out of use and the message is shown, or they come into use (Save &
     // Send only where the mail client is Outlook).
     void Refuse(Refusal refusal);
@@ -134,7 +137,9 @@ private:
 
     SaveDialogKind m_kind;
     UploadTerms m_terms;
+    std::wstring m_document; // the name of the document that the dialog saves, as it is between two saves
     bool m_inMacro = false;   // the document's before a save; it may serve the dialog, whose controls are still in use
+    bool m_left = false;      // by Cancel, perhaps in the middle of a wait for the server
     bool m_couldSave = false; // before the target was loaded
     bool m_clientEvents = false;
     bool m_mailClientIsOutlook = false;

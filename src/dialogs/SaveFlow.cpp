@@ -2,6 +2,7 @@
 #include "dialogs/SaveDialog.h"
 
 #include "platform/MessageLoop.h"
+#include "platform/Messages.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
 #include "shared/ClientEvents.h"
@@ -34,12 +35,19 @@ private:
 bool SaveDialog::Save()
 {
     if (m_inMacro) return false;
+    // The host's programs may open or activate another one while the dialog waits for its user.
+    if (ActiveDocumentName(oApplication) != m_document) {
+        ShowMessage(L"Another document is active now. Please activate the one that you want to save.",
+                    kStyleExclamation);
+        return false;
+    }
     const SaveStart start = BeginSave();
     if (start == SaveStart::Hide) Hide();
     if (start != SaveStart::Go) return false;
     bool saved = false;
     const int focused = FocusedControl();
     const auto failure = Catch([&] { saved = UploadAndRecord(); });
+    m_document = ActiveDocumentName(oApplication); // a new one has got a file
     if (failure) ShowError(*failure);
     if (saved) Hide(); // first, since a control in use again could start another save
     SetStatus(StatusBar1, L"Ready");

@@ -44,7 +44,7 @@ void frmSaveGateDoc::LoadTarget()
     if (HasTarget()) LoadGateDocument();
     if (ProjectID >= 1 && IsOutsider(m_facts)) {
         LeaveSave(); // the save itself refuses again
-        ShowMessage(RefusalMessage(Refusal::OutsideTheTeam, Terms()), kStyleCritical);
+        Tell(RefusalMessage(Refusal::OutsideTheTeam, Terms()), kStyleCritical);
         return;
     }
     ShowTypeCaptions();

@@ -51,14 +51,14 @@ void frmSaveRelatedDoc::LoadTarget()
     const ProcedureScope scope{L"frmSaveRelatedDoc.LoadRelatedDocument"};
     const XmlDocument user = QueryXml(ServerURL, Operations::kGetUser, {});
     if (FirstRow(user).Text(L"RoleList").find(kUploadRole) == std::wstring::npos) {
-        ShowMessage(L"You do not have rights to upload a related document to this project.", kStyleCritical);
+        Tell(L"You do not have rights to upload a related document to this project.", kStyleCritical);
         return;
     }
     const bool open = IsNew() ? LoadNewDocument() : LoadExistingDocument();
     if (open)
         AllowSave();
     else
-        ShowMessage(RefusalMessage(Refusal::RelatedProjectClosed, Terms()), kStyleExclamation);
+        Tell(RefusalMessage(Refusal::RelatedProjectClosed, Terms()), kStyleExclamation);
 }
 
 bool frmSaveRelatedDoc::LoadNewDocument()

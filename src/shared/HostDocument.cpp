@@ -160,6 +160,13 @@ bool CanCarryProperties(const LateBound& application)
     return carries;
 }
 
+std::wstring ActiveDocumentName(const LateBound& application)
+{
+    std::wstring name;
+    Ignoring([&] { name = ActiveDocument(application).Text(L"FullName"); });
+    return name;
+}
+
 void RequireNotFinal(const LateBound& application)
 {
     bool isFinal = false;

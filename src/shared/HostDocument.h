@@ -20,6 +20,9 @@ namespace corvane
 [[nodiscard]] bool IsDocumentOpen(const LateBound& application);
 [[nodiscard]] bool CanCarryProperties(const LateBound& application);
 
+// What tells the active document from the others that are open: its full name, as it is now. Empty where it tells none.
+[[nodiscard]] std::wstring ActiveDocumentName(const LateBound& application);
+
 // Throws an Error that tells the user what to do when the active document is marked as final.
 void RequireNotFinal(const LateBound& application);
 
