@@ -30,6 +30,16 @@ private:
     static HINSTANCE s_module;
 };
 
+// Keeps the library loaded while its code runs without an object of its own, as a command does after a disconnection.
+class LibraryInUse
+{
+public:
+    LibraryInUse() noexcept { Library::AddObject(); }
+    LibraryInUse(const LibraryInUse&) = delete;
+    LibraryInUse& operator=(const LibraryInUse&) = delete;
+    ~LibraryInUse() { Library::RemoveObject(); }
+};
+
 // The type information of one interface of the embedded type library; throws Error when it is not there.
 [[nodiscard]] ComPtr<ITypeInfo> TypeInfoOf(REFIID interfaceId);
 

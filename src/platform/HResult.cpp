@@ -28,7 +28,9 @@ void Check(HRESULT result, std::wstring_view source)
 
 void CheckWin32(bool ok, std::wstring_view source)
 {
-    if (!ok) Check(HRESULT_FROM_WIN32(::GetLastError()), source);
+    if (ok) return;
+    const HRESULT told = HRESULT_FROM_WIN32(::GetLastError());
+    Check(FAILED(told) ? told : E_FAIL, source); // what failed may have left no error of its own
 }
 
 } // namespace corvane

@@ -7,6 +7,7 @@
 #include "platform/XmlDocument.h"
 
 #include <cwchar>
+#include <string_view>
 #include <vector>
 
 namespace corvane
@@ -54,6 +55,17 @@ void TidyOwnerless()
     requests.erase(requests.begin());
 }
 
+// The system keeps answers and gives them again to a later GET of the same address, as a browser's; every question to
+// the server is meant anew. Only so can it be said without a header of ours on the wire.
+void ForgetAnswer(const std::wstring& url) noexcept
+{
+    using Delete = BOOL(WINAPI*)(LPCWSTR url);
+    static const HMODULE wininet = ::LoadLibraryExW(L"wininet.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    static const auto forget =
+        reinterpret_cast<Delete>(reinterpret_cast<void*>(::GetProcAddress(wininet, "DeleteUrlCacheEntryW")));
+    if (forget != nullptr) forget(url.c_str());
+}
+
 [[noreturn]] void ThrowTransportFailure() { throw Error{ErrorNumberOf(E_FAIL), kSource, MessageOf(E_FAIL)}; }
 
 } // namespace
@@ -85,6 +97,7 @@ void HttpRequest::AbortOwnerless() noexcept
 void HttpRequest::Open(const wchar_t* method, const std::wstring& url)
 {
     const Variant none;
+    if (std::wstring_view{method} == L"GET") ForgetAnswer(url);
     Check(m_request->open(Bstr{method}.Get(), Bstr{url}.Get(), Variant{true}.Get(), none.Get(), none.Get()), kSource);
 }
 
@@ -128,8 +141,10 @@ std::wstring HttpRequest::AnswerHeader(const wchar_t* name) const
 bool HttpRequest::IsCutShort() const
 {
     // The component may pass off the beginning of an answer as the whole when the connection breaks. The length of an
-    // encoded one tells nothing of what it decodes to.
-    if (!AnswerHeader(L"Content-Encoding").empty()) return false;
+    // encoded one tells nothing of what it decodes to, and the header that says so may have gone with the decoding.
+    if (!AnswerHeader(L"Content-Encoding").empty() ||
+        AnswerHeader(L"Vary").find(L"Accept-Encoding") != std::wstring::npos)
+        return false;
     const auto promised = std::wcstoull(AnswerHeader(L"Content-Length").c_str(), nullptr, 10);
     Variant body;
     if (promised == 0 || FAILED(m_request->get_responseBody(body.Put()))) return false;

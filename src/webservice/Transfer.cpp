@@ -41,9 +41,10 @@ BodyAttempt ReadInto(const std::wstring& path, std::uint64_t length, const std::
     const auto file = bytes.subspan(header.size(), static_cast<std::size_t>(length));
     std::memcpy(bytes.data(), header.data(), header.size());
     std::memcpy(bytes.data() + header.size() + file.size(), trailer.data(), trailer.size());
-    ReadFile(path, file);
+    const std::size_t bytesRead = ReadFile(path, file);
     attempt.outcome.allZero = AllZero(file);
-    attempt.outcome.lengthAfter = FileLength(path).value_or(length);
+    // What could not be read to its end has to be tried again, whatever its length is.
+    attempt.outcome.lengthAfter = bytesRead == file.size() ? FileLength(path).value_or(length) : bytesRead;
     return attempt;
 }
 

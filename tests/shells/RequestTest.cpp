@@ -13,6 +13,10 @@
 #include <gtest/gtest.h>
 #include <optional>
 
+#include <windows.h>
+
+#include <wininet.h>
+
 using namespace corvane;
 using namespace std::chrono_literals;
 
@@ -67,6 +71,22 @@ TEST_F(Request, AnAnswerThatRefusesToTellItsStatusIsAFailureToSend)
 {
     m_transport.statusResult = E_FAIL;
     ExpectSendError();
+}
+
+TEST_F(Request, NoQuestionIsAnsweredByWhatTheSystemHasKept)
+{
+    constexpr wchar_t kUrl[] = L"http://h/WebServices/offi.asp?Op=GetUserID&P1=v6";
+    const auto isKept = [&] {
+        DWORD size = 0;
+        return !::GetUrlCacheEntryInfoW(kUrl, nullptr, &size) && ::GetLastError() == ERROR_INSUFFICIENT_BUFFER;
+    };
+    wchar_t path[MAX_PATH] = L"";
+    ::CreateUrlCacheEntryW(kUrl, 1, L"txt", path, 0);
+    WriteFile(path, std::vector<std::byte>(1));
+    ::CommitUrlCacheEntryW(kUrl, path, {}, {}, NORMAL_CACHE_ENTRY, nullptr, 0, nullptr, nullptr);
+    ASSERT_TRUE(isKept());
+    EXPECT_EQ(Query().Number(), 0);
+    EXPECT_FALSE(isKept());
 }
 
 TEST_F(Request, OnlyAnUnspecifiedFailureToOpenMeansTheAddress)
