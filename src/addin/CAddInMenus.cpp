@@ -1,6 +1,7 @@
 #include "addin/CAddInMenus.h"
 
 #include "addin/RibbonXml.h"
+#include "platform/ComObject.h"
 #include "platform/Error.h"
 #include "platform/Messages.h"
 #include "platform/Procedure.h"
@@ -111,6 +112,7 @@ void CAddInMenus::InvalidateControls() const noexcept
 
 void CAddInMenus::RunSave(const SaveCommand& command, std::wstring_view caller) noexcept
 {
+    const LibraryInUse inUse;
     const std::shared_ptr<CAddInMenus> alive = g_oAddInMenus;
     bool editing = false;
     Reporting([&] {

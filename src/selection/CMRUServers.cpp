@@ -20,7 +20,13 @@ CMRUServers::CMRUServers()
     m_urls.resize(ServerCount(Policy::Number(L"ServerURLCount"), Registry::ReadNumber(kListKey, L"MRUServerURLCount")));
     for (std::size_t index = 0; index < m_urls.size(); ++index)
         m_urls[index] = Registry::ReadText(kListKey, ValueName(index)).value_or(L"");
-    m_urls = WithPreset(m_urls, Policy::List(L"ServerURL"));
+    m_preset = Policy::List(L"ServerURL");
+}
+
+std::vector<std::wstring> CMRUServers::GetURLs() const
+{
+    const ProcedureScope scope{L"CMRUServers.GetURLs"};
+    return WithPreset(m_urls, m_preset);
 }
 
 void CMRUServers::AddURL(const std::wstring& url)

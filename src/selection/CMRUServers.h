@@ -16,17 +16,19 @@ public:
     // Moves or inserts an address at the front.
     void AddURL(const std::wstring& url);
 
-    // A copy of the whole list, empty entries included, the most recent first.
-    [[nodiscard]] std::vector<std::wstring> GetURLs() const { return m_urls; }
+    // A copy of the whole list, empty entries included, the most recent first; behind the administrators' addresses
+    // where there are such.
+    [[nodiscard]] std::vector<std::wstring> GetURLs() const;
 
-    // Writes every entry to the registry; throws Error.
+    // Writes every entry of the user's own list to the registry; throws Error.
     void SaveURLs() const;
 
     // The address with a scheme, in lower case, without blanks at its ends.
     [[nodiscard]] std::wstring VerifyURL(const std::wstring& url) const;
 
 private:
-    std::vector<std::wstring> m_urls; // of fixed length
+    std::vector<std::wstring> m_urls;   // the user's own, of fixed length
+    std::vector<std::wstring> m_preset; // the administrators'
 };
 
 } // namespace corvane

@@ -101,6 +101,10 @@ void frmSaveTo::cmbServerURL_Click()
     ::SendMessageW(combo, CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.data()));
     text.pop_back(); // the terminator
     SetText(cmbServerURL, text);
+    // On the way through the list by keys nothing is chosen yet; Enter goes.
+    for (const int key : {VK_UP, VK_DOWN, VK_PRIOR, VK_NEXT, VK_HOME, VK_END}) {
+        if (::GetKeyState(key) < 0) return;
+    }
     // The list has to close before the server is asked.
     ::PostMessageW(Window(), WM_COMMAND, MAKEWPARAM(cmdGo, BN_CLICKED), reinterpret_cast<LPARAM>(Control(cmdGo)));
 }
