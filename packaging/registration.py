@@ -68,8 +68,13 @@ def include(arch, scope, version, derived):
     """The include file for corvane.wxs."""
     lines = ["<Include>", '<DirectoryRef Id="INSTALLDIR">']
     root = "HKCU" if scope == "perUser" else "HKLM"
+    shared = {guid for _, guid, _ in components("x86" if arch == "x64" else "x64", scope, version, derived)}
     for name, guid, values in components(arch, scope, version, derived):
-        lines.append(f'<Component Id="{name}" Guid="{guid}" Win64="{"yes" if arch == "x64" else "no"}">')
+        # A component of both packages is one to the installer only if it has the same bitness in both. A user's keys
+        # are the same in both views of the registry. Those of a machine are not everywhere, so each package has them
+        # in its own view.
+        wide = arch == "x64" and (scope == "perMachine" or guid not in shared)
+        lines.append(f'<Component Id="{name}" Guid="{guid}" Win64="{"yes" if wide else "no"}">')
         lines += [value_element(root, *value, first=index == 0) for index, value in enumerate(values)]
         lines.append("</Component>")
     return "\n".join(lines + ["</DirectoryRef>", "</Include>", ""])

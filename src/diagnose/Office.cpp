@@ -89,6 +89,20 @@ void ReadPolicy(const std::wstring& version, Place place, std::vector<OfficeEntr
         entries.push_back({where + L"(not listed), RestrictToList = 1", true});
 }
 
+// Trust settings that keep add-ins out; the user's own stand beside the policy's.
+void ReadTrust(const std::wstring& office, const wchar_t* whose, const std::wstring& version, Place place,
+               std::vector<OfficeEntry>& entries)
+{
+    const std::wstring key = office + version + L"\\PowerPoint\\Security";
+    for (const wchar_t* name : {L"DisableAllAddins", L"RequireAddinSig"}) {
+        if (corvane::Registry::ReadNumber(key, name, place).value_or(0) != 1) continue;
+        std::wstring where = whose + (L" of PowerPoint " + version) + L", Security\\" + name + L" = 1";
+        if (name == std::wstring_view{L"RequireAddinSig"})
+            where += L" (the library has to be signed by a trusted publisher)";
+        entries.push_back({std::move(where), true});
+    }
+}
+
 bool IsVersion(const std::wstring& name) { return corvane::NumberIn(name).has_value(); }
 
 } // namespace
@@ -104,11 +118,18 @@ PowerPoint FindPowerPoint()
 std::vector<OfficeEntry> FindOfficeEntries()
 {
     std::vector<OfficeEntry> entries;
-    for (const std::wstring& version : KeyNames(L"Software\\Microsoft\\Office"))
-        if (IsVersion(version)) ReadResiliency(version, entries);
-    for (const Place place : {Place{.hive = Hive::User}, Place{.hive = Hive::Machine}})
-        for (const std::wstring& version : KeyNames(L"Software\\Policies\\Microsoft\\Office", place))
-            if (IsVersion(version)) ReadPolicy(version, place, entries);
+    for (const std::wstring& version : KeyNames(L"Software\\Microsoft\\Office")) {
+        if (!IsVersion(version)) continue;
+        ReadResiliency(version, entries);
+        ReadTrust(kOffice, L"settings", version, {.hive = Hive::User}, entries);
+    }
+    for (const Place place : {Place{.hive = Hive::User}, Place{.hive = Hive::Machine}}) {
+        for (const std::wstring& version : KeyNames(L"Software\\Policies\\Microsoft\\Office", place)) {
+            if (!IsVersion(version)) continue;
+            ReadPolicy(version, place, entries);
+            ReadTrust(kOfficePolicy, L"policy", version, place, entries);
+        }
+    }
     return entries;
 }
 

@@ -49,6 +49,8 @@ SETUPS = [
           [r"Resiliency\DisabledItems. Enable it"]),
     Setup("forbidden", [OFFICE_POLICY + r"\16.0\PowerPoint\Resiliency|RestrictToList|dword:1"],
           ["-" + OFFICE_POLICY], ["(not listed), RestrictToList = 1. Enable it"]),
+    Setup("unsigned", [OFFICE_POLICY + r"\16.0\PowerPoint\Security|RequireAddinSig|dword:1"], ["-" + OFFICE_POLICY],
+          [r"Security\RequireAddinSig = 1 (the library has to be signed"]),
     Setup("no MSXML", [OVERRIDES + f'|msxml{version}|""' for version in (3, 4, 6)], ["-" + OVERRIDES],
           ["MSXML: none", "MSXML, DOMDocument", "MSXML, XMLHTTP"], 2),
     Setup("server down", [], [], ["error 12029, it refuses the connection"], server="http://127.0.0.1:1"),
