@@ -137,7 +137,7 @@ private:
 
     SaveDialogKind m_kind;
     UploadTerms m_terms;
-    std::wstring m_document; // the name of the document that the dialog saves, as it is between two saves
+    std::wstring m_document;  // the name of the document that the dialog saves, as it is between two saves
     bool m_inMacro = false;   // the document's before a save; it may serve the dialog, whose controls are still in use
     bool m_left = false;      // by Cancel, perhaps in the middle of a wait for the server
     bool m_couldSave = false; // before the target was loaded
