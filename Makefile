@@ -27,7 +27,7 @@ soak: all
 	tests/scenarios/run $(ARCH) soak ROUNDS=200 SETTLED=10
 
 check: all
-	@tools/install-packages clang cppcheck
+	@tools/install-packages clang libclang-rt-dev cppcheck
 	tools/check
 
 shots: all
@@ -38,7 +38,7 @@ bench: all
 	bench/run
 
 fuzz:
-	@tools/install-packages clang
+	@tools/install-packages clang libclang-rt-dev
 	@[ -e build/fuzz/build.ninja ] || cmake --preset fuzz >/dev/null
 	ninja -C build/fuzz --quiet fuzz
 	fuzz/run
