@@ -41,10 +41,7 @@ int SaveDialog::HelpControl() const noexcept { return cmdHelp; }
 
 void SaveDialog::Form_Load()
 {
-    if (const auto failure = Catch([this] { LoadInputs(); })) {
-        DisableSave(); // what could not be checked is not saved
-        ReportError(*failure);
-    }
+    if (const auto failure = Catch([this] { LoadInputs(); })) ReportError(*failure);
     Form::UnloadNamed(L"frmBusy");
     SetExcelInteractive(oApplication, true);
 }
@@ -63,14 +60,16 @@ void SaveDialog::LoadInputs()
     ShowTerms();
     for (const int textBox : {txtAuthor, txtComments, txtNotes, txtName, txtDescription})
         SelectAllOnCtrlA(textBox);
-    // What needs no server comes first: Change may lead to another one when this one fails.
+    const auto failure = Catch([this] {
+        if (!ServerURL.empty()) LoadUser();
+    });
+    // What needs no server is there all the same: Change may lead to another one when this one fails.
     m_clientEvents = ClientEventsEnabled(oApplication);
     Check(chkPublish, AutomaticallySetPublishCheckbox);
     m_mailClientIsOutlook = IsMailClientOutlook();
     Show(cmdSaveAndSend, m_mailClientIsOutlook);
-    if (ServerURL.empty()) return;
-    LoadUser();
-    ReloadTarget();
+    if (failure) throw *failure;
+    if (!ServerURL.empty()) ReloadTarget();
 }
 
 void SaveDialog::ReloadTarget()
@@ -83,6 +82,7 @@ void SaveDialog::ReloadTarget()
     const auto failure = Catch([this] { LoadTarget(); });
     SetHourglass(false);
     Enable(cmdChange, true);
+    if (failure) LeaveSave();
     if (failure && !m_left) throw *failure;
 }
 
