@@ -13,8 +13,8 @@ flock 9
 if [ -z "${DISPLAY:-}" ]; then
   exec 8< <(exec Xvfb -displayfd 1 -screen 0 1400x1050x24 -nolisten tcp 2>/dev/null 9>&-)
   xvfb=$!
-  # The desktop goes before its display, quietly.
-  trap 'wineserver -k 2>/dev/null; wineserver -w; kill $xvfb 2>/dev/null || true' EXIT
+  # The desktop goes before its display, quietly; it may be gone already.
+  trap '{ wineserver -k; wineserver -w; kill $xvfb; } 2>/dev/null || true' EXIT
   read -r -t 20 number <&8 || { echo "no display could be started" >&2; exit 2; }
   export DISPLAY=:$number
 fi

@@ -3,7 +3,7 @@
 #include "platform/Error.h"
 #include "platform/HResult.h"
 #include "platform/Variant.h"
-#include "platform/XmlProlog.h"
+#include "platform/XmlScreening.h"
 
 namespace corvane
 {
@@ -106,7 +106,7 @@ bool XmlDocument::Load(const std::wstring& text, const wchar_t* selectionNamespa
 {
     if (selectionNamespaces != nullptr)
         Check(m_document->setProperty(Bstr{L"SelectionNamespaces"}.Get(), Variant{selectionNamespaces}.Get()), kSource);
-    if (DeclaresDocumentType(text)) return false;
+    if (!IsFitToParse(text)) return false;
     VARIANT_BOOL loaded = VARIANT_FALSE;
     return SUCCEEDED(m_document->loadXML(Bstr{text}.Get(), &loaded)) && loaded == VARIANT_TRUE;
 }

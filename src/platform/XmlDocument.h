@@ -49,7 +49,7 @@ public:
     XmlDocument();
 
     // Parses text into the document; selectionNamespaces are the prefixes for Select ("xmlns:z='...' ...").
-    // False, leaving the document empty, when the text is not well-formed or declares a document type.
+    // False, leaving the document empty, when the text is not well-formed or not fit for a parser (XmlScreening.h).
     bool Load(const std::wstring& text, const wchar_t* selectionNamespaces = nullptr);
 
     // The nodes that an XPath expression selects, in document order, or the first of them.

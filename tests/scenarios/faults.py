@@ -88,6 +88,10 @@ def picture(width, height, filling=b""):
     return b"GIF89a" + width.to_bytes(2, "little") + height.to_bytes(2, "little") + b"\xf7\0\0" + filling
 
 
+def attributes(count):
+    return b" ".join(b"a%x=''" % n for n in range(count))
+
+
 HOSTILE = {  # files of a server that means ill, by the request that they answer
     "broken.gif": ("P2=Broken", picture(17, 17)),
     "wide.gif": ("P2=Wide", picture(65535, 65535, b"\0" * 768 + b",\0\0\0\0\xff\xff\xff\xff\0\x08\x01\0\0;")),
@@ -95,8 +99,7 @@ HOSTILE = {  # files of a server that means ill, by the request that they answer
     "members.xml": ("GETPROJECTTEAMMEMBERS", b"<xml xmlns:z='#RowsetSchema'>" + b"".join(
         b"<z:row EMailAddress='member%d@example.org'/>" % n for n in range(10000)) + b"</xml>"),
     "row.xml": ("GETPROJECTDELIVERABLE", b"<xml xmlns:z='#RowsetSchema'><z:row ProjectName='%s' DeliverableName='\t|..' "
-                b"DeliverableID='45' OwnerID='99999999999' TeamLeaderID='-' %s/></xml>" % (b"n" * 100000, b" ".join(
-                    b"a%d='%d'" % (n, n) for n in range(20000))))}
+                b"DeliverableID='45' OwnerID='99999999999' TeamLeaderID='-' %s/></xml>" % (b"n" * 100000, attributes(4000)))}
 ICON_SETS = ["..\\..\\evil", "C:evil", "a|b", "Broken", "Wide", "Fat", "x" * 2000]
 
 
@@ -114,6 +117,9 @@ def write_hostile(folder):
     for name, (_, content) in files.items():
         (folder / name).write_bytes(content)
     rules = [{"match": match, "file": str(folder / name)} for name, (match, _) in files.items()]
+    endless = b"<xml xmlns:z='#RowsetSchema'><z:row %s/></xml>" % attributes(1000000)
+    (folder / "endless.xml").write_bytes(endless)
+    rules.insert(0, {"match": "GETPROJECTDELIVERABLE", "file": str(folder / "endless.xml"), "times": 1})
     head = "#! faults " + json.dumps(rules) + "\n#! run --timeout 60\n"
     path = folder / "hostile-server.txt"
     path.write_text(head + HOSTILE_STEPS, encoding="utf-8")
@@ -134,6 +140,15 @@ window frmSaveTo
 expect cmdOK disabled
 press cmdCancel
 closed frmSaveTo
+command DelivAct
+window frmSaveTo
+expect cmdOK enabled
+select TreeView1 "P12/S/D45"
+press cmdOK
+message "Number: 91" OK
+window frmSaveAssignment
+press cmdCancel
+closed frmSaveAssignment
 command DelivAct
 window frmSaveTo
 expect cmdOK enabled

@@ -1,0 +1,55 @@
+#include "platform/XmlScreening.h"
+
+#include <cstddef>
+
+namespace corvane
+{
+namespace
+{
+
+constexpr std::size_t kMostAttributes = 4096;
+
+// Drops a construct from its opener, with which the text starts, to its end mark; false when the mark is not there. The
+// two share no character: "<!-->" only begins a comment.
+bool Drop(std::wstring_view& text, std::wstring_view opener, std::wstring_view end) noexcept
+{
+    const auto position = text.find(end, opener.size());
+    if (position == std::wstring_view::npos) return false;
+    text.remove_prefix(position + end.size());
+    return true;
+}
+
+// Drops the tag with which the text starts; false when it has too many attributes or no end.
+bool DropTag(std::wstring_view& text) noexcept
+{
+    for (std::size_t attributes = 0; attributes <= kMostAttributes; ++attributes) {
+        const auto position = text.find_first_of(L"\"'>");
+        if (position == std::wstring_view::npos) return false;
+        const wchar_t mark = text[position];
+        text.remove_prefix(position + 1);
+        if (mark == L'>') return true;
+        if (!Drop(text, {}, {&mark, 1})) return false; // the rest of the value
+    }
+    return false;
+}
+
+} // namespace
+
+bool IsFitToParse(std::wstring_view text) noexcept
+{
+    constexpr std::wstring_view kEnds[][2] = {{L"<!--", L"-->"}, {L"<![CDATA[", L"]]>"}, {L"<?", L"?>"}};
+    for (auto markup = text.find(L'<'); markup != std::wstring_view::npos; markup = text.find(L'<')) {
+        text.remove_prefix(markup);
+        bool dropped = false;
+        for (const auto& [opener, end] : kEnds) {
+            if (!text.starts_with(opener)) continue;
+            if (!Drop(text, opener, end)) return false;
+            dropped = true;
+            break;
+        }
+        if (!dropped && (text.starts_with(L"<!") || !DropTag(text))) return false;
+    }
+    return true;
+}
+
+} // namespace corvane
