@@ -37,7 +37,7 @@ public:
     void Step();
 
 private:
-    std::chrono::steady_clock::time_point m_last = std::chrono::steady_clock::now();
+    std::chrono::steady_clock::time_point m_last; // long ago: what came before the first step may have taken long
 };
 
 // Windows whose dialog keys (Tab, Enter, Esc, access keys) the loops above serve.
