@@ -1,5 +1,5 @@
-"""Runs the benchmarks in turn with their baselines, prints the table and writes build/bench.json. Started by bench/run,
-which provides Wine and a display."""
+"""Runs the benchmarks in turn with their baselines, prints the table and writes build/bench.json, or
+build/bench/some.json for single rows. Started by bench/run, which provides Wine and a display."""
 import base64, json, os, pathlib, re, shutil, signal, statistics, subprocess, sys, time
 
 sys.dont_write_bytecode = True

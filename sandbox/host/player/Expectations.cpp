@@ -51,6 +51,13 @@ constexpr StateName kStates[] = {
     {"notdefault", [](HWND form, HWND control, HWND) { return !IsDefaultButton(form, control); }},
 };
 
+// True for the first word, false for the second; any other is a slip of the scenario.
+bool OneOf(const std::string& word, std::string_view yes, std::string_view no)
+{
+    if (word != yes && word != no) throw std::runtime_error{"no state is named " + word};
+    return word == yes;
+}
+
 // The captions of a menu's entries as lines; nullopt when there is no such menu. The path is that of a menu, as "File".
 std::optional<std::wstring> MenuEntries(CommandBarObject& bar, const std::string& path)
 {
@@ -104,11 +111,11 @@ void Player::Expect(const Step& step)
 
 void Player::ExpectCommand(const Step& step)
 {
+    const bool wanted = OneOf(step.At(2), "present", "absent");
     WaitFor([&] {
         bool there = false;
         OnUi([&] { there = m_host.HasCommand(step.At(1)); });
-        return there == (step.At(2) == "present") ? Finding{}
-                                                  : std::wstring{there ? L"it is there" : L"it is not there"};
+        return there == wanted ? Finding{} : std::wstring{there ? L"it is there" : L"it is not there"};
     });
 }
 
@@ -125,10 +132,11 @@ void Player::ExpectMenu(const Step& step)
 
 void Player::ExpectCloseBox(const Step& step)
 {
+    const bool wanted = OneOf(step.At(1), "enabled", "disabled");
     WaitFor([&] {
         const UINT state = ::GetMenuState(::GetSystemMenu(Form(), FALSE), SC_CLOSE, MF_BYCOMMAND);
         const bool enabled = state != static_cast<UINT>(-1) && !(state & (MF_GRAYED | MF_DISABLED));
-        return enabled == (step.At(1) == "enabled") ? Finding{} : Finding{L"it is not " + Widen(step.At(1))};
+        return enabled == wanted ? Finding{} : Finding{L"it is not " + Widen(step.At(1))};
     });
 }
 
