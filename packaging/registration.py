@@ -36,8 +36,8 @@ def prog_id_values(classes):
 
 
 def components(arch, scope, version, derived):
-    """Each component: its name, its id and its values. An id without the bitness is shared by both bitnesses, so that
-    its values stay until the last of them is removed."""
+    """Each component: its name, its id and its values. A user's id without the bitness is shared by both bitnesses,
+    so that its values stay until the last of them is removed; a machine's differ in their view of the registry."""
     library, classes = interface_definition()
     short = f"{version[0]:x}.{version[1]:x}"
     type_library = f"{CLASSES}TypeLib\\{library}\\{short}"
