@@ -33,8 +33,7 @@ std::shared_ptr<CAddInMenus> g_oAddInMenus;
 
 std::shared_ptr<CAddInMenus> AddInMenus()
 {
-    if (g_oAddInMenus == nullptr)
-        throw Error{kErrorObjectNotSet, L"CAddInMenus", L"Object variable or With block variable not set"};
+    if (g_oAddInMenus == nullptr) throw ObjectNotSet(L"CAddInMenus");
     return g_oAddInMenus;
 }
 

@@ -21,7 +21,6 @@ using corvane::Registry::ReadNumber;
 using corvane::Registry::ReadText;
 using corvane::Registry::View;
 
-constexpr const wchar_t* kProgId = L"CorvaneMSOfficePowerPoint.Connect";
 constexpr const wchar_t* kAddIns = L"Software\\Microsoft\\Office\\PowerPoint\\Addins\\";
 
 struct Corner

@@ -16,7 +16,6 @@ using corvane::Registry::ReadText;
 using corvane::Registry::ValueNames;
 using corvane::Registry::View;
 
-constexpr const wchar_t* kProgId = L"CorvaneMSOfficePowerPoint.Connect";
 constexpr const wchar_t* kName = L"corvanemsofficepowerpoint";
 constexpr const wchar_t* kOffice = L"Software\\Microsoft\\Office\\";
 constexpr const wchar_t* kOfficePolicy = L"Software\\Policies\\Microsoft\\Office\\";

@@ -3,6 +3,8 @@
 #include "platform/Owners.h"
 #include "selection/ServerList.h"
 #include "webservice/AnswerRules.h"
+#include "webservice/Operations.h"
+#include "webservice/RequestText.h"
 
 #include <wininet.h>
 
@@ -111,10 +113,11 @@ ServerAnswer AskServer(const std::wstring& server, std::chrono::seconds limit)
 {
     const std::wstring address = corvane::VerifyServerURL(server);
     ServerAnswer result{.server = WithoutCredentials(address), .outcome = {}, .good = false};
+    const std::wstring question = corvane::Endpoint(address, corvane::kServicePage) + L"?" +
+                                  corvane::RequestQuery(corvane::Operations::kGetUserId.name, {});
     const UniqueInternet session = OpenSession(limit);
     constexpr DWORD kFlags = INTERNET_FLAG_RELOAD | INTERNET_FLAG_NO_CACHE_WRITE | INTERNET_FLAG_NO_UI;
-    const UniqueInternet answer{::InternetOpenUrlW(
-        session.Get(), (address + L"/WebServices/offi.asp?Op=GetUserID&P1=v6").c_str(), nullptr, 0, kFlags, 0)};
+    const UniqueInternet answer{::InternetOpenUrlW(session.Get(), question.c_str(), nullptr, 0, kFlags, 0)};
     if (answer)
         Judge(answer, result);
     else

@@ -1,6 +1,7 @@
 #include "diagnose/TraceFiles.h"
 
 #include "platform/Files.h"
+#include "support/TraceText.h"
 
 #include <string_view>
 
@@ -18,9 +19,10 @@ struct FindTraits
 
 std::wstring TraceFolder()
 {
-    std::wstring folder(::GetEnvironmentVariableW(L"APPDATA", nullptr, 0), L'\0');
-    folder.resize(::GetEnvironmentVariableW(L"APPDATA", folder.data(), static_cast<DWORD>(folder.size())));
-    return folder + L"\\Halvex\\Corvane for MS Office\\";
+    std::wstring folder = corvane::ApplicationDataFolder();
+    for (const wchar_t* name : corvane::kTraceFolders)
+        folder += name;
+    return folder + L"\\";
 }
 
 std::wstring NewestFile(const std::wstring& folder)

@@ -31,6 +31,7 @@ struct UploadTerms
 [[nodiscard]] std::wstring TargetTypeName(std::int32_t projectId, std::int32_t deliverableId, std::int32_t activityId,
                                           const UploadTerms& terms);
 
+// What the user is told when the rules refuse a target, with the customer's words and the names put in.
 [[nodiscard]] std::wstring RefusalMessage(Refusal refusal, const UploadTerms& terms);
 
 // The message of an error that the server raised while a version was recorded. The text may hold marks for the

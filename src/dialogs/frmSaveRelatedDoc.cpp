@@ -19,16 +19,6 @@ constexpr int kSaveControls[] = {txtName, txtDescription, txtAuthor, cboGroup, c
 constexpr const wchar_t* kUploadRole = L"RU";
 constexpr const wchar_t* kDefaultGroup = L"[default]"; // in lower case
 
-// The text of a list entry.
-std::wstring ListText(HWND combo, int index)
-{
-    const LRESULT length = ::SendMessageW(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(index), 0);
-    std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
-    ::SendMessageW(combo, CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.data()));
-    text.pop_back();
-    return text;
-}
-
 } // namespace
 
 frmSaveRelatedDoc::frmSaveRelatedDoc() noexcept
@@ -76,7 +66,7 @@ bool frmSaveRelatedDoc::LoadNewDocument()
     const HWND combo = Control(cboGroup);
     const auto count = static_cast<int>(::SendMessageW(combo, CB_GETCOUNT, 0, 0));
     int chosen = 0;
-    while (chosen < count && ToLower(ListText(combo, chosen)) != kDefaultGroup)
+    while (chosen < count && ToLower(ComboEntry(combo, chosen)) != kDefaultGroup)
         ++chosen;
     ::SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(chosen < count ? chosen : 0), 0);
     return true;
@@ -112,7 +102,7 @@ void frmSaveRelatedDoc::SelectGroup(const std::wstring& group)
     const HWND combo = Control(cboGroup);
     const auto count = static_cast<int>(::SendMessageW(combo, CB_GETCOUNT, 0, 0));
     int index = 0;
-    while (index < count && ListText(combo, index) != group)
+    while (index < count && ComboEntry(combo, index) != group)
         ++index;
     // A category that the project does not offer stays the document's own.
     if (index == count && !group.empty()) index = AddListEntry(combo, group);

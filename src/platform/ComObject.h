@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/Owners.h"
+#include "platform/Procedure.h"
 
 #include <atomic>
 #include <tuple>
@@ -141,12 +142,12 @@ private:
     template<class Body>
     HRESULT WithTypeInfo(Body&& body) noexcept
     {
-        try {
+        HRESULT result = TYPE_E_CANTLOADLIBRARY;
+        Ignoring([&] {
             if (m_typeInfo == nullptr) m_typeInfo = TypeInfoOf(__uuidof(Interface));
-            return body(*m_typeInfo.Get());
-        } catch (...) {
-            return TYPE_E_CANTLOADLIBRARY;
-        }
+            result = body(*m_typeInfo.Get());
+        });
+        return result;
     }
 
     ComPtr<ITypeInfo> m_typeInfo; // loaded at the first dispatch call

@@ -13,7 +13,6 @@ namespace corvane
 inline constexpr std::int32_t kErrorOverflow = 6;
 inline constexpr std::int32_t kErrorSubscriptOutOfRange = 9;
 inline constexpr std::int32_t kErrorTypeMismatch = 13;
-inline constexpr std::int32_t kErrorObjectNotSet = 91;
 inline constexpr std::int32_t kErrorInvalidUseOfNull = 94;
 
 // An error with its number, the procedure that raised it and the text shown to the user.
@@ -34,6 +33,13 @@ private:
     std::wstring m_source;
     std::wstring m_description;
 };
+
+// What Automation says of an object that is used without being there.
+inline Error ObjectNotSet(std::wstring source)
+{
+    constexpr std::int32_t kNumber = 91;
+    return {kNumber, std::move(source), L"Object variable or With block variable not set"};
+}
 
 // The number a script sees for an HRESULT: its low 16 bits in the facility of Automation errors (0x800A), else itself.
 [[nodiscard]] constexpr std::int32_t ErrorNumberOf(std::int32_t result) noexcept

@@ -45,6 +45,13 @@ std::wstring DocumentsFolder()
     return path.data();
 }
 
+std::wstring ApplicationDataFolder()
+{
+    std::wstring folder(::GetEnvironmentVariableW(L"APPDATA", nullptr, 0), L'\0');
+    folder.resize(::GetEnvironmentVariableW(L"APPDATA", folder.data(), static_cast<DWORD>(folder.size())));
+    return folder;
+}
+
 std::wstring NewGuidText()
 {
     GUID guid{};
@@ -115,15 +122,21 @@ bool CopyWholeFile(const std::wstring& from, const std::wstring& to) noexcept
     return ::CopyFileW(AsLongPath(from).c_str(), AsLongPath(to).c_str(), FALSE) != FALSE;
 }
 
+std::string AnsiText(const std::wstring& text)
+{
+    std::string ansi(text.size() * 4, '\0');
+    const int length = ::WideCharToMultiByte(CP_ACP, 0, text.data(), static_cast<int>(text.size()), ansi.data(),
+                                             static_cast<int>(ansi.size()), nullptr, nullptr);
+    ansi.resize(static_cast<std::size_t>(length));
+    return ansi;
+}
+
 bool FitsAnsiCodePage(const std::wstring& text)
 {
-    if (text.empty()) return true;
-    const int size = static_cast<int>(text.size());
-    std::string ansi(text.size() * 4, '\0');
-    const int length = ::WideCharToMultiByte(CP_ACP, 0, text.data(), size, ansi.data(), static_cast<int>(ansi.size()),
-                                             nullptr, nullptr);
+    const std::string ansi = AnsiText(text);
     std::wstring back(text.size() * 4, L'\0');
-    const int wide = ::MultiByteToWideChar(CP_ACP, 0, ansi.data(), length, back.data(), static_cast<int>(back.size()));
+    const int wide = ::MultiByteToWideChar(CP_ACP, 0, ansi.data(), static_cast<int>(ansi.size()), back.data(),
+                                           static_cast<int>(back.size()));
     back.resize(static_cast<std::size_t>(wide));
     return back == text;
 }

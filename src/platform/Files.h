@@ -1,4 +1,4 @@
-// Files and folders as the add-in needs them. Paths may have any length.
+// Files and folders as the add-in needs them. Paths of files may have any length.
 #pragma once
 
 #include "platform/Owners.h"
@@ -12,11 +12,15 @@
 namespace corvane
 {
 
-// The user's temporary folder in its long form, and the user's Documents folder; without a closing backslash.
+// The user's temporary folder in its long form, and the user's Documents folder; without a closing backslash. Both
+// throw the system's error where there is none.
 [[nodiscard]] std::wstring TemporaryFolder();
 [[nodiscard]] std::wstring DocumentsFolder();
 
-// A fresh GUID as text, upper case, without braces.
+// The folder of the user's settings that roam (%APPDATA%), without a closing backslash; empty where there is none.
+[[nodiscard]] std::wstring ApplicationDataFolder();
+
+// A fresh GUID as text, upper case, without braces. Throws the system's error.
 [[nodiscard]] std::wstring NewGuidText();
 
 // folder\base.extension, numbered ("base (2).extension", ...) until no file has the name. The extension may be empty
@@ -24,6 +28,7 @@ namespace corvane
 [[nodiscard]] std::wstring UnusedPath(const std::wstring& folder, const std::wstring& base,
                                       const std::wstring& extension);
 
+// False for a folder, and for what cannot be looked at.
 [[nodiscard]] bool FileExists(const std::wstring& path) noexcept;
 
 // False for a file that is marked read-only or that this user may not write.
@@ -41,6 +46,9 @@ void WriteFile(const std::wstring& path, std::span<const std::byte> bytes);
 // Copies a file, replacing one that is there; false when it cannot.
 bool CopyWholeFile(const std::wstring& from, const std::wstring& to) noexcept;
 
+// The text in the system's ANSI code page; what that cannot hold is replaced.
+[[nodiscard]] std::string AnsiText(const std::wstring& text);
+
 // True when the system's ANSI code page can hold every character of the text.
 [[nodiscard]] bool FitsAnsiCodePage(const std::wstring& text);
 
@@ -51,7 +59,8 @@ bool CopyWholeFile(const std::wstring& from, const std::wstring& to) noexcept;
 class TemporaryFile
 {
 public:
-    // Chooses the name only; the caller makes the file. The extension comes without its point.
+    // Chooses the name only; the caller makes the file. The extension comes without its point. Throws like
+    // TemporaryFolder.
     explicit TemporaryFile(const std::wstring& extension);
     TemporaryFile(TemporaryFile&& other) noexcept : m_path{std::exchange(other.m_path, {})} {}
     TemporaryFile& operator=(TemporaryFile other) noexcept

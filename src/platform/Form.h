@@ -48,7 +48,7 @@ public:
     void Load();
 
     // Loads the form if need be, shows it in front of its owner and centred on it, and returns when it is hidden or
-    // unloaded. The control that had the keyboard before then has it again.
+    // unloaded. The control that had the keyboard before then has it again. Throws what loading throws.
     void ShowModal();
     void Hide() noexcept;
     void Unload() noexcept;

@@ -1,5 +1,7 @@
 #include "platform/FormLayout.h"
 
+#include "platform/Owners.h"
+
 namespace corvane
 {
 
@@ -36,13 +38,12 @@ void Grow(HWND window, int delta) noexcept
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+int ScreenDotsPerInch() noexcept { return ::GetDeviceCaps(ScreenContext{}.Get(), LOGPIXELSY); }
+
 int PixelsOfTwips(int twips) noexcept
 {
     constexpr int kTwipsPerInch = 1440;
-    const HDC screen = ::GetDC(nullptr);
-    const int pixels = ::MulDiv(twips, ::GetDeviceCaps(screen, LOGPIXELSY), kTwipsPerInch);
-    ::ReleaseDC(nullptr, screen);
-    return pixels;
+    return ::MulDiv(twips, ScreenDotsPerInch(), kTwipsPerInch);
 }
 
 } // namespace corvane

@@ -18,6 +18,9 @@ void ShiftBelow(HWND form, int y, int delta) noexcept;
 // Makes a control, or the form itself, taller by delta pixels.
 void Grow(HWND window, int delta) noexcept;
 
+// The resolution that everything on the screen is laid out for, in dots per inch: 96 at 100 %.
+[[nodiscard]] int ScreenDotsPerInch() noexcept;
+
 // A length in twips (1/1440 inch) as pixels of the screen.
 [[nodiscard]] int PixelsOfTwips(int twips) noexcept;
 

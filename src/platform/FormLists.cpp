@@ -36,4 +36,13 @@ int AddListEntry(HWND list, const std::wstring& text) noexcept
         ::SendMessageW(list, isCombo ? CB_ADDSTRING : LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str())));
 }
 
+std::wstring ComboEntry(HWND combo, int index)
+{
+    const auto entry = static_cast<WPARAM>(index);
+    std::wstring text(static_cast<std::size_t>(::SendMessageW(combo, CB_GETLBTEXTLEN, entry, 0)) + 1, L'\0');
+    ::SendMessageW(combo, CB_GETLBTEXT, entry, reinterpret_cast<LPARAM>(text.data()));
+    text.pop_back(); // the terminator
+    return text;
+}
+
 } // namespace corvane

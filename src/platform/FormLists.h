@@ -12,4 +12,7 @@ namespace corvane
 // scrolls sideways. Returns the entry's position.
 int AddListEntry(HWND list, const std::wstring& text) noexcept;
 
+// The text of a combo box's entry; index must be one of its positions.
+[[nodiscard]] std::wstring ComboEntry(HWND combo, int index);
+
 } // namespace corvane

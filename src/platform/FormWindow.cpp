@@ -1,6 +1,7 @@
 #include "platform/FormWindow.h"
 
 #include "platform/ComObject.h"
+#include "platform/FormLayout.h"
 #include "platform/FormTemplate.h"
 #include "platform/HResult.h"
 #include "resources/resource.h"
@@ -13,14 +14,6 @@ namespace
 {
 
 constexpr int kPointsPerInch = 72;
-
-int ScreenDotsPerInch() noexcept
-{
-    const HDC screen = ::GetDC(nullptr);
-    const int dots = ::GetDeviceCaps(screen, LOGPIXELSY);
-    ::ReleaseDC(nullptr, screen);
-    return dots;
-}
 
 TemplateFont MessageFont()
 {

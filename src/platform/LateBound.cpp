@@ -85,7 +85,7 @@ void LateBound::Put(const wchar_t* name, Variant value) const { Invoke(name, DIS
 
 Variant LateBound::Invoke(const wchar_t* name, int kind, std::span<Variant> arguments) const
 {
-    if (m_object == nullptr) throw Error{kErrorObjectNotSet, name, L"Object variable or With block variable not set"};
+    if (m_object == nullptr) throw ObjectNotSet(name);
     DISPID member = 0;
     LPOLESTR names[] = {const_cast<LPOLESTR>(name)};
     Check(m_object->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &member), name);

@@ -80,6 +80,21 @@ using UniqueFont = Unique<GdiTraits<HFONT>>;
 using UniqueBitmap = Unique<GdiTraits<HBITMAP>>;
 using UniqueDeviceContext = Unique<DeviceContextTraits>;
 
+// The screen's device context for as long as it lives.
+class ScreenContext
+{
+public:
+    ScreenContext() noexcept : m_context{::GetDC(nullptr)} {}
+    ScreenContext(const ScreenContext&) = delete;
+    ScreenContext& operator=(const ScreenContext&) = delete;
+    ~ScreenContext() { ::ReleaseDC(nullptr, m_context); }
+
+    [[nodiscard]] HDC Get() const noexcept { return m_context; }
+
+private:
+    HDC m_context;
+};
+
 // Owns a BSTR. Put() is for out-parameters; Detach() gives the text to a callee that frees it.
 class Bstr
 {

@@ -23,6 +23,7 @@ struct TreeCaptions
     bool refusalIsCritical = true;
 };
 
+// The texts of a mode in the customer's words, which name looks up.
 [[nodiscard]] TreeCaptions TreeCaptionsFor(TreeMode mode, const NameLookup& name);
 
 // A tree label that tells of an active filter, once.

@@ -1,6 +1,7 @@
 #include "selection/TreeImages.h"
 
 #include "platform/ComObject.h"
+#include "platform/FormLayout.h"
 #include "platform/HResult.h"
 #include "platform/Variant.h"
 #include "resources/resource.h"
@@ -17,13 +18,7 @@ namespace
 constexpr const wchar_t* kSource = L"TreeImages";
 constexpr int kPictureSize = 17; // pixels at 96 dpi
 
-int ScaledSize() noexcept
-{
-    const HDC screen = ::GetDC(nullptr);
-    const int size = ::MulDiv(kPictureSize, ::GetDeviceCaps(screen, LOGPIXELSY), USER_DEFAULT_SCREEN_DPI);
-    ::ReleaseDC(nullptr, screen);
-    return size;
-}
+int ScaledSize() noexcept { return ::MulDiv(kPictureSize, ScreenDotsPerInch(), USER_DEFAULT_SCREEN_DPI); }
 
 // Selects a bitmap into a context for as long as it lives.
 class SelectedBitmap
@@ -44,10 +39,7 @@ private:
 // A square bitmap of the screen's kind.
 UniqueBitmap ScreenBitmap(int size) noexcept
 {
-    const HDC screen = ::GetDC(nullptr);
-    UniqueBitmap bitmap{::CreateCompatibleBitmap(screen, size, size)};
-    ::ReleaseDC(nullptr, screen);
-    return bitmap;
+    return UniqueBitmap{::CreateCompatibleBitmap(ScreenContext{}.Get(), size, size)};
 }
 
 } // namespace

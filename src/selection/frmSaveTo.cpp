@@ -95,12 +95,7 @@ void frmSaveTo::Form_Activate()
 void frmSaveTo::cmbServerURL_Click()
 {
     const HWND combo = Control(cmbServerURL);
-    const LRESULT index = ::SendMessageW(combo, CB_GETCURSEL, 0, 0);
-    std::wstring text(
-        static_cast<std::size_t>(::SendMessageW(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(index), 0)) + 1, L'\0');
-    ::SendMessageW(combo, CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.data()));
-    text.pop_back(); // the terminator
-    SetText(cmbServerURL, text);
+    SetText(cmbServerURL, ComboEntry(combo, static_cast<int>(::SendMessageW(combo, CB_GETCURSEL, 0, 0))));
     // On the way through the list by keys nothing is chosen yet; Enter goes.
     for (const int key : {VK_UP, VK_DOWN, VK_PRIOR, VK_NEXT, VK_HOME, VK_END}) {
         if (::GetKeyState(key) < 0) return;

@@ -9,6 +9,7 @@ namespace corvane
 {
 
 // Whether the active document's save macros are to run: its own switch or the host decides, then the server's setting.
+// Throws the host's error when it does not tell its name or version.
 [[nodiscard]] bool ClientEventsEnabled(const LateBound& oApplication);
 
 // Run the document's macro before a save and after a recorded one. Every failure is ignored.

@@ -39,6 +39,7 @@ struct DocumentPlace
     bool readOnly = false; // opened read-only, or a file that may not be written
 };
 
+// How the document at a place gets to disk.
 [[nodiscard]] DiskSave PlanDiskSave(const DocumentPlace& place);
 
 } // namespace corvane

@@ -25,8 +25,8 @@ inline constexpr std::int32_t kPropertyText = 4;
 void SetCustomProperty(const LateBound& oProperties, const std::wstring& sName, const Variant& vValue,
                        std::int32_t lType, const LateBound& oApplication);
 
-// Writes the whole binding into the active document, or leaves the document's as it was and throws the host's error;
-// number 91 when there is no document.
+// Writes the whole binding into the active document, or leaves the document's as it was and throws the host's error, in
+// Excel number 91 when there is no document.
 void SetBindingProperties(const LateBound& oApplication, const DocumentBinding& binding);
 
 // The binding of the active document.

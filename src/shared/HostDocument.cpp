@@ -83,7 +83,7 @@ LateBound SubjectOf(const LateBound& application, const LateBound& outlookInspec
 Host RequiredHost(const LateBound& application)
 {
     if (const auto host = HostOf(application)) return *host;
-    throw Error{kErrorObjectNotSet, L"HostDocument", L"Object variable or With block variable not set"};
+    throw ObjectNotSet(L"HostDocument");
 }
 
 DocumentPlace PlaceOf(const LateBound& document)

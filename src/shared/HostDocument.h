@@ -10,7 +10,8 @@
 namespace corvane
 {
 
-// The host's active document; empty when there is none or the host keeps none (Outlook).
+// The host's active document. Where there is none, Excel's is empty and PowerPoint and Word raise their error; empty
+// for hosts that keep none (Outlook).
 [[nodiscard]] LateBound ActiveDocument(const LateBound& application);
 
 // The inspector that shows Outlook's open item; empty when none is open and in other hosts.
@@ -26,7 +27,8 @@ namespace corvane
 // Throws an Error that tells the user what to do when the active document is marked as final.
 void RequireNotFinal(const LateBound& application);
 
-// Whether the host is editing a cell or an object (Excel), so that its documents cannot be touched.
+// Whether the host is editing a cell or an object (Excel), so that its documents cannot be touched; a host that
+// refuses the question is taken to be. Throws only when the host does not tell its name.
 [[nodiscard]] bool IsEditing(const LateBound& application);
 
 // The document's name, or the subject of Outlook's item, with the default extension of the host's version when it has
@@ -36,10 +38,10 @@ void RequireNotFinal(const LateBound& application);
 // The document's author property; empty when it has none.
 [[nodiscard]] std::wstring DocumentAuthor(const LateBound& application);
 
-// The first 200 characters of the body of Outlook's open item; empty in other hosts.
+// The first 200 characters of the body of Outlook's open item; empty in other hosts. Throws the host's error.
 [[nodiscard]] std::wstring ItemBodyStart(const LateBound& application, const LateBound& outlookInspector);
 
-// Makes the host treat the document as changed, so that the next save writes it.
+// Makes the host treat the document as changed, so that the next save writes it. Throws the host's error.
 void MarkDocumentChanged(const LateBound& application);
 
 // A document as it lies on disk for the upload; a copy made only for it is deleted with this object.

@@ -33,6 +33,7 @@ struct NotificationFacts
     std::wstring server;
 };
 
+// The mail's subject, and its text, with the link in it.
 [[nodiscard]] std::wstring NotificationSubject(const NotificationFacts& facts);
 [[nodiscard]] std::wstring NotificationBody(const NotificationFacts& facts);
 

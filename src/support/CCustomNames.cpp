@@ -39,8 +39,7 @@ void CCustomNames::RefreshOnce(const std::wstring& server)
 
 CCustomNames& CustomNames()
 {
-    if (g_oCustomNames == nullptr)
-        throw Error{kErrorObjectNotSet, L"CCustomNames", L"Object variable or With block variable not set"};
+    if (g_oCustomNames == nullptr) throw ObjectNotSet(L"CCustomNames");
     return *g_oCustomNames;
 }
 

@@ -1,5 +1,6 @@
 #include "support/CTraceLog.h"
 
+#include "platform/Files.h"
 #include "platform/Procedure.h"
 #include "support/TraceText.h"
 
@@ -17,22 +18,6 @@ LocalTime Now() noexcept
     return {now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond};
 }
 
-std::string ToAnsi(const std::wstring& text)
-{
-    std::string ansi(text.size() * 4, '\0');
-    const int length = ::WideCharToMultiByte(CP_ACP, 0, text.data(), static_cast<int>(text.size()), ansi.data(),
-                                             static_cast<int>(ansi.size()), nullptr, nullptr);
-    ansi.resize(static_cast<std::size_t>(length));
-    return ansi;
-}
-
-std::wstring ApplicationDataFolder()
-{
-    std::wstring folder(::GetEnvironmentVariableW(L"APPDATA", nullptr, 0), L'\0');
-    folder.resize(::GetEnvironmentVariableW(L"APPDATA", folder.data(), static_cast<DWORD>(folder.size())));
-    return folder;
-}
-
 } // namespace
 
 std::unique_ptr<CTraceLog> g_oTraceLog;
@@ -44,12 +29,11 @@ CTraceLog::CTraceLog(const Settings& settings) noexcept : m_enabled{settings.tra
 
 void CTraceLog::Open()
 {
-    std::wstring folder = ApplicationDataFolder() + L"\\Halvex\\";
-    ::CreateDirectoryW(folder.c_str(), nullptr);
-    folder += L"Corvane for MS Office\\";
-    ::CreateDirectoryW(folder.c_str(), nullptr);
+    std::wstring folder = ApplicationDataFolder();
+    for (const wchar_t* name : kTraceFolders)
+        ::CreateDirectoryW((folder += name).c_str(), nullptr);
     const HANDLE file =
-        ::CreateFileW((folder + TraceFileName(kApplicationName, Now())).c_str(), GENERIC_WRITE,
+        ::CreateFileW((folder + L"\\" + TraceFileName(kApplicationName, Now())).c_str(), GENERIC_WRITE,
                       FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file != INVALID_HANDLE_VALUE) m_file = UniqueFile{file};
 }
@@ -58,7 +42,7 @@ void CTraceLog::WriteLine(std::wstring_view text, std::int32_t extraIndent) noex
 {
     if (!m_enabled) return;
     Ignoring([&] {
-        const std::string line = ToAnsi(TraceLine(Now(), m_level, extraIndent, text) + L"\r\n");
+        const std::string line = AnsiText(TraceLine(Now(), m_level, extraIndent, text) + L"\r\n");
         DWORD written = 0;
         if (m_file) ::WriteFile(m_file.Get(), line.data(), static_cast<DWORD>(line.size()), &written, nullptr);
     });

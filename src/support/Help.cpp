@@ -26,12 +26,7 @@ std::wstring& HelpFile()
 // The viewer takes paths in the ANSI code page; a path with other letters has a short form without them.
 std::string AnsiPath(const std::wstring& longPath)
 {
-    const std::wstring path = FitsAnsiCodePage(longPath) ? longPath : ShortPath(longPath);
-    std::string ansi(path.size() * 4 + 1, '\0');
-    const int length = ::WideCharToMultiByte(CP_ACP, 0, path.c_str(), -1, ansi.data(), static_cast<int>(ansi.size()),
-                                             nullptr, nullptr);
-    ansi.resize(length > 0 ? static_cast<std::size_t>(length) - 1 : 0);
-    return ansi;
+    return AnsiText(FitsAnsiCodePage(longPath) ? longPath : ShortPath(longPath));
 }
 
 // The viewer stays loaded: its windows outlive the call.

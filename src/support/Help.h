@@ -19,6 +19,7 @@ enum class HelpTopic
     GateDocumentTree = 7
 };
 
+// The full path of the help file, which need not be there.
 void SetHelpFile(std::wstring path);
 
 // Show the table of contents, or a topic over the window that asks. A missing help file is told to the user. Throw

@@ -30,6 +30,7 @@ struct Place
     View view = View::Own;
 };
 
+// False also for a key that may not be read.
 [[nodiscard]] bool KeyExists(const std::wstring& key, Place place = {}) noexcept;
 
 // Creates the key with every level above it that is missing; throws Error.

@@ -19,6 +19,9 @@ struct LocalTime
     int second;
 };
 
+// The folders that lead from the user's application data to the trace files.
+inline constexpr const wchar_t* kTraceFolders[] = {L"\\Halvex", L"\\Corvane for MS Office"};
+
 // The name of a trace file: the add-in's name and the time of its making, numbers without leading zeros
 // ("Name_2013_7_4__9_5_3.log").
 [[nodiscard]] std::wstring TraceFileName(std::wstring_view application, const LocalTime& time);

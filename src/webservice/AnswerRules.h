@@ -28,6 +28,7 @@ inline constexpr auto kApplicationErrorBase = static_cast<std::int32_t>(0x800400
 // The description of an HTTP status that has no meaning of its own. The answer's text is not part of it.
 [[nodiscard]] std::wstring HTTPErrorText(std::wstring_view server, long status, std::wstring_view responseText);
 
+// The descriptions of a server that does not answer, and of an upload that did not get through.
 [[nodiscard]] std::wstring UnableToContact(std::wstring_view server);
 [[nodiscard]] std::wstring UnableToConnect(std::wstring_view server);
 
@@ -58,6 +59,7 @@ extern const ServiceProcedure kAccessLogCall;
 extern const ServiceProcedure kBinaryCall;
 extern const ServiceProcedure kUploadCall;
 
+// What an answer means for the procedure that asked, by its HTTP status and by whether its text is an error document.
 [[nodiscard]] AnswerMeaning MeaningOf(long status, bool isErrorDocument, const ServiceProcedure& procedure);
 
 // What an error document says of itself, as it stands there. Only the number is always wanted: a server that is too old

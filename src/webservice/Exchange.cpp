@@ -16,7 +16,7 @@ ErrorDocument ReadErrorDocument(const std::wstring& text, const wchar_t* source)
     XmlDocument document;
     static_cast<void>(document.Load(text));
     const XmlNode error = document.SelectFirst(L"//error");
-    if (!error) throw Error{kErrorObjectNotSet, source, L"Object variable or With block variable not set"};
+    if (!error) throw ObjectNotSet(source);
     const auto number = error.Attribute(L"number");
     if (!number) throw NullError(source);
     return {*number, error.Attribute(L"source"), error.Attribute(L"description")};

@@ -9,8 +9,9 @@
 namespace corvane
 {
 
-// Uploads a file under a name, once it is completely written and within the server's size limit. Throws Error with the
-// source "ExecuteASPWSUploadFile"; errors of the size query pass unchanged.
+// Uploads a file under a name, once it is completely written and within the server's size limit. Throws Error, from
+// the transport on with the source "ExecuteASPWSUploadFile" or that of the server's error document; errors of the size
+// query pass unchanged.
 void ExecuteASPWSUploadFile(const std::wstring& sServer, const std::wstring& sFilePath,
                             const std::wstring& sUploadName);
 

@@ -104,8 +104,7 @@ std::wstring QueryText(const std::wstring& server, const Operation& operation, c
 XmlNode FirstRow(const XmlDocument& rowset)
 {
     XmlNode row = rowset.SelectFirst(L"//z:row");
-    if (!row)
-        throw Error{kErrorObjectNotSet, L"WebService.FirstRow", L"Object variable or With block variable not set"};
+    if (!row) throw ObjectNotSet(L"WebService.FirstRow");
     return row;
 }
 

@@ -20,7 +20,8 @@ struct WebAnswer
 };
 
 // Calls an operation on a server's page and waits for the answer while messages are handled. sServer is used as it
-// stands. Throws Error: number 225 for transport failures, the server's own number for an error document.
+// stands. Throws Error: number 225 for transport failures, the server's own number for an error document, else the HTTP
+// status.
 WebAnswer ExecuteASPWebService(const std::wstring& sServer, const std::wstring& sWebService,
                                const Operation& sOperation, const Parameters& vParams);
 
