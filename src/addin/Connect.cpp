@@ -120,6 +120,7 @@ STDMETHODIMP Connect::OnDisconnection(LONG /*RemoveMode*/, SAFEARRAY** /*custom*
     m_events = EventSubscription{};
     m_oPowerPointApp.Release();
     HttpRequest::AbortOwnerless();
+    CloseHelp();
     SetHostWindow(nullptr);
     return S_OK;
 }

@@ -4,7 +4,10 @@
 #include "platform/HResult.h"
 #include "platform/MessageLoop.h"
 #include "platform/Procedure.h"
+#include "platform/SystemLibrary.h"
 #include "platform/XmlDocument.h"
+
+#include <shlwapi.h>
 
 #include <cwchar>
 #include <string_view>
@@ -17,6 +20,7 @@ namespace
 
 constexpr const wchar_t* kSource = L"HttpRequest";
 constexpr long kComplete = 4;
+constexpr long kNoContentOfWindows = 1223; // what the component makes of status 204
 
 // IXMLHTTPRequest and the XMLHTTP classes 3.0 and 6.0, as registered by the platform.
 constexpr IID kRequest = {0xED8C108D, 0x4349, 0x11D2, {0x91, 0xA4, 0x00, 0xC0, 0x4F, 0x79, 0x69, 0xE8}};
@@ -40,19 +44,28 @@ long StateOf(IXMLHTTPRequest& request)
     return state;
 }
 
+// How many may go on. Each holds one of the few connections that the system allows to a server, and a failed one may
+// never come to an end. But Wine gives the connection of an aborted request to the next one, which then reads the late
+// answer of the other.
+std::size_t MostOwnerless() noexcept
+{
+    static const bool isWine = ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+    return isWine ? 256 : 0;
+}
+
 // Lets go of those that have come to an end, and ends the oldest where there are too many.
 void TidyOwnerless()
 {
-    constexpr std::size_t kMost = 256; // a failed connection may never come to an end
     auto& requests = Ownerless();
     std::erase_if(requests, [](const auto& request) {
         long state = kComplete;
         request->get_readyState(&state);
         return state == kComplete;
     });
-    if (requests.size() < kMost) return;
-    requests.front()->abort();
-    requests.erase(requests.begin());
+    while (requests.size() > MostOwnerless()) {
+        requests.front()->abort();
+        requests.erase(requests.begin());
+    }
 }
 
 // The system keeps answers and gives them again to a later GET of the same address, as a browser's; every question to
@@ -60,7 +73,7 @@ void TidyOwnerless()
 void ForgetAnswer(const std::wstring& url) noexcept
 {
     using Delete = BOOL(WINAPI*)(LPCWSTR url);
-    static const HMODULE wininet = ::LoadLibraryExW(L"wininet.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    static const HMODULE wininet = LoadSystemLibrary(L"wininet.dll");
     static const auto forget =
         reinterpret_cast<Delete>(reinterpret_cast<void*>(::GetProcAddress(wininet, "DeleteUrlCacheEntryW")));
     if (forget != nullptr) forget(url.c_str());
@@ -72,7 +85,6 @@ void ForgetAnswer(const std::wstring& url) noexcept
 
 HttpRequest::HttpRequest()
 {
-    TidyOwnerless();
     HRESULT result = REGDB_E_CLASSNOTREG;
     for (const CLSID& classId : kRequestClasses) {
         result = ::CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, kRequest,
@@ -84,7 +96,11 @@ HttpRequest::HttpRequest()
 
 HttpRequest::~HttpRequest()
 {
-    if (m_underWay) Ignoring([this] { Ownerless().push_back(m_request); });
+    if (!m_underWay) return;
+    Ignoring([this] {
+        Ownerless().push_back(m_request);
+        TidyOwnerless();
+    });
 }
 
 void HttpRequest::AbortOwnerless() noexcept
@@ -128,6 +144,7 @@ void HttpRequest::Wait(std::optional<std::chrono::milliseconds> limit)
     m_underWay = false;
     // The component reports a failed transport as a status of its own outside HTTP's range, or by refusing to tell.
     Check(m_request->get_status(&m_status), kSource);
+    if (m_status == kNoContentOfWindows) m_status = 204;
     if (m_status < 100 || m_status > 599 || IsCutShort()) ThrowTransportFailure();
 }
 
@@ -143,7 +160,7 @@ bool HttpRequest::IsCutShort() const
     // The component may pass off the beginning of an answer as the whole when the connection breaks. The length of an
     // encoded one tells nothing of what it decodes to, and the header that says so may have gone with the decoding.
     if (!AnswerHeader(L"Content-Encoding").empty() ||
-        AnswerHeader(L"Vary").find(L"Accept-Encoding") != std::wstring::npos)
+        ::StrStrIW(AnswerHeader(L"Vary").c_str(), L"Accept-Encoding") != nullptr)
         return false;
     const auto promised = std::wcstoull(AnswerHeader(L"Content-Length").c_str(), nullptr, 10);
     Variant body;

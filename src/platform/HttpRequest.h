@@ -24,8 +24,7 @@ public:
     HttpRequest();
     HttpRequest(const HttpRequest&) = delete;
     HttpRequest& operator=(const HttpRequest&) = delete;
-    // A request still under way goes on without its owner: some platforms hand the connection of an aborted request
-    // to the next one, which then reads the late answer of the other.
+    // A request still under way is aborted; under Wine, which cannot bear that, it goes on without its owner.
     ~HttpRequest();
 
     // Ends the requests that go on without their owners.

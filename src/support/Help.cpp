@@ -4,6 +4,7 @@
 #include "platform/HResult.h"
 #include "platform/Messages.h"
 #include "platform/Owners.h"
+#include "platform/SystemLibrary.h"
 #include "support/CTraceLog.h"
 
 namespace corvane
@@ -14,6 +15,7 @@ namespace
 // Commands of HtmlHelpA.
 constexpr UINT kDisplayContents = 1; // HH_DISPLAY_TOC
 constexpr UINT kHelpContext = 15;    // HH_HELP_CONTEXT
+constexpr UINT kCloseAll = 18;       // HH_CLOSE_ALL
 
 using HtmlHelp = HWND(WINAPI*)(HWND owner, LPCSTR file, UINT command, DWORD_PTR data);
 
@@ -29,14 +31,20 @@ std::string AnsiPath(const std::wstring& longPath)
     return AnsiText(FitsAnsiCodePage(longPath) ? longPath : ShortPath(longPath));
 }
 
-// The viewer stays loaded: its windows outlive the call.
-HtmlHelp Viewer()
+// The viewer, once it was needed. It stays loaded: its windows outlive the call.
+HtmlHelp& Viewer() noexcept
 {
-    static const HMODULE viewer = ::LoadLibraryExW(L"hhctrl.ocx", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-    CheckWin32(viewer != nullptr, L"HtmlHelpA");
-    const auto entry = reinterpret_cast<HtmlHelp>(reinterpret_cast<void*>(::GetProcAddress(viewer, "HtmlHelpA")));
-    CheckWin32(entry != nullptr, L"HtmlHelpA");
-    return entry;
+    static HtmlHelp viewer = nullptr;
+    return viewer;
+}
+
+void LoadViewer()
+{
+    if (Viewer() != nullptr) return;
+    const HMODULE library = LoadSystemLibrary(L"hhctrl.ocx");
+    CheckWin32(library != nullptr, L"HtmlHelpA");
+    Viewer() = reinterpret_cast<HtmlHelp>(reinterpret_cast<void*>(::GetProcAddress(library, "HtmlHelpA")));
+    CheckWin32(Viewer() != nullptr, L"HtmlHelpA");
 }
 
 void Show(HWND owner, UINT command, DWORD_PTR data)
@@ -45,6 +53,7 @@ void Show(HWND owner, UINT command, DWORD_PTR data)
         ShowMessage(L"The help file \"" + HelpFile() + L"\" was not found.", kStyleExclamation);
         return;
     }
+    LoadViewer();
     if (Viewer()(owner, AnsiPath(HelpFile()).c_str(), command, data) == nullptr)
         ShowMessage(L"The help file \"" + HelpFile() + L"\" could not be opened.", kStyleExclamation);
 }
@@ -59,6 +68,11 @@ void ShowHelpTopic(HWND owner, HelpTopic topic)
 {
     TraceVariable(L"Help topic", std::to_wstring(static_cast<int>(topic)));
     Show(owner, kHelpContext, static_cast<DWORD_PTR>(topic));
+}
+
+void CloseHelp() noexcept
+{
+    if (Viewer() != nullptr) Viewer()(nullptr, nullptr, kCloseAll, 0);
 }
 
 } // namespace corvane

@@ -27,4 +27,7 @@ void SetHelpFile(std::wstring path);
 void ShowHelpContents();
 void ShowHelpTopic(HWND owner, HelpTopic topic);
 
+// Closes the viewer's windows, which would outlive the add-in.
+void CloseHelp() noexcept;
+
 } // namespace corvane

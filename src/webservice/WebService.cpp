@@ -60,8 +60,12 @@ void UpdateUserLog(const std::wstring& sServer, const std::wstring& sWebService)
     HttpRequest request;
     OpenRequest(kAccessLogCall, [&] { request.Open(L"POST", url); });
     const XmlDocument empty;
-    const auto failure =
-        Catch([&] { Exchange(request, kAccessLogCall, sServer, RequestLimit(), [&] { request.Send(empty); }); });
+    const auto failure = Catch([&] {
+        Exchange(request, kAccessLogCall, sServer, RequestLimit(), [&] {
+            // A component may refuse the document of another version; without one the request is the same.
+            if (Catch([&] { request.Send(empty); })) request.Send();
+        });
+    });
     if (request.Status() == kFailedDependency) SetAccessLogged(false);
     if (failure) throw *failure;
     SetAccessLogged(true);

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <map>
 #include <msxml2.h>
 #include <string>
 
@@ -14,8 +15,10 @@ public:
     HRESULT openResult = S_OK;
     HRESULT statusResult = S_OK;
     long status = 200;
-    const wchar_t* text = L"12"; // of every answer
-    std::string sent;            // the bytes of the last binary body
+    const wchar_t* text = L"12";                    // of every answer
+    std::string sent;                               // the bytes of the last binary body
+    std::map<std::wstring, const wchar_t*> headers; // of every answer; with any, its body has no bytes
+    bool refusesDocuments = false;
     int aborted = 0;
     ULONG references = 0;
 
@@ -36,10 +39,15 @@ public:
     }
     STDMETHODIMP open(BSTR, BSTR, VARIANT, VARIANT, VARIANT) override { return openResult; }
     STDMETHODIMP setRequestHeader(BSTR, BSTR) override { return S_OK; }
-    STDMETHODIMP getResponseHeader(BSTR, BSTR*) override { return E_NOTIMPL; }
+    STDMETHODIMP getResponseHeader(BSTR name, BSTR* value) override
+    {
+        *value = headers.contains(name) ? ::SysAllocString(headers[name]) : nullptr;
+        return *value ? S_OK : S_FALSE;
+    }
     STDMETHODIMP getAllResponseHeaders(BSTR*) override { return E_NOTIMPL; }
     STDMETHODIMP send(VARIANT body) override
     {
+        if (body.vt == VT_DISPATCH && refusesDocuments) return E_INVALIDARG;
         if (body.vt != (VT_ARRAY | VT_UI1)) return S_OK;
         sent.assign(static_cast<const char*>(body.parray->pvData), body.parray->rgsabound[0].cElements);
         return S_OK;
@@ -61,7 +69,7 @@ public:
         *answer = ::SysAllocString(text);
         return S_OK;
     }
-    STDMETHODIMP get_responseBody(VARIANT*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_responseBody(VARIANT*) override { return headers.empty() ? E_NOTIMPL : S_OK; }
     STDMETHODIMP get_responseStream(VARIANT*) override { return E_NOTIMPL; }
     STDMETHODIMP get_readyState(LONG* state) override
     {

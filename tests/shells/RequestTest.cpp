@@ -67,6 +67,30 @@ TEST_F(Request, AStatusThatIsNoneOfHttpIsAFailureToSend)
     }
 }
 
+TEST_F(Request, AnAnswerShorterThanItSaysIsAFailureToSendUnlessItWasEncoded)
+{
+    m_transport.headers = {{L"Content-Length", L"5"}};
+    ExpectSendError();
+    for (const auto& encoded :
+         {std::pair{L"Content-Encoding", L"gzip"}, std::pair{L"Vary", L"cookie, accept-encoding"}}) {
+        m_transport.headers = {{L"Content-Length", L"5"}, encoded};
+        EXPECT_EQ(Query().Number(), 0) << encoded.first;
+    }
+}
+
+TEST_F(Request, WhatTheComponentMakesOfNoContentIsAnHttpStatus)
+{
+    m_transport.status = 1223;
+    EXPECT_EQ(Query().Number(), 204);
+}
+
+TEST_F(Request, TheAccessIsLoggedEvenWhereTheEmptyDocumentIsRefused)
+{
+    SetAccessLogged(false);
+    m_transport.refusesDocuments = true;
+    EXPECT_EQ(Query().Number(), 0);
+}
+
 TEST_F(Request, AnAnswerThatRefusesToTellItsStatusIsAFailureToSend)
 {
     m_transport.statusResult = E_FAIL;
