@@ -19,8 +19,9 @@ void Fuzz(Input& input)
     Require(!name.empty() && name.back() != L'.' && name.back() != L' ' && AsFileName(name) == name);
     Require(path.ends_with(ExtensionOf(path)));
     Require(!TitleWithExtension(title, L".x").empty() && UploadNameOf(title, path).starts_with(title));
-    Require(!TitleOf(host, version, title, input.Choice()).empty());
-    Require(SaveTypeFor(host, version, DefaultExtension(host, version)).has_value());
+    const bool hasMacros = input.Choice();
+    Require(!TitleOf(host, version, title, input.Choice(), hasMacros).empty());
+    Require(SaveTypeFor(host, version, DefaultExtension(host, version, hasMacros)).has_value());
     static_cast<void>(SaveTypeFor(host, version, path));
     static_cast<void>(PlanDiskSave({path, title, false}));
 }

@@ -94,6 +94,13 @@ std::optional<std::uint64_t> FileLength(const std::wstring& path) noexcept
     return static_cast<std::uint64_t>(length.QuadPart);
 }
 
+std::optional<std::uint64_t> LastWriteTime(const std::wstring& path) noexcept
+{
+    WIN32_FILE_ATTRIBUTE_DATA facts{};
+    if (!::GetFileAttributesExW(AsLongPath(path).c_str(), GetFileExInfoStandard, &facts)) return std::nullopt;
+    return (std::uint64_t{facts.ftLastWriteTime.dwHighDateTime} << 32U) | facts.ftLastWriteTime.dwLowDateTime;
+}
+
 std::size_t ReadFile(const std::wstring& path, std::span<std::byte> into) noexcept
 {
     const UniqueFile file = OpenFile(path, GENERIC_READ, OPEN_EXISTING);

@@ -28,7 +28,7 @@ namespace corvane
 [[nodiscard]] std::wstring UnusedPath(const std::wstring& folder, const std::wstring& base,
                                       const std::wstring& extension);
 
-// False for a folder, and for what cannot be looked at.
+// Whether there is a file or folder of that name; false also for what cannot be looked at.
 [[nodiscard]] bool FileExists(const std::wstring& path) noexcept;
 
 // False for a file that is marked read-only or that this user may not write.
@@ -36,6 +36,9 @@ namespace corvane
 
 // The file's length in bytes; nothing when it cannot be told.
 [[nodiscard]] std::optional<std::uint64_t> FileLength(const std::wstring& path) noexcept;
+
+// When the file was last written, in units of 100 ns; nothing when it cannot be told.
+[[nodiscard]] std::optional<std::uint64_t> LastWriteTime(const std::wstring& path) noexcept;
 
 // Reads the file from its start, letting others read, write and delete it meanwhile; returns how much was read.
 std::size_t ReadFile(const std::wstring& path, std::span<std::byte> into) noexcept;

@@ -41,15 +41,16 @@ struct HostModel
 {
     const wchar_t* host;
     const wchar_t* activeDocument; // null for the host whose items are neither files nor carry properties
+    const wchar_t* documents;
     const wchar_t* documentName;
     void (*saveCopy)(const LateBound& document, const std::wstring& path, SaveType type);
 };
 
 constexpr HostModel kModels[] = {
-    {kWordName, L"ActiveDocument", L"Name", &SaveWordCopy},
-    {kExcelName, L"ActiveWorkbook", L"Name", &SaveExcelCopy},
-    {kPowerPointName, L"ActivePresentation", L"Name", &SavePowerPointCopy},
-    {kOutlookName, nullptr, L"Subject", &SaveOutlookCopy},
+    {kWordName, L"ActiveDocument", L"Documents", L"Name", &SaveWordCopy},
+    {kExcelName, L"ActiveWorkbook", L"Workbooks", L"Name", &SaveExcelCopy},
+    {kPowerPointName, L"ActivePresentation", L"Presentations", L"Name", &SavePowerPointCopy},
+    {kOutlookName, nullptr, nullptr, L"Subject", &SaveOutlookCopy},
 };
 
 // An application as one of the four hosts.
@@ -97,7 +98,9 @@ DocumentPlace PlaceOf(const LateBound& document)
 std::wstring TitleOf(const Host& host, const LateBound& subject)
 {
     const bool everSaved = host.model.activeDocument != nullptr && !subject.Text(L"Path").empty();
-    return TitleOf(host.traits, host.version, subject.Text(host.model.documentName), everSaved);
+    bool hasMacros = false;
+    Ignoring([&] { hasMacros = subject.Number(L"HasVBProject") != 0; }); // unknown up to version 11 and to items
+    return TitleOf(host.traits, host.version, subject.Text(host.model.documentName), everSaved, hasMacros);
 }
 
 std::wstring UnusedDocumentPath(const std::wstring& title)
@@ -167,6 +170,17 @@ std::wstring ActiveDocumentName(const LateBound& application)
     return name;
 }
 
+bool HasOpenDocument(const LateBound& application, const std::wstring& fullName)
+{
+    bool found = false;
+    Ignoring([&] {
+        const LateBound documents = application.Object(RequiredHost(application).model.documents);
+        for (std::int32_t left = documents.Number(L"Count"); left > 0 && !found; --left)
+            found = documents.Object(L"Item", left).Text(L"FullName") == fullName;
+    });
+    return found;
+}
+
 void RequireNotFinal(const LateBound& application)
 {
     bool isFinal = false;
@@ -232,7 +246,12 @@ SavedDocument SaveDocumentToDisk(const LateBound& application, const LateBound& 
     case DiskSave::InPlace:
         break;
     }
+    const auto before = LastWriteTime(place.fullName);
     subject.Call(L"Save");
+    // What else runs in the host may take a save back without an error.
+    if (subject.Number(L"Saved") == 0 && LastWriteTime(place.fullName) == before)
+        throw Error{kPermissionDenied, L"HostDocument",
+                    L"The document was not written to disk. Please save it and then try again."};
     return {place.fullName, std::nullopt};
 }
 

@@ -24,6 +24,9 @@ namespace corvane
 // What tells the active document from the others that are open: its full name, as it is now. Empty where it tells none.
 [[nodiscard]] std::wstring ActiveDocumentName(const LateBound& application);
 
+// Whether an open document has that full name. False where the host keeps no documents.
+[[nodiscard]] bool HasOpenDocument(const LateBound& application, const std::wstring& fullName);
+
 // Throws an Error that tells the user what to do when the active document is marked as final.
 void RequireNotFinal(const LateBound& application);
 
@@ -53,7 +56,7 @@ struct SavedDocument
 
 // Saves the document to disk: where it is, in its own format; in the Documents folder when it was never saved; as a
 // temporary copy when it cannot be written where it is or is no file (a web address, an item of Outlook). Throws the
-// host's error.
+// host's error, and one of its own when the host left an old file as it was.
 [[nodiscard]] SavedDocument SaveDocumentToDisk(const LateBound& application, const LateBound& outlookInspector);
 
 // Lets the user work in Excel again, or keeps the user out; nothing in other hosts. Errors are ignored.

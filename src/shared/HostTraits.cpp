@@ -56,10 +56,10 @@ constexpr SaveFormat kPowerPointFormats[] = {
 constexpr SaveFormat kOutlookFormats[] = {{L".msg", 9}};
 
 constexpr HostTraits kHosts[] = {
-    {kWordName, L".doc", L".docx", kWordFormats},
-    {kExcelName, L".xls", L".xlsx", kExcelFormats},
-    {kPowerPointName, L".ppt", L".pptx", kPowerPointFormats},
-    {kOutlookName, L".msg", L".msg", kOutlookFormats},
+    {kWordName, L".doc", L".docx", L".docm", kWordFormats},
+    {kExcelName, L".xls", L".xlsx", L".xlsm", kExcelFormats},
+    {kPowerPointName, L".ppt", L".pptx", L".pptm", kPowerPointFormats},
+    {kOutlookName, L".msg", L".msg", L".msg", kOutlookFormats},
 };
 
 bool Writes(const HostTraits& host, std::wstring_view extension)
@@ -77,9 +77,10 @@ const HostTraits* FindHost(std::wstring_view applicationName) noexcept
     return found == std::end(kHosts) ? nullptr : found;
 }
 
-const wchar_t* DefaultExtension(const HostTraits& host, int version) noexcept
+const wchar_t* DefaultExtension(const HostTraits& host, int version, bool hasMacros) noexcept
 {
-    return HasRibbon(version) ? host.extension : host.classicExtension;
+    if (!HasRibbon(version)) return host.classicExtension;
+    return hasMacros ? host.macroExtension : host.extension;
 }
 
 std::optional<std::int32_t> SaveTypeFor(const HostTraits& host, int version, std::wstring_view extension)
@@ -92,9 +93,9 @@ std::optional<std::int32_t> SaveTypeFor(const HostTraits& host, int version, std
     return std::nullopt;
 }
 
-std::wstring TitleOf(const HostTraits& host, int version, const std::wstring& name, bool everSaved)
+std::wstring TitleOf(const HostTraits& host, int version, const std::wstring& name, bool everSaved, bool hasMacros)
 {
-    const wchar_t* extension = DefaultExtension(host, version);
+    const wchar_t* extension = DefaultExtension(host, version, hasMacros);
     if (everSaved) return TitleWithExtension(name, extension);
     const std::wstring own = Writes(host, ExtensionOf(name)) ? ExtensionOf(name) : std::wstring{};
     const std::wstring base = name.substr(0, name.size() - own.size());

@@ -23,7 +23,8 @@ struct HostTraits
 {
     const wchar_t* name;             // Application.Name
     const wchar_t* classicExtension; // of a new document up to version 11
-    const wchar_t* extension;        // and from version 12 on
+    const wchar_t* extension;        // from version 12 on,
+    const wchar_t* macroExtension;   // and then of one with macros, which the other cannot hold
     std::span<const SaveFormat> formats;
 };
 
@@ -31,13 +32,14 @@ struct HostTraits
 [[nodiscard]] const HostTraits* FindHost(std::wstring_view applicationName) noexcept;
 
 // The extension of a new document of this host's version.
-[[nodiscard]] const wchar_t* DefaultExtension(const HostTraits& host, int version) noexcept;
+[[nodiscard]] const wchar_t* DefaultExtension(const HostTraits& host, int version, bool hasMacros) noexcept;
 
 // The number of the format that an extension (with its point, in any letter case) stands for in this version.
 [[nodiscard]] std::optional<std::int32_t> SaveTypeFor(const HostTraits& host, int version, std::wstring_view extension);
 
 // A document's title: its name with the host's default extension where it has none. A document that was never saved
 // has only an extension that its host writes ("Plan v1.2" has none), and its title is fit to be a file's name.
-[[nodiscard]] std::wstring TitleOf(const HostTraits& host, int version, const std::wstring& name, bool everSaved);
+[[nodiscard]] std::wstring TitleOf(const HostTraits& host, int version, const std::wstring& name, bool everSaved,
+                                   bool hasMacros);
 
 } // namespace corvane

@@ -52,8 +52,10 @@ TEST(HostTraits, GiveATitleAnExtensionOfTheHost)
         {L"Outlook", 16, L"", false, L"_.msg"},
     };
     for (const auto& item : kCases)
-        EXPECT_EQ(TitleOf(*FindHost(item.host), item.version, item.name, item.everSaved), item.title)
+        EXPECT_EQ(TitleOf(*FindHost(item.host), item.version, item.name, item.everSaved, false), item.title)
             << testing::PrintToString(std::wstring{item.name});
+    EXPECT_EQ(TitleOf(*FindHost(L"Microsoft PowerPoint"), 16, L"Presentation1", false, true), L"Presentation1.pptm");
+    EXPECT_EQ(TitleOf(*FindHost(L"Microsoft PowerPoint"), 11, L"Presentation1", false, true), L"Presentation1.ppt");
 }
 
 } // namespace corvane

@@ -74,9 +74,9 @@ private:
     void ExpectUploadCarriesTheBinding(const HostRow& row, const wchar_t* version, const Result& result);
 };
 
-std::wstring ExtensionOfNew(const HostRow& row, const wchar_t* version)
+std::wstring ExtensionOfNew(const HostRow& row, const wchar_t* version, const State& state)
 {
-    return DefaultExtension(*FindHost(row.name), MajorVersion(version));
+    return DefaultExtension(*FindHost(row.name), MajorVersion(version), state.settings.contains("document.macros"));
 }
 
 // The steps of a save from the command to the upload, as the save dialogs take them.
@@ -126,7 +126,7 @@ std::wstring Matrix::FileOf(const State& state, const std::wstring& extension)
 void Matrix::OpenDocument(const HostRow& row, const wchar_t* version, const State& state)
 {
     Start(row.option, version);
-    const std::wstring extension = ExtensionOfNew(row, version);
+    const std::wstring extension = ExtensionOfNew(row, version, state);
     const bool isFile = state.document != Document::None && state.document != Document::New;
     const std::wstring path = isFile ? FileOf(state, extension) : L"";
     for (const auto& [name, value] : state.settings)
@@ -173,7 +173,7 @@ void Matrix::Play(const HostRow& row, const wchar_t* version, const State& state
     if (row.bit != kOutlook && IsDocumentOpen(App())) ExpectBindingIsWholeOrAsItWas();
     if (!result.uploaded) return;
     std::wstring name = state.uploadName;
-    if (name.ends_with(L'*')) name.replace(name.size() - 1, 1, ExtensionOfNew(row, version));
+    if (name.ends_with(L'*')) name.replace(name.size() - 1, 1, ExtensionOfNew(row, version, state));
     EXPECT_EQ(result.uploadName, name);
     ExpectUploadCarriesTheBinding(row, version, result);
 }

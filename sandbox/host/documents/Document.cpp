@@ -84,7 +84,7 @@ void Document::Save(SaveFault fault)
 {
     if (m_readOnly) Refuse(m_host.kind, Refusal::ReadOnly, m_fullName);
     CheckEditable();
-    if (m_saved && FactsOf(m_host.kind).savesOnlyChanges) return;
+    if (fault == SaveFault::Refused || (m_saved && FactsOf(m_host.kind).savesOnlyChanges)) return;
     m_hold = FileHandle{};
     Write(m_file, *m_format, fault);
     if (fault != SaveFault::Growing) m_hold = HoldOpenDocument(m_file, m_readOnly); // its completion still has to write

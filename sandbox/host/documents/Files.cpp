@@ -33,6 +33,7 @@ constexpr FaultRow kFaults[] = {
     {SaveFault::Denied, "denied", ERROR_ACCESS_DENIED},
     {SaveFault::Slow, "slow", ERROR_SUCCESS},
     {SaveFault::Gone, "gone", ERROR_SUCCESS},
+    {SaveFault::Refused, "refused", ERROR_SUCCESS},
     {SaveFault::Held, "held", ERROR_SUCCESS},
 };
 

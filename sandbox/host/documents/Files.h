@@ -48,6 +48,7 @@ enum class SaveFault
     Denied,  // the folder may not be written to
     Slow,    // it takes three seconds
     Gone,    // right after the save the file is deleted
+    Refused, // nothing is written, and nobody says so
     Held,    // right after the save another program opens it for itself alone
 };
 

@@ -140,6 +140,12 @@ Value DocumentObject::Final(const Arguments& arguments)
     return {};
 }
 
+Value DocumentObject::GetHasVBProject(const Arguments&)
+{
+    CheckOpen();
+    return Value::OfBoolean(m_session.Settings().Setting("document.macros") == "true");
+}
+
 Value DocumentObject::GetBuiltIn(const Arguments& arguments)
 {
     CheckOpen();

@@ -49,6 +49,7 @@ public:
     Value Saved(const Arguments& arguments);
     Value SavedState(const Arguments& arguments);
     Value Final(const Arguments& arguments);
+    Value GetHasVBProject(const Arguments&);
     Value GetBuiltIn(const Arguments& arguments);
     Value GetCustom(const Arguments& arguments);
     Value GetWindows(const Arguments&);

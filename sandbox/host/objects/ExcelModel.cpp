@@ -67,6 +67,7 @@ constexpr Member kWorkbook[] = {
     {11, L"SaveCopyAs", kMethod, WhenReady<&D::DoSaveCopyAsItIs>},
     {12, L"Close", kMethod, WhenReady<&D::DoCloseSaving>},
     {13, L"Final", kGetPut, WhenReady<&D::Final>},
+    {14, L"HasVBProject", kGet, WhenReady<&D::GetHasVBProject>},
 };
 
 constexpr Member kWindow[] = {

@@ -50,6 +50,7 @@ constexpr Member kPresentation[] = {
     {2037, L"SaveCopyAs", kMethod, Answer<&D::DoSaveCopyAs>},
     {2039, L"Close", kMethod, Answer<&D::DoClose>},
     {2080, L"Final", kGetPut, Answer<&D::Final>},
+    {2081, L"HasVBProject", kGet, Answer<&D::GetHasVBProject>},
 };
 
 constexpr Member kWindow[] = {

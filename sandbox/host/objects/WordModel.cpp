@@ -48,6 +48,7 @@ constexpr Member kDocument[] = {
     {10, L"SaveAs", kMethod, Answer<&D::DoSaveAs>},
     {11, L"Close", kMethod, Answer<&D::DoCloseSaving>},
     {12, L"Final", kGetPut, Answer<&D::Final>},
+    {13, L"HasVBProject", kGet, Answer<&D::GetHasVBProject>},
 };
 
 constexpr Member kWindow[] = {
