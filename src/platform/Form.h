@@ -80,6 +80,8 @@ protected:
     // True for a form that is unloaded while what it opened lives on, and so must not own it.
     [[nodiscard]] virtual bool IsPassing() const noexcept { return false; }
 
+    // Shown and neither hidden by its user nor unloaded since; a window goes out of sight with its owner, too.
+    [[nodiscard]] bool IsOpen() const noexcept { return m_shown; }
     [[nodiscard]] HWND Control(int control) const noexcept { return ::GetDlgItem(m_window, control); }
     [[nodiscard]] std::wstring Text(int control) const;
     // A text that its control cannot show whole ends in an ellipsis and has a tooltip.

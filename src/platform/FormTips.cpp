@@ -2,6 +2,7 @@
 
 #include "platform/AccessibleName.h"
 #include "platform/FormLayout.h"
+#include "platform/FormWindow.h"
 #include "platform/ShownText.h"
 #include "platform/TextRuler.h"
 
@@ -95,10 +96,7 @@ TTTOOLINFOW ToolOf(HWND form, HWND control) noexcept
 
 } // namespace
 
-FormTips::FormTips(HWND form) noexcept
-    : m_form{form}, m_tooltip{::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
-                                                WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT, CW_USEDEFAULT,
-                                                CW_USEDEFAULT, CW_USEDEFAULT, form, nullptr, nullptr, nullptr)}
+FormTips::FormTips(HWND form) noexcept : m_form{form}, m_tooltip{CreateTooltipWindow(form)}
 {
     const TextRuler ruler{form};
     const int width = kTipLettersALine * static_cast<int>(ruler.Measure(L"0", DT_SINGLELINE, 0).cx);

@@ -115,6 +115,14 @@ HWND CreateFormWindow(const wchar_t* name, int templateId, HWND owner, DLGPROC p
     return window;
 }
 
+HWND CreateTooltipWindow(HWND form) noexcept
+{
+    const LibraryManifest manifest;
+    return ::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
+                             CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, form, nullptr, nullptr,
+                             nullptr);
+}
+
 void ForgetFormClass(const wchar_t* name) noexcept { ::UnregisterClassW(name, Library::Module()); }
 
 Box WorkAreaFor(HWND window) noexcept

@@ -13,6 +13,9 @@ namespace corvane
 [[nodiscard]] HWND CreateFormWindow(const wchar_t* name, int templateId, HWND owner, DLGPROC procedure,
                                     LPARAM argument);
 
+// Makes the form's tooltip window, which goes with the form; null when the system cannot.
+[[nodiscard]] HWND CreateTooltipWindow(HWND form) noexcept;
+
 // Takes back the window class once its last window is gone.
 void ForgetFormClass(const wchar_t* name) noexcept;
 

@@ -63,10 +63,12 @@ void frmSaveTo::ShowFilter(bool forced)
     m_filter->Forced = forced;
     if (forced) ShowMessage(EntryLimitMessage(), kStylePlain);
     m_filter->Load(); // asks the server, and the user may leave meanwhile
+    if (IsWanted() && m_filter->LoadFailure()) ReportError(*m_filter->LoadFailure());
     if (IsWanted()) m_filter->ShowModal();
     m_filter->Unload();
     const FilterOutcome outcome = m_filter->Outcome();
     FilterChanged = outcome.changed;
+    m_filterPending = m_filterPending || FilterChanged;
     FilterActive = outcome.active;
     FilterCanceled = outcome.canceled;
     FilterProjectSearchName = m_filter->ProjectSearchName;
@@ -78,8 +80,16 @@ void frmSaveTo::LoadIconSet(TreeImages& images, const std::wstring& iconSet) con
 {
     const ProcedureScope scope{L"frmSaveTo.LoadIconSet"};
     // A missing icon is no error: its nodes show the plain picture.
-    for (const wchar_t* kind : {L"project", L"stage", L"gate"})
-        Ignoring([&] { LoadIcon(images, m_currentServer, iconSet, kind); });
+    for (const wchar_t* kind : {L"project", L"stage", L"gate"}) {
+        if (IsWanted()) Ignoring([&] { LoadIcon(images, m_currentServer, iconSet, kind); });
+    }
+}
+
+void frmSaveTo::ShowTree(bool shown)
+{
+    Show(TreeView1, shown);
+    Show(txtTree, !shown);
+    PutBehindLabel(shown ? TreeView1 : txtTree, lblTree);
 }
 
 void frmSaveTo::LoadTree(const std::wstring& server)
@@ -89,14 +99,13 @@ void frmSaveTo::LoadTree(const std::wstring& server)
     m_currentServer = server;
     m_tree->Clear();
     const auto projects = QueryTree().Select(L"//project");
-    Show(TreeView1, !projects.empty());
-    Show(txtTree, projects.empty());
-    PutBehindLabel(projects.empty() ? txtTree : TreeView1, lblTree);
+    ShowTree(!projects.empty());
     SetText(txtTree, m_captions.emptyText);
     const TreeTarget preselected{ProjectID, DeliverableID, ActivityID, RelatedDocID, GateDocumentID};
     m_tree->AddProjects(projects, preselected, [this] { return IsWanted(); });
     ShowTreeLabel();
     m_treeLoaded = true;
+    m_filterPending = false;
 }
 
 } // namespace corvane

@@ -32,6 +32,7 @@ public:
     std::int32_t lActivityID = 0;
     std::int32_t lRelatedDocID = 0;
     std::int32_t lGateDocID = 0;
+    std::wstring sDocument; // the document that the command was given for (ActiveDocumentName)
     LateBound oApplication;
     LateBound oOutlookInspector;
 

@@ -30,8 +30,7 @@ void frmFilter::AddClass(const std::wstring& name, std::int32_t classId)
 void frmFilter::FillClassList()
 {
     AddClass(L"[All]", 0);
-    // A list that cannot be fetched is reported and leaves "[All]".
-    Reporting([this] {
+    m_loadFailure = Catch([this] {
         const XmlDocument classes = QueryXml(Server, Operations::kGetClasses, {false, true});
         for (const XmlNode& row : classes.Select(L"//z:row"))
             AddClass(row.Text(L"DisplayName"), ToLongSafe(row.Text(L"ClassID")));

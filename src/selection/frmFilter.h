@@ -1,9 +1,11 @@
 // The window in which the user narrows the tree by project class and name.
 #pragma once
 
+#include "platform/Error.h"
 #include "platform/Form.h"
 #include "selection/FilterState.h"
 
+#include <optional>
 #include <string>
 
 namespace corvane
@@ -21,6 +23,8 @@ public:
     std::int32_t ClassID = 0;
     bool Forced = false;
 
+    // Why the list of classes could not be fetched when the window was loaded; it then holds "[All]" only.
+    [[nodiscard]] const std::optional<Error>& LoadFailure() const noexcept { return m_loadFailure; }
     [[nodiscard]] const FilterOutcome& Outcome() const noexcept { return m_outcome; }
 
 private:
@@ -38,6 +42,7 @@ private:
 
     AppliedFilter m_lastApplied;
     FilterOutcome m_outcome;
+    std::optional<Error> m_loadFailure;
 };
 
 } // namespace corvane

@@ -95,7 +95,9 @@ void frmSaveTo::Form_Activate()
 void frmSaveTo::cmbServerURL_Click()
 {
     const HWND combo = Control(cmbServerURL);
-    SetText(cmbServerURL, ComboEntry(combo, static_cast<int>(::SendMessageW(combo, CB_GETCURSEL, 0, 0))));
+    const auto index = static_cast<int>(::SendMessageW(combo, CB_GETCURSEL, 0, 0));
+    if (index == CB_ERR) return;
+    SetText(cmbServerURL, ComboEntry(combo, index));
     // On the way through the list by keys nothing is chosen yet; Enter goes.
     for (const int key : {VK_UP, VK_DOWN, VK_PRIOR, VK_NEXT, VK_HOME, VK_END}) {
         if (::GetKeyState(key) < 0) return;
@@ -136,6 +138,7 @@ void frmSaveTo::Go()
     SetText(cmbServerURL, server);
     if (server != m_currentServer) { // another server's targets are none of this one's
         m_tree->Clear();
+        ShowTree(true);
         m_treeLoaded = false;
     }
     m_currentServer = server;
@@ -152,7 +155,7 @@ void frmSaveTo::cmdFilter_Click()
     if (!IsWanted()) return;
     Work([this] {
         ShowFilter(false);
-        if (IsWanted() && CheckEntryCount() && !FilterCanceled && FilterChanged) LoadTree(Text(cmbServerURL));
+        if (IsWanted() && CheckEntryCount() && !FilterCanceled && m_filterPending) LoadTree(Text(cmbServerURL));
     });
 }
 

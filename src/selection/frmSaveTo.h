@@ -59,7 +59,7 @@ private:
     void FillServers();
     void ShowTreeLabel();
     // False once the user has left the window, which may be in the middle of a wait for the server.
-    [[nodiscard]] bool IsWanted() const noexcept { return ::IsWindowVisible(Window()) != FALSE; }
+    [[nodiscard]] bool IsWanted() const noexcept { return IsOpen(); }
     // Does what waits for the server, with the controls out of use; tells of an error. True when it was done and the
     // window is still wanted.
     bool Work(const std::function<void()>& work);
@@ -71,6 +71,8 @@ private:
     void LoadTree(const std::wstring& server);
     void LoadIconSet(TreeImages& images, const std::wstring& iconSet) const;
     void ShowFilter(bool forced);
+    // The tree, or in its place the text that says that there is nothing.
+    void ShowTree(bool shown);
     void TakeTarget(const TreeTarget& target);
 
     std::optional<CMRUServers> m_servers;
@@ -78,6 +80,7 @@ private:
     std::unique_ptr<frmFilter> m_filter; // made at its first use and kept with its choices
     TreeCaptions m_captions;
     std::wstring m_currentServer; // whose tree is loaded
+    bool m_filterPending = false; // the filter has changed since the tree was loaded
     bool m_treeLoaded = false;
     bool m_activated = false;
 };
