@@ -29,7 +29,8 @@ HWND WindowOf(const LateBound& application) noexcept
 
 } // namespace
 
-std::shared_ptr<CAddInMenus> g_oAddInMenus;
+// Never destroyed: at the end of a process without a disconnection the host's objects may already be gone.
+std::shared_ptr<CAddInMenus>& g_oAddInMenus = *new std::shared_ptr<CAddInMenus>;
 
 std::shared_ptr<CAddInMenus> AddInMenus()
 {
@@ -144,6 +145,7 @@ void CAddInMenus::Save(const SaveCommand& command, frmBusy& busy)
         return;
     }
     busy.oOutlookInspector = OutlookInspectorOf(m_oApplication);
+    busy.sDocument = ActiveDocumentName(m_oApplication);
     ReadBindingOfDocument();
     if (!command.skipsTree(m_binding)) PickTarget(command);
     if (!command.hasTarget(m_binding)) return;

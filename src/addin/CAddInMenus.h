@@ -75,7 +75,7 @@ private:
 
 // The process's commands; made at a start-up connection, released at disconnection. A running command holds its own
 // reference, so that a disconnection inside it does no harm.
-extern std::shared_ptr<CAddInMenus> g_oAddInMenus;
+extern std::shared_ptr<CAddInMenus>& g_oAddInMenus;
 
 // The process's commands, or Error number 91 while there are none.
 [[nodiscard]] std::shared_ptr<CAddInMenus> AddInMenus();

@@ -25,6 +25,7 @@ void Prepare(SaveDialog& dialog, const frmBusy& busy)
     dialog.ProjectID = busy.lProjectID;
     dialog.oApplication = busy.oApplication;
     dialog.OutlookInspector = busy.oOutlookInspector;
+    dialog.Document = busy.sDocument;
 }
 
 // An id of the target: where the dialog takes it and where the busy window keeps it.

@@ -49,7 +49,6 @@ void SaveDialog::Form_Load()
 void SaveDialog::LoadInputs()
 {
     SetStatus(StatusBar1, L"Ready");
-    m_document = ActiveDocumentName(oApplication);
     m_terms.corvane = CustomName(L"Corvane");
     m_terms.deliverable = CustomName(L"Deliverable");
     m_terms.activity = CustomName(L"Activity");
@@ -75,6 +74,7 @@ void SaveDialog::LoadInputs()
 void SaveDialog::ReloadTarget()
 {
     // Until the rules have decided about this target, nothing is saved to it and no other is chosen.
+    m_loaded = false;
     m_couldSave = ::IsWindowEnabled(Control(cmdSave)) != FALSE;
     DisableSave();
     Enable(cmdChange, false);
@@ -82,6 +82,7 @@ void SaveDialog::ReloadTarget()
     const auto failure = Catch([this] { LoadTarget(); });
     SetHourglass(false);
     Enable(cmdChange, true);
+    m_loaded = !failure;
     if (failure) LeaveSave();
     if (failure && !m_left) throw *failure;
 }
@@ -136,6 +137,18 @@ void SaveDialog::SetControlsEnabled(bool enabled)
     EnableCloseButton(Window(), enabled);
 }
 
+SaveDialog::Entries SaveDialog::ReadEntries() const
+{
+    return {.name = Trim(Text(txtName)),
+            .author = Trim(Text(txtAuthor)),
+            .comments = Trim(Text(txtComments)),
+            .notes = Trim(Text(txtNotes)),
+            .description = Trim(Text(txtDescription)),
+            .category = Trim(Text(cboGroup)),
+            .publish = IsChecked(chkPublish),
+            .complete = IsChecked(chkComplete)};
+}
+
 void SaveDialog::BindDocument() const
 {
     if (!CanCarryProperties(oApplication)) return;
@@ -167,7 +180,7 @@ void SaveDialog::cmdChange_Click()
     bool changed = tree.ServerURL != ServerURL;
     for (const auto& [own, inTree] : ids)
         changed = changed || tree.*inTree != own;
-    if (!changed) return;
+    if (!changed && m_loaded) return;
     ServerURL = tree.ServerURL;
     ProjectID = tree.ProjectID;
     for (const auto& [own, inTree] : ids)

@@ -49,6 +49,7 @@ public:
     bool AutomaticallySetPublishCheckbox = false;
     LateBound oApplication;
     LateBound OutlookInspector; // where the host is Outlook
+    std::wstring Document;      // what tells the document to be saved from the others (ActiveDocumentName)
 
 protected:
     // An id of the dialog's target and where the tree keeps it.
@@ -56,6 +57,18 @@ protected:
     {
         std::int32_t& own;
         std::int32_t frmSaveTo::*inTree;
+    };
+    // What the user had entered when the save began; texts are trimmed, and empty where the dialog has no such control.
+    struct Entries
+    {
+        std::wstring name;
+        std::wstring author;
+        std::wstring comments;
+        std::wstring notes;
+        std::wstring description;
+        std::wstring category;
+        bool publish = false;
+        bool complete = false;
     };
     // What a press on a save button comes to before anything happens.
     enum class SaveStart
@@ -86,8 +99,9 @@ protected:
     [[nodiscard]] virtual std::wstring Record(const std::wstring& uploadName) = 0;
     // After a recorded version that was not cancelled.
     virtual void AfterRecord(const std::wstring& /*reply*/) {}
-    // What the notification mail tells; asks the server for the latest version.
-    [[nodiscard]] virtual NotificationFacts Notification() const = 0;
+    // What the notification mail tells of the target, and what the server knows of its latest version.
+    [[nodiscard]] virtual NotificationFacts Notified() const = 0;
+    virtual void AddLatestVersion(NotificationFacts& facts) const = 0;
 
     // Shows a message of the loading, unless the user has left the dialog meanwhile.
     void Tell(const std::wstring& text, UINT style) const;
@@ -100,12 +114,15 @@ protected:
     void LeaveSave() const noexcept;
     // Puts the customer's word for the target's type into the caption and the line above the buttons.
     void ShowTypeCaptions() const;
+    // False once the host's programs or its user have opened or activated another document than the dialog's.
+    [[nodiscard]] bool IsDocumentActive() const;
     // Writes the binding into the document and makes the next save write it.
     void BindDocument() const;
     // The facts that every notification of this dialog shares.
     [[nodiscard]] NotificationFacts NotificationOf(NotifiedKind kind, std::int32_t targetId,
                                                    std::wstring targetName) const;
 
+    [[nodiscard]] const Entries& Entered() const noexcept { return m_entered; }
     [[nodiscard]] UploadTerms& Terms() noexcept { return m_terms; }
     [[nodiscard]] const UploadTerms& Terms() const noexcept { return m_terms; }
 
@@ -125,6 +142,7 @@ private:
     void MultiLine_GotFocus();
     void MultiLine_LostFocus();
 
+    [[nodiscard]] Entries ReadEntries() const;
     void LoadInputs();
     void ReloadTarget();
     void SetControlsEnabled(bool enabled);
@@ -132,12 +150,15 @@ private:
     // Runs the save from its question to the hidden dialog. True when the version was recorded and not cancelled.
     bool Save();
     bool UploadAndRecord();
+    // Tells the user when another document is active; then false.
+    [[nodiscard]] bool RequireDocument() const;
     // Tells the user why the save ended.
     void ShowError(const Error& error) const;
 
     SaveDialogKind m_kind;
     UploadTerms m_terms;
-    std::wstring m_document;  // the name of the document that the dialog saves, as it is between two saves
+    Entries m_entered;
+    bool m_loaded = false;    // the target, with whatever outcome; a save would record what was never read
     bool m_inMacro = false;   // the document's before a save; it may serve the dialog, whose controls are still in use
     bool m_left = false;      // by Cancel, perhaps in the middle of a wait for the server
     bool m_couldSave = false; // before the target was loaded

@@ -35,19 +35,18 @@ private:
 bool SaveDialog::Save()
 {
     if (m_inMacro) return false;
-    // The host's programs may open or activate another one while the dialog waits for its user.
-    if (ActiveDocumentName(oApplication) != m_document) {
-        ShowMessage(L"Another document is active now. Please activate the one that you want to save.",
-                    kStyleExclamation);
+    if (!RequireDocument()) return false;
+    if (!m_loaded && !ServerURL.empty()) { // the user is to see first what is to be saved
+        ReloadTarget();
         return false;
     }
+    m_entered = ReadEntries(); // the window may go while the save waits
     const SaveStart start = BeginSave();
     if (start == SaveStart::Hide) Hide();
     if (start != SaveStart::Go) return false;
     bool saved = false;
     const int focused = FocusedControl();
     const auto failure = Catch([&] { saved = UploadAndRecord(); });
-    m_document = ActiveDocumentName(oApplication); // a new one has got a file
     if (failure) ShowError(*failure);
     if (saved) Hide(); // first, since a control in use again could start another save
     SetStatus(StatusBar1, L"Ready");
@@ -57,27 +56,39 @@ bool SaveDialog::Save()
     return saved;
 }
 
+bool SaveDialog::IsDocumentActive() const { return ActiveDocumentName(oApplication) == Document; }
+
+bool SaveDialog::RequireDocument() const
+{
+    if (IsDocumentActive()) return true;
+    ShowMessage(L"Another document is active now. Please activate the one that you want to save.", kStyleExclamation);
+    return false;
+}
+
 bool SaveDialog::UploadAndRecord()
 {
     const ProcedureScope scope{L"SaveDialog.UploadAndRecord"};
     if (m_clientEvents) {
         const Flagged inMacro{m_inMacro};
         RunBeforeSaveEvent(oApplication);
+        // It may have saved the document under another name.
+        if (!HasOpenDocument(oApplication, Document)) Document = ActiveDocumentName(oApplication);
     }
     SetStatus(StatusBar1, L"Contacting the server...");
     SetControlsEnabled(false);
     SetHourglass(true);
-    if (!MaySave()) return false;
+    if (!MaySave() || !RequireDocument()) return false;
     BindDocument();
     const std::wstring title = DocumentTitle(oApplication, OutlookInspector);
     const SavedDocument file = HasTarget() ? SaveDocumentToDisk(oApplication, OutlookInspector) : SavedDocument{};
+    Document = ActiveDocumentName(oApplication); // a new one has got a file
     const std::wstring uploadName = UploadNameOf(title, file.path);
     ExecuteASPWSUploadFile(ServerURL, file.path, uploadName);
 
     const std::wstring reply = HasTarget() ? Record(uploadName) : std::wstring{};
     if (ProcessSaveResult(reply) == L"CANCEL") return false;
     AfterRecord(reply);
-    if (m_clientEvents) RunAfterSaveEvent(oApplication);
+    if (m_clientEvents && IsDocumentActive()) RunAfterSaveEvent(oApplication);
     SetStatus(StatusBar1, L"Save Complete");
     PumpFor(kCompletePause);
     return true;
@@ -89,8 +100,8 @@ void SaveDialog::cmdSaveAndSend_Click()
 {
     if (!Save()) return;
     // The version stands whatever becomes of the mail: an error's number refuses nothing any more.
-    const auto failure =
-        Catch([this] { DisplayNotification(ProjectID, ServerURL, [this] { return Notification(); }); });
+    const auto failure = Catch(
+        [this] { DisplayNotification(Notified(), [this](NotificationFacts& facts) { AddLatestVersion(facts); }); });
     if (failure && failure->Number() != kAutomationDeclined) ReportError(*failure);
 }
 

@@ -52,20 +52,19 @@ SaveDialog::SaveStart frmSaveAssignment::BeginSave()
 
 std::wstring frmSaveAssignment::Record(const std::wstring& uploadName)
 {
-    if (IsChecked(chkComplete)) m_facts.statusCode = kStatusCompleted;
+    if (Entered().complete) m_facts.statusCode = kStatusCompleted;
     return QueryText(ServerURL, IsActivity() ? Operations::kUploadActivity : Operations::kUploadDeliverable,
                      {oApplication.Text(L"Name"), ProjectID, IsActivity() ? ActivityID : DeliverableID, uploadName,
-                      Trim(Text(txtAuthor)), Trim(Text(txtComments)), IsChecked(chkPublish) ? 1 : 0, m_facts.statusCode,
-                      Trim(Text(txtNotes))});
+                      Entered().author, Entered().comments, Entered().publish ? 1 : 0, m_facts.statusCode,
+                      Entered().notes});
 }
 
-NotificationFacts frmSaveAssignment::Notification() const
+NotificationFacts frmSaveAssignment::Notified() const
 {
     NotificationFacts facts = IsActivity()
                                   ? NotificationOf(NotifiedKind::Activity, ActivityID, Text(txtActivity))
                                   : NotificationOf(NotifiedKind::Deliverable, DeliverableID, Text(txtDeliverable));
     facts.term = IsActivity() ? Terms().activity : Terms().deliverable;
-    GetLatestVersionInfo(facts);
     return facts;
 }
 

@@ -24,7 +24,8 @@ private:
     [[nodiscard]] SaveStart BeginSave() override;
     [[nodiscard]] DocumentBinding Binding() const override;
     [[nodiscard]] std::wstring Record(const std::wstring& uploadName) override;
-    [[nodiscard]] NotificationFacts Notification() const override;
+    [[nodiscard]] NotificationFacts Notified() const override;
+    void AddLatestVersion(NotificationFacts& facts) const override { GetLatestVersionInfo(facts); }
 
     [[nodiscard]] bool IsActivity() const noexcept { return ActivityID >= 1; }
     void LoadDeliverable();

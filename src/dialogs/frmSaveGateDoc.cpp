@@ -93,17 +93,16 @@ DocumentBinding frmSaveGateDoc::Binding() const
 std::wstring frmSaveGateDoc::Record(const std::wstring& uploadName)
 {
     return QueryText(ServerURL, Operations::kUploadGateDocument,
-                     {oApplication.Text(L"Name"), ProjectID, GateDocumentID, uploadName, Trim(Text(txtAuthor)),
-                      Trim(Text(txtComments)), IsChecked(chkPublish) ? 1 : 0, 0, m_statusComment});
+                     {oApplication.Text(L"Name"), ProjectID, GateDocumentID, uploadName, Entered().author,
+                      Entered().comments, Entered().publish ? 1 : 0, 0, m_statusComment});
 }
 
-NotificationFacts frmSaveGateDoc::Notification() const
+NotificationFacts frmSaveGateDoc::Notified() const
 {
     NotificationFacts facts = NotificationOf(NotifiedKind::GateDocument, GateDocumentID, Text(txtGateDocument));
     facts.term = Terms().gateDocument;
     facts.gateTerm = Terms().gate;
     facts.gateName = Text(txtGate);
-    GetLatestGateVersionInfo(facts);
     return facts;
 }
 

@@ -23,7 +23,8 @@ private:
     [[nodiscard]] bool HasTarget() const override { return GateDocumentID > 0; }
     [[nodiscard]] DocumentBinding Binding() const override;
     [[nodiscard]] std::wstring Record(const std::wstring& uploadName) override;
-    [[nodiscard]] NotificationFacts Notification() const override;
+    [[nodiscard]] NotificationFacts Notified() const override;
+    void AddLatestVersion(NotificationFacts& facts) const override { GetLatestGateVersionInfo(facts); }
 
     void LoadRights();
     void LoadGateDocument();

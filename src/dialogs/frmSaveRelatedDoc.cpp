@@ -80,7 +80,7 @@ bool frmSaveRelatedDoc::LoadExistingDocument()
     if (ToBooleanSafe(document.Text(L"ProjectClosed"))) return false;
     SetText(txtProject, document.Text(L"ProjectName"));
     SetText(txtName, document.Text(L"Name"));
-    SetText(txtDescription, ReplaceAll(document.Text(L"Description"), L"\n", L"\r\n"));
+    SetText(txtDescription, ReplaceAll(ReplaceAll(document.Text(L"Description"), L"\r\n", L"\n"), L"\n", L"\r\n"));
     SetText(txtAuthor, document.Text(L"Author"));
     Check(chkPublish, ToBooleanSafe(document.Text(L"Published")));
     FillGroups();
@@ -117,9 +117,7 @@ std::wstring frmSaveRelatedDoc::AuthorOfDocument() const
 
 SaveDialog::SaveStart frmSaveRelatedDoc::BeginSave()
 {
-    m_entered = {Trim(Text(txtName)), Trim(Text(txtAuthor)), Trim(Text(cboGroup)), Trim(Text(txtDescription)),
-                 IsChecked(chkPublish)};
-    if (!m_entered.name.empty()) return SaveStart::Go;
+    if (!Entered().name.empty()) return SaveStart::Go;
     ShowMessage(L"Name is required.", kStyleCritical);
     SetFocusTo(txtName);
     return SaveStart::StayOpen;
@@ -133,8 +131,8 @@ DocumentBinding frmSaveRelatedDoc::Binding() const
 std::wstring frmSaveRelatedDoc::Record(const std::wstring& uploadName)
 {
     return QueryText(ServerURL, IsNew() ? Operations::kCreateRelatedFile : Operations::kUploadRelatedFile,
-                     {IsNew() ? ProjectID : RelatedDocID, uploadName, m_entered.name, m_entered.author,
-                      m_entered.category, m_entered.description, m_entered.publish ? 1 : 0});
+                     {IsNew() ? ProjectID : RelatedDocID, uploadName, Entered().name, Entered().author,
+                      Entered().category, Entered().description, Entered().publish ? 1 : 0});
 }
 
 void frmSaveRelatedDoc::AfterRecord(const std::wstring& reply)
@@ -142,16 +140,21 @@ void frmSaveRelatedDoc::AfterRecord(const std::wstring& reply)
     if (!IsNew() || reply.empty()) return;
     // The file is to carry the id that the server gave the new document.
     RelatedDocID = ToLongSafe(reply);
+    if (!IsDocumentActive()) {
+        ShowMessage(L"The document was saved. But another one is active now, so the number of the new related document "
+                    L"was not written into it.",
+                    kStyleExclamation);
+        return;
+    }
     BindDocument();
     static_cast<void>(SaveDocumentToDisk(oApplication, OutlookInspector));
 }
 
-NotificationFacts frmSaveRelatedDoc::Notification() const
+NotificationFacts frmSaveRelatedDoc::Notified() const
 {
-    NotificationFacts facts = NotificationOf(NotifiedKind::RelatedDocument, RelatedDocID, m_entered.name);
+    NotificationFacts facts = NotificationOf(NotifiedKind::RelatedDocument, RelatedDocID, Entered().name);
     facts.term = L"Related Document";
-    facts.author = m_entered.author;
-    GetRelatedVersionInfo(facts);
+    facts.author = Entered().author;
     return facts;
 }
 

@@ -24,7 +24,8 @@ private:
     [[nodiscard]] DocumentBinding Binding() const override;
     [[nodiscard]] std::wstring Record(const std::wstring& uploadName) override;
     void AfterRecord(const std::wstring& reply) override;
-    [[nodiscard]] NotificationFacts Notification() const override;
+    [[nodiscard]] NotificationFacts Notified() const override;
+    void AddLatestVersion(NotificationFacts& facts) const override { GetRelatedVersionInfo(facts); }
 
     [[nodiscard]] bool IsNew() const noexcept { return RelatedDocID < 1; }
     // Fill the dialog from the server; false when the project is closed.
@@ -34,17 +35,6 @@ private:
     void SelectGroup(const std::wstring& group);
     [[nodiscard]] std::wstring AuthorOfDocument() const;
     void GetRelatedVersionInfo(NotificationFacts& facts) const;
-
-    // What the user had entered when the save began, trimmed.
-    struct Entered
-    {
-        std::wstring name;
-        std::wstring author;
-        std::wstring category;
-        std::wstring description;
-        bool publish = false;
-    };
-    Entered m_entered;
 };
 
 } // namespace corvane

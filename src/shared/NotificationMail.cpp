@@ -30,17 +30,18 @@ std::wstring TeamRecipients(std::int32_t projectId, const std::wstring& server)
     return recipients;
 }
 
-void DisplayNotification(std::int32_t projectId, const std::wstring& server,
-                         const std::function<NotificationFacts()>& facts)
+void DisplayNotification(NotificationFacts facts, const std::function<void(NotificationFacts&)>& addLatestVersion)
 {
     const ProcedureScope scope{L"SharedCode.DisplayNotification"};
     const LateBound outlook = Outlook();
     const LateBound item{outlook.Call(L"CreateItem", kMailItem).Object()};
-    const std::wstring recipients = TeamRecipients(projectId, server);
-    const NotificationFacts notification = facts();
+    const std::wstring recipients = TeamRecipients(facts.projectId, facts.server);
+    addLatestVersion(facts);
     item.Put(L"To", recipients);
-    item.Put(L"Subject", NotificationSubject(notification));
-    item.Put(L"Body", NotificationBody(notification));
+    item.Put(L"Subject", NotificationSubject(facts));
+    item.Put(L"Body", NotificationBody(facts));
+    // A program in the background may not come to the front by itself.
+    ::CoAllowSetForegroundWindow(item.Get(), nullptr);
     item.Call(L"Display");
 }
 
