@@ -174,7 +174,9 @@ bool HasOpenDocument(const LateBound& application, const std::wstring& fullName)
 {
     bool found = false;
     Ignoring([&] {
-        const LateBound documents = application.Object(RequiredHost(application).model.documents);
+        const wchar_t* const collection = RequiredHost(application).model.documents;
+        if (collection == nullptr) return;
+        const LateBound documents = application.Object(collection);
         for (std::int32_t left = documents.Number(L"Count"); left > 0 && !found; --left)
             found = documents.Object(L"Item", left).Text(L"FullName") == fullName;
     });
