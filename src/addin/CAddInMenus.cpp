@@ -163,7 +163,6 @@ void CAddInMenus::Save(const SaveCommand& command, frmBusy& busy)
 void CAddInMenus::ReadBindingOfDocument()
 {
     m_binding = ReadBinding(m_oApplication);
-    m_bProjectReport = ToBooleanSafe(GetCustomProperty(m_oApplication, kProjectReportProperty));
     m_lDocumentKind = ClassifyBoundDocument(m_binding);
 }
 

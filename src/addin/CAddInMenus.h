@@ -69,7 +69,6 @@ private:
 
     // What the last command read from the active document.
     DocumentBinding m_binding;
-    bool m_bProjectReport = false;
     DocumentBindingKind m_lDocumentKind = DocumentBindingKind::Unbound;
 };
 

@@ -30,6 +30,7 @@ struct DocumentBinding
     std::int32_t gateDocumentId = 0;
     std::int32_t excelReportId = 0;
     std::int32_t templateLibraryId = 0;
+    bool projectReport = false; // read only
 };
 
 // A numeric binding property and the id it holds.

@@ -5,6 +5,7 @@
 #include "shared/HostVersion.h"
 #include "support/Conversions.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -105,10 +106,19 @@ void SetBindingProperties(const LateBound& oApplication, const DocumentBinding& 
 
 DocumentBinding ReadBinding(const LateBound& oApplication)
 {
-    DocumentBinding binding;
+    using Binding = DocumentBinding;
+    Binding binding;
+    const auto read = [&](std::int32_t Binding::*id) {
+        const auto* property = std::ranges::find(kBindingProperties, id, &BindingProperty::id);
+        binding.*id = ToLongSafe(GetCustomProperty(oApplication, property->name));
+    };
+    // The interface's order, which is not that of writing.
     binding.server = GetCustomProperty(oApplication, kServerProperty);
-    for (const auto& [name, id] : kBindingProperties)
-        binding.*id = ToLongSafe(GetCustomProperty(oApplication, name));
+    for (const auto id : {&Binding::projectId, &Binding::deliverableId, &Binding::gateDocumentId, &Binding::activityId,
+                          &Binding::relatedFileId, &Binding::excelReportId})
+        read(id);
+    binding.projectReport = ToBooleanSafe(GetCustomProperty(oApplication, kProjectReportProperty));
+    read(&Binding::templateLibraryId);
     return binding;
 }
 
