@@ -1,6 +1,8 @@
 #include "platform/XmlScreening.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
 
 namespace corvane
 {
@@ -40,14 +42,10 @@ bool IsFitToParse(std::wstring_view text) noexcept
     constexpr std::wstring_view kEnds[][2] = {{L"<!--", L"-->"}, {L"<![CDATA[", L"]]>"}, {L"<?", L"?>"}};
     for (auto markup = text.find(L'<'); markup != std::wstring_view::npos; markup = text.find(L'<')) {
         text.remove_prefix(markup);
-        bool dropped = false;
-        for (const auto& [opener, end] : kEnds) {
-            if (!text.starts_with(opener)) continue;
-            if (!Drop(text, opener, end)) return false;
-            dropped = true;
-            break;
-        }
-        if (!dropped && (text.starts_with(L"<!") || !DropTag(text))) return false;
+        const auto* construct = std::ranges::find_if(kEnds, [&](const auto& one) { return text.starts_with(one[0]); });
+        const bool dropped = construct != std::end(kEnds) ? Drop(text, (*construct)[0], (*construct)[1])
+                                                          : !text.starts_with(L"<!") && DropTag(text);
+        if (!dropped) return false;
     }
     return true;
 }
