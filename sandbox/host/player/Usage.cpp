@@ -3,6 +3,8 @@
 #include <windows.h>
 
 #include <cstring>
+#include <cwchar>
+#include <iterator>
 #include <psapi.h>
 
 namespace host
@@ -47,11 +49,19 @@ std::size_t GdiObjects()
     return count;
 }
 
+// Wine's HTTP component hides one such window for each thread that sends, and on a busy machine keeps it for good.
+bool IsOfHttpComponent(HWND window)
+{
+    wchar_t name[64];
+    ::GetClassNameW(window, name, std::size(name));
+    return std::wcscmp(name, L"URL Moniker Notification Window") == 0;
+}
+
 BOOL CALLBACK CountOwn(HWND window, LPARAM count)
 {
     DWORD process = 0;
     ::GetWindowThreadProcessId(window, &process);
-    if (process == ::GetCurrentProcessId()) ++*reinterpret_cast<std::size_t*>(count);
+    if (process == ::GetCurrentProcessId() && !IsOfHttpComponent(window)) ++*reinterpret_cast<std::size_t*>(count);
     return TRUE;
 }
 

@@ -12,7 +12,7 @@ struct Usage
     std::size_t kilobytes = 0; // of memory that no other process shares
     std::size_t handles = 0;   // of the kernel
     std::size_t gdi = 0;       // pens, brushes, fonts, bitmaps ...
-    std::size_t windows = 0;   // with those that are never shown
+    std::size_t windows = 0;   // with those that are never shown, but for the HTTP component's own
 };
 
 // Counts what this process holds now. May take a tenth of a second.
