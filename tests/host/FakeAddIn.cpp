@@ -176,22 +176,8 @@ private:
             ::MessageBoxW(nullptr, text.c_str(), L"Fake", MB_YESNO | MB_ICONQUESTION);
             return {};
         }
-        const FormAnswer answer = ShowFakeForm();
-        if (answer.accepted) SaveBinding(answer);
+        ShowFakeForm();
         return {};
-    }
-
-    void SaveBinding(const FormAnswer& answer)
-    {
-        const Value presentation = CallByName(*m_application.Get(), L"ActivePresentation", DISPATCH_PROPERTYGET);
-        const std::wstring name = CallByName(*presentation.Object(), L"Name", DISPATCH_PROPERTYGET).Text();
-        const Value properties = CallByName(*presentation.Object(), L"CustomDocumentProperties", DISPATCH_PROPERTYGET);
-        CallByName(*properties.Object(), L"Add", DISPATCH_METHOD,
-                   {L"Node", Value::OfBoolean(false), 4L, std::wstring_view{answer.path}});
-        CallByName(*properties.Object(), L"Add", DISPATCH_METHOD,
-                   {L"Length", Value::OfBoolean(false), 1L, answer.length});
-        CallByName(*m_application.Get(), L"Run", DISPATCH_METHOD, {std::wstring_view{name + L"!Fake.BeforeSave"}});
-        CallByName(*presentation.Object(), L"Save", DISPATCH_METHOD);
     }
 
     RibbonSide m_ribbon{*this};

@@ -110,51 +110,6 @@ protected:
 
 constexpr char kOpenForm[] = "new\nsaveas \"${FOLDER}\\plan\"\ncommand OpenForm\nwindow frmSaveTo\n";
 
-TEST_F(PlayTest, WorksOnFormsAsAPersonDoes)
-{
-    ExpectPassed(Play(std::string{kOpenForm} + R"(
-expect caption "Fake form"
-expect cmdOK disabled
-expect StatusBar1 "Ready"
-type cmbServerURL "http://x"
-expect cmbServerURL "http://x"
-press cmdGo
-expect StatusBar1 "Filled"
-select TreeView1 "Apollo/Risk\/Reward"
-expect TreeView1 "Apollo/Risk\/Reward"
-expect cmdOK default
-type txtNotes "one" "two"
-expect StatusBar1 "Noted"
-expect txtNotes "one" "two"
-key Ctrl+A
-expect lblNotes "All"
-type txtName ""
-expect txtName ""
-expect txtName focused
-choose ClassList "[High]"
-expect ClassList "[High]"
-expect StatusBar1 "Classed"
-key Alt+P
-expect chkPublish checked
-check chkPublish off
-expect chkPublish unchecked
-key F1
-expect chkPublish checked
-repainted frmSaveTo
-key Enter
-closed frmSaveTo
-property Node "Risk/Reward"
-property Length "8"
-ran "Fake.BeforeSave"
-expect document "plan.pptx"
-close
-open "${FOLDER}\plan.pptx"
-property Length "8"
-disconnect
-quit
-)"));
-}
-
 TEST_F(PlayTest, PressesRibbonControlsAndAnswersMessages)
 {
     const Outcome outcome =

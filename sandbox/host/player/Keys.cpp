@@ -45,6 +45,7 @@ void HoldKeys(const KeyStroke& stroke, bool down)
     set(VK_LMENU, stroke.alt);
     set(VK_SHIFT, stroke.shift);
     set(VK_LSHIFT, stroke.shift);
+    set(stroke.key, true);
     ::SetKeyboardState(state);
 }
 

@@ -1,0 +1,124 @@
+// What the add-in reads of a host's document, and of the settings beside the library.
+#include "HostTest.h"
+#include "OfferedClass.h"
+
+#include "platform/Files.h"
+#include "shared/ClientEvents.h"
+#include "shared/DocumentProperties.h"
+#include "shared/HostDocument.h"
+#include "support/CCustomNames.h"
+#include "support/Settings.h"
+
+using namespace corvane;
+using namespace std::chrono_literals;
+
+namespace
+{
+
+// A host, its document, their properties and each of these in one; the value of a property is the number of its
+// reading.
+class Readings final : public host::AutomationObject<IDispatch>
+{
+public:
+    Readings() : AutomationObject{L"Readings", IID_IDispatch} {}
+
+    std::vector<std::wstring> names;
+
+    [[nodiscard]] std::span<const host::Member> Members() const override
+    {
+        using host::Answer;
+        static constexpr host::Member kMembers[] = {
+            {1, L"Name", host::kGet, Answer<&Readings::Name>},
+            {2, L"Version", host::kGet, Answer<&Readings::Version>},
+            {3, L"ActivePresentation", host::kGet, Answer<&Readings::Itself>},
+            {4, L"CustomDocumentProperties", host::kGet, Answer<&Readings::Itself>},
+            {5, L"Item", host::kEither, Answer<&Readings::Item>},
+            {6, L"Value", host::kGet, Answer<&Readings::Number>},
+        };
+        return kMembers;
+    }
+
+private:
+    host::Value Name(const host::Arguments&) { return L"Microsoft PowerPoint"; }
+    host::Value Version(const host::Arguments&) { return L"16.0"; }
+    host::Value Itself(const host::Arguments&) { return host::Value{this}; }
+    host::Value Item(const host::Arguments& arguments)
+    {
+        names.push_back(arguments.At(0).Text());
+        return host::Value{this};
+    }
+    host::Value Number(const host::Arguments&) { return static_cast<long>(names.size()); }
+};
+
+TEST(Binding, IsReadInTheOrderOfTheInterface)
+{
+    const Apartment apartment;
+    const auto readings = host::MakeObject<Readings>();
+    const DocumentBinding binding = ReadBinding(LateBound{ComPtr<IDispatch>{readings.Get()}});
+    EXPECT_EQ(readings->names, (std::vector<std::wstring>{
+                                   L"KRX_SYS_Server", L"KRX_SYS_ProjectID", L"KRX_SYS_DeliverableID",
+                                   L"KRX_SYS_GateDocumentID", L"KRX_SYS_ActivityID", L"KRX_SYS_RelatedFileID",
+                                   L"HALVEX_MSExcelReportID", L"KRX_SYS_ProjectReport", L"KRX_SYS_TemplateLibraryID"}));
+    EXPECT_EQ(binding.server, L"1");
+    EXPECT_EQ((std::vector{binding.projectId, binding.deliverableId, binding.gateDocumentId, binding.activityId,
+                           binding.relatedFileId, binding.excelReportId, binding.templateLibraryId}),
+              (std::vector{2, 3, 4, 5, 6, 7, 9}));
+    EXPECT_TRUE(binding.projectReport);
+}
+
+class DocumentSwitch : public host::test::HostTest
+{
+protected:
+    DocumentSwitch()
+    {
+        g_oCustomNames = std::make_unique<CCustomNames>(nullptr);
+        g_oCustomNames->GetAllCustomNames().Set(L"EnableOFFIClientEvents", L"1");
+    }
+    ~DocumentSwitch() override { g_oCustomNames.reset(); }
+
+    // With the document's own switch set to the value, or without one.
+    bool Enabled(const char* hostName, const wchar_t* version, const wchar_t* value)
+    {
+        Start(hostName, version);
+        session->New();
+        const LateBound application{ComPtr<IDispatch>{&session->Application()}};
+        constexpr std::int32_t kText = 4;
+        if (value != nullptr)
+            ActiveDocument(application)
+                .Object(L"CustomDocumentProperties")
+                .Call(L"Add", L"KRX_SYS_DoEvents", false, kText, value);
+        return ClientEventsEnabled(application);
+    }
+
+    Apartment m_apartment;
+};
+
+TEST_F(DocumentSwitch, ComesBeforeTheHostsRule)
+{
+    EXPECT_TRUE(Enabled("powerpoint", L"16.0", nullptr));
+    EXPECT_FALSE(Enabled("powerpoint", L"16.0", L"False"));
+    EXPECT_FALSE(Enabled("powerpoint", L"16.0", L"perhaps"));
+    EXPECT_FALSE(Enabled("word", L"10.0", nullptr));
+    EXPECT_TRUE(Enabled("word", L"10.0", L"True"));
+    g_oCustomNames->GetAllCustomNames().Set(L"EnableOFFIClientEvents", L" 1");
+    EXPECT_FALSE(Enabled("word", L"10.0", L"True"));
+}
+
+TEST(SettingsBesideTheLibrary, GiveTheTimeOutInSecondsAndNoneIsFiveMinutes)
+{
+    const Apartment apartment;
+    const host::test::TemporaryFolder folder;
+    const auto timeoutOf = [&](const std::string& value) {
+        const std::string text = "<settings><setting name='RequestTimeoutSeconds' value='" + value + "'/></settings>";
+        WriteFile(folder.File(L"settings.config"), std::as_bytes(std::span{text}));
+        return Settings::ReadFrom(folder.Path()).requestTimeout;
+    };
+    EXPECT_EQ(Settings::ReadFrom(folder.Path()).requestTimeout, 300s);
+    EXPECT_EQ(timeoutOf("45"), 45s);
+    EXPECT_EQ(timeoutOf("0"), 0s);
+    EXPECT_EQ(timeoutOf("0.5"), 1s);
+    for (const char* unusable : {"-1", "soon", "", "'/><"})
+        EXPECT_EQ(timeoutOf(unusable), 300s) << unusable;
+}
+
+} // namespace
