@@ -57,9 +57,9 @@ void Form::CreateWindowFromTemplate(HWND owner)
 {
     OpenForms().reserve(OpenForms().size() + 1);
     m_window = CreateFormWindow(m_name, m_templateId, owner, &Form::DialogProcedure, reinterpret_cast<LPARAM>(this));
-    m_tips = FormTips{m_window};
     AddDialogWindow(m_window);
     OpenForms().push_back(this);
+    m_tips = FormTips{m_window};
 }
 
 void Form::Load()

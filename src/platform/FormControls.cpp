@@ -1,5 +1,6 @@
 // What forms do with their controls.
 #include "platform/Form.h"
+#include "platform/FormWindow.h"
 
 #include <commctrl.h>
 
@@ -11,13 +12,6 @@ namespace
 constexpr UINT_PTR kSelectAllSubclass = 1;
 constexpr UINT_PTR kTimer = 1;
 constexpr WPARAM kCtrlA = 1; // the character that Ctrl+A types
-
-std::wstring TextOf(HWND window)
-{
-    std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(::GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
 
 LRESULT CALLBACK SelectAllProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR)
 {
@@ -31,13 +25,13 @@ LRESULT CALLBACK SelectAllProcedure(HWND window, UINT message, WPARAM wParam, LP
 
 } // namespace
 
-std::wstring Form::Text(int control) const { return TextOf(Control(control)); }
+std::wstring Form::Text(int control) const { return WindowText(Control(control)); }
 
 void Form::SetText(int control, const std::wstring& text) const { m_tips.SetText(Control(control), text); }
 
 void Form::SetCaption(const std::wstring& text) const noexcept { ::SetWindowTextW(m_window, text.c_str()); }
 
-std::wstring Form::Caption() const { return TextOf(m_window); }
+std::wstring Form::Caption() const { return WindowText(m_window); }
 
 void Form::Enable(int control, bool enabled) const noexcept
 {

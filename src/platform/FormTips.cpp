@@ -8,6 +8,8 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
 namespace corvane
 {
 namespace
@@ -76,6 +78,19 @@ bool Fits(HWND control, TextKind kind, const std::wstring& text)
     return ruler.Measure(text, format, 0).cx + EdgesOf(kind, letter) <= room.right;
 }
 
+// Controls that readers know by the label before them alone; not all readers look there.
+bool IsNamedByLabel(HWND control) noexcept
+{
+    constexpr const wchar_t* kClasses[] = {WC_COMBOBOXW, WC_LISTBOXW, WC_TREEVIEWW, PROGRESS_CLASSW};
+    return std::ranges::any_of(kClasses, [control](const wchar_t* name) { return IsClass(control, name); });
+}
+
+void NameBehind(HWND label, const std::wstring& text) noexcept
+{
+    const HWND control = ::GetWindow(label, GW_HWNDNEXT);
+    if (IsClass(label, WC_STATICW) && IsNamedByLabel(control)) NameForReaders(control, text);
+}
+
 // Labels and frames let the mouse through to the form, which then is what the tooltip watches.
 TTTOOLINFOW ToolOf(HWND form, HWND control) noexcept
 {
@@ -96,11 +111,13 @@ TTTOOLINFOW ToolOf(HWND form, HWND control) noexcept
 
 } // namespace
 
-FormTips::FormTips(HWND form) noexcept : m_form{form}, m_tooltip{CreateTooltipWindow(form)}
+FormTips::FormTips(HWND form) : m_form{form}, m_tooltip{CreateTooltipWindow(form)}
 {
     const TextRuler ruler{form};
     const int width = kTipLettersALine * static_cast<int>(ruler.Measure(L"0", DT_SINGLELINE, 0).cx);
     ::SendMessageW(m_tooltip, TTM_SETMAXTIPWIDTH, 0, width);
+    for (HWND control = ::GetWindow(form, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT))
+        NameBehind(control, WithoutAccessKeys(WindowText(control)));
 }
 
 void FormTips::SetText(HWND control, const std::wstring& text) const
@@ -114,6 +131,7 @@ void FormTips::SetText(HWND control, const std::wstring& text) const
                                                         }).c_str());
     std::wstring whole = kind == TextKind::Shown ? text : WithoutAccessKeys(text);
     TakeBack(control);
+    NameBehind(control, whole);
     if (hasRoom) return;
     if (!drawsAll) NameForReaders(control, whole);
     TTTOOLINFOW tool = ToolOf(m_form, control);
@@ -133,7 +151,10 @@ void FormTips::TakeBack(HWND control) const noexcept
 void FormTips::TakeAllBack() const noexcept
 {
     for (HWND control = ::GetWindow(m_form, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT))
+    {
         TakeBack(control);
+        if (IsNamedByLabel(control)) NameForReaders(control, {});
+    }
 }
 
 void FormTips::FollowControls() const noexcept

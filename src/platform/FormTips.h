@@ -1,5 +1,5 @@
 // Texts for which a control has no room: an ellipsis in the control, the whole text in a tooltip and for screen
-// readers.
+// readers. Lists and the like have the text of their label as their name there.
 #pragma once
 
 #include <windows.h>
@@ -14,7 +14,7 @@ class FormTips
 {
 public:
     FormTips() = default;
-    explicit FormTips(HWND form) noexcept;
+    explicit FormTips(HWND form);
 
     // Puts a text into a control of the form. Labels, buttons, frames and texts that are only shown get a tooltip while
     // they cannot show all of it.

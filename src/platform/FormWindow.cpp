@@ -123,6 +123,13 @@ HWND CreateTooltipWindow(HWND form) noexcept
                              nullptr);
 }
 
+std::wstring WindowText(HWND window)
+{
+    std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(::GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
 void ForgetFormClass(const wchar_t* name) noexcept { ::UnregisterClassW(name, Library::Module()); }
 
 Box WorkAreaFor(HWND window) noexcept

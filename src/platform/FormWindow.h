@@ -5,6 +5,8 @@
 
 #include <windows.h>
 
+#include <string>
+
 namespace corvane
 {
 
@@ -18,6 +20,9 @@ namespace corvane
 
 // Takes back the window class once its last window is gone.
 void ForgetFormClass(const wchar_t* name) noexcept;
+
+// The text of a form or of a control.
+[[nodiscard]] std::wstring WindowText(HWND window);
 
 enum class FormPlace
 {

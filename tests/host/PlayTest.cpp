@@ -184,6 +184,7 @@ TEST_F(PlayTest, SeesWhatIsWrongInALayout)
         {"outside", "fits frmSaveTo", "cmdCancel reaches out of the form"},
         {"leave", "fits frmSaveTo", "the form reaches out of the screen"},
         {"key", "readable frmSaveTo", "lblNotes and chkPublish have the access key p"},
+        {"", "readable frmSaveTo", "ClassList has no name for screen readers"},
         {"", "spoken txtNotes \"Name\"", "its name is \"Notes\""},
         {"", "over frmSaveTo host", "it is not in the middle of its owner"},
     };

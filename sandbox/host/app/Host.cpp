@@ -41,6 +41,7 @@ Host::Host(Options options)
     m_window = std::make_unique<MainWindow>(*this);
     m_session.window = m_window->Handle();
     m_session.onChanged = [this] { m_window->Refresh(); };
+    m_annotations.emplace(m_window->Handle());
     m_mail = std::make_unique<MailWindow>(m_window->Handle());
     m_companions->OnMail([this](const MailFields& mail) { m_mail->Show(mail); });
 }
@@ -76,6 +77,7 @@ bool Host::RunMessages()
     m_session.onChanged = nullptr;
     m_companions->OnMail(nullptr);
     m_mail.reset();
+    m_annotations.reset();
     m_window.reset();
     m_addIns.clear();
     m_companions.reset();

@@ -3,6 +3,7 @@
 #include <atomic>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,7 @@
 #include "app/Companions.h"
 #include "app/UiQueue.h"
 #include "objects/Session.h"
+#include "ui/Annotations.h"
 
 namespace host
 {
@@ -86,6 +88,7 @@ private:
     std::vector<std::unique_ptr<AddIn>> m_addIns;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<MailWindow> m_mail;
+    std::optional<Annotations> m_annotations;
     bool m_loaded = false;
     int m_running = 0;
     std::mutex m_faultsMutex;

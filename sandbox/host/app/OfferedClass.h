@@ -1,9 +1,9 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <string>
 
+#include "app/ClassObject.h"
 #include "automation/AutomationObject.h"
 
 namespace host
@@ -24,15 +24,12 @@ public:
     void RemoveTraces() const;
 
 private:
-    class Factory;
-
     void WriteKey(HKEY root) const;
     void RemoveKey(HKEY root) const;
 
     CLSID m_classId;
     std::wstring m_key;
-    std::unique_ptr<Factory> m_factory;
-    DWORD m_cookie = 0;
+    ClassObject m_class;
 };
 
 } // namespace host

@@ -7,6 +7,8 @@
 namespace host
 {
 
+// Both are for the user-interface thread.
+
 // The name that a screen reader gets for the control.
 [[nodiscard]] std::wstring SpokenName(HWND control);
 

@@ -49,9 +49,12 @@ void Player::LayoutFits(const Step& step)
 
 void Player::Readable(const Step& step)
 {
-    WaitFor([name = Widen(step.At(0))] {
-        const HWND form = FindForm(name);
-        return form ? ReadingProblem(form) : L"no window " + name;
+    WaitFor([&, name = Widen(step.At(0))] {
+        Finding problem = L"no window " + name;
+        OnUi([&] {
+            if (const HWND form = FindForm(name)) problem = ReadingProblem(form);
+        });
+        return problem;
     });
 }
 
@@ -60,7 +63,8 @@ void Player::Spoken(const Step& step)
     WaitFor([&, wanted = Widen(step.At(1))]() -> Finding {
         const HWND control = Control(step.At(0));
         if (!control) return L"no such control in " + m_form;
-        const std::wstring name = SpokenName(control);
+        std::wstring name;
+        OnUi([&] { name = SpokenName(control); });
         return name == wanted ? Finding{} : L"its name is \"" + name + L"\"";
     });
 }

@@ -1,0 +1,112 @@
+#include "ui/Annotations.h"
+
+#include <map>
+#include <string>
+
+#include <commctrl.h>
+
+#include "ui/NamedAccessible.h"
+
+namespace host
+{
+namespace
+{
+
+// The service that annotates windows, its interface, and the property that is the name.
+constexpr CLSID kServiceClass{0xb5f8350b, 0x0548, 0x48b1, {0xa6, 0xee, 0x88, 0xbd, 0x00, 0xb4, 0xa5, 0xe7}};
+constexpr IID kServiceId{0x6e26e776, 0x04f0, 0x495d, {0x80, 0xe4, 0x33, 0x30, 0x35, 0x2e, 0x31, 0x69}};
+constexpr GUID kNameProperty{0x608d3df8, 0x8128, 0x4aa7, {0xa4, 0x28, 0xf5, 0x5e, 0x49, 0x26, 0x72, 0x91}};
+
+constexpr auto kClientObject = static_cast<DWORD>(OBJID_CLIENT);
+
+constexpr UINT_PTR kSubclass = 1;
+
+std::map<HWND, std::wstring>& Names()
+{
+    static std::map<HWND, std::wstring> names;
+    return names;
+}
+
+// Answers for a named window.
+LRESULT CALLBACK NamedProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR)
+{
+    if (message == WM_NCDESTROY) Names().erase(window);
+    const auto name = Names().find(window);
+    if (name == Names().end() || message != WM_GETOBJECT || static_cast<DWORD>(lParam) != kClientObject)
+        return ::DefSubclassProc(window, message, wParam, lParam);
+    ComPtr<IAccessible> own;
+    void** const place = reinterpret_cast<void**>(own.GetAddressOf());
+    if (FAILED(::CreateStdAccessibleObject(window, OBJID_CLIENT, kAccessibleId, place))) return 0;
+    return ::LresultFromObject(kAccessibleId, wParam, MakeObject<NamedAccessible>(own, name->second).Get());
+}
+
+// As much of the system's service as names of windows need. Lives as long as the process; the count is not kept.
+class Service final : public IAccPropServices
+{
+public:
+    STDMETHODIMP QueryInterface(REFIID id, void** object) override
+    {
+        *object = id == IID_IUnknown || id == kServiceId ? this : nullptr;
+        return *object ? S_OK : E_NOINTERFACE;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override { return 2; }
+    STDMETHODIMP_(ULONG) Release() override { return 1; }
+
+    STDMETHODIMP SetHwndPropStr(HWND window, DWORD object, DWORD child, MSAAPROPID property, LPCWSTR text) override
+    {
+        if (object != kClientObject || child != CHILDID_SELF || property != kNameProperty || !text) return E_INVALIDARG;
+        Names()[window] = text;
+        return ::SetWindowSubclass(window, NamedProc, kSubclass, 0) ? S_OK : E_FAIL;
+    }
+    STDMETHODIMP ClearHwndProps(HWND window, DWORD, DWORD, const MSAAPROPID*, int) override
+    {
+        Names().erase(window);
+        return S_OK;
+    }
+
+    STDMETHODIMP SetPropValue(const BYTE*, DWORD, MSAAPROPID, VARIANT) override { return E_NOTIMPL; }
+    STDMETHODIMP SetPropServer(const BYTE*, DWORD, const MSAAPROPID*, int, IAccPropServer*, AnnoScope) override
+    {
+        return E_NOTIMPL;
+    }
+    STDMETHODIMP ClearProps(const BYTE*, DWORD, const MSAAPROPID*, int) override { return E_NOTIMPL; }
+    STDMETHODIMP SetHwndProp(HWND, DWORD, DWORD, MSAAPROPID, VARIANT) override { return E_NOTIMPL; }
+    STDMETHODIMP SetHwndPropServer(HWND, DWORD, DWORD, const MSAAPROPID*, int, IAccPropServer*, AnnoScope) override
+    {
+        return E_NOTIMPL;
+    }
+    STDMETHODIMP ComposeHwndIdentityString(HWND, DWORD, DWORD, BYTE**, DWORD*) override { return E_NOTIMPL; }
+    STDMETHODIMP DecomposeHwndIdentityString(const BYTE*, DWORD, HWND*, DWORD*, DWORD*) override { return E_NOTIMPL; }
+    STDMETHODIMP SetHmenuProp(HMENU, DWORD, MSAAPROPID, VARIANT) override { return E_NOTIMPL; }
+    STDMETHODIMP SetHmenuPropStr(HMENU, DWORD, MSAAPROPID, LPCWSTR) override { return E_NOTIMPL; }
+    STDMETHODIMP SetHmenuPropServer(HMENU, DWORD, const MSAAPROPID*, int, IAccPropServer*, AnnoScope) override
+    {
+        return E_NOTIMPL;
+    }
+    STDMETHODIMP ClearHmenuProps(HMENU, DWORD, const MSAAPROPID*, int) override { return E_NOTIMPL; }
+    STDMETHODIMP ComposeHmenuIdentityString(HMENU, DWORD, BYTE**, DWORD*) override { return E_NOTIMPL; }
+    STDMETHODIMP DecomposeHmenuIdentityString(const BYTE*, DWORD, HMENU*, DWORD*) override { return E_NOTIMPL; }
+};
+
+bool DoesSystemAnnotate(HWND window)
+{
+    ComPtr<IAccPropServices> service;
+    void** const place = reinterpret_cast<void**>(service.GetAddressOf());
+    if (FAILED(::CoCreateInstance(kServiceClass, nullptr, CLSCTX_INPROC_SERVER, kServiceId, place))) return false;
+    if (FAILED(service->SetHwndPropStr(window, kClientObject, CHILDID_SELF, kNameProperty, L""))) return false;
+    service->ClearHwndProps(window, kClientObject, CHILDID_SELF, &kNameProperty, 1);
+    return true;
+}
+
+} // namespace
+
+Annotations::Annotations(HWND window)
+{
+    if (DoesSystemAnnotate(window)) return;
+    m_service.emplace(kServiceClass, [](REFIID id, void** object) {
+        static Service service;
+        return service.QueryInterface(id, object);
+    });
+}
+
+} // namespace host

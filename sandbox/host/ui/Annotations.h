@@ -1,0 +1,22 @@
+#pragma once
+
+#include <optional>
+
+#include "app/ClassObject.h"
+
+namespace host
+{
+
+// The names that programs give to windows for screen readers. Where the system has no such annotations, as under Wine,
+// they are kept here, and the accessible objects of the windows tell them as those of Windows do.
+class Annotations
+{
+public:
+    // Tries the system's own on a window.
+    explicit Annotations(HWND window);
+
+private:
+    std::optional<ClassObject> m_service;
+};
+
+} // namespace host
