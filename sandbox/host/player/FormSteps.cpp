@@ -185,12 +185,14 @@ void Player::DoubleClick(const Step& step)
     });
     POINT onScreen = point;
     ::ClientToScreen(tree, &onScreen);
-    WaitFor([&] { // the display tells of the pointer's moves when it likes
+    int stays = 0;
+    WaitFor([&] { // the display tells of the pointer's moves when it likes, and of an earlier one after a later one
         POINT pointer{};
-        ::SetCursorPos(onScreen.x, onScreen.y);
-        Settle();
         ::GetCursorPos(&pointer);
-        return pointer.x == onScreen.x && pointer.y == onScreen.y ? Finding{} : Finding{L"the pointer does not come"};
+        stays = pointer.x == onScreen.x && pointer.y == onScreen.y ? stays + 1 : 0;
+        if (stays == 0) ::SetCursorPos(onScreen.x, onScreen.y);
+        Settle();
+        return stays == 5 ? Finding{} : Finding{L"the pointer does not come"};
     });
     ::PostMessageW(tree, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(point.x, point.y));
     Settle();
