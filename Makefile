@@ -22,12 +22,9 @@ test: all
 faults: all
 	tests/faults/run $(ARCH)
 
-# A thousand saves in one host; what it holds after each round is in build/scenarios/soak/host.txt. Their requests are then
-# sent without the add-in, to tell what the system's component keeps of them.
+# A thousand saves in one host; what it holds after each round is in build/scenarios/soak/host.txt.
 soak: all
-	ninja -C build/x64 --quiet bench
 	tests/scenarios/run $(ARCH) soak ROUNDS=200 SETTLED=10
-	[ $(ARCH) != x64 ] || bench/run soak
 
 check: all
 	@tools/install-packages clang libclang-rt-dev cppcheck

@@ -17,7 +17,6 @@ void WaitForAnswer(const Words& words);     // add-in|idle SERVER
 void LoadAddIn(const Words& words);         // LIBRARY
 void SaveBoundDocument(const Words& words); // LIBRARY SERVER FILE
 void ReplayRequests(const Words& words);    // SERVER FOLDER
-void RepeatRequests(const Words& words);    // SERVER FOLDER ROUNDS
 
 // Loads what every way of sending needs: the system's XML and HTTP libraries.
 void WarmUp();

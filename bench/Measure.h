@@ -40,14 +40,6 @@ inline double PeakMemory()
     return static_cast<double>(counters.PeakWorkingSetSize) / (1024.0 * 1024.0);
 }
 
-// The memory that the process holds of its own now, in KiB.
-inline double PrivateMemory()
-{
-    PROCESS_MEMORY_COUNTERS counters{};
-    ::K32GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof counters);
-    return static_cast<double>(counters.PagefileUsage) / 1024.0;
-}
-
 // The time in milliseconds that the process has used of a processor.
 inline double ProcessorTime()
 {

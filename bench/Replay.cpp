@@ -1,4 +1,4 @@
-// Recorded requests through bare XMLHTTP objects: how long they take, and what they leave in memory.
+// Recorded requests through bare XMLHTTP objects: how long they take.
 #include "BareRequest.h"
 #include "Benchmarks.h"
 #include "Measure.h"
@@ -75,16 +75,6 @@ void ReplayRequests(const Words& words)
         Send(words[0], request);
     Tell("time", watch.Milliseconds());
     Tell("requests", static_cast<double>(requests.size()));
-}
-
-void RepeatRequests(const Words& words)
-{
-    const std::vector<Request> requests = ReadRequests(words[1]);
-    for (int left = std::stoi(words[2]); left > 0; --left) {
-        for (const Request& request : requests)
-            Send(words[0], request);
-        Tell("private", PrivateMemory());
-    }
 }
 
 } // namespace bench

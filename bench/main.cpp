@@ -16,11 +16,9 @@ struct Entry
     std::size_t words;
 };
 constexpr Entry kEntries[] = {
-    {L"encode", &bench::EncodeText, 0},      {L"trace", &bench::TraceScopes, 0},
-    {L"tree", &bench::FillTree, 2},          {L"upload", &bench::Upload, 3},
-    {L"wait", &bench::WaitForAnswer, 2},     {L"load", &bench::LoadAddIn, 1},
+    {L"encode", &bench::EncodeText, 0},      {L"trace", &bench::TraceScopes, 0},     {L"tree", &bench::FillTree, 2},
+    {L"upload", &bench::Upload, 3},          {L"wait", &bench::WaitForAnswer, 2},    {L"load", &bench::LoadAddIn, 1},
     {L"save", &bench::SaveBoundDocument, 3}, {L"replay", &bench::ReplayRequests, 2},
-    {L"repeat", &bench::RepeatRequests, 3},
 };
 
 } // namespace

@@ -9,7 +9,6 @@ HERE = TOP / "build/bench"
 LIBRARY = "CorvaneMSOfficePowerPoint.dll"
 MIB = 1024 * 1024
 PATIENCE = 600  # seconds for one program
-SETTLED = 10  # rounds of a soak that may still grow
 
 
 def windows(path):
@@ -224,14 +223,10 @@ SENT_BY_ITSELF = {"host", "content-length", "connection", "user-agent", "accept"
                   "cache-control", "pragma"}
 
 
-def read_requests(log):
-    return [json.loads(line) for line in log.read_text(encoding="utf-8").splitlines()]
-
-
-def write_requests(requests, folder):
+def write_requests(log, folder):
     shutil.rmtree(folder, ignore_errors=True)
     folder.mkdir()
-    for number, request in enumerate(requests, 1):
+    for number, request in enumerate(map(json.loads, log.read_text(encoding="utf-8").splitlines()), 1):
         head = [f"{request['method']} {request['target']}"]
         head += [f"{name}: {value}" for name, value in request["headers"] if name.lower() not in SENT_BY_ITSELF]
         (folder / str(number)).write_bytes("\n".join(head + ["", ""]).encode("latin-1") + base64.b64decode(request["body"]))
@@ -242,30 +237,13 @@ def save(table):
     document, requests = HERE / "bound.pptx", HERE / "requests"
     with Server("recorded", logged=True) as server:
         bench("save", library, server.url, windows(document))
-        write_requests(read_requests(server.log), requests)
+        write_requests(server.log, requests)
     with Server("save") as server:
         own, bare = alternately(9, lambda: bench("save", library, server.url, windows(document)),
                                 lambda: bench("replay", server.url, windows(requests)))
     print("  requests of a save:", int(bare[0]["requests"][0]))
     table.compare("bound save, against its requests", "ms", [value - PAUSE for value in figures(own, "time")],
                   figures(bare, "time"), "ratio", 1.2)
-
-
-def soak(table):
-    """What the last soak's rounds left in memory, against what their requests alone leave there."""
-    played = TOP / "build/scenarios/soak"
-    held = [float(value) for value in re.findall(r"^usage: (\d+) KiB private", (played / "host.txt").read_text(), re.M)]
-    rounds = len(held) - SETTLED
-    if rounds < 1:
-        raise RuntimeError(f"the soak has {len(held)} rounds; it takes more than {SETTLED}: make soak")
-    recorded = read_requests(played / "requests.log")
-    of_a_round = [request for request in recorded if "UPDATEUSERACCESSLOG" not in request["target"]]
-    requests = HERE / "requests"
-    write_requests(of_a_round[-(len(of_a_round) // len(held)):], requests)
-    with Server("soak") as server:
-        bare = bench("repeat", server.url, windows(requests), SETTLED + rounds)["private"]
-    table.compare("memory for a round of the soak", "KiB", [(held[-1] - held[SETTLED - 1]) / rounds],
-                  [(bare[-1] - bare[SETTLED - 1]) / rounds], "ratio", 1)
 
 
 def size(table):
@@ -276,7 +254,6 @@ def size(table):
 
 
 ROWS = (encode, trace, load, tree, save, wait, upload, size)
-ASKED_FOR = (soak,)  # not one of all
 
 
 def main():
@@ -285,7 +262,7 @@ def main():
     begin, load_before = time.time(), os.getloadavg()
     table = Table()
     failed = []
-    for row in (row for row in ROWS + ASKED_FOR if row.__name__ in chosen):
+    for row in (row for row in ROWS if row.__name__ in chosen):
         try:
             row(table)
         except (OSError, RuntimeError, subprocess.SubprocessError) as problem:

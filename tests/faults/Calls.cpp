@@ -2,7 +2,9 @@
 //   OPERATION SERVER TIMEOUT-MS PARAMETER...
 // OPERATION is a name of the protocol, or "upload" with a path and a name for parameters. Each call is answered by a
 // line of milliseconds, KiB of private memory afterwards, error number (0 for none), source, description and
-// the answer.
+// the answer. With the argument "own" the stand-in host's HTTP component sends.
+#include "app/ClassObject.h"
+#include "objects/HttpRequestObject.h"
 #include "platform/Owners.h"
 #include "platform/Procedure.h"
 #include "webservice/Exchange.h"
@@ -11,6 +13,7 @@
 
 #include <cstdio>
 #include <iostream>
+#include <optional>
 #include <psapi.h>
 #include <sstream>
 
@@ -100,10 +103,16 @@ void Answer(const std::string& line)
 
 } // namespace
 
-int main()
+int main(int count, char**)
 {
     ::CoInitialize(nullptr);
+    std::optional<host::ClassObject> own;
+    if (count > 1)
+        own.emplace(host::kXmlHttpClass, [](REFIID id, void** object) {
+            return host::MakeObject<host::HttpRequestObject>()->QueryInterface(id, object);
+        });
     for (std::string line; std::getline(std::cin, line);)
         Answer(line.substr(0, line.find('\r')));
+    own.reset();
     ::CoUninitialize();
 }

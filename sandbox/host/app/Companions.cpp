@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "app/Registry.h"
+#include "objects/HttpRequestObject.h"
 
 namespace host
 {
@@ -93,6 +94,10 @@ Companions::Companions(const Options& options)
     if (login == "true" || login == "false")
         m_login.emplace(kLoginClass, kLoginProgId,
                         [loggedIn = login == "true"] { return ComPtr<IDispatch>{MakeObject<LoginObject>(loggedIn)}; });
+    if (options.Setting("http") == "own")
+        m_http.emplace(kXmlHttpClass, [](REFIID id, void** object) {
+            return MakeObject<HttpRequestObject>()->QueryInterface(id, object);
+        });
     if (const auto* client = RowOf(kMailClientSettings, options, "mail.client")) m_mailLinks.emplace(client->command);
     if (const auto* outlook = RowOf(kOutlookSettings, options, "outlook"))
         OfferOutlook(outlook->mood, outlook->running);

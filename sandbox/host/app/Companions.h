@@ -36,9 +36,9 @@ private:
     std::vector<Before> m_before;
 };
 
-// The other programs that an add-in may talk to, offered as far as the settings ask for them: "sibling.login" true or
-// false for the sibling add-in's login object, "outlook" for the mail program and its mood, "mail.client" for the
-// program that opens mail links.
+// What an add-in may talk to beside the host, offered as far as the settings ask for it: "sibling.login" true or false
+// for the sibling add-in's login object, "outlook" for the mail program and its mood, "mail.client" for the program
+// that opens mail links, "http" own for the host's own HTTP component.
 class Companions
 {
 public:
@@ -59,6 +59,7 @@ public:
 private:
     void OfferOutlook(MailMood mood, bool running);
 
+    std::optional<ClassObject> m_http;
     std::optional<OfferedClass> m_login;
     std::optional<OfferedClass> m_outlookClass;
     std::optional<MailLinkCommand> m_mailLinks;

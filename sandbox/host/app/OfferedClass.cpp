@@ -14,14 +14,15 @@ std::wstring TextOf(REFCLSID classId)
     return text;
 }
 
+ClassObject::Create CreateBy(std::function<ComPtr<IDispatch>()> create)
+{
+    return [create = std::move(create)](REFIID id, void** object) { return create()->QueryInterface(id, object); };
+}
+
 } // namespace
 
 OfferedClass::OfferedClass(REFCLSID classId, std::wstring progId, std::function<ComPtr<IDispatch>()> create)
-    : m_classId{classId}, m_key{L"Software\\Classes\\" + progId}, m_class{classId, [create = std::move(create)](
-                                                                                       REFIID id, void** object) {
-                                                                              return create()->QueryInterface(id,
-                                                                                                              object);
-                                                                          }}
+    : m_classId{classId}, m_key{L"Software\\Classes\\" + progId}, m_class{classId, CreateBy(std::move(create))}
 {
     CLSID found{};
     if (SUCCEEDED(::CLSIDFromProgID(progId.c_str(), &found))) return;

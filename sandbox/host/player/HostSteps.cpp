@@ -50,9 +50,6 @@ DocumentObject& ActiveOf(Host& host)
     throw std::runtime_error{"no presentation is open"};
 }
 
-// What a "usage" step grants from one time to the next, in KiB.
-std::size_t MemoryEachTime(const Step& step) { return step.words.size() > 1 ? std::stoul(step.At(1)) : 0; }
-
 } // namespace
 
 void Player::WaitUntilLoaded()
@@ -276,10 +273,9 @@ void Player::MeasuredUsage(const Step& step)
     const int settled = std::stoi(step.At(0));
     if (m_measured == settled) m_settledUsage = now;
     if (m_measured <= settled) return;
-    const std::size_t more = static_cast<std::size_t>(m_measured - settled) * MemoryEachTime(step);
     WaitFor([&] { // the system's threads hold some of it for a moment
         const Usage held = MeasureUsage();
-        if (IsLevel(m_settledUsage, held, more)) return Finding{};
+        if (IsLevel(m_settledUsage, held)) return Finding{};
         return L"it has grown from " + DescribeUsage(m_settledUsage) + L" to " + DescribeUsage(held);
     });
 }

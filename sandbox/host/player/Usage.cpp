@@ -3,8 +3,6 @@
 #include <windows.h>
 
 #include <cstring>
-#include <cwchar>
-#include <iterator>
 #include <psapi.h>
 
 namespace host
@@ -49,19 +47,11 @@ std::size_t GdiObjects()
     return count;
 }
 
-// Wine's HTTP component hides one such window for each thread that sends, and on a busy machine keeps it for good.
-bool IsOfHttpComponent(HWND window)
-{
-    wchar_t name[64];
-    ::GetClassNameW(window, name, std::size(name));
-    return std::wcscmp(name, L"URL Moniker Notification Window") == 0;
-}
-
 BOOL CALLBACK CountOwn(HWND window, LPARAM count)
 {
     DWORD process = 0;
     ::GetWindowThreadProcessId(window, &process);
-    if (process == ::GetCurrentProcessId() && !IsOfHttpComponent(window)) ++*reinterpret_cast<std::size_t*>(count);
+    if (process == ::GetCurrentProcessId()) ++*reinterpret_cast<std::size_t*>(count);
     return TRUE;
 }
 
@@ -90,11 +80,11 @@ std::wstring DescribeUsage(const Usage& usage)
            std::to_wstring(usage.gdi) + L" GDI objects, " + std::to_wstring(usage.windows) + L" windows";
 }
 
-bool IsLevel(const Usage& before, const Usage& now, std::size_t moreKilobytes)
+bool IsLevel(const Usage& before, const Usage& now)
 {
     constexpr std::size_t kSlack = 2 * 1024; // KiB
     constexpr std::size_t kMore = 8;
-    return now.kilobytes <= before.kilobytes + kSlack + moreKilobytes && now.handles <= before.handles + kMore &&
+    return now.kilobytes <= before.kilobytes + kSlack && now.handles <= before.handles + kMore &&
            now.gdi <= before.gdi + kMore && now.windows <= before.windows;
 }
 

@@ -27,7 +27,7 @@ constexpr VerbRule kVerbs[] = {
     {"property", 2, 2},   {"shot", 1, 2},     {"show", 1, 1},      {"ran", 1, 1},         {"repainted", 1, 1},
     {"disconnect", 0, 0}, {"file", 2, 2},     {"fits", 1, 1},      {"letter", 1, 1},      {"mail", 2, kAny},
     {"over", 2, 2},       {"readable", 1, 1}, {"set", 2, 2},       {"spoken", 2, 2},      {"exit", 0, 0},
-    {"usage", 0, 2},      {"repeat", 1, 1},   {"end", 0, 0},       {"doubleclick", 1, 2}, {"registry", 3, 3},
+    {"usage", 0, 1},      {"repeat", 1, 1},   {"end", 0, 0},       {"doubleclick", 1, 2}, {"registry", 3, 3},
 };
 
 std::string_view Trim(std::string_view text)

@@ -1,0 +1,159 @@
+#include "objects/HttpRequestObject.h"
+
+#include <memory>
+
+#include <winhttp.h>
+
+#include "automation/Text.h"
+
+namespace host
+{
+namespace
+{
+
+constexpr IID kDocumentId{0x2933BF81, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
+constexpr long kOpened = 1;
+constexpr long kComplete = 4;
+constexpr long kCannotConnect = 12029; // what XMLHTTP tells of a failed transport
+
+struct CloseHandle
+{
+    void operator()(HINTERNET handle) const { ::WinHttpCloseHandle(handle); }
+};
+using Handle = std::unique_ptr<void, CloseHandle>;
+
+// A body as it is sent: the bytes of an array, a text in UTF-8, the markup of a document.
+std::string BytesOf(const VARIANT& body)
+{
+    if (body.vt == (VT_ARRAY | VT_UI1))
+        return {static_cast<const char*>(body.parray->pvData), body.parray->rgsabound[0].cElements};
+    if (body.vt == VT_BSTR) return Narrow(Value{body}.Text());
+    ComPtr<IXMLDOMDocument> document;
+    ComText markup;
+    void** const place = reinterpret_cast<void**>(document.GetAddressOf());
+    if (body.vt == VT_DISPATCH && SUCCEEDED(body.pdispVal->QueryInterface(kDocumentId, place)))
+        document->get_xml(markup.Put());
+    return Narrow(markup.Text());
+}
+
+std::wstring HeadersOf(HINTERNET request)
+{
+    DWORD size = 0;
+    ::WinHttpQueryHeaders(request, WINHTTP_QUERY_RAW_HEADERS_CRLF, nullptr, nullptr, &size, nullptr);
+    std::wstring headers(size / sizeof(wchar_t), L'\0');
+    ::WinHttpQueryHeaders(request, WINHTTP_QUERY_RAW_HEADERS_CRLF, nullptr, headers.data(), &size, nullptr);
+    return headers;
+}
+
+std::string AnswerOf(HINTERNET request)
+{
+    std::string answer;
+    char part[4096];
+    for (DWORD size = 0; ::WinHttpReadData(request, part, sizeof part, &size) && size > 0;)
+        answer.append(part, size);
+    return answer;
+}
+
+} // namespace
+
+HttpRequestObject::HttpRequestObject() : AutomationObject{L"XMLHTTPRequest", kXmlHttpId} {}
+
+HRESULT HttpRequestObject::open(BSTR method, BSTR url, VARIANT, VARIANT, VARIANT)
+{
+    m_method = method;
+    m_url = url;
+    m_state = kOpened;
+    return S_OK;
+}
+
+HRESULT HttpRequestObject::setRequestHeader(BSTR name, BSTR value)
+{
+    m_headers += std::wstring{name} + L": " + value + L"\r\n";
+    return S_OK;
+}
+
+HRESULT HttpRequestObject::send(VARIANT body)
+{
+    m_body = BytesOf(body);
+    m_exchange = std::jthread{[this, owner = ::GetCurrentThreadId()] {
+        Exchange();
+        m_state = kComplete;
+        ::PostThreadMessageW(owner, WM_NULL, 0, 0); // a message is what the owner's wait wakes up by
+    }};
+    return S_OK;
+}
+
+void HttpRequestObject::Exchange()
+{
+    m_status = kCannotConnect;
+    URL_COMPONENTS parts{};
+    parts.dwStructSize = sizeof parts;
+    parts.dwHostNameLength = parts.dwUrlPathLength = static_cast<DWORD>(-1);
+    if (!::WinHttpCrackUrl(m_url.c_str(), 0, 0, &parts)) return;
+    const std::wstring server{parts.lpszHostName, parts.dwHostNameLength};
+    const Handle session{::WinHttpOpen(nullptr, WINHTTP_ACCESS_TYPE_NO_PROXY, nullptr, nullptr, 0)};
+    const Handle connection{::WinHttpConnect(session.get(), server.c_str(), parts.nPort, 0)};
+    const Handle request{::WinHttpOpenRequest(connection.get(), m_method.c_str(), parts.lpszUrlPath, nullptr, nullptr,
+                                              nullptr, WINHTTP_FLAG_ESCAPE_DISABLE)};
+    const auto size = static_cast<DWORD>(m_body.size());
+    if (!::WinHttpSendRequest(request.get(), m_headers.empty() ? nullptr : m_headers.c_str(), static_cast<DWORD>(-1),
+                              m_body.data(), size, size, 0) ||
+        !::WinHttpReceiveResponse(request.get(), nullptr))
+        return;
+    DWORD status = 0;
+    DWORD length = sizeof status;
+    ::WinHttpQueryHeaders(request.get(), WINHTTP_QUERY_STATUS_CODE | WINHTTP_QUERY_FLAG_NUMBER, nullptr, &status,
+                          &length, nullptr);
+    m_answerHeaders = HeadersOf(request.get());
+    m_answer = AnswerOf(request.get());
+    m_status = static_cast<long>(status);
+}
+
+HRESULT HttpRequestObject::abort()
+{
+    if (m_exchange.joinable()) m_exchange.join();
+    return S_OK;
+}
+
+HRESULT HttpRequestObject::get_readyState(LONG* state)
+{
+    *state = m_state;
+    return S_OK;
+}
+
+HRESULT HttpRequestObject::get_status(LONG* status)
+{
+    *status = m_status;
+    return S_OK;
+}
+
+HRESULT HttpRequestObject::getResponseHeader(BSTR name, BSTR* value)
+{
+    const std::wstring wanted = std::wstring{L"\r\n"} + name + L": ";
+    for (std::size_t at = 0; at + wanted.size() < m_answerHeaders.size(); ++at) {
+        const auto size = static_cast<int>(wanted.size());
+        if (::CompareStringOrdinal(&m_answerHeaders[at], size, wanted.c_str(), size, TRUE) != CSTR_EQUAL) continue;
+        const std::size_t from = at + wanted.size();
+        *value = ComText{m_answerHeaders.substr(from, m_answerHeaders.find(L"\r\n", from) - from)}.Detach();
+        return S_OK;
+    }
+    *value = nullptr;
+    return S_FALSE;
+}
+
+HRESULT HttpRequestObject::get_responseText(BSTR* text)
+{
+    *text = ComText{Widen(m_answer)}.Detach();
+    return S_OK;
+}
+
+HRESULT HttpRequestObject::get_responseBody(VARIANT* body)
+{
+    body->vt = VT_ARRAY | VT_UI1;
+    body->parray = ::SafeArrayCreateVector(VT_UI1, 0, static_cast<ULONG>(m_answer.size()));
+    if (!body->parray) return E_OUTOFMEMORY;
+    m_answer.copy(static_cast<char*>(body->parray->pvData), m_answer.size());
+    return S_OK;
+}
+
+} // namespace host

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <atomic>
+#include <string>
+#include <thread>
+
+#include <msxml2.h>
+
+#include "automation/AutomationObject.h"
+
+namespace host
+{
+
+// The platform's XMLHTTP class 3.0, and its interface.
+inline constexpr CLSID kXmlHttpClass{0xF5078F35, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
+inline constexpr IID kXmlHttpId{0xED8C108D, 0x4349, 0x11D2, {0x91, 0xA4, 0x00, 0xC0, 0x4F, 0x79, 0x69, 0xE8}};
+
+// An XMLHTTP object over WinHTTP, for one request. It stands in where Wine's own, which keeps every body that it sent,
+// would hide what an add-in keeps. Answers are text in UTF-8 or bytes; there are no documents and no events.
+class HttpRequestObject final : public AutomationObject<IXMLHTTPRequest>
+{
+public:
+    HttpRequestObject();
+
+    [[nodiscard]] std::span<const Member> Members() const override { return {}; }
+
+    STDMETHODIMP open(BSTR method, BSTR url, VARIANT isAsynchronous, VARIANT user, VARIANT password) override;
+    STDMETHODIMP setRequestHeader(BSTR name, BSTR value) override;
+    STDMETHODIMP send(VARIANT body) override;
+    STDMETHODIMP abort() override;
+    STDMETHODIMP get_readyState(LONG* state) override;
+    STDMETHODIMP get_status(LONG* status) override;
+    STDMETHODIMP getResponseHeader(BSTR name, BSTR* value) override;
+    STDMETHODIMP get_responseText(BSTR* text) override;
+    STDMETHODIMP get_responseBody(VARIANT* body) override;
+
+    STDMETHODIMP getAllResponseHeaders(BSTR*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_statusText(BSTR*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_responseXML(IDispatch**) override { return E_NOTIMPL; }
+    STDMETHODIMP get_responseStream(VARIANT*) override { return E_NOTIMPL; }
+    STDMETHODIMP put_onreadystatechange(IDispatch*) override { return E_NOTIMPL; }
+
+private:
+    void Exchange();
+
+    std::wstring m_method;
+    std::wstring m_url;
+    std::wstring m_headers;
+    std::string m_body;
+    long m_status = 0;
+    std::wstring m_answerHeaders;
+    std::string m_answer;
+    std::atomic<long> m_state = 0;
+    std::jthread m_exchange; // the last member, so that it has ended before the others go
+};
+
+} // namespace host
