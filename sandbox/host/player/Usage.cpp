@@ -82,7 +82,7 @@ std::wstring DescribeUsage(const Usage& usage)
 
 bool IsLevel(const Usage& before, const Usage& now)
 {
-    constexpr std::size_t kSlack = 2 * 1024; // KiB
+    constexpr std::size_t kSlack = 1024; // KiB
     constexpr std::size_t kMore = 8;
     return now.kilobytes <= before.kilobytes + kSlack && now.handles <= before.handles + kMore &&
            now.gdi <= before.gdi + kMore && now.windows <= before.windows;

@@ -27,10 +27,19 @@ std::map<HWND, std::wstring>& Names()
     return names;
 }
 
+LRESULT CALLBACK NamedProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR);
+
+// Wine leaves a subclass that is not removed behind when its window goes.
+void Forget(HWND window)
+{
+    Names().erase(window);
+    ::RemoveWindowSubclass(window, NamedProc, kSubclass);
+}
+
 // Answers for a named window.
 LRESULT CALLBACK NamedProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR)
 {
-    if (message == WM_NCDESTROY) Names().erase(window);
+    if (message == WM_NCDESTROY) Forget(window);
     const auto name = Names().find(window);
     if (name == Names().end() || message != WM_GETOBJECT || static_cast<DWORD>(lParam) != kClientObject)
         return ::DefSubclassProc(window, message, wParam, lParam);
@@ -60,7 +69,7 @@ public:
     }
     STDMETHODIMP ClearHwndProps(HWND window, DWORD, DWORD, const MSAAPROPID*, int) override
     {
-        Names().erase(window);
+        Forget(window);
         return S_OK;
     }
 
