@@ -6,7 +6,8 @@ import json
 
 LOST = "Unable to contact server ${SERVER}."
 SECURE = "The server cannot be accessed or the page must be viewed over a secure channel."
-FAULTS = {"drop": {"drop": "before"}, "status": {"status": 500, "body": "no"}, "secure": {"status": 403},
+FAULTS = {"drop": {"drop": "before"}, "error": {"status": 500, "body": "no"}, "secure": {"status": 403},
+          "denied": {"status": 401}, "missing": {"status": 404}, "dependent": {"status": 424}, "full": {"status": 503},
           "document": {"body": "<error number='7' source='Its own' description='Its words.'/>"}}
 SAVE = ["MaxFileUploadSize", "UploadTo"]
 STORIES = {  # command, tree, target, dialog, requests of the first loading, recording, later loading and recording
@@ -34,15 +35,14 @@ class Story:
         """The step that reads and closes what the user is told when the request meets the fault."""
         upload = request == "UploadTo"
         source = {"UploadTo": "ExecuteASPWSUploadFile", "UPDATEUSERACCESSLOG": "UpdateUserLog"}
-        number, lines, raised = 225, [LOST], source.get(request, "ExecuteASPWebService")
-        if kind == "drop" and upload:
-            lines = ["Unable to connect to server '${SERVER}'"]
-        elif kind == "document":
+        raised, status = source.get(request, "ExecuteASPWebService"), FAULTS[kind].get("status")
+        number, lines = 225, ["Unable to connect to server '${SERVER}'" if upload else LOST]
+        if kind == "document":
             number, lines, raised = 7, ["Its words."], "Its own"
-        elif kind == "secure" and not upload:
+        elif status == 403 and not upload:
             lines = [SECURE]
-        elif kind != "drop":
-            number = FAULTS[kind]["status"]
+        elif kind != "drop" and status not in ([404] if upload else [401, 404, 424]):
+            number = status
             lines = [f"Error: HTTP Status Code {number}", "", "Remote call to '${SERVER}' failed.", ""]
         words = ["ERROR", f"Number: {number}", "Description: " + lines[0], *lines[1:], "Source: " + raised]
         return "message exactly " + " ".join(f'"{word}"' for word in words) + " OK"
