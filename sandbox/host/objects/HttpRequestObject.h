@@ -27,7 +27,7 @@ public:
     STDMETHODIMP open(BSTR method, BSTR url, VARIANT isAsynchronous, VARIANT user, VARIANT password) override;
     STDMETHODIMP setRequestHeader(BSTR name, BSTR value) override;
     STDMETHODIMP send(VARIANT body) override;
-    STDMETHODIMP abort() override;
+    STDMETHODIMP abort() override; // waits for the exchange to end, as the destructor does
     STDMETHODIMP get_readyState(LONG* state) override;
     STDMETHODIMP get_status(LONG* status) override;
     STDMETHODIMP getResponseHeader(BSTR name, BSTR* value) override;
