@@ -7,7 +7,7 @@
 namespace host::test
 {
 
-// A new folder that is removed with the files in it.
+// A new folder that is removed with all that is in it, paths of any length too.
 class TemporaryFolder
 {
 public:
@@ -23,22 +23,31 @@ public:
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    ~TemporaryFolder()
-    {
-        WIN32_FIND_DATAW data{};
-        const HANDLE search = ::FindFirstFileW((m_path + L"\\*").c_str(), &data);
-        do {
-            ::SetFileAttributesW(File(data.cFileName).c_str(), FILE_ATTRIBUTE_NORMAL);
-            ::DeleteFileW(File(data.cFileName).c_str());
-        } while (::FindNextFileW(search, &data));
-        ::FindClose(search);
-        ::RemoveDirectoryW(m_path.c_str());
-    }
+    ~TemporaryFolder() { Remove(L"\\\\?\\" + m_path); }
 
     [[nodiscard]] const std::wstring& Path() const { return m_path; }
     [[nodiscard]] std::wstring File(const std::wstring& name) const { return m_path + L"\\" + name; }
 
 private:
+    static void Remove(const std::wstring& folder)
+    {
+        WIN32_FIND_DATAW data{};
+        const HANDLE search = ::FindFirstFileW((folder + L"\\*").c_str(), &data);
+        do {
+            const std::wstring name = data.cFileName;
+            const std::wstring path = folder + L"\\" + name;
+            if (name == L"." || name == L"..") continue;
+            if ((data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+                Remove(path);
+            } else {
+                ::SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+                ::DeleteFileW(path.c_str());
+            }
+        } while (::FindNextFileW(search, &data));
+        ::FindClose(search);
+        ::RemoveDirectoryW(folder.c_str());
+    }
+
     std::wstring m_path;
 };
 

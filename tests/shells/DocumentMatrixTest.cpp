@@ -24,7 +24,8 @@ namespace
 constexpr CLSID kXmlHttp3 = {0xF5078F35, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
 const DocumentBinding kBinding{.server = L"http://h", .projectId = 12, .deliverableId = 45};
 
-// Where the user's documents are, until the object ends.
+// Where the user's documents are, until the object ends. Wine makes a link to the home folder of a folder that is not
+// there yet.
 class DocumentsAt
 {
 public:
@@ -180,7 +181,9 @@ void Matrix::Play(const HostRow& row, const wchar_t* version, const State& state
 
 TEST_F(Matrix, OfHostVersionAndDocumentState)
 {
-    const DocumentsAt documents{folder.Path() + L"\\Documents"};
+    const std::wstring place = folder.Path() + L"\\Documents";
+    ::CreateDirectoryW(place.c_str(), nullptr);
+    const DocumentsAt documents{place};
     for (const HostRow& row : kHostRows) {
         for (const wchar_t* version : {L"11.0", L"12.0", L"14.0", L"16.0"}) {
             for (const State& state : kStates) {
