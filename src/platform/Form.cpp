@@ -208,6 +208,9 @@ INT_PTR Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept
         return TRUE;
     case WM_HELP:
         return OnNotification(HelpControl(), BN_CLICKED) ? TRUE : FALSE;
+    case WM_DRAWITEM:
+        Ignoring([&] { m_tips.DrawEntry(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); });
+        return TRUE;
     case WM_SETCURSOR:
         if (!m_hourglass) return FALSE;
         ::SetCursor(::LoadCursorW(nullptr, IDC_WAIT));

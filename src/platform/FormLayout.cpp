@@ -38,7 +38,7 @@ void Grow(HWND window, int delta) noexcept
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-int ScreenDotsPerInch() noexcept { return ::GetDeviceCaps(ScreenContext{}.Get(), LOGPIXELSY); }
+int ScreenDotsPerInch() noexcept { return ::GetDeviceCaps(WindowContext{}.Get(), LOGPIXELSY); }
 
 int PixelsOfTwips(int twips) noexcept
 {

@@ -11,6 +11,8 @@ namespace corvane
 namespace
 {
 
+constexpr int kEntryEdges = 4; // pixels that an entry has beside its text, and above and below it
+
 // Puts the width that the entries need into a message that asks for it and one that sets it.
 void Widen(HWND list, int width, UINT get, UINT set) noexcept
 {
@@ -34,6 +36,37 @@ int AddListEntry(HWND list, const std::wstring& text) noexcept
         Widen(list, width, LB_GETHORIZONTALEXTENT, LB_SETHORIZONTALEXTENT);
     return static_cast<int>(
         ::SendMessageW(list, isCombo ? CB_ADDSTRING : LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str())));
+}
+
+void FitEntryHeights(HWND form) noexcept
+{
+    for (HWND combo = nullptr; (combo = ::FindWindowExW(form, combo, WC_COMBOBOXW, nullptr)) != nullptr;) {
+        if ((::GetWindowLongPtrW(combo, GWL_STYLE) & CBS_OWNERDRAWFIXED) == 0) continue;
+        const LONG height = TextRuler{combo}.Measure(L"0", DT_SINGLELINE, 0).cy + kEntryEdges;
+        for (const WPARAM part : {static_cast<WPARAM>(-1), WPARAM{0}}) // the closed box, the list
+            ::SendMessageW(combo, CB_SETITEMHEIGHT, part, height);
+    }
+}
+
+bool DrawListEntry(const DRAWITEMSTRUCT& entry)
+{
+    const bool isChosen = (entry.itemState & ODS_SELECTED) != 0;
+    const bool isOff = (entry.itemState & ODS_DISABLED) != 0;
+    const HDC context = entry.hDC;
+    ::FillRect(context, &entry.rcItem,
+               ::GetSysColorBrush(isChosen ? COLOR_HIGHLIGHT
+                                  : isOff  ? COLOR_BTNFACE
+                                           : COLOR_WINDOW));
+    if (entry.itemID == static_cast<UINT>(-1)) return false; // none is chosen
+    const std::wstring text = ComboEntry(entry.hwndItem, static_cast<int>(entry.itemID));
+    RECT room = entry.rcItem;
+    ::InflateRect(&room, -kEntryEdges / 2, 0);
+    ::SetBkMode(context, TRANSPARENT);
+    ::SetTextColor(context, ::GetSysColor(isChosen ? COLOR_HIGHLIGHTTEXT : isOff ? COLOR_GRAYTEXT : COLOR_WINDOWTEXT));
+    ::DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &room,
+                DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+    if ((entry.itemState & (ODS_FOCUS | ODS_NOFOCUSRECT)) == ODS_FOCUS) ::DrawFocusRect(context, &entry.rcItem);
+    return TextRuler{entry.hwndItem}.Measure(text, DT_SINGLELINE | DT_NOPREFIX, 0).cx > room.right - room.left;
 }
 
 std::wstring ComboEntry(HWND combo, int index)

@@ -2,7 +2,9 @@
 
 #include "platform/AccessibleName.h"
 #include "platform/FormLayout.h"
+#include "platform/FormLists.h"
 #include "platform/FormWindow.h"
+#include "platform/ShownBox.h"
 #include "platform/ShownText.h"
 #include "platform/TextRuler.h"
 
@@ -21,7 +23,7 @@ constexpr int kTipLettersALine = 60;
 enum class TextKind
 {
     Typed,    // the user's own, or none
-    Shown,    // a read-only box: scrolls
+    Shown,    // a read-only box, which draws its ellipsis itself
     Line,     // a label that draws its ellipsis itself
     Lines,    // a label of several lines
     Button,   // with room for its edges
@@ -53,7 +55,6 @@ int EdgesOf(TextKind kind, int letter) noexcept
 {
     switch (kind) {
     case TextKind::Button:
-    case TextKind::Shown:
         return 2 * letter;
     case TextKind::CheckBox:
         return ::GetSystemMetrics(SM_CXMENUCHECK) + 2 * letter;
@@ -66,16 +67,18 @@ int EdgesOf(TextKind kind, int letter) noexcept
 
 bool Fits(HWND control, TextKind kind, const std::wstring& text)
 {
-    RECT room{};
-    ::GetClientRect(control, &room);
+    RECT client{};
+    ::GetClientRect(control, &client);
+    const RECT room = kind == TextKind::Shown ? TextRoomOf(control) : client;
+    const LONG width = room.right - room.left;
     const TextRuler ruler{control};
     if (kind == TextKind::Lines) {
-        const SIZE size = ruler.Measure(text, DT_WORDBREAK | DT_EXPANDTABS, room.right);
-        return size.cx <= room.right && size.cy <= room.bottom;
+        const SIZE size = ruler.Measure(text, DT_WORDBREAK | DT_EXPANDTABS, width);
+        return size.cx <= width && size.cy <= room.bottom;
     }
     const UINT format = DT_SINGLELINE | (kind == TextKind::Shown ? DT_NOPREFIX : 0U);
     const int letter = ruler.Measure(L"0", format, 0).cx;
-    return ruler.Measure(text, format, 0).cx + EdgesOf(kind, letter) <= room.right;
+    return ruler.Measure(text, format, 0).cx + EdgesOf(kind, letter) <= width;
 }
 
 // Controls that readers know by the label before them alone; not all readers look there.
@@ -116,26 +119,41 @@ FormTips::FormTips(HWND form) : m_form{form}, m_tooltip{CreateTooltipWindow(form
     const TextRuler ruler{form};
     const int width = kTipLettersALine * static_cast<int>(ruler.Measure(L"0", DT_SINGLELINE, 0).cx);
     ::SendMessageW(m_tooltip, TTM_SETMAXTIPWIDTH, 0, width);
-    for (HWND control = ::GetWindow(form, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT))
+    for (HWND control = ::GetWindow(form, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT)) {
         NameBehind(control, WithoutAccessKeys(WindowText(control)));
+        if (KindOf(control) == TextKind::Shown) EndInEllipsis(control);
+    }
 }
 
 void FormTips::SetText(HWND control, const std::wstring& text) const
 {
     if (control == nullptr) return;
     const TextKind kind = KindOf(control);
-    const bool hasRoom = kind == TextKind::Typed || Fits(control, kind, text);
+    const auto fits = [&](const std::wstring& part) { return Fits(control, kind, part); };
+    ::SetWindowTextW(control, text.c_str());
+    const bool hasRoom = kind == TextKind::Typed || fits(text);
     const bool drawsAll = hasRoom || kind == TextKind::Line || kind == TextKind::Shown;
-    ::SetWindowTextW(control, drawsAll ? text.c_str() : Shortened(text, [&](const std::wstring& part) {
-                                                            return Fits(control, kind, part);
-                                                        }).c_str());
+    if (!drawsAll) ::SetWindowTextW(control, Shortened(text, fits).c_str());
     std::wstring whole = kind == TextKind::Shown ? text : WithoutAccessKeys(text);
     TakeBack(control);
     NameBehind(control, whole);
     if (hasRoom) return;
     if (!drawsAll) NameForReaders(control, whole);
+    AddTip(control, std::move(whole));
+}
+
+void FormTips::DrawEntry(const DRAWITEMSTRUCT& entry) const
+{
+    const bool isCut = DrawListEntry(entry);
+    if ((entry.itemState & ODS_COMBOBOXEDIT) == 0) return;
+    TakeBack(entry.hwndItem);
+    if (isCut) AddTip(entry.hwndItem, ComboEntry(entry.hwndItem, static_cast<int>(entry.itemID)));
+}
+
+void FormTips::AddTip(HWND control, std::wstring text) const noexcept
+{
     TTTOOLINFOW tool = ToolOf(m_form, control);
-    tool.lpszText = whole.data();
+    tool.lpszText = text.data();
     ::SendMessageW(m_tooltip, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
@@ -145,7 +163,7 @@ void FormTips::TakeBack(HWND control) const noexcept
     const auto argument = reinterpret_cast<LPARAM>(&tool);
     if (::SendMessageW(m_tooltip, TTM_GETTOOLINFOW, 0, argument) == FALSE) return;
     ::SendMessageW(m_tooltip, TTM_DELTOOLW, 0, argument);
-    NameForReaders(control, {});
+    if (!IsNamedByLabel(control)) NameForReaders(control, {});
 }
 
 void FormTips::TakeAllBack() const noexcept

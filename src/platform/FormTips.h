@@ -20,6 +20,9 @@ public:
     // they cannot show all of it.
     void SetText(HWND control, const std::wstring& text) const;
 
+    // Draws an entry of a combo box of the form. The chosen one has a tooltip while the box cannot show all of it.
+    void DrawEntry(const DRAWITEMSTRUCT& entry) const;
+
     // Takes the tooltips along after controls were moved.
     void FollowControls() const noexcept;
 
@@ -27,6 +30,7 @@ public:
     void TakeAllBack() const noexcept;
 
 private:
+    void AddTip(HWND control, std::wstring text) const noexcept;
     void TakeBack(HWND control) const noexcept;
 
     HWND m_form = nullptr;

@@ -2,6 +2,7 @@
 
 #include "platform/ComObject.h"
 #include "platform/FormLayout.h"
+#include "platform/FormLists.h"
 #include "platform/FormTemplate.h"
 #include "platform/HResult.h"
 #include "resources/resource.h"
@@ -112,6 +113,7 @@ HWND CreateFormWindow(const wchar_t* name, int templateId, HWND owner, DLGPROC p
         Library::Module(), reinterpret_cast<LPCDLGTEMPLATEW>(dialogTemplate.data()), owner, procedure, argument);
     CheckWin32(window != nullptr, L"Form");
     ReleaseStatusBar(window);
+    FitEntryHeights(window);
     return window;
 }
 

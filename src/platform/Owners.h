@@ -80,18 +80,19 @@ using UniqueFont = Unique<GdiTraits<HFONT>>;
 using UniqueBitmap = Unique<GdiTraits<HBITMAP>>;
 using UniqueDeviceContext = Unique<DeviceContextTraits>;
 
-// The screen's device context for as long as it lives.
-class ScreenContext
+// The device context of a window's client area, without one of the screen, for as long as it lives.
+class WindowContext
 {
 public:
-    ScreenContext() noexcept : m_context{::GetDC(nullptr)} {}
-    ScreenContext(const ScreenContext&) = delete;
-    ScreenContext& operator=(const ScreenContext&) = delete;
-    ~ScreenContext() { ::ReleaseDC(nullptr, m_context); }
+    explicit WindowContext(HWND window = nullptr) noexcept : m_window{window}, m_context{::GetDC(window)} {}
+    WindowContext(const WindowContext&) = delete;
+    WindowContext& operator=(const WindowContext&) = delete;
+    ~WindowContext() { ::ReleaseDC(m_window, m_context); }
 
     [[nodiscard]] HDC Get() const noexcept { return m_context; }
 
 private:
+    HWND m_window;
     HDC m_context;
 };
 

@@ -39,7 +39,7 @@ private:
 // A square bitmap of the screen's kind.
 UniqueBitmap ScreenBitmap(int size) noexcept
 {
-    return UniqueBitmap{::CreateCompatibleBitmap(ScreenContext{}.Get(), size, size)};
+    return UniqueBitmap{::CreateCompatibleBitmap(WindowContext{}.Get(), size, size)};
 }
 
 } // namespace

@@ -55,12 +55,13 @@ SIZE Measure(const Item& item, const std::wstring& text, UINT format, LONG width
     return {place.right, place.bottom};
 }
 
-// The room that the control leaves its text: without edges, a check box's mark, a frame's corners.
+// The room that the control leaves its text: without edges, a check box's mark, a frame's corners, an arrow.
 SIZE RoomOf(const Item& item, int letter)
 {
     RECT client{};
     ::GetClientRect(item.window, &client);
     SIZE room{client.right, client.bottom};
+    if (Is(item, WC_COMBOBOXW)) room.cx -= ::GetSystemMetrics(SM_CXVSCROLL);
     if (!Is(item, WC_BUTTONW)) return room;
     const DWORD type = item.style & BS_TYPEMASK;
     const bool isMarked = type == BS_AUTOCHECKBOX || type == BS_CHECKBOX;
@@ -104,6 +105,45 @@ std::wstring TipOf(HWND form, HWND control)
     return AnswerBuffer();
 }
 
+// The one line of text that a text box or a combo box shows, in its client area.
+RECT LineOf(const Item& item, LONG height)
+{
+    static RECT line; // lives on: see Ask
+    line = {};
+    COMBOBOXINFO combo{};
+    combo.cbSize = sizeof combo;
+    if (::GetComboBoxInfo(item.window, &combo)) {
+        line = combo.rcItem;
+        line.top += (line.bottom - line.top - height) / 2;
+    } else {
+        static_cast<void>(Ask(item.window, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&line)));
+    }
+    line.bottom = line.top + height;
+    return line;
+}
+
+// Whether the last of what such a box shows are dots: nothing that reaches into the upper half of the line.
+bool EndsInDots(const Item& item)
+{
+    const SIZE dots = Measure(item, L"...", DT_SINGLELINE, 0);
+    const RECT line = LineOf(item, dots.cy);
+    const HDC context = ::GetDC(item.window);
+    const COLORREF paper = ::GetPixel(context, line.right - 1, line.top);
+    const auto hasInk = [&](LONG column, LONG bottom) {
+        for (LONG row = line.top; row < bottom; ++row)
+            if (::GetPixel(context, column, row) != paper) return true;
+        return false;
+    };
+    LONG end = line.right;
+    while (end > line.left && !hasInk(end - 1, line.bottom))
+        --end;
+    bool isLow = end > line.left;
+    for (LONG column = end - dots.cx * 2 / 3; column < end; ++column)
+        isLow = isLow && !hasInk(column, line.top + dots.cy / 2);
+    ::ReleaseDC(item.window, context);
+    return isLow;
+}
+
 std::wstring WithoutMarks(std::wstring text)
 {
     std::erase(text, L'&');
@@ -112,8 +152,9 @@ std::wstring WithoutMarks(std::wstring text)
 
 std::wstring TextProblem(HWND form, const Item& item)
 {
+    const bool isChoice = Is(item, WC_COMBOBOXW) && (item.style & CBS_DROPDOWNLIST) == CBS_DROPDOWNLIST;
     const bool isShownText = Is(item, WC_STATICW) || Is(item, WC_BUTTONW) || Is(item, STATUSCLASSNAMEW) ||
-                             (Is(item, WC_EDITW) && (item.style & ES_READONLY));
+                             (Is(item, WC_EDITW) && (item.style & ES_READONLY)) || isChoice;
     const bool takesALine = isShownText || Is(item, WC_EDITW) || Is(item, WC_COMBOBOXW);
     if (takesALine && !IsFrame(item) && !HasLine(item)) return L"is lower than a line of its text";
     if (!isShownText || item.text.empty()) return {};
@@ -121,7 +162,10 @@ std::wstring TextProblem(HWND form, const Item& item)
     const std::wstring shown = WithoutMarks(item.text);
     const bool isShortened = shown.back() == kEllipsis && tip.starts_with(shown.substr(0, shown.size() - 1));
     if (HasRoom(item)) return shown.back() == kEllipsis && !isShortened ? L"is shortened without a tooltip" : L"";
-    const bool drawsEllipsis = (Is(item, WC_STATICW) && (item.style & SS_ELLIPSISMASK)) || Is(item, WC_EDITW);
+    const bool isBox = isChoice || (Is(item, WC_EDITW) && !(item.style & ES_MULTILINE));
+    const bool hasKeyboard = FocusOf(::GetWindowThreadProcessId(item.window, nullptr)) == item.window;
+    const bool drawsEllipsis =
+        (Is(item, WC_STATICW) && (item.style & SS_ELLIPSISMASK)) || (isBox && (hasKeyboard || EndsInDots(item)));
     if (!drawsEllipsis) return L"cuts \"" + item.text + L"\" off";
     return tip == shown ? L"" : L"cuts \"" + item.text + L"\" off without a tooltip";
 }
