@@ -1,13 +1,16 @@
-"""Scenarios in which every step of a save meets faults, one after the other, until it succeeds in the same dialog.
+"""Scenarios in which every request of a save meets faults, one after the other, until it succeeds in the same dialog.
 
-The server uses up one rule with each failing request. A rule without effect lets a request through.
+The steps write the server's rules: one fault for the next request of its kind.
 """
-import json
+import itertools, json
 
-USER = "/WebServices/offi.asp?Op=G%65tUser&P1=v6"
 LOST = "Unable to contact server ${SERVER}."
 SECURE = "The server cannot be accessed or the page must be viewed over a secure channel."
 TOO_LARGE = "File size is greater than maximum allowed. Please contact your server administrator."
+NOT_SET = "Object variable or With block variable not set"
+NOT_TEAM = "Document cannot be uploaded to Corvane because you are not a project team member."
+NOT_OWN = "Document cannot be uploaded to Corvane because you do not own this "
+UNSET = f'message exactly "ERROR" "Number: 91" "Description: {NOT_SET}" "Source: WebService.FirstRow" OK'
 DOCUMENT = "<error number='7' source='Its own' description='Its words.'/>"
 STATUSES = [401, 403, 404, 424, 500, 503, 509]
 FAMILIES = {  # kinds of faults that one story meets, by its name
@@ -15,118 +18,160 @@ FAMILIES = {  # kinds of faults that one story meets, by its name
     "answers": {**{f"{n} document": {"status": n, "body": DOCUMENT} for n in STATUSES},
                 "upper case": {"body": DOCUMENT.replace("error", "ERROR")}, "empty": {"body": ""},
                 "truncated": {"body": '<xml xmlns:z="#RowsetSchema"><z:row a='},
-                "wrong type": {"body": "GIF89a", "contentType": "image/png"}, "redirected": {"status": 302, "location": USER}},
+                "wrong type": {"body": "GIF89a", "contentType": "image/png"},
+                "redirected": {"status": 302, "location": "/"}},
     "lines": {"refused": {"status": 302, "location": "http://127.0.0.1:1/"}, "late": {"delayMs": 3000},
               "no such name": {"status": 302, "location": "http://h.invalid/"}, "body": {"drop": "body"}},
     "large": {"64 MiB": {"file": "HUGE"}}}
 FAULTS = {kind: rule for family in FAMILIES.values() for kind, rule in family.items()}
-SILENT = {"empty", "truncated", "wrong type", "redirected", "64 MiB"}  # no failure by themselves
+SILENT = {"empty", "truncated", "wrong type", "redirected", "64 MiB"}  # no failure, and nothing of use in them
 SAVE = ["MaxFileUploadSize", "UploadTo"]
-STORIES = {  # command, tree, target, dialog, requests of the first loading, recording, later loading and recording
-    "deliverable": ("DelivAct", "GetMyAssignmentsAsTree", "Apollo/Concept/Business case", "frmSaveAssignment", {
-        "IsAutoSet": 1, "IsProjectTeamMember": 1, "Op=GetUserID": 3, "Op=GetUser&": 1, "GETPROJECTDELIVERABLE": 1,
-        "CHECKACTIVEWORKFLOW": 1}, "CDeliverable.UploadAndUpdate", "CDeliverable.UploadAndUpdate"),
-    "activity": ("DelivAct", "GetMyAssignmentsAsTree", "Apollo/Concept/Business case/Draft the business case",
-                 "frmSaveAssignment", {"Op=GetUserID": 2, "GETPROJECTACTIVITY": 1, "CHECKACTIVEWORKFLOW": 2},
-                 "CActivity.UploadAndUpdate", "CActivity.UploadAndUpdate"),
-    "gate": ("GateDoc", "GetMyGateDocumentsAsTree", "Apollo/Gate 1/Project charter", "frmSaveGateDoc", {
-        "Op=GetUserID": 2, "IsProjectTeamMember": 1, "USERCANUPDATE": 1, "GETPROJECTGATEDOCUMENT": 1, "Op=GetUser&": 1},
-        "CGateDocument.UploadAndUpdate", "CGateDocument.UploadAndUpdate"),
-    "related": ("Related", "GetMyProjectsRelatedFiles", "Apollo/[New Related Document]", "frmSaveRelatedDoc", {
-        "Op=GetUser&": 1, "GetProjectRelatedFile": 0, "GetGroups": 1}, "CreateProjectRelatedFile2",
-        "UploadProjectRelatedFile2")}
+ASSIGNMENT = ("DelivAct", "GetMyAssignmentsAsTree", "frmSaveAssignment")
+STORIES = {  # command, tree, dialog, target, recordings, requests of loading: what silence in their answer is told as
+    "deliverable": (*ASSIGNMENT, "Apollo/Concept/Business case", ["CDeliverable.UploadAndUpdate"], {
+        "IsAutoSet": None, "IsProjectTeamMember": NOT_TEAM, "Op=GetUser&": 91, "GETPROJECTDELIVERABLE": 91,
+        "CHECKACTIVEWORKFLOW": None}),
+    "activity": (*ASSIGNMENT, "Apollo/Concept/Business case/Draft the business case", ["CActivity.UploadAndUpdate"], {
+        "Op=GetUserID": None, "GETPROJECTACTIVITY": 91}),
+    "manager": (*ASSIGNMENT, "Leaderless/Without a team leader/Nobody leads, nobody owns", [], {
+        "GETUSERROLES": NOT_OWN + "Deliverable.", "CHECKUSERMANAGEACCESS": NOT_OWN + "Deliverable."}),
+    "gate": ("GateDoc", "GetMyGateDocumentsAsTree", "frmSaveGateDoc", "Apollo/Gate 1/Project charter",
+             ["CGateDocument.UploadAndUpdate"], {
+                 "Op=GetUserID": None, "USERCANUPDATE": None, "GETPROJECTGATEDOCUMENT": 91}),
+    "related": ("Related", "GetMyProjectsRelatedFiles", "frmSaveRelatedDoc", "Apollo/[New Related Document]",
+                ["CreateProjectRelatedFile2", "UploadProjectRelatedFile2"], {
+                    "Op=GetUser&": 91, "GetProjectRelatedFile": 91, "GetGroups": None})}
+BOUND = {"deliverable": "12 45 0 0 0 0 0", "activity": "12 45 678 0 0 0 0", "manager": "19 1901 0 0 0 0 0",
+         "gate": "12 0 0 0 1201 0 0", "related": "12 0 0 {} 0 0 0"}
+MAILS = {"activity": "GETMULTIVERSIONDETAILSASXML", "gate": "GETPROJECTTEAMMEMBERS", "related": "GETPROJECTRELATEDFILE"}
+
+
+def told_as(number, source, *lines):
+    words = ["ERROR", f"Number: {number}", "Description: " + lines[0], *lines[1:], "Source: " + source]
+    return ["message exactly " + " ".join(f'"{word}"' for word in words) + " OK"]
 
 
 class Story:
     def __init__(self, name, family):
         self.name, self.family = name, family
-        self.command, self.tree, self.target, self.dialog, self.loading, self.first, self.later = STORIES[name]
+        self.command, self.tree, self.dialog, self.target, self.recordings, self.loading = STORIES[name]
         self.silent = [kind for kind in FAMILIES[family] if kind in SILENT]
         self.loud = [kind for kind in FAMILIES[family] if kind not in SILENT]
-        self.again = [f"command {self.command}"]
+        self.open = [f"command {self.command}"]
+        self.pick = ["window frmSaveTo", "expect cmdOK enabled", f'select TreeView1 "{self.target}"', "press cmdOK"]
         self.usable = [f"window {self.dialog}", 'expect StatusBar1 "Ready"', "expect cmdSave enabled"]
-        self.rules, self.steps, self.unseen = [], [], 0
+        self.leave = [f"window {self.dialog}", "press cmdCancel", f"closed {self.dialog}"]
+        self.unseen = len({"late", "body"}.intersection(self.loud))  # recordings done that nobody was told of
+        self.steps, self.versions, self.numbers = ["new"], 0, itertools.count()
 
-    def message(self, request, kind):
+    def told(self, request, kind):
         """The step that reads and closes what the user is told when the request meets the fault."""
         upload = request == "UploadTo"
-        source = {"UploadTo": "ExecuteASPWSUploadFile", "UPDATEUSERACCESSLOG": "UpdateUserLog"}
-        raised, rule = source.get(request, "ExecuteASPWebService"), FAULTS[kind]
-        status, told = rule.get("status", 200), rule.get("body") == DOCUMENT
-        number, lines = 225, ["Unable to connect to server '${SERVER}'" if upload else LOST]
-        if kind in SILENT and upload:
-            number, lines, raised = -2147023728, ["No file 'Presentation1.pptx' was uploaded."], "Archive"
-        elif kind in SILENT:
-            lines, raised = [TOO_LARGE], "ExecuteASPWSUploadFile"
-        elif status == 403 and not upload:
-            lines = [SECURE]
-        elif status in ([404] if upload else [401, 404, 424]) or {"drop", "delayMs", "location"} & rule.keys():
-            pass
-        elif told:
-            number, lines, raised = 7, ["Its words."], "Its own"
-        elif kind == "upper case" or (status == 509 and not upload):
-            number, lines = 91, ["Object variable or With block variable not set"]
-        else:
-            number, lines = status, [f"Error: HTTP Status Code {status}", "", "Remote call to '${SERVER}' failed.", ""]
-        words = ["ERROR", f"Number: {number}", "Description: " + lines[0], *lines[1:], "Source: " + raised]
-        return "message exactly " + " ".join(f'"{word}"' for word in words) + " OK"
+        sources = {"UploadTo": "ExecuteASPWSUploadFile", "UPDATEUSERACCESSLOG": "UpdateUserLog"}
+        source = sources.get(request, "ExecuteASPWebService")
+        status, document = FAULTS[kind].get("status", 200), FAULTS[kind].get("body") == DOCUMENT
+        if status == 403 and not upload:
+            return told_as(225, source, SECURE)
+        if status in ([404] if upload else [401, 404, 424]) or {"drop", "delayMs", "location"} & FAULTS[kind].keys():
+            return told_as(225, source, "Unable to connect to server '${SERVER}'" if upload else LOST)
+        if document:
+            return told_as(7, "Its own", "Its words.")
+        if kind == "upper case" or (status == 509 and not upload):
+            return told_as(91, source, NOT_SET)
+        lines = [f"Error: HTTP Status Code {status}", "", "Remote call to '${SERVER}' failed.", ""]
+        return told_as(status, source, *lines)
 
-    def meet(self, requests, kinds, after):
-        """Each request fails once in each way; after each message come these steps."""
-        for request in requests:
-            for kind in kinds:
-                self.rules.append({"match": request, "times": 1, **FAULTS[kind]})
-                self.steps += [self.message(request, kind), *after]
+    def rule(self, request, kind, times=1):
+        rules = [{"match": request, "times": times, "n": next(self.numbers), **FAULTS[kind]}]
+        return 'faults "' + json.dumps(rules).replace('"', '""') + '"'
 
-    def meet_silently(self, request, shown, after):
-        """Each answer without a failure in it ends what was asked for as if it had been done."""
-        for kind in self.silent:
-            times = 2 if request == self.tree else 1  # its projects are counted before
-            self.rules.append({"match": request, "times": times, **FAULTS[kind]})
-            self.steps += [*shown, *after]
+    def meet(self, request, kinds, act, after, told=None):
+        """The request fails in each way when the user acts; what is told, and what the user does then."""
+        for kind in kinds:
+            times = 2 if request == self.tree and kind in SILENT else 1  # its projects are counted before
+            words = self.told(request, kind) if told is None else told
+            self.steps += [self.rule(request, kind, times), *act, *words, *after]
 
-    def pick(self):
-        return ["expect cmdOK enabled", f'select TreeView1 "{self.target}"', "press cmdOK"]
+    def meet_in_tree(self):
+        """Up to the dialog that the tree opens."""
+        again, ready = ["press cmdGo"], ["window frmSaveTo", "expect cmdOK enabled"]
+        asked = ["UPDATEUSERACCESSLOG"] * (self.name == "deliverable") + [self.tree]
+        for request, kind in itertools.product(asked, self.loud):
+            idle = ["window frmSaveTo", "expect cmdOK disabled", 'expect StatusBar1 "Ready"']
+            self.meet(request, [kind], again if len(self.steps) > 1 else self.open, idle)
+        self.steps += [*(again if self.loud else self.open), *ready]
+        self.meet(self.tree, self.silent, again, ["expect txtTree visible", 'expect StatusBar1 "Ready"'], [])
+        self.meet("GetSetIcon", [*self.loud, *self.silent], again, ready, [])
+        if self.name == "deliverable":
+            closed = ["window frmFilter", "press btnCancel", "closed frmFilter", *ready]
+            self.meet("GETCLASSES", self.loud, ["press cmdFilter"], closed)
+            self.meet("GETCLASSES", self.silent, ["press cmdFilter"], closed, [])
+            self.meet("CConfig.GetValues", self.loud, self.pick, ["press cmdCancel", "closed frmSaveTo", *self.open])
+            self.meet("CConfig.GetValues", self.silent, self.pick, [*self.leave, *self.open], [])
+        if self.name == "related":
+            self.meet("GetProject&", self.loud, self.pick, [*self.leave, *self.open])
+            self.meet("GetProject&", self.silent, self.pick, [*self.leave, *self.open], [UNSET])
+        self.steps += self.pick
 
-    def save(self, recording, kinds, reopen):
-        """A save whose requests fail, up to its success in the same dialog."""
-        again = [*self.usable, "press cmdSave"]
-        self.steps += again
-        if recording == self.first and "UploadTo" not in str(self.rules):
-            self.meet(SAVE, FAMILIES[self.family], again)
-            self.rules.append({"match": recording, "times": len(self.silent)})  # nothing had been uploaded
-        self.meet([recording], kinds, again)
-        self.unseen += len({"late", "body"}.intersection(kinds))  # recorded, only nobody was told
-        if reopen:
-            self.meet_silently(recording, [f"closed {self.dialog}", *reopen], again)
-        self.steps.append(f"closed {self.dialog}")
+    def meet_in_save(self, recording, requests, reopen):
+        """Up to the success of the save that the requests belong to."""
+        save = ["press cmdSave"]
+        self.steps += self.usable
+        silence = {"MaxFileUploadSize": told_as(225, "ExecuteASPWSUploadFile", TOO_LARGE),
+                   "UploadTo": told_as(-2147023728, "Archive", "No file 'Presentation1.pptx' was uploaded.")}
+        for request in [*requests, recording]:
+            self.meet(request, self.loud, save, self.usable)
+            if request in silence:
+                self.meet(request, self.silent, save, self.usable, silence[request])
+        self.meet(recording, self.silent, save, [f"closed {self.dialog}", *reopen, *self.usable], [])
+        self.versions += 1 + self.unseen
+        self.steps += [*save, f"closed {self.dialog}"]
+
+    def meet_in_loading(self):
+        """Of a dialog that the document's binding opens."""
+        for request, silence in self.loading.items():
+            if self.name == "related" or request == "IsAutoSet":
+                self.meet(request, self.loud, self.open, self.leave if self.name == "related" else [])
+            elif self.loud:
+                failed = [f"window {self.dialog}", "expect cmdSave enabled"]  # Save loads what could not be loaded
+                self.meet(request, self.loud[:1], self.open, failed)
+                self.meet(request, self.loud[1:], ["press cmdSave"], failed)
+                self.steps += self.leave
+            words = [UNSET if silence == 91 else f'message exactly "{silence}" OK'] if silence else []
+            self.meet(request, self.silent, self.open, self.leave, words)
+
+    def meet_in_mail(self):
+        for kind in [*self.loud, *self.silent] if self.name in MAILS else []:
+            send = [*self.open, *self.usable, "press cmdSaveAndSend", f"closed {self.dialog}"]
+            silence = [UNSET] if self.name == "related" else []
+            self.meet(MAILS[self.name], [kind], send, [], silence if kind in SILENT else None)
+            self.versions += 1
 
     def text(self):
-        related = self.name == "related"
-        all_alike = ["UPDATEUSERACCESSLOG"] if self.name == "deliverable" else []
-        # A load that fails leaves the buttons as they were; where Save is in use, it loads what could not be loaded.
-        retry = [f"window {self.dialog}", "expect cmdSave enabled", "press cmdSave"]
-        if related:
-            retry = [f"window {self.dialog}", "expect cmdSave disabled", "press cmdCancel", f"closed {self.dialog}", *self.again]
-        saves_before = 1 + (len(self.silent) if related else 0)
-        self.rules += [{"match": request, "times": times * saves_before} for request, times in self.loading.items()]
-        self.steps += ["new", *self.again, "window frmSaveTo"]
-        self.meet([*all_alike, self.tree], self.loud, ["expect cmdOK disabled", 'expect StatusBar1 "Ready"', "press cmdGo"])
-        self.meet_silently(self.tree, ["expect txtTree visible", 'expect StatusBar1 "Ready"'], ["press cmdGo"])
-        self.steps += self.pick()
-        leave_tree = ["press cmdCancel", "closed frmSaveTo", *self.again, "window frmSaveTo", *self.pick()]
-        self.meet(["CConfig.GetValues"] if all_alike else [], self.loud, leave_tree)
-        self.save(self.first, self.loud, [*self.again, "window frmSaveTo", *self.pick()] if related else [])
-        self.steps += self.again
-        for request in self.loading:
-            self.meet([request], self.loud, ["closed frmBusy", *self.again] if request == "IsAutoSet" else retry)
-        self.save(self.later, self.loud if related else [], self.again)
-        self.steps += ["no message", "quit"]
-        head = [f"#! run --timeout {60 if self.family == 'large' else 1}", "#! faults " + json.dumps(self.rules),
-                r"#! registry Software\Halvex\Corvane\ServerURLMRU MRUServerURL1=${SERVER}"]
-        if self.family == "large": # the system's takes a minute for each
-            head.append("#! set http=own")
-        return "\n".join([*head, *self.steps, f"#= versions {2 + self.unseen}", "#= uploaded documents/Presentation1.pptx"]) + "\n"
+        self.meet_in_tree()
+        first, last = (self.recordings or [""])[0], (self.recordings or [""])[-1]
+        if first:
+            self.meet_in_save(first, SAVE, [*self.open, *self.pick] if first != last else self.open)
+        else:
+            self.steps += [*self.usable, "press cmdSave", f"closed {self.dialog}"]
+            self.versions += 1
+        self.meet_in_loading()
+        self.meet_in_mail()
+        self.steps += self.open
+        if last != first:
+            self.meet_in_save(last, [], self.open)
+        else:
+            self.steps += [*self.usable, "press cmdSave", f"closed {self.dialog}"]
+            self.versions += 1
+        large = self.family == "large"  # the system's HTTP component takes a minute for each
+        head = [f"#! run --timeout {60 if large else 1}",
+                r"#! registry Software\Halvex\Corvane\ServerURLMRU MRUServerURL1=${SERVER}",
+                "#! set mail.client=outlook", "#! set outlook=new", *(["#! set http=own"] if large else [])]
+        if self.name == "manager":
+            head.append("#! user Maria Kowalski")
+        return "\n".join([*head, *self.steps, "no message", "quit", f"#= versions {self.versions}",
+                          "#= uploaded documents/Presentation1.pptx",
+                          "#= bound documents/Presentation1.pptx " + BOUND[self.name].format(2305 + self.unseen)]) + "\n"
 
 
 def picture(width, height, filling=b""):
@@ -223,10 +268,11 @@ quit
 def write_stories(folder):
     """Writes the scenarios; their paths."""
     folder.mkdir(parents=True, exist_ok=True)
-    (folder / "huge").write_bytes(b"x" * 2**26)
+    huge = folder / "huge"
+    huge.exists() or huge.write_bytes(b"x" * 2**26)
     paths = [write_hostile(folder)]
     for family in FAMILIES:
         for name in STORIES:
             paths.append(folder / f"{family}-{name}.txt")
-            paths[-1].write_text(Story(name, family).text().replace("HUGE", str(folder / "huge")), encoding="utf-8")
+            paths[-1].write_text(Story(name, family).text().replace("HUGE", str(huge)), encoding="utf-8")
     return paths

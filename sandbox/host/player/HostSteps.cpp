@@ -207,6 +207,9 @@ void Player::File(const Step& step)
     });
 }
 
+// The server reads its rules again at each request.
+void Player::Faults(const Step& step) { WriteWholeFile(OutFile("faults.json"), step.At(0)); }
+
 void Player::Mail(const Step& step)
 {
     WaitFor([&, field = Widen(step.At(0)), wanted = Widen(step.Lines(1))] {

@@ -78,6 +78,7 @@ void Player::Perform(const Step& step)
         {"property", &Player::Property},
         {"ran", &Player::Ran},
         {"registry", &Player::Registry},
+        {"faults", &Player::Faults},
         {"file", &Player::File},
         {"mail", &Player::Mail},
         {"letter", &Player::Letter},

@@ -56,6 +56,7 @@ private:
     void Ran(const Step& step);
     [[nodiscard]] bool HasRun(const std::string& macro);
     void Registry(const Step& step);
+    void Faults(const Step& step);
     void File(const Step& step);
     void Mail(const Step& step);
     void Letter(const Step& step);
