@@ -11,7 +11,7 @@ namespace corvane
 namespace
 {
 
-constexpr int kEntryEdges = 4; // pixels that an entry has beside its text, and above and below it
+constexpr LONG kEdgeParts = 8; // one part of an entry's height is for each edge, as in a combo box of the system
 
 // Puts the width that the entries need into a message that asks for it and one that sets it.
 void Widen(HWND list, int width, UINT get, UINT set) noexcept
@@ -42,7 +42,8 @@ void FitEntryHeights(HWND form) noexcept
 {
     for (HWND combo = nullptr; (combo = ::FindWindowExW(form, combo, WC_COMBOBOXW, nullptr)) != nullptr;) {
         if ((::GetWindowLongPtrW(combo, GWL_STYLE) & CBS_OWNERDRAWFIXED) == 0) continue;
-        const LONG height = TextRuler{combo}.Measure(L"0", DT_SINGLELINE, 0).cy + kEntryEdges;
+        const LONG line = TextRuler{combo}.Measure(L"0", DT_SINGLELINE, 0).cy;
+        const LONG height = line * kEdgeParts / (kEdgeParts - 2);
         for (const WPARAM part : {static_cast<WPARAM>(-1), WPARAM{0}}) // the closed box, the list
             ::SendMessageW(combo, CB_SETITEMHEIGHT, part, height);
     }
@@ -60,7 +61,7 @@ bool DrawListEntry(const DRAWITEMSTRUCT& entry)
     if (entry.itemID == static_cast<UINT>(-1)) return false; // none is chosen
     const std::wstring text = ComboEntry(entry.hwndItem, static_cast<int>(entry.itemID));
     RECT room = entry.rcItem;
-    ::InflateRect(&room, -kEntryEdges / 2, 0);
+    ::InflateRect(&room, (room.top - room.bottom) / kEdgeParts, 0);
     ::SetBkMode(context, TRANSPARENT);
     ::SetTextColor(context, ::GetSysColor(isChosen ? COLOR_HIGHLIGHTTEXT : isOff ? COLOR_GRAYTEXT : COLOR_WINDOWTEXT));
     ::DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &room,
