@@ -81,37 +81,41 @@ class Story:
         lines = [f"Error: HTTP Status Code {status}", "", "Remote call to '${SERVER}' failed.", ""]
         return told_as(status, source, *lines)
 
-    def rule(self, request, kind, times=1):
-        rules = [{"match": request, "times": times, "n": next(self.numbers), **FAULTS[kind]}]
+    def rules(self, kinds, *requests):
+        """The step that lets the next requests of these sorts fail, one in each of these ways."""
+        rules = []
+        for request, kind in itertools.product(requests, kinds):
+            times = 2 if request == self.tree and kind in SILENT else 1  # its projects are counted before
+            rules.append({"match": request, "times": times, "n": next(self.numbers), **FAULTS[kind]})
         return 'faults "' + json.dumps(rules).replace('"', '""') + '"'
 
     def meet(self, request, kinds, act, after, told=None):
         """The request fails in each way when the user acts; what is told, and what the user does then."""
         for kind in kinds:
-            times = 2 if request == self.tree and kind in SILENT else 1  # its projects are counted before
             words = self.told(request, kind) if told is None else told
-            self.steps += [self.rule(request, kind, times), *act, *words, *after]
+            self.steps += [self.rules([kind], request), *act, *words, *after]
 
     def meet_in_tree(self):
         """Up to the dialog that the tree opens."""
         again, ready = ["press cmdGo"], ["window frmSaveTo", "expect cmdOK enabled"]
-        asked = ["UPDATEUSERACCESSLOG"] * (self.name == "deliverable") + [self.tree]
-        for request, kind in itertools.product(asked, self.loud):
-            idle = ["window frmSaveTo", "expect cmdOK disabled", 'expect StatusBar1 "Ready"']
-            self.meet(request, [kind], again if len(self.steps) > 1 else self.open, idle)
-        self.steps += [*(again if self.loud else self.open), *ready]
+        for request, kind in itertools.product(["UPDATEUSERACCESSLOG", self.tree], self.loud):
+            if request == self.tree or self.name == "deliverable":
+                idle = ["window frmSaveTo", "expect cmdOK disabled", 'expect StatusBar1 "Ready"']
+                self.meet(request, [kind], again if len(self.steps) > 1 else self.open, idle)
+        # Each picture is asked for once, and what none comes for looks plain.
+        self.steps += [self.rules(FAMILIES[self.family], "GetSetIcon"), *(again if self.loud else self.open), *ready]
         self.meet(self.tree, self.silent, again, ["expect txtTree visible", 'expect StatusBar1 "Ready"'], [])
-        self.meet("GetSetIcon", [*self.loud, *self.silent], again, ready, [])
+        self.steps += [*again, *ready]
         if self.name == "deliverable":
             closed = ["window frmFilter", "press btnCancel", "closed frmFilter", *ready]
             self.meet("GETCLASSES", self.loud, ["press cmdFilter"], closed)
             self.meet("GETCLASSES", self.silent, ["press cmdFilter"], closed, [])
             self.meet("CConfig.GetValues", self.loud, self.pick, ["press cmdCancel", "closed frmSaveTo", *self.open])
-            self.meet("CConfig.GetValues", self.silent, self.pick, [*self.leave, *self.open], [])
         if self.name == "related":
             self.meet("GetProject&", self.loud, self.pick, [*self.leave, *self.open])
             self.meet("GetProject&", self.silent, self.pick, [*self.leave, *self.open], [UNSET])
-        self.steps += self.pick
+        turn = list(STORIES).index(self.name)  # the names are asked for until there is an answer, whatever is in it
+        self.steps += [self.rules(self.silent[turn:turn + 1], "CConfig.GetValues"), *self.pick]
 
     def meet_in_save(self, recording, requests, reopen):
         """Up to the success of the save that the requests belong to."""
@@ -169,9 +173,9 @@ class Story:
                 "#! set mail.client=outlook", "#! set outlook=new", *(["#! set http=own"] if large else [])]
         if self.name == "manager":
             head.append("#! user Maria Kowalski")
-        return "\n".join([*head, *self.steps, "no message", "quit", f"#= versions {self.versions}",
-                          "#= uploaded documents/Presentation1.pptx",
-                          "#= bound documents/Presentation1.pptx " + BOUND[self.name].format(2305 + self.unseen)]) + "\n"
+        tail = ["no message", "quit", f"#= versions {self.versions}", "#= uploaded documents/Presentation1.pptx",
+                "#= bound documents/Presentation1.pptx " + BOUND[self.name].format(2305 + self.unseen)]
+        return "\n".join([*head, *self.steps, *tail]) + "\n"
 
 
 def picture(width, height, filling=b""):
