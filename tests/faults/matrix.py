@@ -90,7 +90,7 @@ FAULTS = {  # name: the server's rule or another server, the time-out, what the 
     "no number": ({"body": "<error source='s'/>"}, LONG, NO_VALUE),
     "redirected": ({"status": 302, "location": "/WebServices/offi.asp?Op=G%65tUserID&P1=v6"}, LONG, DONE),
     "round and round": ({"status": 302, "location": "/WebServices/x?OP"}, SHORT, Called.lost)}
-for place in ("before", "headers", "body"):
+for place in ("before", "status", "headers", "body"):
     FAULTS["dropped: " + place] = ({"drop": place}, SHORT, Called.lost)
 for code in (401, 403, 404, 424, 500, 503, 509):
     FAULTS[f"{code}"] = ({"status": code, "body": "no"}, LONG, lambda called, s=code: called.status(s))

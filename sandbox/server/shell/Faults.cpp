@@ -23,6 +23,7 @@ Drop ParseDrop(const std::string& text)
 {
     if (text.empty()) return Drop::Nowhere;
     if (text == "before") return Drop::BeforeAnswer;
+    if (text == "status") return Drop::WithinStatus;
     if (text == "headers") return Drop::WithinHeaders;
     if (text == "body") return Drop::WithinBody;
     throw std::runtime_error{"The faults file has an unknown drop '" + text + "'."};

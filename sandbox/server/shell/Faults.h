@@ -15,6 +15,7 @@ enum class Drop
 {
     Nowhere,
     BeforeAnswer,  // before any byte of an answer; the request is not carried out
+    WithinStatus,  // before the code of the status line
     WithinHeaders, // after the status line and the first header
     WithinBody,    // after half of the body
 };

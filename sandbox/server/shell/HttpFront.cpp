@@ -43,6 +43,7 @@ std::string CutAnswer(const Answer& answer, Drop drop)
     const auto head = FormatHead(answer, whole ? answer.body.size() : std::max<std::size_t>(answer.body.size(), 1));
     if (whole) return head + answer.body;
     if (drop == Drop::WithinBody) return head + answer.body.substr(0, answer.body.size() / 2);
+    if (drop == Drop::WithinStatus) return head.substr(0, head.find(' '));
     return head.substr(0, head.find("\r\n", head.find("\r\n") + 2) + 2);
 }
 
