@@ -64,6 +64,10 @@ class Story:
         self.leave = [f"window {self.dialog}", "press cmdCancel", f"closed {self.dialog}"]
         self.unseen = len({"late", "head", "body"}.intersection(self.loud))  # recordings done that nobody was told of
         self.steps, self.versions, self.numbers = ["new"], 0, itertools.count()
+        # The access is logged, and the customer's names are asked for, until there is an answer, whatever is in it.
+        turn = list(STORIES).index(name)
+        self.logged = [("UPDATEUSERACCESSLOG", kind) for kind in self.silent[max(turn - 1, 0):turn]]
+        self.named = self.silent[turn:turn + 1]
 
     def told(self, request, kind):
         """The step that reads and closes what the user is told when the request meets the fault."""
@@ -85,9 +89,10 @@ class Story:
     def rules(self, kinds, *requests):
         """The step that lets the next requests of these sorts fail, one in each of these ways."""
         rules = []
-        for request, kind in itertools.product(requests, kinds):
+        for request, kind in [*itertools.product(requests, kinds), *self.logged]:
             times = 2 if request == self.tree and kind in SILENT else 1  # its projects are counted before
             rules.append({"match": request, "times": times, "n": next(self.numbers), **FAULTS[kind]})
+        self.logged = []
         return 'faults "' + json.dumps(rules).replace('"', '""') + '"'
 
     def meet(self, request, kinds, act, after, told=None):
@@ -115,8 +120,7 @@ class Story:
         if self.name == "related":
             self.meet("GetProject&", self.loud, self.pick, [*self.leave, *self.open])
             self.meet("GetProject&", self.silent, self.pick, [*self.leave, *self.open], [UNSET])
-        turn = list(STORIES).index(self.name)  # the names are asked for until there is an answer, whatever is in it
-        self.steps += [self.rules(self.silent[turn:turn + 1], "CConfig.GetValues"), *self.pick]
+        self.steps += [self.rules(self.named, "CConfig.GetValues"), *self.pick]
 
     def meet_in_save(self, recording, requests, reopen):
         """Up to the success of the save that the requests belong to."""
