@@ -109,6 +109,7 @@ protected:
 };
 
 constexpr char kOpenForm[] = "new\nsaveas \"${FOLDER}\\plan\"\ncommand OpenForm\nwindow frmSaveTo\n";
+constexpr char kImpatient[] = "set patience 1\n"; // for the step that is to fail; those before it take their time
 
 TEST_F(PlayTest, PressesRibbonControlsAndAnswersMessages)
 {
@@ -140,9 +141,8 @@ class FailingStepTest : public PlayTest, public testing::WithParamInterface<Fail
 
 TEST_P(FailingStepTest, IsReportedWithWhatIsThereInstead)
 {
-    const Outcome outcome =
-        Play(std::string{kOpenForm} + "press cmdGo\n" + GetParam().step + "\n", L"--set patience=1");
-    ExpectFailed(outcome, std::string{"play.txt:6: "} + GetParam().step);
+    const Outcome outcome = Play(std::string{kOpenForm} + "press cmdGo\n" + kImpatient + GetParam().step + "\n");
+    ExpectFailed(outcome, std::string{"play.txt:7: "} + GetParam().step);
     EXPECT_NE(outcome.output.find(GetParam().reason), std::string::npos) << outcome.output;
     EXPECT_NE(outcome.output.find("frmSaveTo \"Fake form\""), std::string::npos) << outcome.output;
     EXPECT_NE(outcome.output.find("txtName Edit \"old name\""), std::string::npos) << outcome.output;
@@ -189,8 +189,8 @@ TEST_F(PlayTest, SeesWhatIsWrongInALayout)
         {"", "over frmSaveTo host", "it is not in the middle of its owner"},
     };
     for (const auto& item : kSpoilt) {
-        const std::string steps = "type txtName \"" + std::string{item.way} + "\"\n" + item.step + "\n";
-        ExpectFailed(Play(kOpenForm + steps, L"--set patience=1"), item.finding);
+        const std::string spoil = "type txtName \"" + std::string{item.way} + "\"\n";
+        ExpectFailed(Play(kOpenForm + spoil + kImpatient + item.step + "\n"), item.finding);
     }
 }
 
@@ -208,7 +208,7 @@ TEST_F(PlayTest, TellsMessagesApartToTheBlankAndShowsTheOneThatIsThere)
         {"window message\nexpect caption \"fake\"", "it is \"Fake\""},
     };
     for (const auto& [step, reason] : faults)
-        ExpectFailed(Play(std::string{"new\ncommand Hello\n"} + step + "\n", L"--set patience=1"), reason);
+        ExpectFailed(Play(std::string{"new\ncommand Hello\nwindow message\n"} + kImpatient + step + "\n"), reason);
 }
 
 TEST_F(PlayTest, WritesShotsAndTheRibbonIntoItsFolder)

@@ -1,6 +1,7 @@
 #include "player/Player.h"
 
 #include <algorithm>
+#include <chrono>
 #include <stdexcept>
 
 #include "app/Console.h"
@@ -15,18 +16,14 @@ namespace
 
 using namespace std::chrono_literals;
 
-constexpr auto kPatience = 30s; // unless the setting "patience" gives other seconds
+constexpr auto kPatience = 30s; // of a step, unless the setting "patience" gives other seconds
 // A long wait is polled ever more rarely: looking costs the user interface time that is not the add-in's.
 constexpr auto kFirstPoll = 20ms;
 constexpr auto kSlowestPoll = 200ms;
 
 } // namespace
 
-Player::Player(Host& host, std::wstring scriptPath) : m_host{host}, m_path{std::move(scriptPath)}, m_patience{kPatience}
-{
-    const std::string patience = host.Documents().Settings().Setting("patience");
-    if (!patience.empty()) m_patience = std::chrono::seconds{std::stoi(patience)};
-}
+Player::Player(Host& host, std::wstring scriptPath) : m_host{host}, m_path{std::move(scriptPath)} {}
 
 bool Player::Play()
 {
@@ -91,7 +88,9 @@ void Player::Perform(const Step& step)
 
 void Player::WaitFor(const std::function<Finding()>& check)
 {
-    const auto end = std::chrono::steady_clock::now() + m_patience;
+    const std::string setting = m_host.Documents().Settings().Setting("patience");
+    const auto end =
+        std::chrono::steady_clock::now() + (setting.empty() ? kPatience : std::chrono::seconds{std::stoi(setting)});
     auto poll = kFirstPoll;
     for (Finding finding = check(); !finding.empty(); finding = check()) {
         CheckFaults();
@@ -103,8 +102,7 @@ void Player::WaitFor(const std::function<Finding()>& check)
 
 void Player::OnUi(std::function<void()> work)
 {
-    if (!m_host.Queue().Run(std::move(work), m_patience))
-        throw std::runtime_error{"the user interface does not answer"};
+    if (!m_host.Queue().Run(std::move(work), kPatience)) throw std::runtime_error{"the user interface does not answer"};
 }
 
 // Waits until the messages posted so far are handled.

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <functional>
 #include <string>
 #include <vector>
@@ -109,7 +108,6 @@ private:
     std::vector<Step> m_steps;
     std::wstring m_form;      // the class of the window that steps address
     bool m_onMessage = false; // they address the topmost message box, until its button is pressed
-    std::chrono::seconds m_patience;
     int m_measured = 0; // "usage" steps with a number so far
     Usage m_settledUsage;
     bool m_quit = false;
