@@ -117,7 +117,7 @@ void SaveDialog::LeaveSave() const noexcept
     Enable(cmdSaveAndSend, m_couldSave);
 }
 
-void SaveDialog::ShowTypeCaptions() const
+void SaveDialog::ShowTypeCaptions()
 {
     const auto& [caption, advisory, type] = m_kind.captions;
     SetCaption(ReplaceAll(caption, type, m_terms.targetType));

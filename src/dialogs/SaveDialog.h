@@ -113,7 +113,7 @@ protected:
     // No outcome: the save buttons are what they were before the target was loaded.
     void LeaveSave() const noexcept;
     // Puts the customer's word for the target's type into the caption and the line above the buttons.
-    void ShowTypeCaptions() const;
+    void ShowTypeCaptions();
     // False once the host's programs or its user have opened or activated another document than the dialog's.
     [[nodiscard]] bool IsDocumentActive() const;
     // Writes the binding into the document and makes the next save write it.

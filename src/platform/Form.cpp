@@ -5,6 +5,8 @@
 #include "platform/Messages.h"
 #include "platform/Procedure.h"
 
+#include <windowsx.h>
+
 #include <algorithm>
 #include <vector>
 
@@ -59,6 +61,7 @@ void Form::CreateWindowFromTemplate(HWND owner)
     m_window = CreateFormWindow(m_name, m_templateId, owner, &Form::DialogProcedure, reinterpret_cast<LPARAM>(this));
     AddDialogWindow(m_window);
     OpenForms().push_back(this);
+    m_caption = WindowText(m_window);
     m_tips = FormTips{m_window};
 }
 
@@ -97,6 +100,7 @@ void Form::FitToScreen() noexcept
 {
     m_scroll.Undo(m_window);
     m_scroll.Cut(m_window, WorkAreaFor(m_window).Size());
+    Ignoring([this] { m_tips.SetText(m_window, m_caption); });
     MoveOntoScreen(m_window, m_shown ? FormPlace::Own : FormPlace::OwnersMiddle);
 }
 
@@ -211,6 +215,9 @@ INT_PTR Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept
     case WM_DRAWITEM:
         Ignoring([&] { m_tips.DrawEntry(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); });
         return TRUE;
+    case WM_NCMOUSEMOVE:
+        m_tips.OnMouseOverFrame({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+        return FALSE;
     case WM_SETCURSOR:
         if (!m_hourglass) return FALSE;
         ::SetCursor(::LoadCursorW(nullptr, IDC_WAIT));

@@ -68,7 +68,8 @@ protected:
     // The name is the form's class name; its window class carries it too.
     Form(const wchar_t* name, int templateId) noexcept : m_name{name}, m_templateId{templateId} {}
 
-    [[nodiscard]] virtual std::span<const FormHandler> Handlers() const = 0;
+    // None while the form is being destroyed, when its window still tells of what goes with it.
+    [[nodiscard]] virtual std::span<const FormHandler> Handlers() const { return {}; }
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
     virtual void Form_Unload() {}
@@ -84,10 +85,9 @@ protected:
     [[nodiscard]] bool IsOpen() const noexcept { return m_shown; }
     [[nodiscard]] HWND Control(int control) const noexcept { return ::GetDlgItem(m_window, control); }
     [[nodiscard]] std::wstring Text(int control) const;
-    // A text that its control cannot show whole ends in an ellipsis and has a tooltip.
+    // A text that its control, or the title bar, cannot show whole ends in an ellipsis and has a tooltip.
     void SetText(int control, const std::wstring& text) const;
-    void SetCaption(const std::wstring& text) const noexcept;
-    [[nodiscard]] std::wstring Caption() const;
+    void SetCaption(const std::wstring& text);
     void Enable(int control, bool enabled) const noexcept;
     void SetFocusTo(int control) const noexcept;
     // The control that has the keyboard; 0 for none of the form's.
@@ -128,6 +128,7 @@ private:
     HWND m_window = nullptr;
     std::vector<HWND> m_disabled; // the thread's other windows while the form is shown
     HWND m_focusBefore = nullptr; // had the keyboard when the form was shown
+    std::wstring m_caption;       // the whole text
     FormTips m_tips;
     FormScroll m_scroll;
     bool m_shown = false;

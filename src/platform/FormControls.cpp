@@ -29,9 +29,11 @@ std::wstring Form::Text(int control) const { return WindowText(Control(control))
 
 void Form::SetText(int control, const std::wstring& text) const { m_tips.SetText(Control(control), text); }
 
-void Form::SetCaption(const std::wstring& text) const noexcept { ::SetWindowTextW(m_window, text.c_str()); }
-
-std::wstring Form::Caption() const { return WindowText(m_window); }
+void Form::SetCaption(const std::wstring& text)
+{
+    m_caption = text;
+    m_tips.SetText(m_window, m_caption);
+}
 
 void Form::Enable(int control, bool enabled) const noexcept
 {

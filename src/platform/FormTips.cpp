@@ -1,6 +1,7 @@
 #include "platform/FormTips.h"
 
 #include "platform/AccessibleName.h"
+#include "platform/FormCaption.h"
 #include "platform/FormLayout.h"
 #include "platform/FormLists.h"
 #include "platform/FormWindow.h"
@@ -28,7 +29,8 @@ enum class TextKind
     Lines,    // a label of several lines
     Button,   // with room for its edges
     CheckBox, // with room for its mark
-    Frame
+    Frame,
+    Caption // of the form itself
 };
 
 bool IsClass(HWND control, const wchar_t* name) noexcept
@@ -41,6 +43,7 @@ bool IsClass(HWND control, const wchar_t* name) noexcept
 TextKind KindOf(HWND control) noexcept
 {
     const auto style = static_cast<DWORD>(::GetWindowLongPtrW(control, GWL_STYLE));
+    if ((style & WS_CHILD) == 0) return TextKind::Caption;
     if (IsClass(control, WC_STATICW)) return (style & SS_ELLIPSISMASK) != 0 ? TextKind::Line : TextKind::Lines;
     if (IsClass(control, WC_EDITW))
         return (style & (ES_READONLY | ES_MULTILINE)) == ES_READONLY ? TextKind::Shown : TextKind::Typed;
@@ -67,6 +70,7 @@ int EdgesOf(TextKind kind, int letter) noexcept
 
 bool Fits(HWND control, TextKind kind, const std::wstring& text)
 {
+    if (kind == TextKind::Caption) return CaptionFits(control, text);
     RECT client{};
     ::GetClientRect(control, &client);
     const RECT room = kind == TextKind::Shown ? TextRoomOf(control) : client;
@@ -94,7 +98,8 @@ void NameBehind(HWND label, const std::wstring& text) noexcept
     if (IsClass(label, WC_STATICW) && IsNamedByLabel(control)) NameForReaders(control, text);
 }
 
-// Labels and frames let the mouse through to the form, which then is what the tooltip watches.
+// Labels and frames let the mouse through to the form, which then is what the tooltip watches; what the mouse does over
+// the title bar is relayed.
 TTTOOLINFOW ToolOf(HWND form, HWND control) noexcept
 {
     TTTOOLINFOW tool{};
@@ -104,7 +109,7 @@ TTTOOLINFOW ToolOf(HWND form, HWND control) noexcept
     const TextKind kind = KindOf(control);
     const bool isTransparent = kind == TextKind::Line || kind == TextKind::Lines || kind == TextKind::Frame;
     tool.uFlags = TTF_SUBCLASS | (isTransparent ? 0U : TTF_IDISHWND);
-    tool.rect = ControlPlace(control);
+    tool.rect = kind == TextKind::Caption ? CaptionPlace(form) : ControlPlace(control);
     if (kind == TextKind::Frame) {
         const TextRuler ruler{control};
         tool.rect.bottom = tool.rect.top + ruler.Measure(L"0", DT_SINGLELINE, 0).cy;
@@ -134,7 +139,8 @@ void FormTips::SetText(HWND control, const std::wstring& text) const
     const bool hasRoom = kind == TextKind::Typed || fits(text);
     const bool drawsAll = hasRoom || kind == TextKind::Line || kind == TextKind::Shown;
     if (!drawsAll) ::SetWindowTextW(control, Shortened(text, fits).c_str());
-    std::wstring whole = kind == TextKind::Shown ? text : WithoutAccessKeys(text);
+    const bool isLiteral = kind == TextKind::Shown || kind == TextKind::Caption;
+    std::wstring whole = isLiteral ? text : WithoutAccessKeys(text);
     TakeBack(control);
     NameBehind(control, whole);
     if (hasRoom) return;
@@ -166,8 +172,19 @@ void FormTips::TakeBack(HWND control) const noexcept
     if (!IsNamedByLabel(control)) NameForReaders(control, {});
 }
 
+void FormTips::OnMouseOverFrame(POINT point) const noexcept
+{
+    ::ScreenToClient(m_form, &point);
+    MSG message{};
+    message.hwnd = m_form;
+    message.message = WM_MOUSEMOVE; // the one move that tooltips know
+    message.lParam = MAKELPARAM(point.x, point.y);
+    ::SendMessageW(m_tooltip, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&message));
+}
+
 void FormTips::TakeAllBack() const noexcept
 {
+    TakeBack(m_form);
     for (HWND control = ::GetWindow(m_form, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT))
     {
         TakeBack(control);

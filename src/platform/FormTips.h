@@ -16,12 +16,15 @@ public:
     FormTips() = default;
     explicit FormTips(HWND form);
 
-    // Puts a text into a control of the form. Labels, buttons, frames and texts that are only shown get a tooltip while
-    // they cannot show all of it.
+    // Puts a text into a control of the form, or into the form's title bar. That, labels, buttons, frames and texts
+    // that are only shown get a tooltip while they cannot show all of it.
     void SetText(HWND control, const std::wstring& text) const;
 
     // Draws an entry of a combo box of the form. The chosen one has a tooltip while the box cannot show all of it.
     void DrawEntry(const DRAWITEMSTRUCT& entry) const;
+
+    // Lets the title bar's tooltip know of the mouse, which is there at this point of the screen.
+    void OnMouseOverFrame(POINT point) const noexcept;
 
     // Takes the tooltips along after controls were moved.
     void FollowControls() const noexcept;

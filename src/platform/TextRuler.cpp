@@ -3,9 +3,13 @@
 namespace corvane
 {
 
-TextRuler::TextRuler(HWND control) noexcept : m_context{::CreateCompatibleDC(nullptr)}
+TextRuler::TextRuler(HWND control) noexcept
+    : TextRuler{reinterpret_cast<HFONT>(::SendMessageW(control, WM_GETFONT, 0, 0))}
+{}
+
+TextRuler::TextRuler(HFONT font) noexcept : m_context{::CreateCompatibleDC(nullptr)}
 {
-    ::SelectObject(m_context.Get(), reinterpret_cast<HFONT>(::SendMessageW(control, WM_GETFONT, 0, 0)));
+    ::SelectObject(m_context.Get(), font);
 }
 
 SIZE TextRuler::Measure(const std::wstring& text, UINT format, LONG width) const noexcept

@@ -8,11 +8,12 @@
 namespace corvane
 {
 
-// Measures texts in a control's own font.
+// Measures texts in a font: a control's own, or one that outlives the ruler.
 class TextRuler
 {
 public:
     explicit TextRuler(HWND control) noexcept;
+    explicit TextRuler(HFONT font) noexcept;
 
     // The size in pixels, drawn with these DrawText formats; lines break at width.
     [[nodiscard]] SIZE Measure(const std::wstring& text, UINT format, LONG width) const noexcept;

@@ -1,5 +1,6 @@
 #include "FakeForm.h"
 
+#include <string>
 #include <string_view>
 
 #include <windows.h>
@@ -51,6 +52,8 @@ void Spoil(HWND form)
     };
     if (way == std::wstring_view{L"cut"}) ::SetDlgItemTextW(form, chkPublish, L"Publish this at once to everybody");
     if (way == std::wstring_view{L"shorten"}) ::SetDlgItemTextW(form, chkPublish, L"Publ\x2026");
+    if (way == std::wstring_view{L"caption"}) ::SetWindowTextW(form, std::wstring(90, L'W').c_str());
+    if (way == std::wstring_view{L"title"}) ::SetWindowTextW(form, L"Fake\x2026");
     if (way == std::wstring_view{L"overlap"}) move(cmdGo, 20, 60);
     if (way == std::wstring_view{L"outside"}) move(cmdCancel, -5, 260);
     if (way == std::wstring_view{L"leave"}) ::SetWindowPos(form, nullptr, -40, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);

@@ -180,12 +180,15 @@ TEST_F(PlayTest, SeesWhatIsWrongInALayout)
     } kSpoilt[] = {
         {"cut", "fits frmSaveTo", "chkPublish cuts \"Publish this at once to everybody\" off"},
         {"shorten", "fits frmSaveTo", "chkPublish is shortened without a tooltip"},
+        {"caption", "fits frmSaveTo", "the title bar cuts \"WWW"},
+        {"title", "fits frmSaveTo", "the title bar is shortened without a tooltip"},
         {"overlap", "fits frmSaveTo", "cmdGo and TreeView1 overlap"},
         {"outside", "fits frmSaveTo", "cmdCancel reaches out of the form"},
         {"leave", "fits frmSaveTo", "the form reaches out of the screen"},
         {"key", "readable frmSaveTo", "lblNotes and chkPublish have the access key p"},
         {"", "readable frmSaveTo", "ClassList has no name for screen readers"},
         {"", "spoken txtNotes \"Name\"", "its name is \"Notes\""},
+        {"", "hover txtNotes \"Notes\"", "the tooltip is \"\""},
         {"", "over frmSaveTo host", "it is not in the middle of its owner"},
     };
     for (const auto& item : kSpoilt) {

@@ -8,6 +8,7 @@
 #include "automation/Text.h"
 #include "player/ControlNames.h"
 #include "player/Screen.h"
+#include "player/Tooltip.h"
 
 namespace host
 {
@@ -84,27 +85,6 @@ bool HasRoom(const Item& item)
 // Whether a whole line of its font fits the control's height.
 bool HasLine(const Item& item) { return Measure(item, L"Ay", DT_SINGLELINE, 0).cy <= RoomOf(item, 0).cy; }
 
-HWND TooltipOf(HWND form)
-{
-    HWND tooltip = nullptr;
-    while ((tooltip = ::FindWindowExW(nullptr, tooltip, TOOLTIPS_CLASSW, nullptr)) != nullptr)
-        if (::GetWindow(tooltip, GW_OWNER) == form) return tooltip;
-    return nullptr;
-}
-
-std::wstring TipOf(HWND form, HWND control)
-{
-    static TTTOOLINFOW tool; // lives on: see Ask
-    tool = {};
-    tool.cbSize = TTTOOLINFOW_V2_SIZE;
-    tool.hwnd = form;
-    tool.uId = reinterpret_cast<UINT_PTR>(control);
-    tool.lpszText = AnswerBuffer();
-    *tool.lpszText = L'\0';
-    static_cast<void>(Ask(TooltipOf(form), TTM_GETTEXTW, kAnswerLength, reinterpret_cast<LPARAM>(&tool)));
-    return AnswerBuffer();
-}
-
 // The one line of text that a text box or a combo box shows, in its client area.
 RECT LineOf(const Item& item, LONG height)
 {
@@ -150,6 +130,13 @@ std::wstring WithoutMarks(std::wstring text)
     return text;
 }
 
+// Of a text that has room: one that ends in an ellipsis is the beginning of another, which the tooltip has.
+std::wstring ShorteningProblem(const std::wstring& shown, const std::wstring& tip)
+{
+    const bool isWhole = shown.empty() || shown.back() != kEllipsis;
+    return isWhole || tip.starts_with(shown.substr(0, shown.size() - 1)) ? L"" : L"is shortened without a tooltip";
+}
+
 std::wstring TextProblem(HWND form, const Item& item)
 {
     const bool isChoice = Is(item, WC_COMBOBOXW) && (item.style & CBS_DROPDOWNLIST) == CBS_DROPDOWNLIST;
@@ -160,14 +147,34 @@ std::wstring TextProblem(HWND form, const Item& item)
     if (!isShownText || item.text.empty()) return {};
     const std::wstring tip = WithoutMarks(TipOf(form, item.window));
     const std::wstring shown = WithoutMarks(item.text);
-    const bool isShortened = shown.back() == kEllipsis && tip.starts_with(shown.substr(0, shown.size() - 1));
-    if (HasRoom(item)) return shown.back() == kEllipsis && !isShortened ? L"is shortened without a tooltip" : L"";
+    if (HasRoom(item)) return ShorteningProblem(shown, tip);
     const bool isBox = isChoice || (Is(item, WC_EDITW) && !(item.style & ES_MULTILINE));
     const bool hasKeyboard = FocusOf(::GetWindowThreadProcessId(item.window, nullptr)) == item.window;
     const bool drawsEllipsis =
         (Is(item, WC_STATICW) && (item.style & SS_ELLIPSISMASK)) || (isBox && (hasKeyboard || EndsInDots(item)));
     if (!drawsEllipsis) return L"cuts \"" + item.text + L"\" off";
     return tip == shown ? L"" : L"cuts \"" + item.text + L"\" off without a tooltip";
+}
+
+// The title bar's text stands between the form's frame and the button that closes it.
+std::wstring CaptionProblem(HWND form)
+{
+    const std::wstring caption = WindowText(form).value_or(L"");
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    ::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+    const HDC context = ::GetDC(form);
+    const HFONT font = ::CreateFontIndirectW(&metrics.lfCaptionFont);
+    const HGDIOBJ before = ::SelectObject(context, font);
+    SIZE size{};
+    ::GetTextExtentPoint32W(context, caption.c_str(), static_cast<int>(caption.size()), &size);
+    ::SelectObject(context, before);
+    ::DeleteObject(font);
+    ::ReleaseDC(form, context);
+    RECT client{};
+    ::GetClientRect(form, &client);
+    if (size.cx > client.right - ::GetSystemMetrics(SM_CXSIZE)) return L"cuts \"" + caption + L"\" off";
+    return ShorteningProblem(caption, TipOf(form, form));
 }
 
 bool Holds(const RECT& outer, const RECT& inner)
@@ -223,6 +230,8 @@ std::wstring FitProblem(HWND form)
         const std::wstring problem = TextProblem(form, item);
         if (!problem.empty()) return item.name + L" " + problem;
     }
+    const std::wstring ofCaption = CaptionProblem(form);
+    if (!ofCaption.empty()) return L"the title bar " + ofCaption;
     for (const std::wstring& problem : {OverlapProblem(items), OutsideProblem(form, items)})
         if (!problem.empty()) return problem;
     return ScreenProblem(form);

@@ -8,6 +8,7 @@
 #include "player/MessageBox.h"
 #include "player/Player.h"
 #include "player/Screen.h"
+#include "player/Tooltip.h"
 #include "ui/MainWindow.h"
 
 namespace host
@@ -66,6 +67,19 @@ void Player::Spoken(const Step& step)
         std::wstring name;
         OnUi([&] { name = SpokenName(control); });
         return name == wanted ? Finding{} : L"its name is \"" + name + L"\"";
+    });
+}
+
+// The title bar is the form's.
+void Player::Hover(const Step& step)
+{
+    const HWND form = Form();
+    const HWND control = step.At(0) == "caption" ? form : Control(step.At(0));
+    if (!control) throw std::runtime_error{"no " + step.At(0) + " is there"};
+    PointAt(form, control);
+    WaitFor([&, wanted = Widen(step.At(1))] {
+        const std::wstring tip = ShownTip(form);
+        return tip == wanted ? Finding{} : L"the tooltip is \"" + tip + L"\"";
     });
 }
 

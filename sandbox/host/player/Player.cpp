@@ -78,7 +78,7 @@ void Player::Perform(const Step& step)
         {"no", &Player::No},           {"repainted", &Player::Repainted},
         {"fits", &Player::LayoutFits}, {"readable", &Player::Readable},
         {"spoken", &Player::Spoken},   {"over", &Player::Over},
-        {"expect", &Player::Expect},
+        {"hover", &Player::Hover},     {"expect", &Player::Expect},
     };
     if (m_quit) throw std::runtime_error{"the host has quit"};
     for (const Verb& verb : kVerbs)

@@ -80,6 +80,7 @@ private:
     void LayoutFits(const Step& step);
     void Readable(const Step& step);
     void Spoken(const Step& step);
+    void Hover(const Step& step);
     void Over(const Step& step);
     [[nodiscard]] HWND NamedWindow(const std::string& name);
     [[nodiscard]] HWND Form() const;
@@ -108,7 +109,7 @@ private:
     std::vector<Step> m_steps;
     std::wstring m_form;      // the class of the window that steps address
     bool m_onMessage = false; // they address the topmost message box, until its button is pressed
-    int m_measured = 0; // "usage" steps with a number so far
+    int m_measured = 0;       // "usage" steps with a number so far
     Usage m_settledUsage;
     bool m_quit = false;
     bool m_faultsExpected = false;
