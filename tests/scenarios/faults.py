@@ -4,6 +4,8 @@ The steps write the server's rules: one fault for the next request of its kind.
 """
 import itertools, json
 
+from hostile import write_hostile
+
 LOST = "Unable to contact server ${SERVER}."
 SECURE = "The server cannot be accessed or the page must be viewed over a secure channel."
 TOO_LARGE = "File size is greater than maximum allowed. Please contact your server administrator."
@@ -12,6 +14,24 @@ NOT_TEAM = "Document cannot be uploaded to Corvane because you are not a project
 NOT_OWN = "Document cannot be uploaded to Corvane because you do not own this "
 UNSET = f'message exactly "ERROR" "Number: 91" "Description: {NOT_SET}" "Source: WebService.FirstRow" OK'
 DOCUMENT = "<error number='7' source='Its own' description='Its words.'/>"
+OLD = "This Corvane for MS Office add-in must be used with a server where Corvane 8.0 or higher has been installed."
+TOO_OLD, DECLINED, NO_NUMBER = 0x8004070C - 2**32, 287, -2147221504
+NOT_OWNER, CLOSED, CLOSED_RELATED = 0x8004C6A3 - 2**32, 0x8004C6A4 - 2**32, 0x8004073C - 2**32
+NUMBERS = [*range(NOT_OWNER, NOT_OWNER + 7), CLOSED_RELATED, TOO_OLD, DECLINED, 0, "", "abc", "99999999999"]
+REFUSED = "Document cannot be uploaded to Corvane because "
+REFUSALS = {  # what a save says instead of the number, by its dialog
+    "frmSaveAssignment": {
+        NOT_OWNER: [REFUSED + "you are not the owner."], CLOSED: [REFUSED + "the project is closed."],
+        NOT_OWNER + 2: [REFUSED + "the project Stage is locked."],
+        NOT_OWNER + 3: [REFUSED + "the document is currently being routed."],
+        NOT_OWNER + 4: [REFUSED + "the document was routed and approved."],
+        NOT_OWNER + 6: ["Documents that require user re-authentication for creating new versions must be uploaded using "
+                        "the Deliverable detail page in Corvane."]},
+    "frmSaveGateDoc": {
+        NOT_OWNER: [REFUSED + "you are not the owner."],
+        CLOSED: ["The project 'Apollo' is closed and no longer active.", "", "Please click the Change button to select "
+                 "another project.", "", "Your document has not been saved."]},
+    "frmSaveRelatedDoc": {CLOSED_RELATED: ["Document cannot be uploaded to Corvane  because the project is closed."]}}
 STATUSES = [401, 403, 404, 424, 500, 503, 509]
 FAMILIES = {  # kinds of faults that one story meets, by its name
     "faults": {"drop": {"drop": "before"}, "document": {"body": DOCUMENT}, **{f"{n}": {"status": n} for n in STATUSES}},
@@ -23,10 +43,11 @@ FAMILIES = {  # kinds of faults that one story meets, by its name
     "lines": {"refused": {"status": 302, "location": "http://127.0.0.1:1/"}, "late": {"delayMs": 3000},
               "no such name": {"status": 302, "location": "http://h.invalid/"}, "head": {"drop": "status"},
               "body": {"drop": "body"}},
+    "numbers": {number: {"body": DOCUMENT.replace("'7'", f"'{number}'")} for number in NUMBERS},
     "large": {"64 MiB": {"file": "HUGE"}}}
 FAULTS = {kind: rule for family in FAMILIES.values() for kind, rule in family.items()}
 SILENT = {"empty", "truncated", "wrong type", "redirected", "64 MiB"}  # no failure, and nothing of use in them
-SAVE = ["MaxFileUploadSize", "UploadTo"]
+SAVE, SENDING = ["press cmdSave"], ["MaxFileUploadSize", "UploadTo"]
 ASSIGNMENT = ("DelivAct", "GetMyAssignmentsAsTree", "frmSaveAssignment")
 STORIES = {  # command, tree, dialog, target, recordings, requests of loading: what silence in their answer is told as
     "deliverable": (*ASSIGNMENT, "Apollo/Concept/Business case", ["CDeliverable.UploadAndUpdate"], {
@@ -47,9 +68,12 @@ BOUND = {"deliverable": "12 45 0 0 0 0 0", "activity": "12 45 678 0 0 0 0", "man
 MAILS = {"activity": "GETMULTIVERSIONDETAILSASXML", "gate": "GETPROJECTTEAMMEMBERS", "related": "GETPROJECTRELATEDFILE"}
 
 
+def message(*lines):
+    return ["message exactly " + " ".join(f'"{line}"' for line in lines) + " OK"]
+
+
 def told_as(number, source, *lines):
-    words = ["ERROR", f"Number: {number}", "Description: " + lines[0], *lines[1:], "Source: " + source]
-    return ["message exactly " + " ".join(f'"{word}"' for word in words) + " OK"]
+    return message("ERROR", f"Number: {number}", "Description: " + lines[0], *lines[1:], "Source: " + source)
 
 
 class Story:
@@ -69,11 +93,23 @@ class Story:
         self.logged = [("UPDATEUSERACCESSLOG", kind) for kind in self.silent[max(turn - 1, 0):turn]]
         self.named = self.silent[turn:turn + 1]
 
+    def told_of_number(self, request, number, source):
+        saving = request in [*SENDING, *self.recordings]
+        if number == DECLINED and (saving or request == MAILS.get(self.name)):
+            return []
+        if saving and number in REFUSALS[self.dialog]:
+            return message(*REFUSALS[self.dialog][number])
+        if number == TOO_OLD:
+            return told_as(225, source, OLD)
+        return told_as(number if isinstance(number, int) and number else NO_NUMBER, "Its own", "Its words.")
+
     def told(self, request, kind):
         """The step that reads and closes what the user is told when the request meets the fault."""
         upload = request == "UploadTo"
         sources = {"UploadTo": "ExecuteASPWSUploadFile", "UPDATEUSERACCESSLOG": "UpdateUserLog"}
         source = sources.get(request, "ExecuteASPWebService")
+        if kind in NUMBERS:
+            return self.told_of_number(request, kind, source)
         status, document = FAULTS[kind].get("status", 200), FAULTS[kind].get("body") == DOCUMENT
         if status == 403 and not upload:
             return told_as(225, source, SECURE)
@@ -124,17 +160,16 @@ class Story:
 
     def meet_in_save(self, recording, requests, reopen):
         """Up to the success of the save that the requests belong to."""
-        save = ["press cmdSave"]
         self.steps += self.usable
         silence = {"MaxFileUploadSize": told_as(225, "ExecuteASPWSUploadFile", TOO_LARGE),
                    "UploadTo": told_as(-2147023728, "Archive", "No file 'Presentation1.pptx' was uploaded.")}
         for request in [*requests, recording]:
-            self.meet(request, self.loud, save, self.usable)
+            self.meet(request, self.loud, SAVE, self.usable)
             if request in silence:
-                self.meet(request, self.silent, save, self.usable, silence[request])
-        self.meet(recording, self.silent, save, [f"closed {self.dialog}", *reopen, *self.usable], [])
+                self.meet(request, self.silent, SAVE, self.usable, silence[request])
+        self.meet(recording, self.silent, SAVE, [f"closed {self.dialog}", *reopen, *self.usable], [])
         self.versions += 1 + self.unseen
-        self.steps += [*save, f"closed {self.dialog}"]
+        self.steps += [*SAVE, f"closed {self.dialog}"]
 
     def meet_in_loading(self):
         """Of a dialog that the document's binding opens."""
@@ -144,7 +179,7 @@ class Story:
             elif self.loud:
                 failed = [f"window {self.dialog}", "expect cmdSave enabled"]  # Save loads what could not be loaded
                 self.meet(request, self.loud[:1], self.open, failed)
-                self.meet(request, self.loud[1:], ["press cmdSave"], failed)
+                self.meet(request, self.loud[1:], SAVE, failed)
                 self.steps += self.leave
             words = [UNSET if silence == 91 else f'message exactly "{silence}" OK'] if silence else []
             self.meet(request, self.silent, self.open, self.leave, words)
@@ -160,9 +195,9 @@ class Story:
         self.meet_in_tree()
         first, last = (self.recordings or [""])[0], (self.recordings or [""])[-1]
         if first:
-            self.meet_in_save(first, SAVE, [*self.open, *self.pick] if first != last else self.open)
+            self.meet_in_save(first, SENDING, [*self.open, *self.pick] if first != last else self.open)
         else:
-            self.steps += [*self.usable, "press cmdSave", f"closed {self.dialog}"]
+            self.steps += [*self.usable, *SAVE, f"closed {self.dialog}"]
             self.versions += 1
         self.meet_in_loading()
         self.meet_in_mail()
@@ -170,7 +205,7 @@ class Story:
         if last != first:
             self.meet_in_save(last, [], self.open)
         else:
-            self.steps += [*self.usable, "press cmdSave", f"closed {self.dialog}"]
+            self.steps += [*self.usable, *SAVE, f"closed {self.dialog}"]
             self.versions += 1
         large = self.family == "large"  # the system's HTTP component takes a minute for each
         head = [f"#! run --timeout {60 if large else 1}",
@@ -181,97 +216,6 @@ class Story:
         tail = ["no message", "quit", f"#= versions {self.versions}", "#= uploaded documents/Presentation1.pptx",
                 "#= bound documents/Presentation1.pptx " + BOUND[self.name].format(2305 + self.unseen)]
         return "\n".join([*head, *self.steps, *tail]) + "\n"
-
-
-def picture(width, height, filling=b""):
-    return b"GIF89a" + width.to_bytes(2, "little") + height.to_bytes(2, "little") + b"\xf7\0\0" + filling
-
-
-def attributes(count):
-    return b" ".join(b"a%x=''" % n for n in range(count))
-
-
-HOSTILE = {  # files of a server that means ill, by the request that they answer
-    "broken.gif": ("P2=Broken", picture(17, 17)),
-    "wide.gif": ("P2=Wide", picture(65535, 65535, b"\0" * 768 + b",\0\0\0\0\xff\xff\xff\xff\0\x08\x01\0\0;")),
-    "fat.gif": ("P2=Fat", picture(17, 17, b"\xff" * 2**22)),
-    "members.xml": ("GETPROJECTTEAMMEMBERS", b"<xml xmlns:z='#RowsetSchema'>" + b"".join(
-        b"<z:row EMailAddress='member%d@example.org'/>" % n for n in range(10000)) + b"</xml>"),
-    "row.xml": ("GETPROJECTDELIVERABLE", b"<xml xmlns:z='#RowsetSchema'><z:row ProjectName='%s' DeliverableName='\t|..' "
-                b"DeliverableID='45' OwnerID='99999999999' TeamLeaderID='-' %s/></xml>" % (b"n" * 100000, attributes(4000)))}
-ICON_SETS = ["..\\..\\evil", "C:evil", "a|b", "Broken", "Wide", "Fat", "x" * 2000]
-
-
-def hostile_tree():
-    projects = [f'<project pid="{10**11 + n}" name="{"w" * 100000}" IconSet="{name}"/>' for n, name in enumerate(ICON_SETS)]
-    below = "".join(f'<deliverable deliverableid="{n}" name="D{n}"/>' for n in range(40, 60))
-    projects += [f'<project pid="{n}" name="P{n}"><stage phaseid="1" name="S">{below}</stage></project>' for n in range(490)]
-    return "<xml>" + "".join(projects) + "</xml>"
-
-
-def write_hostile(folder):
-    """Everything that the server tells of a save is oversized or malformed; the path of the scenario."""
-    files = {**HOSTILE, "tree.xml": ("GetMyAssignmentsAsTree", hostile_tree().encode()),
-             "many.xml": ("GetMyProjectsRelatedFiles", b"<xml>" + b"<project pid='1' name='P'/>" * 10000 + b"</xml>")}
-    for name, (_, content) in files.items():
-        (folder / name).write_bytes(content)
-    rules = [{"match": match, "file": str(folder / name)} for name, (match, _) in files.items()]
-    endless = b"<xml xmlns:z='#RowsetSchema'><z:row %s/></xml>" % attributes(1000000)
-    (folder / "endless.xml").write_bytes(endless)
-    rules.insert(0, {"match": "GETPROJECTDELIVERABLE", "file": str(folder / "endless.xml"), "times": 1})
-    head = "#! faults " + json.dumps(rules) + "\n#! run --timeout 60\n"
-    path = folder / "hostile-server.txt"
-    path.write_text(head + HOSTILE_STEPS, encoding="utf-8")
-    return path
-
-
-HOSTILE_STEPS = r"""#! set mail.client=outlook
-#! set outlook=new
-#! registry Software\Halvex\Corvane\ServerURLMRU MRUServerURL1=${SERVER}
-new
-command Related
-window frmSaveTo
-message "There are more than 500 entries" OK
-window frmFilter
-press cmdCancel
-closed frmFilter
-window frmSaveTo
-expect cmdOK disabled
-press cmdCancel
-closed frmSaveTo
-command DelivAct
-window frmSaveTo
-expect cmdOK enabled
-select TreeView1 "P12/S/D45"
-press cmdOK
-message "Number: 91" OK
-window frmSaveAssignment
-press cmdCancel
-closed frmSaveAssignment
-command DelivAct
-window frmSaveTo
-expect cmdOK enabled
-select TreeView1 "P12/S/D45"
-press cmdOK
-message "Document cannot be uploaded to Corvane because you do not own this Deliverable." OK
-window frmSaveAssignment
-expect cmdSave disabled
-press cmdCancel
-closed frmSaveAssignment
-command GateDoc
-window frmSaveTo
-expect cmdOK enabled
-select TreeView1 "Apollo/Gate 1/Project charter"
-press cmdOK
-window frmSaveGateDoc
-press cmdSaveAndSend
-closed frmSaveGateDoc
-mail Subject "Project charter, Version 2 (${TODAY}) - Gate 1 - Apollo"
-no message
-quit
-#= requests 1 GETPROJECTTEAMMEMBERS
-#= versions 1
-"""
 
 
 def write_stories(folder):

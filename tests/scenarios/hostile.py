@@ -1,0 +1,93 @@
+"""A scenario with a server that means ill: everything that it tells of a save is oversized or malformed."""
+import json
+
+
+def picture(width, height, filling=b""):
+    return b"GIF89a" + width.to_bytes(2, "little") + height.to_bytes(2, "little") + b"\xf7\0\0" + filling
+
+
+def attributes(count):
+    return b" ".join(b"a%x=''" % n for n in range(count))
+
+
+HOSTILE = {  # files of a server that means ill, by the request that they answer
+    "broken.gif": ("P2=Broken", picture(17, 17)),
+    "wide.gif": ("P2=Wide", picture(65535, 65535, b"\0" * 768 + b",\0\0\0\0\xff\xff\xff\xff\0\x08\x01\0\0;")),
+    "fat.gif": ("P2=Fat", picture(17, 17, b"\xff" * 2**22)),
+    "members.xml": ("GETPROJECTTEAMMEMBERS", b"<xml xmlns:z='#RowsetSchema'>" + b"".join(
+        b"<z:row EMailAddress='member%d@example.org'/>" % n for n in range(10000)) + b"</xml>"),
+    "row.xml": ("GETPROJECTDELIVERABLE", b"<xml xmlns:z='#RowsetSchema'><z:row ProjectName='%s' DeliverableName='\t|..' "
+                b"DeliverableID='45' OwnerID='99999999999' TeamLeaderID='-' %s/></xml>" % (b"n" * 100000, attributes(4000)))}
+ICON_SETS = ["..\\..\\evil", "C:evil", "a|b", "Broken", "Wide", "Fat", "x" * 2000]
+
+
+def hostile_tree():
+    projects = [f'<project pid="{10**11 + n}" name="{"w" * 100000}" IconSet="{name}"/>' for n, name in enumerate(ICON_SETS)]
+    below = "".join(f'<deliverable deliverableid="{n}" name="D{n}"/>' for n in range(40, 60))
+    projects += [f'<project pid="{n}" name="P{n}"><stage phaseid="1" name="S">{below}</stage></project>' for n in range(490)]
+    return "<xml>" + "".join(projects) + "</xml>"
+
+
+def write_hostile(folder):
+    """Everything that the server tells of a save is oversized or malformed; the path of the scenario."""
+    files = {**HOSTILE, "tree.xml": ("GetMyAssignmentsAsTree", hostile_tree().encode()),
+             "many.xml": ("GetMyProjectsRelatedFiles", b"<xml>" + b"<project pid='1' name='P'/>" * 10000 + b"</xml>")}
+    for name, (_, content) in files.items():
+        (folder / name).write_bytes(content)
+    rules = [{"match": match, "file": str(folder / name)} for name, (match, _) in files.items()]
+    endless = b"<xml xmlns:z='#RowsetSchema'><z:row %s/></xml>" % attributes(1000000)
+    (folder / "endless.xml").write_bytes(endless)
+    rules.insert(0, {"match": "GETPROJECTDELIVERABLE", "file": str(folder / "endless.xml"), "times": 1})
+    head = "#! faults " + json.dumps(rules) + "\n#! run --timeout 60\n"
+    path = folder / "hostile-server.txt"
+    path.write_text(head + HOSTILE_STEPS, encoding="utf-8")
+    return path
+
+
+HOSTILE_STEPS = r"""#! set mail.client=outlook
+#! set outlook=new
+#! registry Software\Halvex\Corvane\ServerURLMRU MRUServerURL1=${SERVER}
+new
+command Related
+window frmSaveTo
+message "There are more than 500 entries" OK
+window frmFilter
+press cmdCancel
+closed frmFilter
+window frmSaveTo
+expect cmdOK disabled
+press cmdCancel
+closed frmSaveTo
+command DelivAct
+window frmSaveTo
+expect cmdOK enabled
+select TreeView1 "P12/S/D45"
+press cmdOK
+message "Number: 91" OK
+window frmSaveAssignment
+press cmdCancel
+closed frmSaveAssignment
+command DelivAct
+window frmSaveTo
+expect cmdOK enabled
+select TreeView1 "P12/S/D45"
+press cmdOK
+message "Document cannot be uploaded to Corvane because you do not own this Deliverable." OK
+window frmSaveAssignment
+expect cmdSave disabled
+press cmdCancel
+closed frmSaveAssignment
+command GateDoc
+window frmSaveTo
+expect cmdOK enabled
+select TreeView1 "Apollo/Gate 1/Project charter"
+press cmdOK
+window frmSaveGateDoc
+press cmdSaveAndSend
+closed frmSaveGateDoc
+mail Subject "Project charter, Version 2 (${TODAY}) - Gate 1 - Apollo"
+no message
+quit
+#= requests 1 GETPROJECTTEAMMEMBERS
+#= versions 1
+"""
