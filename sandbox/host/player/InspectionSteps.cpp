@@ -70,14 +70,17 @@ void Player::Spoken(const Step& step)
     });
 }
 
-// The title bar is the form's.
+// The title bar is the form's. Wine may tell of a move once more after the next one, and its tooltips then wait for the
+// mouse to come again: as a hand would, it leaves the form and returns.
 void Player::Hover(const Step& step)
 {
+    constexpr int kLooks = 12; // for something over a second
     const HWND form = Form();
     const HWND control = step.At(0) == "caption" ? form : Control(step.At(0));
     if (!control) throw std::runtime_error{"no " + step.At(0) + " is there"};
-    PointAt(form, control);
-    WaitFor([&, wanted = Widen(step.At(1))] {
+    WaitFor([&, wanted = Widen(step.At(1)), look = 0]() mutable {
+        if (look % kLooks == 0) PointAt(form, control);
+        if (++look % kLooks == 0) ::SetCursorPos(0, 0);
         const std::wstring tip = ShownTip(form);
         return tip == wanted ? Finding{} : L"the tooltip is \"" + tip + L"\"";
     });
