@@ -98,8 +98,8 @@ void NameBehind(HWND label, const std::wstring& text) noexcept
     if (IsClass(label, WC_STATICW) && IsNamedByLabel(control)) NameForReaders(control, text);
 }
 
-// Labels and frames let the mouse through to the form, which then is what the tooltip watches; what the mouse does over
-// the title bar is relayed.
+// Labels and frames let the mouse through to the form, and the title bar is the form's: there the tooltip watches a
+// part of the form.
 TTTOOLINFOW ToolOf(HWND form, HWND control) noexcept
 {
     TTTOOLINFOW tool{};
@@ -107,8 +107,9 @@ TTTOOLINFOW ToolOf(HWND form, HWND control) noexcept
     tool.hwnd = form;
     tool.uId = reinterpret_cast<UINT_PTR>(control);
     const TextKind kind = KindOf(control);
-    const bool isTransparent = kind == TextKind::Line || kind == TextKind::Lines || kind == TextKind::Frame;
-    tool.uFlags = TTF_SUBCLASS | (isTransparent ? 0U : TTF_IDISHWND);
+    const bool isPartOfForm =
+        kind == TextKind::Line || kind == TextKind::Lines || kind == TextKind::Frame || kind == TextKind::Caption;
+    tool.uFlags = TTF_SUBCLASS | (isPartOfForm ? 0U : TTF_IDISHWND);
     tool.rect = kind == TextKind::Caption ? CaptionPlace(form) : ControlPlace(control);
     if (kind == TextKind::Frame) {
         const TextRuler ruler{control};

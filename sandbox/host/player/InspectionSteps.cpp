@@ -78,6 +78,13 @@ void Player::Hover(const Step& step)
     const HWND form = Form();
     const HWND control = step.At(0) == "caption" ? form : Control(step.At(0));
     if (!control) throw std::runtime_error{"no " + step.At(0) + " is there"};
+    if (step.At(1).empty()) {
+        PointAt(form, control);
+        ::Sleep(2 * ::GetDoubleClickTime()); // a tooltip comes after a double click's time
+        const std::wstring tip = ShownTip(form);
+        if (!tip.empty()) throw AutomationError{E_FAIL, L"the tooltip is \"" + tip + L"\""};
+        return;
+    }
     WaitFor([&, wanted = Widen(step.At(1)), look = 0]() mutable {
         if (look % kLooks == 0) PointAt(form, control);
         if (++look % kLooks == 0) ::SetCursorPos(0, 0);
