@@ -83,7 +83,7 @@ class Story:
         self.silent = [kind for kind in FAMILIES[family] if kind in SILENT]
         self.loud = [kind for kind in FAMILIES[family] if kind not in SILENT]
         self.open = [f"command {self.command}"]
-        self.pick = ["window frmSaveTo", "expect cmdOK enabled", f'select TreeView1 "{self.target}"', "press cmdOK"]
+        self.pick = [f'pick "{self.target}"']
         self.usable = [f"window {self.dialog}", 'expect StatusBar1 "Ready"', "expect cmdSave enabled"]
         self.leave = [f"window {self.dialog}", "press cmdCancel", f"closed {self.dialog}"]
         self.unseen = len({"late", "head", "body"}.intersection(self.loud))  # recordings done that nobody was told of
@@ -209,11 +209,10 @@ class Story:
             self.versions += 1
         large = self.family == "large"  # the system's HTTP component takes a minute for each
         head = [f"#! run --timeout {60 if large else 1}",
-                r"#! registry Software\Halvex\Corvane\ServerURLMRU MRUServerURL1=${SERVER}",
                 "#! set mail.client=outlook", "#! set outlook=new", *(["#! set http=own"] if large else [])]
         if self.name == "manager":
             head.append("#! user Maria Kowalski")
-        tail = ["no message", "quit", f"#= versions {self.versions}", "#= uploaded documents/Presentation1.pptx",
+        tail = ["no message", f"#= versions {self.versions}", "#= uploaded documents/Presentation1.pptx",
                 "#= bound documents/Presentation1.pptx " + BOUND[self.name].format(2305 + self.unseen)]
         return "\n".join([*head, *self.steps, *tail]) + "\n"
 

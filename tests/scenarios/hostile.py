@@ -46,7 +46,6 @@ def write_hostile(folder):
 
 HOSTILE_STEPS = r"""#! set mail.client=outlook
 #! set outlook=new
-#! registry Software\Halvex\Corvane\ServerURLMRU MRUServerURL1=${SERVER}
 new
 command Related
 window frmSaveTo
@@ -59,35 +58,25 @@ expect cmdOK disabled
 press cmdCancel
 closed frmSaveTo
 command DelivAct
-window frmSaveTo
-expect cmdOK enabled
-select TreeView1 "P12/S/D45"
-press cmdOK
+pick "P12/S/D45"
 message "Number: 91" OK
 window frmSaveAssignment
 press cmdCancel
 closed frmSaveAssignment
 command DelivAct
-window frmSaveTo
-expect cmdOK enabled
-select TreeView1 "P12/S/D45"
-press cmdOK
+pick "P12/S/D45"
 message "Document cannot be uploaded to Corvane because you do not own this Deliverable." OK
 window frmSaveAssignment
 expect cmdSave disabled
 press cmdCancel
 closed frmSaveAssignment
 command GateDoc
-window frmSaveTo
-expect cmdOK enabled
-select TreeView1 "Apollo/Gate 1/Project charter"
-press cmdOK
+pick "Apollo/Gate 1/Project charter"
 window frmSaveGateDoc
 press cmdSaveAndSend
 closed frmSaveGateDoc
 mail Subject "Project charter, Version 2 (${TODAY}) - Gate 1 - Apollo"
 no message
-quit
 #= requests 1 GETPROJECTTEAMMEMBERS
 #= versions 1
 """

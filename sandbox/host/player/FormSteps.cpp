@@ -115,9 +115,11 @@ void Player::Type(const Step& step)
     Settle();
 }
 
-void Player::Press(const Step& step)
+void Player::Press(const Step& step) { PressButton(step.At(0)); }
+
+void Player::PressButton(const std::string& name)
 {
-    const HWND button = UsableControl(step.At(0));
+    const HWND button = UsableControl(name);
     Focus(button);
     ::PostMessageW(button, BM_CLICK, 0, 0);
     Settle();
@@ -148,12 +150,14 @@ void Player::ExpandNode(HWND tree, HTREEITEM node)
     Settle();
 }
 
-void Player::Select(const Step& step)
+void Player::Select(const Step& step) { SelectNode(step.At(0), step.At(1)); }
+
+void Player::SelectNode(const std::string& treeName, const std::string& path)
 {
-    HWND tree = UsableControl(step.At(0));
+    HWND tree = UsableControl(treeName);
     HTREEITEM node = nullptr;
     bool first = true;
-    for (const std::string& name : SplitTreePath(step.At(1))) {
+    for (const std::string& name : SplitTreePath(path)) {
         const HTREEITEM parent = node;
         if (!first) ExpandNode(tree, parent);
         first = false;
@@ -168,6 +172,16 @@ void Player::Select(const Step& step)
     WaitFor(
         [&] { return NextNode(tree, TVGN_CARET, nullptr) == node ? Finding{} : Finding{L"the node is not selected"}; });
     Settle();
+}
+
+// In the add-in's tree of targets, as soon as it offers one.
+void Player::Pick(const Step& step)
+{
+    m_onMessage = false;
+    m_form = L"frmSaveTo";
+    static_cast<void>(UsableControl("cmdOK"));
+    SelectNode("TreeView1", step.At(0));
+    PressButton("cmdOK");
 }
 
 void Player::DoubleClick(const Step& step)

@@ -72,6 +72,7 @@ private:
     void Type(const Step& step);
     void Press(const Step& step);
     void Select(const Step& step);
+    void Pick(const Step& step);
     void DoubleClick(const Step& step);
     void Choose(const Step& step);
     void Check(const Step& step);
@@ -87,6 +88,8 @@ private:
     [[nodiscard]] HWND Control(const std::string& name) const;
     [[nodiscard]] HWND UsableControl(const std::string& name);
     void Focus(HWND control);
+    void PressButton(const std::string& name);
+    void SelectNode(const std::string& treeName, const std::string& path);
     void ExpandNode(HWND tree, HTREEITEM node);
 
     // Steps on message boxes.

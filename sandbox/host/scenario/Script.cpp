@@ -28,7 +28,7 @@ constexpr VerbRule kVerbs[] = {
     {"disconnect", 0, 0}, {"file", 2, 2},     {"fits", 1, 1},      {"letter", 1, 1},      {"mail", 2, kAny},
     {"over", 2, 2},       {"readable", 1, 1}, {"set", 2, 2},       {"spoken", 2, 2},      {"exit", 0, 0},
     {"usage", 0, 1},      {"repeat", 1, 1},   {"end", 0, 0},       {"doubleclick", 1, 2}, {"registry", 3, 3},
-    {"faults", 1, 1},     {"hover", 2, 2},
+    {"faults", 1, 1},     {"hover", 2, 2},    {"pick", 1, 1},
 };
 
 std::string_view Trim(std::string_view text)
