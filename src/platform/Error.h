@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <exception>
+#include <memory>
 #include <string>
 #include <utility>
 
@@ -15,23 +16,25 @@ inline constexpr std::int32_t kErrorSubscriptOutOfRange = 9;
 inline constexpr std::int32_t kErrorTypeMismatch = 13;
 inline constexpr std::int32_t kErrorInvalidUseOfNull = 94;
 
-// An error with its number, the procedure that raised it and the text shown to the user.
+// An error with its number, the procedure that raised it and the text shown to the user. Its copies share the texts: an
+// error is copied where nothing may fail, also when memory is out.
 class Error : public std::exception
 {
 public:
     Error(std::int32_t number, std::wstring source, std::wstring description)
-        : m_number{number}, m_source{std::move(source)}, m_description{std::move(description)}
+        : m_number{number}, m_texts{std::make_shared<const Texts>(std::move(source), std::move(description))}
     {}
 
     [[nodiscard]] std::int32_t Number() const noexcept { return m_number; }
-    [[nodiscard]] const std::wstring& Source() const noexcept { return m_source; }
-    [[nodiscard]] const std::wstring& Description() const noexcept { return m_description; }
+    [[nodiscard]] const std::wstring& Source() const noexcept { return m_texts->first; }
+    [[nodiscard]] const std::wstring& Description() const noexcept { return m_texts->second; }
     [[nodiscard]] const char* what() const noexcept override { return "corvane::Error"; }
 
 private:
+    using Texts = std::pair<std::wstring, std::wstring>;
+
     std::int32_t m_number;
-    std::wstring m_source;
-    std::wstring m_description;
+    std::shared_ptr<const Texts> m_texts;
 };
 
 // What Automation says of an object that is used without being there.

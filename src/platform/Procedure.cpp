@@ -10,6 +10,10 @@ constexpr std::int32_t kErrorOutOfMemory = 7;
 constexpr std::int32_t kErrorInternal = 51;
 
 ProcedureWatch* g_watch = nullptr;
+
+// What any other exception becomes; made while there is memory.
+const Error g_outOfMemory{kErrorOutOfMemory, L"CorvaneMSOfficePowerPoint", L"Out of memory"};
+const Error g_internalError{kErrorInternal, L"CorvaneMSOfficePowerPoint", L"Internal error"};
 } // namespace
 
 void SetProcedureWatch(ProcedureWatch* watch) noexcept { g_watch = watch; }
@@ -36,9 +40,9 @@ Error CurrentError() noexcept
     } catch (const Error& error) {
         return error;
     } catch (const std::bad_alloc&) {
-        return {kErrorOutOfMemory, L"CorvaneMSOfficePowerPoint", L"Out of memory"};
+        return g_outOfMemory;
     } catch (...) {
-        return {kErrorInternal, L"CorvaneMSOfficePowerPoint", L"Internal error"};
+        return g_internalError;
     }
 }
 

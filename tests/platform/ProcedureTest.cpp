@@ -1,9 +1,23 @@
 #include "platform/Procedure.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <new>
 #include <stdexcept>
 #include <vector>
+
+namespace
+{
+bool g_memoryIsOut = false;
+} // namespace
+
+void* operator new(std::size_t size)
+{
+    void* const memory = g_memoryIsOut ? nullptr : std::malloc(size);
+    return memory != nullptr ? memory : throw std::bad_alloc{};
+}
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t /*size*/) noexcept { std::free(memory); }
 
 namespace corvane
 {
@@ -88,7 +102,6 @@ TEST(HostBoundary, MakesAnErrorOfEveryException)
 {
     constexpr ForeignCase kCases[] = {
         {"Own", [] { Fail(); }, 225, L"Description"},
-        {"OutOfMemory", [] { throw std::bad_alloc{}; }, 7, L"Out of memory"},
         {"Standard", [] { throw std::runtime_error{"secret"}; }, 51, L"Internal error"},
         {"NoObject", [] { throw 5; }, 51, L"Internal error"},
     };
@@ -100,6 +113,18 @@ TEST(HostBoundary, MakesAnErrorOfEveryException)
         EXPECT_EQ(error->Description(), item.description);
     }
     EXPECT_FALSE(Catch([] {}).has_value());
+}
+
+TEST(HostBoundary, NeedsNoMemoryForAnError)
+{
+    const Error own{225, L"ExecuteASPWebService", L"Unable to contact server."};
+    g_memoryIsOut = true;
+    const auto lack = Catch([] { static_cast<void>(std::wstring(100, L'x')); });
+    const auto caught = Catch([&] { throw own; });
+    g_memoryIsOut = false;
+    EXPECT_EQ(lack->Number(), 7);
+    EXPECT_EQ(lack->Description(), L"Out of memory");
+    EXPECT_EQ(caught->Description(), own.Description());
 }
 
 struct ResultCase
