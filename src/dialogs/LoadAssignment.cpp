@@ -26,7 +26,7 @@ bool Flag(const XmlNode& row, const wchar_t* attribute) { return ToBooleanSafe(r
 
 } // namespace
 
-void frmSaveAssignment::LoadTarget()
+SaveDialog::TargetState frmSaveAssignment::LoadTarget()
 {
     const ProcedureScope scope{L"frmSaveAssignment.LoadAssignment"};
     m_facts = {};
@@ -43,7 +43,7 @@ void frmSaveAssignment::LoadTarget()
         LoadActivity();
     else
         LoadDeliverable();
-    Decide();
+    return Decide();
 }
 
 std::int32_t frmSaveAssignment::WorkflowPermission(std::int32_t objectKind, std::int32_t objectId) const
@@ -111,7 +111,7 @@ void frmSaveAssignment::AllowCompletion(const XmlNode& row, std::int32_t ownWork
     if (Flag(row, L"HasWorkflow") || ownWorkflowState == kWorkflowRunning) m_completionAllowed = false;
 }
 
-void frmSaveAssignment::Decide()
+SaveDialog::TargetState frmSaveAssignment::Decide()
 {
     for (;;) {
         const UploadDecision decision = DecideUpload(m_facts);
@@ -145,14 +145,14 @@ bool frmSaveAssignment::HasManageAccess() const
     return false;
 }
 
-void frmSaveAssignment::Allow()
+SaveDialog::TargetState frmSaveAssignment::Allow() const
 {
     const bool completed = m_facts.statusCode == kStatusCompleted;
     SetText(txtNotes, ReplaceAll(m_statusNote, L"\n", L"\r\n"));
     SetText(txtAuthor, m_userName);
     Check(chkComplete, completed);
     Enable(chkComplete, !completed && m_completionAllowed);
-    AllowSave();
+    return TargetState::Allowed;
 }
 
 void frmSaveAssignment::ShowActivityRow(bool shown)

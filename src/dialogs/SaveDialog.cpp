@@ -74,47 +74,33 @@ void SaveDialog::LoadInputs()
 void SaveDialog::ReloadTarget()
 {
     // Until the rules have decided about this target, nothing is saved to it and no other is chosen.
-    m_loaded = false;
-    m_couldSave = ::IsWindowEnabled(Control(cmdSave)) != FALSE;
-    DisableSave();
+    const bool couldSave = ::IsWindowEnabled(Control(cmdSave)) != FALSE;
+    m_target = TargetState::Unread;
+    EnableSave(false);
     Enable(cmdChange, false);
     SetHourglass(true);
-    const auto failure = Catch([this] { LoadTarget(); });
+    const auto failure = Catch([this] { m_target = LoadTarget(); });
     SetHourglass(false);
     Enable(cmdChange, true);
-    m_loaded = !failure;
-    if (failure) LeaveSave();
+    EnableSave(m_target == TargetState::Allowed || (m_target != TargetState::Refused && couldSave));
     if (failure && !m_left) throw *failure;
 }
 
-void SaveDialog::DisableSave() const noexcept
+void SaveDialog::EnableSave(bool enabled) const noexcept
 {
-    Enable(cmdSave, false);
-    Enable(cmdSaveAndSend, false);
+    Enable(cmdSave, enabled);
+    Enable(cmdSaveAndSend, enabled && m_mailClientIsOutlook);
 }
 
-void SaveDialog::Refuse(Refusal refusal)
+SaveDialog::TargetState SaveDialog::Refuse(Refusal refusal) const
 {
-    DisableSave();
     Tell(RefusalMessage(refusal, m_terms), kStyleExclamation);
+    return TargetState::Refused;
 }
 
 void SaveDialog::Tell(const std::wstring& text, UINT style) const
 {
     if (!m_left) ShowMessage(text, style);
-}
-
-void SaveDialog::AllowSave() const noexcept
-{
-    Enable(cmdSave, true);
-    Enable(cmdSaveAndSend, m_mailClientIsOutlook);
-    Show(cmdSaveAndSend, m_mailClientIsOutlook);
-}
-
-void SaveDialog::LeaveSave() const noexcept
-{
-    Enable(cmdSave, m_couldSave);
-    Enable(cmdSaveAndSend, m_couldSave);
 }
 
 void SaveDialog::ShowTypeCaptions()
@@ -180,7 +166,7 @@ void SaveDialog::cmdChange_Click()
     bool changed = tree.ServerURL != ServerURL;
     for (const auto& [own, inTree] : ids)
         changed = changed || tree.*inTree != own;
-    if (!changed && m_loaded) return;
+    if (!changed) return;
     ServerURL = tree.ServerURL;
     ProjectID = tree.ProjectID;
     for (const auto& [own, inTree] : ids)

@@ -70,6 +70,14 @@ protected:
         bool publish = false;
         bool complete = false;
     };
+    // What is known of the target, which the save buttons follow.
+    enum class TargetState
+    {
+        Unread,    // the buttons stay as they were, and Save loads the target first
+        Refused,   // out of use
+        Undecided, // as they were; the save itself decides
+        Allowed    // in use, Save & Send only where the mail client is Outlook
+    };
     // What a press on a save button comes to before anything happens.
     enum class SaveStart
     {
@@ -81,10 +89,10 @@ protected:
     explicit SaveDialog(const SaveDialogKind& kind) noexcept : Form{kind.name, kind.templateId}, m_kind{kind} {}
 
     // Puts the customer's words into the captions; fetches what is known of the user before the target is; fetches the
-    // target and decides whether it may be uploaded. The last two run only where a server is given.
+    // target, decides whether it may be uploaded and tells of a refusal. The last two run only where a server is given.
     virtual void ShowTerms() = 0;
     virtual void LoadUser() {}
-    virtual void LoadTarget() = 0;
+    [[nodiscard]] virtual TargetState LoadTarget() = 0;
     // The ids that name the target.
     [[nodiscard]] virtual std::vector<TargetId> TargetIds() = 0;
 
@@ -106,12 +114,8 @@ protected:
     // Shows a message of the loading, unless the user has left the dialog meanwhile.
     void Tell(const std::wstring& text, UINT style) const;
 
-    // The outcome of the rules: the save buttons go out of use and the message is shown, or they come into use (Save &
-    // Send only where the mail client is Outlook).
-    void Refuse(Refusal refusal);
-    void AllowSave() const noexcept;
-    // No outcome: the save buttons are what they were before the target was loaded.
-    void LeaveSave() const noexcept;
+    // Tells why the rules refuse the target.
+    [[nodiscard]] TargetState Refuse(Refusal refusal) const;
     // Puts the customer's word for the target's type into the caption and the line above the buttons.
     void ShowTypeCaptions();
     // False once the host's programs or its user have opened or activated another document than the dialog's.
@@ -146,7 +150,7 @@ private:
     void LoadInputs();
     void ReloadTarget();
     void SetControlsEnabled(bool enabled);
-    void DisableSave() const noexcept;
+    void EnableSave(bool enabled) const noexcept;
     // Runs the save from its question to the hidden dialog. True when the version was recorded and not cancelled.
     bool Save();
     bool UploadAndRecord();
@@ -158,10 +162,9 @@ private:
     SaveDialogKind m_kind;
     UploadTerms m_terms;
     Entries m_entered;
-    bool m_loaded = false;    // the target, with whatever outcome; a save would record what was never read
-    bool m_inMacro = false;   // the document's before a save; it may serve the dialog, whose controls are still in use
-    bool m_left = false;      // by Cancel, perhaps in the middle of a wait for the server
-    bool m_couldSave = false; // before the target was loaded
+    TargetState m_target = TargetState::Unread;
+    bool m_inMacro = false; // the document's before a save; it may serve the dialog, whose controls are still in use
+    bool m_left = false;    // by Cancel, perhaps in the middle of a wait for the server
     bool m_clientEvents = false;
     bool m_mailClientIsOutlook = false;
 };

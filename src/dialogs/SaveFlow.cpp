@@ -36,11 +36,11 @@ bool SaveDialog::Save()
 {
     if (m_inMacro) return false;
     if (!RequireDocument()) return false;
-    if (!m_loaded && !ServerURL.empty()) { // the user is to see first what is to be saved
+    if (m_target == TargetState::Unread && !ServerURL.empty()) { // the user is to see first what is to be saved
         ReloadTarget();
         return false;
     }
-    m_entered = ReadEntries(); // the window may go while the save waits
+    m_entered = ReadEntries();
     const SaveStart start = BeginSave();
     if (start == SaveStart::Hide) Hide();
     if (start != SaveStart::Go) return false;
@@ -77,6 +77,9 @@ bool SaveDialog::UploadAndRecord()
     SetStatus(StatusBar1, L"Contacting the server...");
     SetControlsEnabled(false);
     SetHourglass(true);
+    // What the user has put in meanwhile counts; from here on nothing changes, and the window may go while the save
+    // waits.
+    if (Window() != nullptr) m_entered = ReadEntries();
     if (!MaySave() || !RequireDocument()) return false;
     BindDocument();
     const std::wstring title = DocumentTitle(oApplication, OutlookInspector);

@@ -19,7 +19,7 @@ public:
 private:
     void ShowTerms() override;
     void LoadUser() override;
-    void LoadTarget() override;
+    [[nodiscard]] TargetState LoadTarget() override;
     [[nodiscard]] std::vector<TargetId> TargetIds() override;
     [[nodiscard]] SaveStart BeginSave() override;
     [[nodiscard]] DocumentBinding Binding() const override;
@@ -32,11 +32,11 @@ private:
     void LoadActivity();
     void TakeSharedFacts(const XmlNode& row);
     void AllowCompletion(const XmlNode& row, std::int32_t ownWorkflowState);
-    void Decide();
+    [[nodiscard]] TargetState Decide();
     [[nodiscard]] std::int32_t WorkflowPermission(std::int32_t objectKind, std::int32_t objectId) const;
     [[nodiscard]] std::int32_t ParentOwner() const;
     [[nodiscard]] bool HasManageAccess() const;
-    void Allow();
+    [[nodiscard]] TargetState Allow() const;
     void ShowActivityRow(bool shown);
     void StretchNotes();
     void GetLatestVersionInfo(NotificationFacts& facts) const;

@@ -34,7 +34,7 @@ void frmSaveGateDoc::ShowTerms()
 
 void frmSaveGateDoc::LoadUser() { m_userId = ToLongSafe(QueryText(ServerURL, Operations::kGetUserId, {})); }
 
-void frmSaveGateDoc::LoadTarget()
+SaveDialog::TargetState frmSaveGateDoc::LoadTarget()
 {
     const ProcedureScope scope{L"frmSaveGateDoc.LoadGateDocument"};
     m_facts = {};
@@ -43,16 +43,15 @@ void frmSaveGateDoc::LoadTarget()
     LoadRights();
     if (HasTarget()) LoadGateDocument();
     if (ProjectID >= 1 && IsOutsider(m_facts)) {
-        LeaveSave(); // the save itself refuses again
         Tell(RefusalMessage(Refusal::OutsideTheTeam, Terms()), kStyleCritical);
-        return;
+        return TargetState::Undecided;
     }
     ShowTypeCaptions();
     const std::wstring userName = FirstRow(QueryXml(ServerURL, Operations::kGetUser, {})).Text(L"Name");
     const UploadDecision decision = DecideGateDocument(m_facts);
     if (decision.verdict == Verdict::Refused) return Refuse(decision.refusal);
     SetText(txtAuthor, userName);
-    AllowSave();
+    return TargetState::Allowed;
 }
 
 void frmSaveGateDoc::LoadRights()

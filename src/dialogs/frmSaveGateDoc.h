@@ -17,7 +17,7 @@ public:
 private:
     void ShowTerms() override;
     void LoadUser() override;
-    void LoadTarget() override;
+    [[nodiscard]] TargetState LoadTarget() override;
     [[nodiscard]] std::vector<TargetId> TargetIds() override;
     [[nodiscard]] bool MaySave() override;
     [[nodiscard]] bool HasTarget() const override { return GateDocumentID > 0; }

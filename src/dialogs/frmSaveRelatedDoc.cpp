@@ -19,6 +19,9 @@ constexpr int kSaveControls[] = {txtName, txtDescription, txtAuthor, cboGroup, c
 constexpr const wchar_t* kUploadRole = L"RU";
 constexpr const wchar_t* kDefaultGroup = L"[default]"; // in lower case
 
+// A text with the line breaks that a text box shows.
+std::wstring InLines(const std::wstring& text) { return ReplaceAll(ReplaceAll(text, L"\r\n", L"\n"), L"\n", L"\r\n"); }
+
 } // namespace
 
 frmSaveRelatedDoc::frmSaveRelatedDoc() noexcept
@@ -36,19 +39,16 @@ std::vector<SaveDialog::TargetId> frmSaveRelatedDoc::TargetIds()
     return {{ProjectID, &frmSaveTo::ProjectID}, {RelatedDocID, &frmSaveTo::RelatedDocID}};
 }
 
-void frmSaveRelatedDoc::LoadTarget()
+SaveDialog::TargetState frmSaveRelatedDoc::LoadTarget()
 {
     const ProcedureScope scope{L"frmSaveRelatedDoc.LoadRelatedDocument"};
     const XmlDocument user = QueryXml(ServerURL, Operations::kGetUser, {});
     if (FirstRow(user).Text(L"RoleList").find(kUploadRole) == std::wstring::npos) {
         Tell(L"You do not have rights to upload a related document to this project.", kStyleCritical);
-        return;
+        return TargetState::Refused;
     }
     const bool open = IsNew() ? LoadNewDocument() : LoadExistingDocument();
-    if (open)
-        AllowSave();
-    else
-        Tell(RefusalMessage(Refusal::RelatedProjectClosed, Terms()), kStyleExclamation);
+    return open ? TargetState::Allowed : Refuse(Refusal::RelatedProjectClosed);
 }
 
 bool frmSaveRelatedDoc::LoadNewDocument()
@@ -59,6 +59,7 @@ bool frmSaveRelatedDoc::LoadNewDocument()
     if (ToBooleanSafe(project.Text(L"Closed"))) return false;
     SetText(txtProject, project.Text(L"ProjectName"));
     SetText(txtName, DocumentTitle(oApplication, OutlookInspector));
+    m_description.clear();
     SetText(txtDescription, ItemBodyStart(oApplication, OutlookInspector));
     SetText(txtAuthor, AuthorOfDocument());
     Check(chkPublish, AutomaticallySetPublishCheckbox);
@@ -80,7 +81,8 @@ bool frmSaveRelatedDoc::LoadExistingDocument()
     if (ToBooleanSafe(document.Text(L"ProjectClosed"))) return false;
     SetText(txtProject, document.Text(L"ProjectName"));
     SetText(txtName, document.Text(L"Name"));
-    SetText(txtDescription, ReplaceAll(ReplaceAll(document.Text(L"Description"), L"\r\n", L"\n"), L"\n", L"\r\n"));
+    m_description = document.Text(L"Description");
+    SetText(txtDescription, InLines(m_description));
     SetText(txtAuthor, document.Text(L"Author"));
     Check(chkPublish, ToBooleanSafe(document.Text(L"Published")));
     FillGroups();
@@ -117,10 +119,21 @@ std::wstring frmSaveRelatedDoc::AuthorOfDocument() const
 
 SaveDialog::SaveStart frmSaveRelatedDoc::BeginSave()
 {
-    if (!Entered().name.empty()) return SaveStart::Go;
-    ShowMessage(L"Name is required.", kStyleCritical);
+    if (MaySave()) return SaveStart::Go;
     SetFocusTo(txtName);
     return SaveStart::StayOpen;
+}
+
+bool frmSaveRelatedDoc::MaySave()
+{
+    if (Entered().name.empty()) ShowMessage(L"Name is required.", kStyleCritical);
+    return !Entered().name.empty();
+}
+
+// What the server told stays as it was when nothing of it was changed.
+std::wstring frmSaveRelatedDoc::Description() const
+{
+    return Entered().description == Trim(InLines(m_description)) ? Trim(m_description) : Entered().description;
 }
 
 DocumentBinding frmSaveRelatedDoc::Binding() const
@@ -132,7 +145,7 @@ std::wstring frmSaveRelatedDoc::Record(const std::wstring& uploadName)
 {
     return QueryText(ServerURL, IsNew() ? Operations::kCreateRelatedFile : Operations::kUploadRelatedFile,
                      {IsNew() ? ProjectID : RelatedDocID, uploadName, Entered().name, Entered().author,
-                      Entered().category, Entered().description, Entered().publish ? 1 : 0});
+                      Entered().category, Description(), Entered().publish ? 1 : 0});
 }
 
 void frmSaveRelatedDoc::AfterRecord(const std::wstring& reply)

@@ -18,9 +18,10 @@ public:
 
 private:
     void ShowTerms() override {}
-    void LoadTarget() override;
+    [[nodiscard]] TargetState LoadTarget() override;
     [[nodiscard]] std::vector<TargetId> TargetIds() override;
     [[nodiscard]] SaveStart BeginSave() override;
+    [[nodiscard]] bool MaySave() override;
     [[nodiscard]] DocumentBinding Binding() const override;
     [[nodiscard]] std::wstring Record(const std::wstring& uploadName) override;
     void AfterRecord(const std::wstring& reply) override;
@@ -34,7 +35,10 @@ private:
     void FillGroups();
     void SelectGroup(const std::wstring& group);
     [[nodiscard]] std::wstring AuthorOfDocument() const;
+    [[nodiscard]] std::wstring Description() const;
     void GetRelatedVersionInfo(NotificationFacts& facts) const;
+
+    std::wstring m_description; // of an existing document, as the server told it
 };
 
 } // namespace corvane

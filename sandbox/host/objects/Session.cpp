@@ -57,16 +57,14 @@ std::wstring OwnerOfMacro(const std::wstring& name)
     return mark == std::wstring::npos ? std::wstring{} : name.substr(0, mark);
 }
 
-// Handles messages for a second, as a macro does that shows a box or waits.
+// Handles messages for a moment, as a macro does that shows a box or waits.
 void ServeMessages()
 {
-    constexpr ULONGLONG kPause = 1000;
-    const ULONGLONG end = ::GetTickCount64() + kPause;
-    for (MSG message{}; ::GetTickCount64() < end; ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT))
-        while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-            ::TranslateMessage(&message);
-            ::DispatchMessageW(&message);
-        }
+    ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
+    for (MSG message{}; ::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);) {
+        ::TranslateMessage(&message);
+        ::DispatchMessageW(&message);
+    }
 }
 
 } // namespace
@@ -240,10 +238,14 @@ void Session::RunMacro(const std::wstring& name)
     const std::wstring macro = owner.empty() ? name : name.substr(owner.size() + 1);
     const auto isOwner = [&](const auto& open) { return SameText(open->File().Name(), owner); };
     if (!owner.empty() && std::ranges::none_of(m_documents, isOwner)) Refuse(Kind(), Refusal::NoMacro, name);
-    const std::string answer = m_options.Setting("macro." + Narrow(macro));
-    if (answer.empty()) Refuse(Kind(), Refusal::NoMacro, name);
+    // PowerPoint knows a macro by its presentation's name only.
+    const bool unqualified = owner.empty() && Kind() == HostKind::PowerPoint;
+    const std::string setting = "macro." + Narrow(macro);
+    if (unqualified || m_options.Setting(setting).empty()) Refuse(Kind(), Refusal::NoMacro, name);
     m_macrosRun.push_back(macro);
-    if (answer == "pause") return ServeMessages();
+    while (m_options.Setting(setting) == "hold")
+        ServeMessages();
+    const std::string answer = m_options.Setting(setting);
     if (answer == "save" && Active()) return Active()->Save();
     if (answer != "ok") Refuse(Kind(), Refusal::MacroFailed, name);
 }
