@@ -153,7 +153,7 @@ def wanted_letter(play, link):
                 ["A new version (Version 2) of the Gate Document Project charter has been created.",
                  "Follow the link to view the Gate Document.", "", "Project: Apollo", "Gate: Gate 1",
                  "Gate Document: Project charter", f"Version 2 ({today})", f"Link: {link}", "", ""])
-    return (to, f"Kick-off slides,  ({today}) - Apollo",
+    return (to, f"Kick-off slides, Dana Reyes ({today}) - Apollo",
             ["A Related Document has been created or updated for the Apollo project.",
              "Follow the link to view the Related Document.", "", "Project: Apollo",
              "Related Document: Kick-off slides", "Author: Dana Reyes", f"Date: {today}", f"Link: {link}", "", ""])

@@ -55,8 +55,8 @@ std::wstring NotificationLink(const NotificationFacts& facts)
 std::wstring NotificationSubject(const NotificationFacts& facts)
 {
     std::wstring subject = facts.targetName + L", ";
-    if (!IsRelated(facts)) subject += L"Version ";
-    subject += facts.version + L" (" + facts.date + L") - ";
+    subject += IsRelated(facts) ? facts.author : L"Version " + facts.version;
+    subject += L" (" + facts.date + L") - ";
     if (IsGate(facts)) subject += facts.gateName + L" - ";
     return subject + facts.projectName;
 }

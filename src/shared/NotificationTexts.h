@@ -25,8 +25,8 @@ struct NotificationFacts
     std::int32_t targetId = 0;
     std::wstring targetName;
     std::wstring gateName; // gate documents only
-    std::wstring version;  // of a related document its author stands in the body instead
-    std::wstring author;   // related documents only
+    std::wstring version;  // none of a related document
+    std::wstring author;   // stands for the version of a related document
     std::wstring date;     // as it is shown
     std::int32_t projectId = 0;
     std::wstring projectName;
