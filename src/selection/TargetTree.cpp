@@ -41,26 +41,26 @@ void TargetTree::Clear()
     m_keys.clear();
 }
 
-void TargetTree::AddProjects(const std::vector<XmlNode>& projects, const TreeTarget& preselected,
-                             const std::function<bool()>& wanted)
+void TargetTree::AddProjects(const std::vector<XmlNode>& projects, const TreeTarget& preselected, const Wanted& wanted)
 {
     m_preselected = preselected;
     m_pauses = WorkPauses{};
     const PaintingOff paintingOff{m_treeView};
     for (const XmlNode& project : projects) {
         if (!wanted()) return;
-        AddProject(project);
+        AddProject(project, wanted);
     }
 }
 
-void TargetTree::AddProject(const XmlNode& project)
+void TargetTree::AddProject(const XmlNode& project, const Wanted& wanted)
 {
     const std::wstring iconSet = project.Text(L"IconSet");
     if (m_iconSets.insert(iconSet).second) m_loadIcons(m_images, iconSet);
-    AddNode({TVI_ROOT, {}}, project, 0, iconSet);
+    AddNode({TVI_ROOT, {}}, project, 0, iconSet, wanted);
 }
 
-void TargetTree::AddNode(const Position& parent, const XmlNode& element, std::size_t depth, const std::wstring& iconSet)
+void TargetTree::AddNode(const Position& parent, const XmlNode& element, std::size_t depth, const std::wstring& iconSet,
+                         const Wanted& wanted)
 {
     const auto levels = TreeLevels(m_mode);
     const TreeLevel& level = levels[depth];
@@ -69,8 +69,8 @@ void TargetTree::AddNode(const Position& parent, const XmlNode& element, std::si
     if (depth + 1 == levels.size()) return;
     const TreeLevel& below = levels[depth + 1];
     if (m_mode == TreeMode::RelatedDocument) Insert(node, below, L"0", std::wstring{kNewRelatedDocumentText}, iconSet);
-    for (XmlNode child = element.FirstElement(); child; child = child.NextElement()) {
-        if (child.Name() == below.element) AddNode(node, child, depth + 1, iconSet);
+    for (XmlNode child = element.FirstElement(); child && wanted(); child = child.NextElement()) {
+        if (child.Name() == below.element) AddNode(node, child, depth + 1, iconSet, wanted);
     }
 }
 

@@ -21,6 +21,9 @@ public:
     // Fetches a picture of an icon set from the server into the images: kind ("project", "stage", "gate") and set.
     using IconLoader = std::function<void(TreeImages& images, const std::wstring& iconSet)>;
 
+    // Whether the tree is still wanted.
+    using Wanted = std::function<bool()>;
+
     // The tree view stays owned by its form.
     TargetTree(HWND treeView, TreeMode mode, IconLoader loadIcons);
     TargetTree(const TargetTree&) = delete;
@@ -30,8 +33,7 @@ public:
     void Clear();
     // Adds projects with all below them; nodes whose ids equal those of preselected become visible and selected.
     // Messages are handled meanwhile; once wanted() no longer holds, the rest is left out.
-    void AddProjects(const std::vector<XmlNode>& projects, const TreeTarget& preselected,
-                     const std::function<bool()>& wanted);
+    void AddProjects(const std::vector<XmlNode>& projects, const TreeTarget& preselected, const Wanted& wanted);
 
     // The key of the selected node, empty when none is selected; whether it has children; and whether the message being
     // handled came from the mouse over a node.
@@ -46,8 +48,9 @@ private:
         std::wstring key;
     };
 
-    void AddProject(const XmlNode& project);
-    void AddNode(const Position& parent, const XmlNode& element, std::size_t depth, const std::wstring& iconSet);
+    void AddProject(const XmlNode& project, const Wanted& wanted);
+    void AddNode(const Position& parent, const XmlNode& element, std::size_t depth, const std::wstring& iconSet,
+                 const Wanted& wanted);
     Position Insert(const Position& parent, const TreeLevel& level, const std::wstring& id, const std::wstring& text,
                     const std::wstring& iconSet);
     [[nodiscard]] bool IsPreselected(const std::wstring& key, const TreeLevel& level) const;

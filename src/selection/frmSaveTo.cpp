@@ -23,7 +23,11 @@ constexpr HelpTopic kHelpTopics[] = {HelpTopic::AssignmentTree, HelpTopic::Relat
 
 frmSaveTo::frmSaveTo() noexcept : Form{L"frmSaveTo", IDD_frmSaveTo} {}
 
-frmSaveTo::~frmSaveTo() { Unload(); }
+frmSaveTo::~frmSaveTo()
+{
+    Unload();
+    KeepServers(); // the host may have closed the window
+}
 
 std::span<const FormHandler> frmSaveTo::Handlers() const
 {
@@ -82,7 +86,15 @@ void frmSaveTo::Form_Unload()
 {
     m_tree.reset();
     m_filter.reset();
-    m_servers->SaveURLs();
+    KeepServers();
+}
+
+void frmSaveTo::KeepServers() noexcept
+{
+    Reporting([this] {
+        if (m_servers) m_servers->SaveURLs();
+    });
+    m_servers.reset();
 }
 
 void frmSaveTo::Form_Activate()
@@ -169,6 +181,7 @@ void frmSaveTo::FocusTree()
 void frmSaveTo::cmdOK_Click()
 {
     if (Text(cmbServerURL) != m_currentServer) return Go();
+    if (!m_tree) return; // it could not be made
     const auto target = TargetOfKey(Mode(), m_tree->SelectedKey());
     if (!target) {
         ShowMessage(m_captions.nothingSelected, m_captions.refusalIsCritical ? kStyleCritical : kStylePlain);
@@ -200,7 +213,8 @@ void frmSaveTo::TakeTarget(const TreeTarget& target)
 
 void frmSaveTo::TreeView1_DblClick()
 {
-    if (!m_tree->IsPointed() || m_tree->SelectedHasChildren() || !TargetOfKey(Mode(), m_tree->SelectedKey())) return;
+    if (!m_tree || !m_tree->IsPointed() || m_tree->SelectedHasChildren() || !TargetOfKey(Mode(), m_tree->SelectedKey()))
+        return;
     cmdOK_Click();
 }
 

@@ -57,6 +57,8 @@ private:
 
     [[nodiscard]] TreeMode Mode() const noexcept { return static_cast<TreeMode>(DialogType); }
     void FillServers();
+    // Writes the list of servers, once.
+    void KeepServers() noexcept;
     void ShowTreeLabel();
     // False once the user has left the window, which may be in the middle of a wait for the server.
     [[nodiscard]] bool IsWanted() const noexcept { return IsOpen(); }
