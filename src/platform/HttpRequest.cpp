@@ -11,6 +11,7 @@
 
 #include <cwchar>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace corvane
@@ -18,7 +19,7 @@ namespace corvane
 namespace
 {
 
-constexpr const wchar_t* kSource = L"HttpRequest";
+constexpr const wchar_t* kWaitSource = L"HttpRequest.Wait";
 constexpr long kComplete = 4;
 constexpr long kNoContentOfWindows = 1223; // what the component makes of status 204
 
@@ -40,7 +41,7 @@ std::vector<ComPtr<IXMLHTTPRequest>>& Ownerless()
 long StateOf(IXMLHTTPRequest& request)
 {
     long state = 0;
-    Check(request.get_readyState(&state), kSource);
+    Check(request.get_readyState(&state), kWaitSource);
     return state;
 }
 
@@ -79,7 +80,7 @@ void ForgetAnswer(const std::wstring& url) noexcept
     if (forget != nullptr) forget(url.c_str());
 }
 
-[[noreturn]] void ThrowTransportFailure() { throw Error{ErrorNumberOf(E_FAIL), kSource, MessageOf(E_FAIL)}; }
+[[noreturn]] void ThrowTransportFailure() { throw Error{ErrorNumberOf(E_FAIL), kWaitSource, MessageOf(E_FAIL)}; }
 
 } // namespace
 
@@ -91,7 +92,21 @@ HttpRequest::HttpRequest()
                                     reinterpret_cast<void**>(m_request.ReleaseAndGetAddressOf()));
         if (SUCCEEDED(result)) return;
     }
-    throw Error{ErrorNumberOf(result), kSource, L"The HTTP component of the system cannot be created."};
+    throw Error{ErrorNumberOf(result), L"HttpRequest.HttpRequest",
+                L"The HTTP component of the system cannot be created."};
+}
+
+HttpRequest::HttpRequest(HttpRequest&& other) noexcept
+    : m_request{std::move(other.m_request)}, m_status{other.m_status}, m_underWay{
+                                                                           std::exchange(other.m_underWay, false)}
+{}
+
+HttpRequest& HttpRequest::operator=(HttpRequest other) noexcept
+{
+    std::swap(m_request, other.m_request);
+    std::swap(m_status, other.m_status);
+    std::swap(m_underWay, other.m_underWay);
+    return *this;
 }
 
 HttpRequest::~HttpRequest()
@@ -114,12 +129,13 @@ void HttpRequest::Open(const wchar_t* method, const std::wstring& url)
 {
     const Variant none;
     if (std::wstring_view{method} == L"GET") ForgetAnswer(url);
-    Check(m_request->open(Bstr{method}.Get(), Bstr{url}.Get(), Variant{true}.Get(), none.Get(), none.Get()), kSource);
+    Check(m_request->open(Bstr{method}.Get(), Bstr{url}.Get(), Variant{true}.Get(), none.Get(), none.Get()),
+          L"HttpRequest.Open");
 }
 
 void HttpRequest::SetHeader(const wchar_t* name, const std::wstring& value)
 {
-    Check(m_request->setRequestHeader(Bstr{name}.Get(), Bstr{value}.Get()), kSource);
+    Check(m_request->setRequestHeader(Bstr{name}.Get(), Bstr{value}.Get()), L"HttpRequest.SetHeader");
 }
 
 void HttpRequest::Send() { SendBody(Variant{}); }
@@ -132,7 +148,7 @@ void HttpRequest::Send(const XmlDocument& document) { SendBody(Variant{static_ca
 
 void HttpRequest::SendBody(const Variant& body)
 {
-    Check(m_request->send(body.Get()), kSource);
+    Check(m_request->send(body.Get()), L"HttpRequest.Send");
     m_underWay = true;
 }
 
@@ -143,7 +159,7 @@ void HttpRequest::Wait(std::optional<std::chrono::milliseconds> limit)
         ThrowTransportFailure();
     m_underWay = false;
     // The component reports a failed transport as a status of its own outside HTTP's range, or by refusing to tell.
-    Check(m_request->get_status(&m_status), kSource);
+    Check(m_request->get_status(&m_status), kWaitSource);
     if (m_status == kNoContentOfWindows) m_status = 204;
     if (m_status < 100 || m_status > 599 || IsCutShort()) ThrowTransportFailure();
 }
@@ -179,7 +195,7 @@ std::wstring HttpRequest::Text() const
 Variant HttpRequest::Body() const
 {
     Variant body;
-    Check(m_request->get_responseBody(body.Put()), kSource);
+    Check(m_request->get_responseBody(body.Put()), L"HttpRequest.Body");
     return body;
 }
 

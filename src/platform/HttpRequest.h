@@ -22,8 +22,8 @@ class HttpRequest
 public:
     // Throws Error when the machine has no XMLHTTP component.
     HttpRequest();
-    HttpRequest(const HttpRequest&) = delete;
-    HttpRequest& operator=(const HttpRequest&) = delete;
+    HttpRequest(HttpRequest&& other) noexcept;
+    HttpRequest& operator=(HttpRequest other) noexcept;
     // A request still under way is aborted; under Wine, which cannot bear that, it goes on without its owner.
     ~HttpRequest();
 

@@ -62,8 +62,12 @@ void UpdateUserLog(const std::wstring& sServer, const std::wstring& sWebService)
     const XmlDocument empty;
     const auto failure = Catch([&] {
         Exchange(request, kAccessLogCall, sServer, RequestLimit(), [&] {
-            // A component may refuse the document of another version; without one the request is the same.
-            if (Catch([&] { request.Send(empty); })) request.Send();
+            if (!Catch([&] { request.Send(empty); })) return;
+            // A component may refuse the document of another version, and forget with it what was opened. Without a
+            // document the request is the same.
+            request = HttpRequest{};
+            request.Open(L"POST", url);
+            request.Send();
         });
     });
     if (request.Status() == kFailedDependency) SetAccessLogged(false);

@@ -6,6 +6,7 @@
 #include <map>
 #include <msxml2.h>
 #include <string>
+#include <utility>
 
 // Lives on the stack and counts its references.
 class FakeRequest final : public IXMLHTTPRequest
@@ -37,7 +38,11 @@ public:
     {
         return E_NOTIMPL;
     }
-    STDMETHODIMP open(BSTR, BSTR, VARIANT, VARIANT, VARIANT) override { return openResult; }
+    STDMETHODIMP open(BSTR, BSTR, VARIANT, VARIANT, VARIANT) override
+    {
+        m_opened = true;
+        return openResult;
+    }
     STDMETHODIMP setRequestHeader(BSTR, BSTR) override { return S_OK; }
     STDMETHODIMP getResponseHeader(BSTR name, BSTR* value) override
     {
@@ -47,7 +52,8 @@ public:
     STDMETHODIMP getAllResponseHeaders(BSTR*) override { return E_NOTIMPL; }
     STDMETHODIMP send(VARIANT body) override
     {
-        if (body.vt == VT_DISPATCH && refusesDocuments) return E_INVALIDARG;
+        // What fails to be sent has to be opened anew.
+        if (!std::exchange(m_opened, false) || (body.vt == VT_DISPATCH && refusesDocuments)) return E_INVALIDARG;
         if (body.vt != (VT_ARRAY | VT_UI1)) return S_OK;
         sent.assign(static_cast<const char*>(body.parray->pvData), body.parray->rgsabound[0].cElements);
         return S_OK;
@@ -77,4 +83,7 @@ public:
         return S_OK;
     }
     STDMETHODIMP put_onreadystatechange(IDispatch*) override { return S_OK; }
+
+private:
+    bool m_opened = false;
 };
