@@ -61,6 +61,8 @@ LateBound ObjectArgument(const DISPPARAMS& arguments, UINT fromLast)
 
 } // namespace
 
+Connect::Connect() noexcept { WatchProcedures(); }
+
 STDMETHODIMP Connect::OnConnection(IDispatch* Application, LONG ConnectMode, IDispatch* AddInInst,
                                    SAFEARRAY** /*custom*/) noexcept
 {
@@ -68,7 +70,6 @@ STDMETHODIMP Connect::OnConnection(IDispatch* Application, LONG ConnectMode, IDi
         const Settings settings = Settings::Read();
         g_oTraceLog = std::make_unique<CTraceLog>(settings);
         SetRequestTimeout(settings.requestTimeout);
-        WatchProcedures();
     });
     AtHostBoundary(L"Connect.AddinInstance_OnConnection", [&] {
         ConnectToHost(LateBound{ComPtr<IDispatch>{Application}}, ConnectMode, LateBound{ComPtr<IDispatch>{AddInInst}});
@@ -91,7 +92,7 @@ void Connect::StartUp(const LateBound& application)
 {
     ComPtr<IDispatch> typed;
     Check(application.Get()->QueryInterface(kPowerPointApplication, reinterpret_cast<void**>(typed.GetAddressOf())),
-          L"Connect");
+          L"Connect.StartUp");
     m_oPowerPointApp = LateBound{std::move(typed)};
     m_events = EventSubscription{
         m_oPowerPointApp.Get(), kPowerPointEvents,
@@ -112,9 +113,9 @@ LateBound Connect::MenuBar() const { return m_oPowerPointApp.Object(L"CommandBar
 STDMETHODIMP Connect::OnDisconnection(LONG /*RemoveMode*/, SAFEARRAY** /*custom*/) noexcept
 {
     const ProcedureScope scope{L"Connect.AddinInstance_OnDisconnection"};
+    if (!m_oPowerPointApp) return S_OK; // only a connection at start-up has something to take back
     Reporting([this] {
-        // A connection other than at start-up has nothing to take back.
-        if (m_oPowerPointApp && !HasRibbon(HostVersion())) AddInMenus()->DeleteMenus(MenuBar());
+        if (!HasRibbon(HostVersion())) AddInMenus()->DeleteMenus(MenuBar());
     });
     g_oAddInMenus.reset();
     m_events = EventSubscription{};

@@ -15,6 +15,9 @@ class Connect final
     : public ComObject<Connect, Dispatched<_Connect>, Dispatched<IDTExtensibility2>, Dispatched<IRibbonExtensibility>>
 {
 public:
+    // From now on errors are told, also those of callbacks that come before a connection.
+    Connect() noexcept;
+
     // IDTExtensibility2
     STDMETHODIMP OnConnection(IDispatch* Application, LONG ConnectMode, IDispatch* AddInInst,
                               SAFEARRAY** custom) noexcept override;

@@ -93,10 +93,17 @@ TEST_F(Connection, AfterStartUpKeepsNothingAndOffersNoRibbon)
 
 TEST_F(Connection, CallbacksBeforeAConnectionAndAfterItsEndAreNotServed)
 {
-    EXPECT_EQ(Ribbon(), L"");
-    Disconnect(); // of what never was
+    {
+        const MessageBoxAnswer box{L"ERROR\r\nNumber: 91\r\n"};
+        EXPECT_EQ(Ribbon(), L"");
+        EXPECT_TRUE(box.Appeared());
+    }
     FakePowerPoint host{L"16.0"};
     ConnectTo(host, kStartup);
+    auto* const other = Create<IDTExtensibility2>(CLSID_Connect);
+    EXPECT_EQ(other->OnDisconnection(0, nullptr), S_OK); // of what never was
+    other->Release();
+    EXPECT_NE(Ribbon(), L"");
     Disconnect();
     const MessageBoxAnswer box{L"ERROR\r\nNumber: 91\r\n"};
     EXPECT_EQ(Ribbon(), L"");
