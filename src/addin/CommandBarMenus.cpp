@@ -40,62 +40,63 @@ constexpr const wchar_t* kAboutTag = L"KRXAboutMSO";
 constexpr IID kButtonEvents = {0x000C0351, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
 constexpr DISPID kClick = 1;
 
-// Visits the controls of a collection in order.
-template<class Visit>
-void ForEachControl(const LateBound& controls, Visit&& visit)
-{
-    const std::int32_t count = controls.Number(L"Count");
-    for (std::int32_t index = 1; index <= count; ++index)
-        visit(controls.Object(L"Item", index));
-}
+// How a statement runs that may fail: its error goes on to the caller, or is passed over.
+constexpr auto kStrictly = [](auto&& statement) { statement(); };
+constexpr auto kLeniently = [](auto&& statement) { Ignoring(statement); };
 
 // The controls of a menu of the bar, found by the menu's id; the last match counts. Empty when there is none.
-LateBound MenuControls(const LateBound& bar, std::int32_t menuId)
+template<class Run>
+LateBound MenuControls(const LateBound& bar, std::int32_t menuId, Run run)
 {
+    const LateBound controls = bar.Object(L"Controls");
     LateBound menu;
-    ForEachControl(bar.Object(L"Controls"), [&](const LateBound& control) {
-        if (control.Number(L"Id") == menuId) menu = control;
-    });
+    const std::int32_t count = controls.Number(L"Count");
+    for (std::int32_t index = 1; index <= count; ++index)
+        run([&] {
+            const LateBound control = controls.Object(L"Item", index);
+            if (control.Number(L"Id") == menuId) menu = control;
+        });
     return menu.Object(L"Controls");
 }
 
-// The position behind the control of an id, or the fallback when there is none.
+// The position behind the last control of an id, or the fallback when there is none.
 std::int32_t PositionBehind(const LateBound& controls, std::int32_t id, std::int32_t fallback)
 {
     std::int32_t position = fallback;
-    ForEachControl(controls, [&](const LateBound& control) {
+    const std::int32_t count = controls.Number(L"Count");
+    for (std::int32_t index = 1; index <= count; ++index) {
+        const LateBound control = controls.Object(L"Item", index);
         if (control.Number(L"Id") == id) position = control.Number(L"Index") + 1;
-    });
+    }
     return position;
 }
 
 // The first control with exactly this tag; empty when there is none.
 LateBound FindTag(const LateBound& controls, std::wstring_view tag)
 {
-    LateBound found;
-    ForEachControl(controls, [&](const LateBound& control) {
-        if (!found && control.Text(L"Tag") == tag) found = control;
-    });
-    return found;
+    const std::int32_t count = controls.Number(L"Count");
+    for (std::int32_t index = 1; index <= count; ++index) {
+        LateBound control = controls.Object(L"Item", index);
+        if (control.Text(L"Tag") == tag) return control;
+    }
+    return {};
 }
 
-// Hides, disables and deletes what carries a tag; every step that fails is passed over.
-void RemoveTag(const LateBound& bar, std::int32_t menuId, const wchar_t* tag) noexcept
+// Hides, disables and deletes what carries a tag; every statement that fails is passed over.
+void RemoveTag(const LateBound& bar, std::int32_t menuId, std::wstring_view tag) noexcept
 {
     LateBound control;
-    Ignoring([&] { control = FindTag(MenuControls(bar, menuId), tag); });
+    Ignoring([&] { control = FindTag(MenuControls(bar, menuId, kLeniently), tag); });
     if (!control) return;
     Ignoring([&] { control.Put(L"Visible", false); });
     Ignoring([&] { control.Put(L"Enabled", false); });
     Ignoring([&] { control.Call(L"Delete"); });
 }
 
-void Present(const LateBound& control, const wchar_t* tag, const std::wstring& caption)
+void Present(const LateBound& control)
 {
     control.Put(L"Enabled", true);
     control.Put(L"Visible", true);
-    control.Put(L"Tag", tag);
-    control.Put(L"Caption", EscapeAmpersands(caption));
 }
 
 } // namespace
@@ -106,8 +107,10 @@ void CAddInMenus::SetUpButton(const LateBound& control, const MenuButton& button
                           [this, caller = button.caller, run = button.run](DISPID member, const DISPPARAMS&) {
                               if (member == kClick) run(*this, caller);
                           });
+    Present(control);
     control.Put(L"Style", kButtonCaption);
-    Present(control, button.tag, button.caption);
+    control.Put(L"Caption", EscapeAmpersands(button.caption));
+    control.Put(L"Tag", button.tag);
 }
 
 void CAddInMenus::CreateMenus(const LateBound& oCommandBar)
@@ -116,10 +119,12 @@ void CAddInMenus::CreateMenus(const LateBound& oCommandBar)
     TraceVariable(L"oCommandBar.Name", oCommandBar.Text(L"Name"));
     DeleteMenus(oCommandBar); // what a crashed run left behind
 
-    const LateBound file = MenuControls(oCommandBar, kFileMenu);
+    const LateBound file = MenuControls(oCommandBar, kFileMenu, kStrictly);
     const std::int32_t savePosition = PositionBehind(file, kSaveAs, file.Number(L"Count"));
     const LateBound popup{file.Call(L"Add", kControlPopup, kAnyId, kSavePopupTag, savePosition, true).Object()};
-    Present(popup, kSavePopupTag, m_captions.saveToCorvane);
+    Present(popup);
+    popup.Put(L"Tag", kSavePopupTag);
+    popup.Put(L"Caption", EscapeAmpersands(m_captions.saveToCorvane));
 
     const LateBound saves = popup.Object(L"Controls");
     const MenuButton buttons[] = {
@@ -133,7 +138,7 @@ void CAddInMenus::CreateMenus(const LateBound& oCommandBar)
     for (const MenuButton& button : buttons)
         SetUpButton(LateBound{saves.Call(L"Add", kControlButton).Object()}, button);
 
-    const LateBound help = MenuControls(oCommandBar, kHelpMenu);
+    const LateBound help = MenuControls(oCommandBar, kHelpMenu, kStrictly);
     const auto addToHelp = [&](const wchar_t* tag, Variant before) {
         return LateBound{help.Call(L"Add", kControlButton, Variant::Missing(), tag, std::move(before), true).Object()};
     };
