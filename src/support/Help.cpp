@@ -7,6 +7,10 @@
 #include "platform/SystemLibrary.h"
 #include "support/CTraceLog.h"
 
+#include <array>
+#include <set>
+#include <string_view>
+
 namespace corvane
 {
 namespace
@@ -15,7 +19,10 @@ namespace
 // Commands of HtmlHelpA.
 constexpr UINT kDisplayContents = 1; // HH_DISPLAY_TOC
 constexpr UINT kHelpContext = 15;    // HH_HELP_CONTEXT
-constexpr UINT kCloseAll = 18;       // HH_CLOSE_ALL
+
+// The class of the viewer's windows. The viewer's own command to close (HH_CLOSE_ALL) closes those of the host as well.
+constexpr wchar_t kViewerClass[] = L"HH Parent";
+constexpr UINT kClosePatience = 1000; // milliseconds: the viewer's windows may live in a thread of their own
 
 using HtmlHelp = HWND(WINAPI*)(HWND owner, LPCSTR file, UINT command, DWORD_PTR data);
 
@@ -38,6 +45,23 @@ HtmlHelp& Viewer() noexcept
     return viewer;
 }
 
+// The viewer's windows that we have opened.
+std::set<HWND>& Windows()
+{
+    static std::set<HWND> windows;
+    return windows;
+}
+
+// Whether the handle is still a window of the viewer in this process; the system gives handles anew.
+bool IsViewer(HWND window) noexcept
+{
+    DWORD process = 0;
+    std::array<wchar_t, std::size(kViewerClass) + 1> name{};
+    return ::GetWindowThreadProcessId(window, &process) != 0 && process == ::GetCurrentProcessId() &&
+           ::GetClassNameW(window, name.data(), static_cast<int>(name.size())) != 0 &&
+           std::wstring_view{name.data()} == kViewerClass;
+}
+
 void LoadViewer()
 {
     if (Viewer() != nullptr) return;
@@ -54,8 +78,11 @@ void Show(HWND owner, UINT command, DWORD_PTR data)
         return;
     }
     LoadViewer();
-    if (Viewer()(owner, AnsiPath(HelpFile()).c_str(), command, data) == nullptr)
+    const HWND window = Viewer()(owner, AnsiPath(HelpFile()).c_str(), command, data);
+    if (window == nullptr)
         ShowMessage(L"The help file \"" + HelpFile() + L"\" could not be opened.", kStyleExclamation);
+    else
+        Windows().insert(window);
 }
 
 } // namespace
@@ -72,7 +99,11 @@ void ShowHelpTopic(HWND owner, HelpTopic topic)
 
 void CloseHelp() noexcept
 {
-    if (Viewer() != nullptr) Viewer()(nullptr, nullptr, kCloseAll, 0);
+    for (const HWND window : Windows()) {
+        DWORD_PTR result = 0;
+        if (IsViewer(window)) ::SendMessageTimeoutW(window, WM_CLOSE, 0, 0, SMTO_ABORTIFHUNG, kClosePatience, &result);
+    }
+    Windows().clear();
 }
 
 } // namespace corvane
