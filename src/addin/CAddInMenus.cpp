@@ -34,7 +34,7 @@ std::shared_ptr<CAddInMenus>& g_oAddInMenus = *new std::shared_ptr<CAddInMenus>;
 
 std::shared_ptr<CAddInMenus> AddInMenus()
 {
-    if (g_oAddInMenus == nullptr) throw ObjectNotSet(L"CAddInMenus");
+    if (g_oAddInMenus == nullptr) throw ObjectNotSet(L"AddInMenus");
     return g_oAddInMenus;
 }
 

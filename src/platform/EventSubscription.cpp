@@ -43,11 +43,12 @@ private:
 
 EventSubscription::EventSubscription(IUnknown* source, REFIID events, EventHandler handler)
 {
+    constexpr const wchar_t* kSource = L"EventSubscription.EventSubscription";
     ComPtr<IConnectionPointContainer> container;
-    Check(source->QueryInterface(IID_PPV_ARGS(container.GetAddressOf())), L"EventSubscription");
-    Check(container->FindConnectionPoint(events, m_point.GetAddressOf()), L"EventSubscription");
+    Check(source->QueryInterface(IID_PPV_ARGS(container.GetAddressOf())), kSource);
+    Check(container->FindConnectionPoint(events, m_point.GetAddressOf()), kSource);
     const auto sink = MakeObject<EventSink>(events, std::move(handler));
-    Check(m_point->Advise(sink.Get(), &m_cookie), L"EventSubscription");
+    Check(m_point->Advise(sink.Get(), &m_cookie), kSource);
 }
 
 EventSubscription::EventSubscription(EventSubscription&& other) noexcept

@@ -34,9 +34,9 @@ std::span<const std::byte> DialogResource(int templateId)
 {
     const HINSTANCE module = Library::Module();
     const HRSRC found = ::FindResourceW(module, MAKEINTRESOURCEW(templateId), RT_DIALOG);
-    CheckWin32(found != nullptr, L"Form");
+    CheckWin32(found != nullptr, L"DialogResource");
     const HGLOBAL loaded = ::LoadResource(module, found);
-    CheckWin32(loaded != nullptr, L"Form");
+    CheckWin32(loaded != nullptr, L"DialogResource");
     return {static_cast<const std::byte*>(::LockResource(loaded)), ::SizeofResource(module, found)};
 }
 
@@ -111,7 +111,7 @@ HWND CreateFormWindow(const wchar_t* name, int templateId, HWND owner, DLGPROC p
     const auto dialogTemplate = WithFont(DialogResource(templateId), MessageFont());
     const HWND window = ::CreateDialogIndirectParamW(
         Library::Module(), reinterpret_cast<LPCDLGTEMPLATEW>(dialogTemplate.data()), owner, procedure, argument);
-    CheckWin32(window != nullptr, L"Form");
+    CheckWin32(window != nullptr, L"CreateFormWindow");
     ReleaseStatusBar(window);
     FitEntryHeights(window);
     return window;

@@ -10,8 +10,6 @@ namespace corvane
 namespace
 {
 
-constexpr const wchar_t* kSource = L"XmlDocument";
-
 // IXMLDOMDocument2 and the parser classes 4.0, 6.0 and 3.0, as registered by the platform.
 constexpr IID kDocument2 = {0x2933BF95, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
 constexpr CLSID kParserClasses[] = {
@@ -29,7 +27,7 @@ ComPtr<IXMLDOMDocument2> CreateParser()
                                     reinterpret_cast<void**>(document.GetAddressOf()));
         if (SUCCEEDED(result)) return document;
     }
-    throw Error{ErrorNumberOf(result), kSource, L"The XML parser of the system cannot be created."};
+    throw Error{ErrorNumberOf(result), L"CreateParser", L"The XML parser of the system cannot be created."};
 }
 
 // Sets a property that not every parser version knows.
@@ -87,11 +85,15 @@ std::wstring XmlNode::Name() const
 void XmlNode::SetAttribute(const wchar_t* name, std::wstring_view value)
 {
     ComPtr<IXMLDOMElement> element;
+    constexpr const wchar_t* kSource = L"XmlNode.SetAttribute";
     Check(m_node->QueryInterface(IID_IXMLDOMElement, &element), kSource);
     Check(element->setAttribute(Bstr{name}.Get(), Variant{value}.Get()), kSource);
 }
 
-void XmlNode::Append(const XmlNode& child) { Check(m_node->appendChild(child.m_node.Get(), nullptr), kSource); }
+void XmlNode::Append(const XmlNode& child)
+{
+    Check(m_node->appendChild(child.m_node.Get(), nullptr), L"XmlNode.Append");
+}
 
 XmlDocument::XmlDocument() : m_document{CreateParser()}
 {
@@ -105,7 +107,8 @@ XmlDocument::XmlDocument() : m_document{CreateParser()}
 bool XmlDocument::Load(const std::wstring& text, const wchar_t* selectionNamespaces)
 {
     if (selectionNamespaces != nullptr)
-        Check(m_document->setProperty(Bstr{L"SelectionNamespaces"}.Get(), Variant{selectionNamespaces}.Get()), kSource);
+        Check(m_document->setProperty(Bstr{L"SelectionNamespaces"}.Get(), Variant{selectionNamespaces}.Get()),
+              L"XmlDocument.Load");
     if (!IsFitToParse(text)) return false;
     VARIANT_BOOL loaded = VARIANT_FALSE;
     return SUCCEEDED(m_document->loadXML(Bstr{text}.Get(), &loaded)) && loaded == VARIANT_TRUE;
@@ -114,7 +117,7 @@ bool XmlDocument::Load(const std::wstring& text, const wchar_t* selectionNamespa
 std::vector<XmlNode> XmlDocument::Select(const wchar_t* path) const
 {
     ComPtr<IXMLDOMNodeList> list;
-    Check(m_document->selectNodes(Bstr{path}.Get(), list.GetAddressOf()), kSource);
+    Check(m_document->selectNodes(Bstr{path}.Get(), list.GetAddressOf()), L"XmlDocument.Select");
     std::vector<XmlNode> nodes;
     for (;;) {
         ComPtr<IXMLDOMNode> node;
@@ -134,7 +137,8 @@ XmlNode XmlDocument::CreateElement(const wchar_t* name, const std::wstring& name
 {
     ComPtr<IXMLDOMNode> node;
     Variant kind{static_cast<std::int32_t>(NODE_ELEMENT)};
-    Check(m_document->createNode(kind.Get(), Bstr{name}.Get(), Bstr{namespaceUri}.Get(), node.GetAddressOf()), kSource);
+    Check(m_document->createNode(kind.Get(), Bstr{name}.Get(), Bstr{namespaceUri}.Get(), node.GetAddressOf()),
+          L"XmlDocument.CreateElement");
     return XmlNode{std::move(node)};
 }
 
@@ -143,7 +147,7 @@ void XmlDocument::Append(const XmlNode& root) { XmlNode{ComPtr<IXMLDOMNode>{m_do
 std::wstring XmlDocument::Text() const
 {
     Bstr text;
-    Check(m_document->get_xml(text.Put()), kSource);
+    Check(m_document->get_xml(text.Put()), L"XmlDocument.Text");
     return text.Text();
 }
 

@@ -15,7 +15,6 @@ namespace corvane
 namespace
 {
 
-constexpr const wchar_t* kSource = L"TreeImages";
 constexpr int kPictureSize = 17; // pixels at 96 dpi
 
 int ScaledSize() noexcept { return ::MulDiv(kPictureSize, ScreenDotsPerInch(), USER_DEFAULT_SCREEN_DPI); }
@@ -54,6 +53,7 @@ TreeImages::TreeImages()
 
 void TreeImages::AddResource(int id)
 {
+    constexpr const wchar_t* kSource = L"TreeImages.AddResource";
     const HINSTANCE module = Library::Module();
     const HRSRC found = ::FindResourceW(module, MAKEINTRESOURCEW(id), RT_RCDATA);
     CheckWin32(found != nullptr, kSource);
@@ -69,12 +69,14 @@ void TreeImages::AddResource(int id)
 void TreeImages::AddFile(const std::wstring& key, const std::wstring& path)
 {
     ComPtr<IPicture> picture;
-    Check(::OleLoadPicturePath(const_cast<LPOLESTR>(path.c_str()), nullptr, 0, 0, IID_IPicture, &picture), kSource);
+    Check(::OleLoadPicturePath(const_cast<LPOLESTR>(path.c_str()), nullptr, 0, 0, IID_IPicture, &picture),
+          L"TreeImages.AddFile");
     m_keys[key] = Add(*picture.Get());
 }
 
 int TreeImages::Add(IPicture& picture)
 {
+    constexpr const wchar_t* kSource = L"TreeImages.Add";
     OLE_XSIZE_HIMETRIC width = 0;
     OLE_YSIZE_HIMETRIC height = 0;
     Check(picture.get_Width(&width), kSource);

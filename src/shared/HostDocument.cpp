@@ -84,7 +84,7 @@ LateBound SubjectOf(const LateBound& application, const LateBound& outlookInspec
 Host RequiredHost(const LateBound& application)
 {
     if (const auto host = HostOf(application)) return *host;
-    throw ObjectNotSet(L"HostDocument");
+    throw ObjectNotSet(L"SharedCode.RequiredHost");
 }
 
 DocumentPlace PlaceOf(const LateBound& document)
@@ -189,7 +189,7 @@ void RequireNotFinal(const LateBound& application)
     Ignoring([&] { isFinal = ActiveDocument(application).Number(L"Final") != 0; });
     if (isFinal)
         throw Error{
-            kPermissionDenied, L"HostDocument",
+            kPermissionDenied, L"SharedCode.RequireNotFinal",
             L"The document is marked as final, so it cannot be changed. Please turn the mark off and then try again."};
 }
 
@@ -252,7 +252,7 @@ SavedDocument SaveDocumentToDisk(const LateBound& application, const LateBound& 
     subject.Call(L"Save");
     // What else runs in the host may take a save back without an error.
     if (subject.Number(L"Saved") == 0 && LastWriteTime(place.fullName) == before)
-        throw Error{kPermissionDenied, L"HostDocument",
+        throw Error{kPermissionDenied, L"SharedCode.SaveDocumentToDisk",
                     L"The document was not written to disk. Please save it and then try again."};
     return {place.fullName, std::nullopt};
 }

@@ -39,7 +39,7 @@ void CCustomNames::RefreshOnce(const std::wstring& server)
 
 CCustomNames& CustomNames()
 {
-    if (g_oCustomNames == nullptr) throw ObjectNotSet(L"CCustomNames");
+    if (g_oCustomNames == nullptr) throw ObjectNotSet(L"CustomNames");
     return *g_oCustomNames;
 }
 

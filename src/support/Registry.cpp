@@ -42,7 +42,7 @@ UniqueRegistryKey OpenOrCreate(const std::wstring& key)
     UniqueRegistryKey opened;
     const LSTATUS status = ::RegCreateKeyExW(HKEY_CURRENT_USER, key.c_str(), 0, nullptr, 0, KEY_READ | KEY_WRITE,
                                              nullptr, opened.Put(), nullptr);
-    Check(HRESULT_FROM_WIN32(static_cast<unsigned long>(status)), L"Registry");
+    Check(HRESULT_FROM_WIN32(static_cast<unsigned long>(status)), L"Registry.OpenOrCreate");
     return opened;
 }
 
@@ -50,7 +50,7 @@ void Write(const std::wstring& key, const std::wstring& name, DWORD type, const 
 {
     const LSTATUS status = ::RegSetValueExW(OpenOrCreate(key).Get(), name.empty() ? nullptr : name.c_str(), 0, type,
                                             static_cast<const BYTE*>(data), static_cast<DWORD>(size));
-    Check(HRESULT_FROM_WIN32(static_cast<unsigned long>(status)), L"Registry");
+    Check(HRESULT_FROM_WIN32(static_cast<unsigned long>(status)), L"Registry.Write");
 }
 
 } // namespace
