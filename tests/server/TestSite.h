@@ -33,8 +33,8 @@ public:
     // Ends this server and starts one on the same folder.
     void Start(std::string_view user)
     {
-        m_site = std::make_unique<Site>(
-            Service{nlohmann::json::parse(SeedText()), user, Archive{m_folder.Path()}, [this] { return m_now; }});
+        m_site = std::make_unique<Site>(Service{nlohmann::json::parse(SeedText()), user, Archive{m_folder.Path()},
+                                                [] { return "2025-06-07T13:08:09"; }});
     }
 
     [[nodiscard]] Answer Handle(const Request& request) { return m_site->Handle(request); }
@@ -79,8 +79,6 @@ public:
 
     [[nodiscard]] const std::filesystem::path& Folder() const { return m_folder.Path(); }
     [[nodiscard]] std::vector<Version> Recorded() const { return Archive{m_folder.Path()}.Versions(); }
-
-    std::string m_now = "2025-06-07T13:08:09";
 
 private:
     DataFolder m_folder{""};
