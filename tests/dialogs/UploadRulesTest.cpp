@@ -151,13 +151,13 @@ constexpr OwnerCase kOwnerCases[] = {
 
 } // namespace
 
-class UploadRule : public testing::TestWithParam<RuleCase>
-{};
-
-TEST_P(UploadRule, AllowsOrRefuses) { Expect(FactsOf(GetParam()), GetParam().expected); }
-
-INSTANTIATE_TEST_SUITE_P(Of, UploadRule, testing::ValuesIn(kRuleCases),
-                         [](const auto& instance) { return instance.param.name; });
+TEST(UploadRules, AllowOrRefuse)
+{
+    for (const RuleCase& item : kRuleCases) {
+        SCOPED_TRACE(item.name);
+        Expect(FactsOf(item), item.expected);
+    }
+}
 
 using Change = void (*)(UploadFacts& facts);
 
