@@ -61,6 +61,15 @@ TEST(DocumentBinding, IsClassifiedByTheSignsOfItsIds)
     }
 }
 
+TEST(DocumentBinding, NamesItsPropertiesInTheOrderOfWriting)
+{
+    std::wstring names = kServerProperty;
+    for (const auto& [name, id] : kBindingProperties)
+        names += L" " + std::wstring{name};
+    EXPECT_EQ(names, L"KRX_SYS_Server KRX_SYS_ProjectID KRX_SYS_DeliverableID KRX_SYS_ActivityID KRX_SYS_RelatedFileID "
+                     L"KRX_SYS_GateDocumentID HALVEX_MSExcelReportID KRX_SYS_TemplateLibraryID");
+}
+
 // Automation clients know the kinds by these numbers.
 static_assert(static_cast<int>(Kind::Deliverable) == 0 && static_cast<int>(Kind::ExcelReport) == 4 &&
               static_cast<int>(Kind::Unbound) == 6);
