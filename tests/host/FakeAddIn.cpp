@@ -1,6 +1,5 @@
 // An add-in that does a little of everything a real one does with the host. Environment variables change its conduct:
-// FAKE_FAIL makes OnConnection fail, FAKE_XML replaces the ribbon XML, FAKE_LEAK keeps the application referenced.
-// On version 11 it adds a button to the File menu instead of a ribbon.
+// FAKE_FAIL makes OnConnection fail, FAKE_LEAK keeps the application referenced.
 #include "FakeAddIn.h"
 
 #include <cstdlib>
@@ -30,27 +29,6 @@ std::wstring Environment(const wchar_t* name)
     const wchar_t* value = ::_wgetenv(name);
     return value ? value : L"";
 }
-
-// Listens to the one button of the fake menu.
-class ClickSink final : public AutomationObject<IDispatch>
-{
-public:
-    ClickSink() : AutomationObject{L"ClickSink", kCommandBarButtonEventsId} {}
-
-    std::span<const Member> Members() const override
-    {
-        static constexpr Member kMembers[] = {{1, L"Click", kMethod, Answer<&ClickSink::Click>}};
-        return kMembers;
-    }
-
-private:
-    Value Click(const Arguments& arguments)
-    {
-        const std::wstring tag = CallByName(*arguments.At(0).Object(), L"Tag", DISPATCH_PROPERTYGET).Text();
-        ::MessageBoxW(nullptr, (L"clicked " + tag).c_str(), L"Fake", MB_OK);
-        return {};
-    }
-};
 
 class FakeAddIn final : public AutomationObject<IDTExtensibility2>
 {
@@ -82,7 +60,6 @@ public:
         ComPtr<IConnectionPointContainer> container;
         if (FAILED(m_application.As(&container))) return S_OK; // a host without events
         container->FindConnectionPoint(kApplicationEventsId, m_events.GetAddressOf());
-        if (CallByName(*application, L"Version", DISPATCH_PROPERTYGET).Number() < 12) AddMenu();
         return m_events->Advise(static_cast<IDTExtensibility2*>(this), &m_cookie);
     }
 
@@ -91,8 +68,6 @@ public:
         if (m_events) m_events->Unadvise(m_cookie);
         m_events.Reset();
         m_ribbonUi.Reset();
-        if (m_button) CallByName(*m_button.Get(), L"Delete", DISPATCH_METHOD);
-        m_button.Reset();
         if (!Environment(L"FAKE_LEAK").empty()) m_application.Get()->AddRef();
         m_application.Reset();
         return S_OK;
@@ -119,31 +94,11 @@ private:
         }
         STDMETHODIMP GetCustomUI(BSTR, BSTR* xml) override
         {
-            const std::wstring own = Environment(L"FAKE_XML");
-            *xml = ComText{own.empty() ? kRibbonXml : own}.Detach();
+            *xml = ComText{kRibbonXml}.Detach();
             return S_OK;
         }
         FakeAddIn& m_owner;
     };
-
-    void AddMenu()
-    {
-        const Value bars = CallByName(*m_application.Get(), L"CommandBars", DISPATCH_PROPERTYGET);
-        const Value bar = CallByName(*bars.Object(), L"Item", DISPATCH_PROPERTYGET, {L"Menu Bar"});
-        const Value menus = CallByName(*bar.Object(), L"Controls", DISPATCH_PROPERTYGET);
-        const Value file = CallByName(*menus.Object(), L"Item", DISPATCH_PROPERTYGET, {1L});
-        const Value entries = CallByName(*file.Object(), L"Controls", DISPATCH_PROPERTYGET);
-        m_button =
-            CallByName(*entries.Object(), L"Add", DISPATCH_METHOD, {1L, 1L, L"p", 2L, Value::OfBoolean(true)}).Object();
-        CallByName(*m_button.Get(), L"Tag", DISPATCH_PROPERTYPUT, {L"FakeTag"});
-        CallByName(*m_button.Get(), L"Caption", DISPATCH_PROPERTYPUT, {L"Fake && Co"});
-        ComPtr<IConnectionPointContainer> container;
-        ComPtr<IConnectionPoint> point;
-        DWORD cookie = 0;
-        m_button.As(&container);
-        container->FindConnectionPoint(kCommandBarButtonEventsId, point.GetAddressOf());
-        point->Advise(MakeObject<ClickSink>().Get(), &cookie);
-    }
 
     Value OnLoad(const Arguments& arguments)
     {
@@ -184,7 +139,6 @@ private:
     ComPtr<IDispatch> m_application;
     ComPtr<IConnectionPoint> m_events;
     ComPtr<IDispatch> m_ribbonUi;
-    ComPtr<IDispatch> m_button;
     DWORD m_cookie = 0;
     long m_activations = 0;
     long m_closes = 0;

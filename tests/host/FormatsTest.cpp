@@ -1,4 +1,6 @@
 // The formats that each host writes.
+#include <algorithm>
+
 #include "HostTest.h"
 #include "documents/Storage.h"
 #include "package/OfficePackage.h"
@@ -10,6 +12,20 @@ namespace
 
 class FormatsTest : public HostTest
 {};
+
+// How a host names its active document, and what it says of a format that it does not write.
+struct HostRow
+{
+    std::string_view option;
+    const wchar_t* active;
+    unsigned long unknownFormat;
+};
+
+constexpr HostRow kHosts[] = {
+    {"powerpoint", L"ActivePresentation", 0x80070057},
+    {"word", L"ActiveDocument", 0x800A1200},
+    {"excel", L"ActiveWorkbook", 0x800A03EC},
+};
 
 struct FormatRow
 {
@@ -61,35 +77,18 @@ TEST_F(FormatsTest, WritesEachFormatSoThatItTellsWhichItIsOrRefusesIt)
 {
     for (const FormatRow& row : kFormats) {
         SCOPED_TRACE(std::string{row.host} + Narrow(row.version) + " " + std::to_string(row.number));
-        const HostRow& host = RowOf(row.host);
+        const HostRow& host = *std::ranges::find(kHosts, row.host, &HostRow::option);
         Start(row.host, row.version);
         session->New();
         const Script active = Application().Object(host.active);
-        EXPECT_EQ(AddProperty(active), S_OK);
+        active.Object(L"CustomDocumentProperties").Call(L"Add", {L"Id", Value::OfBoolean(false), 1L, 7L});
         const auto save = [&] { active.Call(L"SaveAs", {std::wstring_view{folder.File(L"f")}, row.number}); };
-        EXPECT_EQ(FailureOf(save), row.extension ? S_OK : host.unknownFormat);
+        EXPECT_EQ(FailureOf(save), row.extension ? S_OK : static_cast<HRESULT>(host.unknownFormat));
         if (!row.extension) continue;
         const std::wstring path = folder.File(std::wstring{L"f."} + row.extension);
         EXPECT_EQ(active.Call(L"FullName").Text(), path);
         EXPECT_TRUE(MarkOf(ReadWholeFile(path), row.mark).ends_with(row.mark));
     }
-}
-
-TEST_F(FormatsTest, PropertiesSurviveEveryFormatThatOpensAgain)
-{
-    for (const HostRow& row : kHosts)
-        for (const wchar_t* version : {L"11.0", L"16.0"}) {
-            Start(row.option, version);
-            session->New();
-            const Script active = Application().Object(row.active);
-            EXPECT_EQ(AddProperty(active), S_OK);
-            active.Call(L"SaveAs", {std::wstring_view{folder.File(L"p")}});
-            const std::wstring path = active.Call(L"FullName").Text();
-            active.Call(L"Close");
-            Application().Object(row.documents).Call(L"Open", {std::wstring_view{path}});
-            const Script again = Application().Object(row.active).Object(L"CustomDocumentProperties");
-            EXPECT_EQ(again.Object(L"Item", {L"Id"}).Call(L"Value").Number(), 7) << row.option;
-        }
 }
 
 } // namespace

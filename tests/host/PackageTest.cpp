@@ -1,7 +1,5 @@
 #include "package/OfficePackage.h"
 
-#include <stdexcept>
-
 #include <gtest/gtest.h>
 
 #include "package/Xml.h"
@@ -75,70 +73,6 @@ TEST(PackageTest, DeclaresTheCustomPartOnceAndNumbersPropertiesFromTwo)
         EXPECT_EQ(root.children[i].Attribute("fmtid"), "{D5CDD505-2E9C-101B-9397-08002B2CF9AE}");
     }
 }
-
-TEST(PackageTest, LeavesForeignPartsAsTheyWere)
-{
-    Zip zip = Zip::Parse(OfficePackage::New(HostKind::PowerPoint, "t", "a").Write());
-    const std::string foreign = "<?xml version='1.0'?>\r\n<x  a = '1'/><!-- kept -->";
-    zip.Set("customXml/item1.xml", foreign);
-    auto package = OfficePackage::Parse(zip.Write());
-    package.SetCustomProperties(kProperties);
-    EXPECT_EQ(*Saved(package).Parts().Find("customXml/item1.xml"), foreign);
-}
-
-TEST(PackageTest, FindsTheCustomPartByItsRelationWhateverItsNameAndPrefix)
-{
-    Zip zip = Zip::Parse(OfficePackage::New(HostKind::PowerPoint, "t", "a").Write());
-    std::string relations = *zip.Find("_rels/.rels");
-    relations.insert(relations.find("</Relationships>"),
-                     R"(<Relationship Id="rId9" Type="http://schemas.openxmlformats.org/officeDocument/2006/)"
-                     R"(relationships/custom-properties" Target="/docProps/other.xml"/>)");
-    zip.Set("_rels/.rels", relations);
-    zip.Set("docProps/other.xml",
-            R"(<c:Properties xmlns:c="c" xmlns:v="v"><c:property name="A"><v:int>7</v:int>)"
-            R"(</c:property><c:property name="B"><v:bool>1</v:bool></c:property></c:Properties>)");
-    auto package = OfficePackage::Parse(zip.Write());
-
-    const auto read = package.CustomProperties();
-    ASSERT_EQ(read.size(), 2u);
-    EXPECT_EQ(read[0].type, PropertyType::Number);
-    EXPECT_EQ(read[1].value, "true");
-    package.SetCustomProperties(read);
-    EXPECT_EQ(package.Parts().Find("docProps/custom.xml"), nullptr) << "a second part for the same properties";
-}
-
-TEST(PackageTest, RefusesArchivesThatAreNoPresentation)
-{
-    Zip zip;
-    zip.Set("readme.txt", "hello");
-    EXPECT_THROW(OfficePackage::Parse(zip.Write()), std::runtime_error);
-    EXPECT_THROW(OfficePackage::Parse("PK"), std::runtime_error);
-}
-
-struct BadXml
-{
-    const char* name;
-    const char* text;
-};
-
-class BadXmlTest : public testing::TestWithParam<BadXml>
-{};
-
-TEST_P(BadXmlTest, IsRefused) { EXPECT_THROW(static_cast<void>(ParseXml(GetParam().text)), std::runtime_error); }
-
-constexpr BadXml kBadXml[] = {
-    {"NotClosed", "<a><b></b>"},
-    {"WrongEnd", "<a></b>"},
-    {"TwoRoots", "<a/><b/>"},
-    {"DoubleAttribute", "<a x='1' x='2'/>"},
-    {"BareAmpersand", "<a>&</a>"},
-    {"UnknownEntity", "<a>&nbsp;</a>"},
-    {"DocumentType", "<!DOCTYPE a><a/>"},
-    {"Nothing", ""},
-};
-
-INSTANTIATE_TEST_SUITE_P(PackageTest, BadXmlTest, testing::ValuesIn(kBadXml),
-                         [](const auto& given) { return std::string{given.param.name}; });
 
 TEST(XmlTest, WritesTextThatReadsBackTheSame)
 {
