@@ -1,6 +1,6 @@
 #include "AddInLibrary.h"
 
-#include <array>
+#include <map>
 
 namespace
 {
@@ -58,18 +58,50 @@ TEST_F(Library, ConnectAnswersItsInterfacesWithOneIdentity)
     EXPECT_EQ(identity->Release(), 0U);
 }
 
-TEST_F(Library, ConnectsPlainDispatchOffersTheRibbonCallbacks)
+// The members of an object's first interface in the order of their slots, behind those of IDispatch; "=" is a put.
+std::wstring SlotsOf(IDispatch& object)
 {
-    auto* dispatch = Create<IDispatch>(CLSID_Connect);
-    ASSERT_NE(dispatch, nullptr);
-    std::array<const wchar_t*, 6> names = {L"RibbonHandler", L"GetEnabled",  L"GetLabel",
-                                           L"GetScreentip",  L"GetSupertip", L"onLoad"};
-    for (const wchar_t* name : names) {
-        DISPID member = DISPID_UNKNOWN;
-        auto* text = const_cast<LPOLESTR>(name);
-        EXPECT_EQ(dispatch->GetIDsOfNames(IID_NULL, &text, 1, 0, &member), S_OK) << "no such callback";
+    constexpr int kDispatchSlots = 7;
+    ITypeInfo* info = nullptr;
+    object.GetTypeInfo(0, LOCALE_NEUTRAL, &info);
+    std::map<int, std::wstring> slots;
+    FUNCDESC* function = nullptr;
+    for (UINT index = 0; SUCCEEDED(info->GetFuncDesc(index, &function)); ++index) {
+        BSTR name = nullptr;
+        UINT names = 0;
+        info->GetNames(function->memid, &name, 1, &names);
+        const int slot = function->oVft / static_cast<int>(sizeof(void*));
+        if (slot >= kDispatchSlots)
+            slots[slot] = (function->invkind == INVOKE_PROPERTYPUT ? L" =" : L" ") + std::wstring{name};
+        ::SysFreeString(name);
+        info->ReleaseFuncDesc(function);
     }
-    dispatch->Release();
+    info->Release();
+    std::wstring text;
+    for (const auto& [slot, member] : slots)
+        text += member;
+    return text;
+}
+
+TEST_F(Library, TheSlotsOfItsInterfacesKeepTheirOrder)
+{
+    const std::pair<CLSID, const wchar_t*> classes[] = {
+        {CLSID_Connect, L" RibbonHandler GetEnabled GetLabel GetScreentip GetSupertip onLoad"},
+        {CLSID_CController, L" SaveAsAssignement SaveGateDoc SaveRelatedDoc"},
+        {CLSID_CTraceLog, L" WriteError WriteEventStart WriteEventEnd GetTabs WriteVariable WriteLine bTimeStamp"},
+        {CLSID_CRbnBtnInfo,
+         L" ID =ID Label =Label ImageMso =ImageMso Screentip =Screentip Supertip =Supertip"
+         L" GetEnabled =GetEnabled GetLabel =GetLabel GetSupertip =GetSupertip"
+         L" GetScreentip =GetScreentip OnAction =OnAction Description =Description Size =Size Clear"},
+    };
+    for (const auto& [id, expected] : classes) {
+        auto* object = Create<IDispatch>(id);
+        ASSERT_NE(object, nullptr);
+        const std::wstring slots =
+            SlotsOf(*object); // a type library holds each name once, in whichever case comes first
+        EXPECT_EQ(::lstrcmpiW(slots.c_str(), expected), 0) << testing::PrintToString(slots);
+        object->Release();
+    }
 }
 
 } // namespace

@@ -23,9 +23,11 @@ public:
     MessageBoxAnswer& operator=(const MessageBoxAnswer&) = delete;
 
     [[nodiscard]] bool Appeared() const { return m_appeared; }
+    [[nodiscard]] bool HadIcon() const { return m_hadIcon; }
 
 private:
-    static constexpr int kTextOfBox = 0xFFFF; // the id of a message box's text
+    static constexpr int kTextOfBox = 0xFFFF; // the ids of a message box's parts
+    static constexpr int kIconOfBox = 20;
 
     void Watch()
     {
@@ -34,6 +36,8 @@ private:
             wchar_t text[512] = L"";
             if (box != nullptr) ::GetDlgItemTextW(box, kTextOfBox, text, 512);
             if (box != nullptr && std::wstring{text}.starts_with(m_text)) {
+                m_hadIcon =
+                    ::GetDlgItem(box, kIconOfBox) != nullptr && ::IsWindowVisible(::GetDlgItem(box, kIconOfBox));
                 m_appeared = true;
                 ::PostMessageW(box, WM_COMMAND, IDOK, 0);
             }
@@ -45,5 +49,6 @@ private:
     std::wstring m_title;
     std::atomic<bool> m_stop{false};
     std::atomic<bool> m_appeared{false};
+    std::atomic<bool> m_hadIcon{false};
     std::thread m_thread;
 };

@@ -1,0 +1,235 @@
+// The connection class in a host: what it keeps of the host, what it answers it, and what it traces.
+#include "HostTest.h"
+#include "OfferedClass.h"
+
+#include "addin/CAddInMenus.h"
+#include "addin/Connect.h"
+#include "platform/Procedure.h"
+#include "support/CCustomNames.h"
+#include "support/CTraceLog.h"
+
+#include "automation/OfficeInterfaces.h"
+#include "documents/Files.h"
+#include "objects/ComAddIn.h"
+
+#include <regex>
+
+using namespace corvane;
+
+namespace
+{
+
+constexpr LONG kStartUp = 1;
+constexpr wchar_t kPolicies[] = L"Software\\Policies\\Halvex\\Corvane";
+
+// A ribbon of which one thing can be asked.
+class CountingRibbon final : public host::AutomationObject<IDispatch>
+{
+public:
+    CountingRibbon() : AutomationObject{L"Ribbon", host::kRibbonUiId} {}
+
+    int invalidated = 0;
+
+    [[nodiscard]] std::span<const host::Member> Members() const override
+    {
+        static constexpr host::Member kMembers[] = {
+            {1, L"Invalidate", host::kMethod, host::Answer<&CountingRibbon::Invalidate>}};
+        return kMembers;
+    }
+
+private:
+    host::Value Invalidate(const host::Arguments&)
+    {
+        ++invalidated;
+        return {};
+    }
+};
+
+class ConnectTest : public host::test::HostTest
+{
+protected:
+    ConnectTest() { ::SetEnvironmentVariableW(L"APPDATA", folder.Path().c_str()); }
+    ~ConnectTest() override
+    {
+        g_oTraceLog.reset();
+        g_oCustomNames.reset();
+        SetProcedureWatch(nullptr);
+        ::RegDeleteTreeW(HKEY_CURRENT_USER, kPolicies);
+    }
+
+    static void SwitchTraceOn()
+    {
+        const DWORD on = 1;
+        ::RegSetKeyValueW(HKEY_CURRENT_USER, kPolicies, L"EnableTraceLogs", REG_DWORD, &on, sizeof on);
+    }
+    void ConnectTo(const wchar_t* version, LONG mode)
+    {
+        Start("powerpoint", version);
+        const auto entry = host::MakeObject<host::ComAddInObject>(L"CorvaneMSOfficePowerPoint.Connect", L"");
+        EXPECT_EQ(m_connect->OnConnection(&session->Application(), mode, entry.Get(), nullptr), S_OK);
+    }
+    void Disconnect()
+    {
+        EXPECT_EQ(m_connect->OnDisconnection(0, nullptr), S_OK);
+        EXPECT_EQ(g_oAddInMenus, nullptr);
+    }
+    void OfferRibbon()
+    {
+        VARIANT answer{};
+        answer.vt = VT_I4;
+        EXPECT_EQ(m_connect->onLoad(m_ribbon.Get(), &answer), S_OK);
+        EXPECT_EQ(answer.vt, VT_EMPTY);
+    }
+    // The window of what is active, told of without a presentation.
+    void ActivateWindowOfNothing()
+    {
+        constexpr DISPID kWindowActivate = 2009;
+        const host::Value nothing{static_cast<IDispatch*>(nullptr)};
+        const host::Value window{session->Active()->Window(1).Get()};
+        VARIANT arguments[] = {nothing.Get(), window.Get()};
+        session->Application().Events().Fire(kWindowActivate, arguments);
+    }
+    // The names of the trace files.
+    [[nodiscard]] std::vector<std::wstring> TraceFiles() const
+    {
+        std::vector<std::wstring> names;
+        WIN32_FIND_DATAW found{};
+        const HANDLE search = ::FindFirstFileW((TraceFolder() + L"*").c_str(), &found);
+        for (bool more = search != INVALID_HANDLE_VALUE; more; more = ::FindNextFileW(search, &found) != FALSE)
+            if (found.cFileName[0] != L'.') names.emplace_back(found.cFileName);
+        ::FindClose(search);
+        return names;
+    }
+    // A trace file's lines, "T" for the time and "|" for each tab.
+    [[nodiscard]] std::string TraceIn(const std::wstring& name) const
+    {
+        const std::string text = host::ReadWholeFile(TraceFolder() + name);
+        const std::string lines =
+            std::regex_replace(text, std::regex{R"((^|\n)\d{4}-\d\d-\d\d \d\d:\d\d:\d\d)"}, "$1T");
+        return std::regex_replace(std::regex_replace(lines, std::regex{"\t"}, "|"), std::regex{"\r\n"}, "\n");
+    }
+    [[nodiscard]] std::wstring TraceFolder() const { return folder.File(L"Halvex\\Corvane for MS Office\\"); }
+
+    Apartment m_apartment;
+    ComPtr<corvane::Connect> m_connect = MakeObject<corvane::Connect>();
+    host::ComPtr<CountingRibbon> m_ribbon = host::MakeObject<CountingRibbon>();
+};
+
+// From its connection to its disconnection, and what a window's activation leads to.
+constexpr char kTrace[] = R"(T||--> Connect.AddinInstance_OnConnection
+T|||Application Name = Microsoft PowerPoint
+T|||Application Version = 16.0
+T|||Application Build = 16.0.4266
+T|||ConnectMode = 1
+T|||AddinInst.ProgId = CorvaneMSOfficePowerPoint.Connect
+T|||AddinInst.Guid = {00000000-0000-0000-0000-000000000000}
+T|||--> CAddInMenus.SetUICaptions
+T|||<-- CAddInMenus.SetUICaptions
+T|||
+T||<-- Connect.AddinInstance_OnConnection
+T||
+T||--> Connect.onLoad
+T||<-- Connect.onLoad
+T||
+T||--> Connect.m_oPowerPointApp_WindowActivate
+T|||Wn.Caption = Presentation1
+T|||Pres parameter is not Nothing
+T|||Pres.Name = Presentation1
+T|||PPT Version > 11
+T|||--> CAddInMenus.InvalidateControls
+T|||<-- CAddInMenus.InvalidateControls
+T|||
+T||<-- Connect.m_oPowerPointApp_WindowActivate
+T||
+T||--> Connect.m_oPowerPointApp_WindowActivate
+T|||Wn.Caption = Presentation1
+T||<-- Connect.m_oPowerPointApp_WindowActivate
+T||
+T||--> Connect.m_oPowerPointApp_PresentationClose
+T||<-- Connect.m_oPowerPointApp_PresentationClose
+T||
+T||--> Connect.AddinInstance_OnDisconnection
+T||<-- Connect.AddinInstance_OnDisconnection
+T||
+)";
+
+TEST_F(ConnectTest, TracesWhatItIsCalledForAndInvalidatesTheRibbonForPresentationsOnly)
+{
+    SwitchTraceOn();
+    ConnectTo(L"16.0", kStartUp);
+    OfferRibbon();
+    session->New();
+    EXPECT_EQ(m_ribbon->invalidated, 1);
+    ActivateWindowOfNothing();
+    EXPECT_EQ(m_ribbon->invalidated, 1);
+    session->Close(*session->Active());
+    Disconnect();
+    g_oTraceLog.reset();
+    ASSERT_EQ(TraceFiles().size(), 1U);
+    EXPECT_EQ(TraceIn(TraceFiles().front()), kTrace);
+}
+
+TEST_F(ConnectTest, KeepsNoRibbonWhereThereAreMenus)
+{
+    SwitchTraceOn();
+    ConnectTo(L"11.0", kStartUp);
+    OfferRibbon();
+    session->New();
+    AddInMenus()->InvalidateControls();
+    EXPECT_EQ(m_ribbon->invalidated, 0);
+    Disconnect();
+    g_oTraceLog.reset();
+    EXPECT_EQ(TraceIn(TraceFiles().front()).find("PPT Version > 11"), std::string::npos);
+}
+
+TEST_F(ConnectTest, StartsNothingInAnyModeButTheStart)
+{
+    for (const LONG mode : {0, 2, 3}) {
+        ConnectTo(L"16.0", mode);
+        session->New();
+        EXPECT_NE(g_oTraceLog, nullptr) << mode;
+        EXPECT_EQ(g_oAddInMenus, nullptr) << mode;
+        EXPECT_EQ(g_oCustomNames, nullptr) << mode;
+        EXPECT_FALSE(session->Application().Events().HasSinks()) << mode;
+        Disconnect();
+        g_oTraceLog.reset();
+    }
+    EXPECT_TRUE(TraceFiles().empty());
+}
+
+TEST_F(ConnectTest, WritesEachConnectionsTraceToAFileNamedByItsTime)
+{
+    SwitchTraceOn();
+    std::vector<std::wstring> names;
+    for (int connection = 0; connection < 2; ++connection) {
+        SYSTEMTIME now{};
+        ::GetLocalTime(&now);
+        // A file's name tells whole seconds: begin with a new one.
+        for (const WORD second = now.wSecond; now.wSecond == second; ::GetLocalTime(&now))
+            ::Sleep(1);
+        ConnectTo(L"16.0", 0);
+        wchar_t name[MAX_PATH] = L"";
+        ::swprintf_s(name, MAX_PATH, L"CorvaneMSOfficePowerPoint_%d_%d_%d__%d_%d_%d.log", now.wYear, now.wMonth,
+                     now.wDay, now.wHour, now.wMinute, now.wSecond);
+        names.emplace_back(name);
+        Disconnect();
+    }
+    g_oTraceLog.reset();
+    EXPECT_EQ(TraceFiles(), names);
+    EXPECT_EQ(TraceIn(names[0]), TraceIn(names[1]));
+}
+
+TEST_F(ConnectTest, AnswersCallbacksThatNoControlNames)
+{
+    VARIANT_BOOL enabled = VARIANT_TRUE;
+    EXPECT_EQ(m_connect->GetEnabled(nullptr, &enabled), S_OK);
+    EXPECT_EQ(enabled, VARIANT_FALSE);
+    for (const auto callback : {&_Connect::GetLabel, &_Connect::GetScreentip, &_Connect::GetSupertip}) {
+        Bstr text{L"?"};
+        EXPECT_EQ(((*m_connect.Get()).*callback)(nullptr, text.Put()), S_OK);
+        EXPECT_NE(text.Get(), nullptr);
+        EXPECT_EQ(text.Text(), L"");
+    }
+}
+
+} // namespace

@@ -1,0 +1,136 @@
+// The commands in hosts without a ribbon, and in Excel.
+#include "FakeRequest.h"
+#include "HostTest.h"
+#include "MessageBox.h"
+#include "OfferedClass.h"
+
+#include "addin/CAddInMenus.h"
+#include "platform/Procedure.h"
+#include "resources/resource.h"
+#include "shared/DocumentProperties.h"
+#include "support/CCustomNames.h"
+#include "support/CTraceLog.h"
+#include "support/ErrorReport.h"
+
+#include <commctrl.h>
+
+using namespace corvane;
+
+namespace
+{
+
+constexpr CLSID kXmlHttp3 = {0xF5078F35, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
+
+// Counts the procedures that begin and the errors that are reported.
+class Listener final : public ProcedureWatch
+{
+public:
+    Listener() { SetProcedureWatch(this); }
+    ~Listener() override { SetProcedureWatch(nullptr); }
+
+    void Enter(std::wstring_view) noexcept override { ++entered; }
+    void Leave(std::wstring_view) noexcept override {}
+    void Report(const Error&) noexcept override { ++reported; }
+
+    int entered = 0;
+    int reported = 0;
+};
+
+class Menus : public host::test::HostTest
+{
+protected:
+    Menus()
+    {
+        g_oCustomNames = std::make_unique<CCustomNames>([](const auto&...) { return Rows{}; });
+    }
+    ~Menus() override { g_oCustomNames.reset(); }
+
+    LateBound App() { return LateBound{ComPtr<IDispatch>{&session->Application()}}; }
+    LateBound Bar() { return App().Object(L"CommandBars").Object(L"Item", L"Menu Bar"); }
+
+    using Rows = std::vector<CustomNameRow>;
+    Apartment m_apartment;
+};
+
+TEST_F(Menus, ThatCannotBeMadeLeaveTheTracesLevelAsItWas)
+{
+    g_oTraceLog = std::make_unique<CTraceLog>(Settings{});
+    WatchProcedures();
+    Start("powerpoint", L"11.0", {{"menus", "helpless"}});
+    CAddInMenus menus{{}};
+    menus.SetApplication(App());
+    EXPECT_TRUE(Catch([&] { menus.CreateMenus(Bar()); }));
+    EXPECT_EQ(g_oTraceLog->GetTabs(), L"\t");
+    SetProcedureWatch(nullptr);
+    g_oTraceLog.reset();
+}
+
+TEST_F(Menus, HaveARibbonOfTheirOwnForOutlook)
+{
+    Start("outlook", L"14.0");
+    CAddInMenus menus{{}};
+    menus.SetApplication(App());
+    menus.SetUICaptions();
+    const std::wstring ribbon = menus.GetOutlookRibbonXML();
+    EXPECT_NE(ribbon.find(L" id=\"CorvaneOffice\""), std::wstring::npos) << host::Narrow(ribbon);
+    EXPECT_EQ(ribbon.find(L"onLoad"), std::wstring::npos);
+}
+
+TEST_F(Menus, SaveNothingInExcelWhileACellIsEdited)
+{
+    Start("excel", L"16.0", {{"editing", "800AC472"}});
+    CAddInMenus menus{{}};
+    menus.SetApplication(App());
+    const Listener listener;
+    const MessageBoxAnswer box{
+        L"You are currently editing a cell or object. Please finish editing before saving to Corvane.",
+        L"Save to Corvane"};
+    menus.SaveAssignmentClickHelper(L"Custom");
+    EXPECT_TRUE(box.Appeared());
+    EXPECT_FALSE(box.HadIcon());
+    EXPECT_EQ(listener.entered + listener.reported, 0);
+}
+
+// Picks the tree's last leaf as soon as it can be picked.
+void CALLBACK PickTarget(HWND, UINT, UINT_PTR timer, DWORD)
+{
+    const HWND form = ::FindWindowW(L"frmSaveTo", nullptr);
+    const HWND ok = form == nullptr ? nullptr : ::GetDlgItem(form, cmdOK);
+    if (ok == nullptr || !::IsWindowEnabled(ok)) return;
+    ::KillTimer(nullptr, timer);
+    const HWND tree = ::GetDlgItem(form, TreeView1);
+    HTREEITEM item = TreeView_GetRoot(tree);
+    while (const HTREEITEM child = TreeView_GetChild(tree, item))
+        item = child;
+    TreeView_SelectItem(tree, item);
+    ::PostMessageW(form, WM_COMMAND, MAKEWPARAM(cmdOK, BN_CLICKED), reinterpret_cast<LPARAM>(ok));
+}
+
+TEST_F(Menus, KeepExcelFromItsUserWhileTheDialogRunsAfterTheTree)
+{
+    FakeRequest transport;
+    transport.text = L"<projects><project pid='12' IconSet='1' name='P'><stage phaseid='1' name='S'>"
+                     L"<deliverable deliverableid='45' name='D'/></stage></project></projects>";
+    const OfferedClass http{kXmlHttp3, [&](REFIID id, void** object) { return transport.QueryInterface(id, object); }};
+    for (const bool fails : {false, true}) {
+        Start("excel");
+        session->New();
+        SetBindingProperties(App(), {.server = L"http://h", .projectId = 12});
+        int dialogs = 0;
+        CAddInMenus menus{{[&](frmBusy& busy) {
+            ++dialogs;
+            EXPECT_EQ(busy.lDeliverableID, 45);
+            EXPECT_EQ(App().Number(L"Interactive"), 0);
+            if (fails) throw Error{5, L"", L"The dialog failed."};
+        }}};
+        menus.SetApplication(App());
+        const Listener listener;
+        ::SetTimer(nullptr, 0, 20, &PickTarget);
+        menus.SaveAssignmentClickHelper(L"Custom");
+        EXPECT_EQ(dialogs, 1);
+        EXPECT_EQ(listener.reported, fails ? 1 : 0);
+        EXPECT_NE(App().Number(L"Interactive"), 0);
+    }
+}
+
+} // namespace
