@@ -4,12 +4,11 @@
 #include "platform/HResult.h"
 #include "platform/Messages.h"
 #include "platform/Owners.h"
+#include "platform/Procedure.h"
 #include "platform/SystemLibrary.h"
 #include "support/CTraceLog.h"
 
-#include <array>
 #include <set>
-#include <string_view>
 
 namespace corvane
 {
@@ -20,7 +19,7 @@ namespace
 constexpr UINT kDisplayContents = 1; // HH_DISPLAY_TOC
 constexpr UINT kHelpContext = 15;    // HH_HELP_CONTEXT
 
-// The class of the viewer's windows. The viewer's own command to close (HH_CLOSE_ALL) closes those of the host as well.
+// The class of the viewer's windows. Its own command to close them (HH_CLOSE_ALL) closes those of the host as well.
 constexpr wchar_t kViewerClass[] = L"HH Parent";
 constexpr UINT kClosePatience = 1000; // milliseconds: the viewer's windows may live in a thread of their own
 
@@ -45,21 +44,23 @@ HtmlHelp& Viewer() noexcept
     return viewer;
 }
 
-// The viewer's windows that we have opened.
-std::set<HWND>& Windows()
+// The viewer's windows in this process.
+std::set<HWND> OpenWindows()
 {
-    static std::set<HWND> windows;
+    std::set<HWND> windows;
+    for (HWND window = nullptr; (window = ::FindWindowExW(nullptr, window, kViewerClass, nullptr)) != nullptr;) {
+        DWORD process = 0;
+        ::GetWindowThreadProcessId(window, &process);
+        if (process == ::GetCurrentProcessId()) windows.insert(window);
+    }
     return windows;
 }
 
-// Whether the handle is still a window of the viewer in this process; the system gives handles anew.
-bool IsViewer(HWND window) noexcept
+// Those of them that we have opened.
+std::set<HWND>& OwnWindows()
 {
-    DWORD process = 0;
-    std::array<wchar_t, std::size(kViewerClass) + 1> name{};
-    return ::GetWindowThreadProcessId(window, &process) != 0 && process == ::GetCurrentProcessId() &&
-           ::GetClassNameW(window, name.data(), static_cast<int>(name.size())) != 0 &&
-           std::wstring_view{name.data()} == kViewerClass;
+    static std::set<HWND> windows;
+    return windows;
 }
 
 void LoadViewer()
@@ -78,11 +79,12 @@ void Show(HWND owner, UINT command, DWORD_PTR data)
         return;
     }
     LoadViewer();
+    const std::set<HWND> before = OpenWindows();
     const HWND window = Viewer()(owner, AnsiPath(HelpFile()).c_str(), command, data);
     if (window == nullptr)
         ShowMessage(L"The help file \"" + HelpFile() + L"\" could not be opened.", kStyleExclamation);
-    else
-        Windows().insert(window);
+    else if (!before.contains(window))
+        OwnWindows().insert(window);
 }
 
 } // namespace
@@ -99,11 +101,14 @@ void ShowHelpTopic(HWND owner, HelpTopic topic)
 
 void CloseHelp() noexcept
 {
-    for (const HWND window : Windows()) {
-        DWORD_PTR result = 0;
-        if (IsViewer(window)) ::SendMessageTimeoutW(window, WM_CLOSE, 0, 0, SMTO_ABORTIFHUNG, kClosePatience, &result);
-    }
-    Windows().clear();
+    Ignoring([] {
+        for (const HWND window : OpenWindows()) {
+            DWORD_PTR result = 0;
+            if (OwnWindows().contains(window))
+                ::SendMessageTimeoutW(window, WM_CLOSE, 0, 0, SMTO_ABORTIFHUNG, kClosePatience, &result);
+        }
+        OwnWindows().clear();
+    });
 }
 
 } // namespace corvane
