@@ -134,7 +134,7 @@ constexpr OwnerCase kOwnerCases[] = {
     {"Own", kDeliverable, kUser, kUnasked, kOther, kUnasked, Verdict::Allowed, kUnasked},
     {"Foreign", kDeliverable, kOther, kUnasked, kUser, true, Verdict::Refused, Refusal::OwnedByOther},
     {"Leader", kDeliverable, 0, kUnasked, kUser, kUnasked, Verdict::Allowed, kUnasked},
-    {"OtherLeader", kDeliverable, 0, kUnasked, kOther, true, Verdict::Refused, Refusal::NotOwned},
+    {"OtherLeader", kDeliverable, 0, kUnasked, kUser - 1, true, Verdict::Refused, Refusal::NotOwned},
     {"AsksForManager", kDeliverable, 0, kUnasked, 0, kUnasked, Verdict::NeedsManageAccess, kUnasked},
     {"Manager", kDeliverable, 0, kUnasked, 0, true, Verdict::Allowed, kUnasked},
     {"NoManager", kDeliverable, 0, kUnasked, 0, false, Verdict::Refused, Refusal::NotOwned},

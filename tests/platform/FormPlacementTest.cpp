@@ -37,9 +37,9 @@ TEST(FormPlacement, GivesAScrollBarTheRoomThatItTakesFromTheOtherOne)
 {
     constexpr Extent kBar{17, 15};
     EXPECT_EQ(BarsFor({300, 200}, {300, 200}, kBar), (ScrollBars{false, false}));
-    EXPECT_EQ(BarsFor({280, 250}, {300, 200}, kBar), (ScrollBars{false, true}));
+    EXPECT_EQ(BarsFor({283, 250}, {300, 200}, kBar), (ScrollBars{false, true}));
     EXPECT_EQ(BarsFor({300, 250}, {300, 200}, kBar), (ScrollBars{true, true}));
-    EXPECT_EQ(BarsFor({350, 180}, {300, 200}, kBar), (ScrollBars{true, false}));
+    EXPECT_EQ(BarsFor({350, 185}, {300, 200}, kBar), (ScrollBars{true, false}));
     EXPECT_EQ(BarsFor({350, 190}, {300, 200}, kBar), (ScrollBars{true, true}));
 }
 

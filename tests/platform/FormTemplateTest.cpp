@@ -69,7 +69,7 @@ const Layout kLayouts[] = {
     {"OddTitle", kNone, kNone, u"Saved"},
     {"NoTitle", kNone, kNone, u""},
     {"MenuByNumber", kOrdinal, kNone, u"Save"},
-    {"ClassByNumber", kNone, kOrdinal, u"Save"},
+    {"MenuAndClassByNumber", kOrdinal, kOrdinal, u"Save"},
     {"MenuAndClassByName", std::u16string{u"MAIN\0", 5}, std::u16string{u"Dialog\0", 7}, u"Save"},
 };
 const TemplateFont kShipped{8, 400, false, 1, u"MS Shell Dlg"};

@@ -32,6 +32,7 @@ TEST(ShownText, EndsALongTextInAnEllipsis)
          L"a\xD83D\xDCC8"
          L"b",
          3, L"a…"},
+        {"OnlyABlankFits", L" Work", 2, L"…"},
         {"NoRoomAtAll", L"Work", 0, L"…"},
     };
     for (const auto& item : kCases) {

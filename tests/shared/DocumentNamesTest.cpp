@@ -55,7 +55,7 @@ TEST(DocumentNames, ReplaceWhatAFileNameCannotHold)
     EXPECT_EQ(AsFileName(L"  plan v1.2 . "), L"plan v1.2");
     EXPECT_EQ(AsFileName(L" \t "), L"_");
     EXPECT_EQ(AsFileName(std::wstring(500, L'x')), std::wstring(120, L'x'));
-    for (const wchar_t* device : {L"con", L"NUL.old", L"Com1", L"lpt\xB9", L"AUX .x"})
+    for (const wchar_t* device : {L"con", L"NUL.old", L"Com1", L"lpt\xB9", L"AUX .x", L"conout$"})
         EXPECT_EQ(AsFileName(device), L"_" + std::wstring{device});
     for (const wchar_t* plain : {L"console", L"com10", L"lptx", L"my con"})
         EXPECT_EQ(AsFileName(plain), plain);

@@ -59,6 +59,15 @@ TEST(Conversions, TakeTrueInAnyCaseAndEveryOtherNumberThanZeroForTrue)
         EXPECT_FALSE(ToBooleanSafe(text)) << testing::PrintToString(text);
 }
 
+TEST(Conversions, KnowTheSmallLettersOfLatinGreekAndCyrillic)
+{
+    EXPECT_EQ(
+        ToLower(
+            L"@AZ["
+            L"\xC0\xD6\xD7\xD8\xDE\xDF\x100\x101\x139\x178\x386\x391\x3A9\x400\x410\x42F\x48A\x48B\x4C1\x1E00\x1EA0"),
+        L"@az[\xE0\xF6\xD7\xF8\xFE\xDF\x101\x101\x13A\xFF\x3AC\x3B1\x3C9\x450\x430\x44F\x48B\x48B\x4C2\x1E01\x1EA1");
+}
+
 TEST(Conversions, TrimTakesBlanksAtTheEndsOnly)
 {
     EXPECT_EQ(Trim(L"  two words "), L"two words");

@@ -90,7 +90,7 @@ TEST(VersionText, PadsTheMinorNumberOnly)
 {
     EXPECT_EQ(VersionText(8, 50, 100), L"Version 8.50.100");
     EXPECT_EQ(VersionText(8, 5, 7), L"Version 8.05.7");
-    EXPECT_EQ(VersionText(10, 123, 0), L"Version 10.123.0");
+    EXPECT_EQ(VersionText(10, 10, 0), L"Version 10.10.0");
     EXPECT_EQ(VersionText(0, 0, 0), L"Version 0.00.0");
 }
 

@@ -21,6 +21,12 @@ TEST(AnswerRules, KnowAnErrorDocumentByItsOpenerAnywhere)
         EXPECT_FALSE(IsErrorDocument(text)) << testing::PrintToString(text);
 }
 
+TEST(AnswerRules, MissTheWordsOfAnErrorDocument)
+{
+    EXPECT_EQ(DocumentError({L"5", L"Source", {}}, kOperationCall).Number(), 94);
+    EXPECT_EQ(DocumentError({L"5", {}, L"Words"}, kOperationCall).Number(), 94);
+}
+
 TEST(AnswerRules, TellAnUnusableAddressUnderTheirOwnSource)
 {
     const std::pair<const ServiceProcedure&, const wchar_t*> kSources[] = {

@@ -35,7 +35,7 @@ TEST(UploadBody, TurnsTextIntoUtf8)
         {"ThreeBytes", L"\x800\xFFFF", "\xE0\xA0\x80\xEF\xBF\xBF"},
         {"PairOfHalves", L"\xD83D\xDE00", "\xF0\x9F\x98\x80"},
         {"LoneHighHalf", L"\xD83Dx", "\xEF\xBF\xBDx"},
-        {"HighHalfAtTheEnd", L"\xD83D", "\xEF\xBF\xBD"},
+        {"HighHalfAtTheEnd", L"\xD800", "\xEF\xBF\xBD"},
         {"LoneLowHalf", L"\xDE00x", "\xEF\xBF\xBDx"},
         {"HalvesTheWrongWayRound", L"\xDE00\xD83D", "\xEF\xBF\xBD\xEF\xBF\xBD"},
     };
