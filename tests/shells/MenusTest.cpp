@@ -12,6 +12,8 @@
 #include "support/CTraceLog.h"
 #include "support/ErrorReport.h"
 
+#include "objects/CommandBars.h"
+
 #include <commctrl.h>
 
 using namespace corvane;
@@ -47,10 +49,55 @@ protected:
 
     LateBound App() { return LateBound{ComPtr<IDispatch>{&session->Application()}}; }
     LateBound Bar() { return App().Object(L"CommandBars").Object(L"Item", L"Menu Bar"); }
+    // A menu's entries that the add-in made, each with what was done to it.
+    std::wstring MadeIn(host::CommandBarObject& menu)
+    {
+        std::wstring text;
+        for (const auto& entry : menu.Entries()) {
+            if (entry->Id() == 1) text += entry->History() + L"\n";
+            if (entry->Menu()) text += MadeIn(*entry->Menu());
+        }
+        return text;
+    }
+    host::CommandBarObject& MenuBar() { return session->CommandBars().MenuBar(); }
 
     using Rows = std::vector<CustomNameRow>;
     Apartment m_apartment;
 };
+
+// What is done to the entries: the menu's arguments of Add (type, id, parameter, position, temporary), and the
+// properties in the order in which they are written.
+std::wstring HistoryWith(const std::wstring& savePosition)
+{
+    return L"Add 10 1 KRXSaveToCorvane " + savePosition +
+           LR"( True, Enabled True, Visible True, Tag KRXSaveToCorvane, Caption Save to Corvane
+Add 1 - - - -, Enabled True, Visible True, Style 1, Caption Save as Deliverable or Activity..., Tag KRXSaveAssignement
+Add 1 - - - -, Enabled True, Visible True, Style 1, Caption Save as Related Document..., Tag KRXSaveRelatedDoc
+Add 1 - - - -, Enabled True, Visible True, Style 1, Caption Save as Gate Document..., Tag KRXSaveGateDoc
+Add 1 - KRXMSOHelp 2 True, Enabled True, Visible True, Style 1, Caption Corvane for MS Office Help, Tag KRXMSOHelp
+Add 1 - KRXAboutMSO - True, Enabled True, Visible True, Style 1, Caption About Corvane for MS Office, Tag KRXAboutMSO
+)";
+}
+
+TEST_F(Menus, AreMadeWithEveryPropertyInOrderAndHiddenBeforeTheyAreDeleted)
+{
+    for (const auto& [kind, savePosition] : {std::pair{"", L"6"}, std::pair{"bare", L"5"}}) {
+        Start("powerpoint", L"11.0", {{"menus", kind}});
+        CAddInMenus menus{{}};
+        menus.SetApplication(App());
+        menus.SetUICaptions();
+        menus.CreateMenus(Bar());
+        EXPECT_EQ(MadeIn(MenuBar()), HistoryWith(savePosition)) << kind;
+
+        const host::ComPtr<host::BarControlObject> help{MenuBar().FindTag(L"KRXMSOHelp")};
+        host::CommandBarObject& helpMenu = *MenuBar().Entries().back()->Menu();
+        helpMenu.Insert(host::kBarButton, 1, L"", 0).SetTag(L"KRXAboutMSO"); // in front of the other
+        menus.DeleteMenus(Bar());
+        EXPECT_TRUE(help->History().ends_with(L", Visible False, Enabled False")) << kind;
+        EXPECT_EQ(MenuBar().FindTag(L"KRXSaveToCorvane"), nullptr);
+        EXPECT_EQ(helpMenu.Entries().back()->Tag(), L"KRXAboutMSO") << "more than the first was removed";
+    }
+}
 
 TEST_F(Menus, ThatCannotBeMadeLeaveTheTracesLevelAsItWas)
 {

@@ -79,18 +79,31 @@ CommandBarObject& BarControlObject::MenuOrFail()
     return *m_menu.Get();
 }
 
-Value BarControlObject::TextProperty(const Arguments& arguments, std::wstring& text)
+void BarControlObject::NoteAdded(const Arguments& arguments)
 {
-    if (!arguments.IsPut()) return Value{text};
-    text = arguments.At(0).Text();
+    m_history = L"Add";
+    for (UINT index = 0; index < 5; ++index)
+        m_history += L" " + (arguments.Has(index) ? arguments.At(index).Text() : L"-");
+}
+
+Value BarControlObject::Note(const wchar_t* property, const Value& value)
+{
+    m_history.append(L", ").append(property).append(L" ").append(value.Text());
     return {};
 }
 
-Value BarControlObject::FlagProperty(const Arguments& arguments, bool& flag)
+Value BarControlObject::TextProperty(const wchar_t* name, const Arguments& arguments, std::wstring& text)
+{
+    if (!arguments.IsPut()) return Value{text};
+    text = arguments.At(0).Text();
+    return Note(name, arguments.At(0));
+}
+
+Value BarControlObject::FlagProperty(const wchar_t* name, const Arguments& arguments, bool& flag)
 {
     if (!arguments.IsPut()) return Value::OfBoolean(flag);
     flag = arguments.At(0).Boolean();
-    return {};
+    return Note(name, arguments.At(0));
 }
 
 Value BarControlObject::GetType(const Arguments&) { return Value{m_type}; }
@@ -102,19 +115,31 @@ Value BarControlObject::GetIndex(const Arguments&)
     return Value{static_cast<long>(m_parent->PositionOf(*this))};
 }
 
-Value BarControlObject::CaptionProperty(const Arguments& arguments) { return TextProperty(arguments, m_caption); }
-Value BarControlObject::TagProperty(const Arguments& arguments) { return TextProperty(arguments, m_tag); }
-Value BarControlObject::Parameter(const Arguments& arguments) { return TextProperty(arguments, m_parameter); }
-Value BarControlObject::TooltipText(const Arguments& arguments) { return TextProperty(arguments, m_tip); }
-Value BarControlObject::Enabled(const Arguments& arguments) { return FlagProperty(arguments, m_enabled); }
-Value BarControlObject::Visible(const Arguments& arguments) { return FlagProperty(arguments, m_visible); }
-Value BarControlObject::BeginGroup(const Arguments& arguments) { return FlagProperty(arguments, m_beginGroup); }
+Value BarControlObject::CaptionProperty(const Arguments& arguments)
+{
+    return TextProperty(L"Caption", arguments, m_caption);
+}
+Value BarControlObject::TagProperty(const Arguments& arguments) { return TextProperty(L"Tag", arguments, m_tag); }
+Value BarControlObject::Parameter(const Arguments& arguments)
+{
+    return TextProperty(L"Parameter", arguments, m_parameter);
+}
+Value BarControlObject::TooltipText(const Arguments& arguments)
+{
+    return TextProperty(L"TooltipText", arguments, m_tip);
+}
+Value BarControlObject::Enabled(const Arguments& arguments) { return FlagProperty(L"Enabled", arguments, m_enabled); }
+Value BarControlObject::Visible(const Arguments& arguments) { return FlagProperty(L"Visible", arguments, m_visible); }
+Value BarControlObject::BeginGroup(const Arguments& arguments)
+{
+    return FlagProperty(L"BeginGroup", arguments, m_beginGroup);
+}
 
 Value BarControlObject::Style(const Arguments& arguments)
 {
     if (!arguments.IsPut()) return Value{m_style};
     m_style = arguments.At(0).Number();
-    return {};
+    return Note(L"Style", arguments.At(0));
 }
 
 Value BarControlObject::GetControls(const Arguments&) { return Value{MenuOrFail().Controls().Get()}; }

@@ -144,6 +144,7 @@ Value BarControlsObject::Add(const Arguments& arguments)
         throw AutomationError{E_INVALIDARG, L"This host's own menus take temporary controls only."};
     BarControlObject& control = m_bar->Insert(type, id, {}, position);
     if (arguments.Has(2)) control.SetParameter(arguments.At(2).Text());
+    control.NoteAdded(arguments);
     return Value{&control};
 }
 

@@ -34,6 +34,10 @@ public:
 
     void SetTag(std::wstring tag) { m_tag = std::move(tag); }
     void SetParameter(std::wstring parameter) { m_parameter = std::move(parameter); }
+    // Keeps the arguments of the Add that made it.
+    void NoteAdded(const Arguments& arguments);
+    // How a program made it and what it wrote since, in order: "Add 1 - - 2 True, Visible True". Empty for the host's.
+    [[nodiscard]] const std::wstring& History() const { return m_history; }
     void SetEnabled(bool enabled) { m_enabled = enabled; }
 
     // Fires Click to whoever listens to this button.
@@ -63,8 +67,9 @@ private:
     Value DoExecute(const Arguments&);
 
     [[nodiscard]] CommandBarObject& MenuOrFail();
-    Value TextProperty(const Arguments& arguments, std::wstring& text);
-    Value FlagProperty(const Arguments& arguments, bool& flag);
+    Value Note(const wchar_t* property, const Value& value);
+    Value TextProperty(const wchar_t* name, const Arguments& arguments, std::wstring& text);
+    Value FlagProperty(const wchar_t* name, const Arguments& arguments, bool& flag);
 
     long m_type;
     long m_id;
@@ -72,6 +77,7 @@ private:
     std::wstring m_tag;
     std::wstring m_parameter;
     std::wstring m_tip;
+    std::wstring m_history;
     bool m_enabled = true;
     bool m_visible = true;
     bool m_beginGroup = false;
