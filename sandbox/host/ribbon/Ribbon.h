@@ -13,11 +13,14 @@ namespace host
 struct RibbonControl
 {
     std::string kind; // the element's name
-    std::string id;   // id, idQ or idMso, whichever is given
+    std::string id;   // id or idQ, whichever is given; empty where the kind has none
     XmlElement element;
     std::vector<RibbonControl> children;
 
     [[nodiscard]] std::string Attribute(std::string_view name) const { return element.Attribute(name); }
+
+    // Whether the attribute is there and says no.
+    [[nodiscard]] bool IsFalse(std::string_view name) const;
 
     // The label as shown: "&&" is an ampersand, a single "&" marks an access key and is not shown.
     [[nodiscard]] std::string Label() const;
@@ -39,7 +42,7 @@ struct Ribbon
 [[nodiscard]] std::string PlainLabel(std::string_view label);
 
 // Reads the XML as a host of this major version does. Throws std::runtime_error with the reason when such a host would
-// refuse it: not well formed, a wrong namespace, an empty label, an id given twice, an element out of place.
+// refuse it: not well formed, or against its rules (CheckRibbon).
 [[nodiscard]] Ribbon ReadRibbon(std::string_view xml, int hostVersion);
 
 } // namespace host

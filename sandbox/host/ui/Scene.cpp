@@ -233,13 +233,13 @@ std::wstring ShownLabel(const AddIn& addIn, const RibbonControl& control)
 bool IsShown(const AddIn& addIn, const RibbonControl& control)
 {
     const DynamicState* dynamic = addIn.Dynamic(control.id);
-    return dynamic && dynamic->visible ? *dynamic->visible : control.Attribute("visible") != "false";
+    return dynamic && dynamic->visible ? *dynamic->visible : !control.IsFalse("visible");
 }
 
 bool IsEnabled(const AddIn& addIn, const RibbonControl& control)
 {
     const DynamicState* dynamic = addIn.Dynamic(control.id);
-    return dynamic && dynamic->enabled ? *dynamic->enabled : control.Attribute("enabled") != "false";
+    return dynamic && dynamic->enabled ? *dynamic->enabled : !control.IsFalse("enabled");
 }
 
 Scene BuildScene(const Host& host, const ViewState& view, const Theme& theme, SIZE size)
