@@ -43,7 +43,8 @@ enum class Edition
     Office2010
 };
 
-// An element by its path from the root. One without an id may stand there once.
+// An element by its path from the root, and the edition that has it and all below it. One without an id stands there
+// once.
 struct ElementRule
 {
     std::string_view path;
@@ -55,8 +56,8 @@ constexpr ElementRule kElements[] = {
     {"/customUI", kLoad},
     {"/customUI/ribbon", kNone},
     {"/customUI/ribbon/officeMenu", kNone, Edition::Office2007},
-    {"/customUI/ribbon/officeMenu/menu", kMenu | kTitle, Edition::Office2007},
-    {"/customUI/ribbon/officeMenu/menu/button", kButton, Edition::Office2007},
+    {"/customUI/ribbon/officeMenu/menu", kMenu | kTitle},
+    {"/customUI/ribbon/officeMenu/menu/button", kButton},
     {"/customUI/ribbon/tabs", kNone},
     {"/customUI/ribbon/tabs/tab", kControl},
     {"/customUI/ribbon/tabs/tab/group", kControl | kPicture | kTips},
@@ -64,12 +65,12 @@ constexpr ElementRule kElements[] = {
     {"/customUI/ribbon/tabs/tab/group/menu/button", kButton},
     {"/customUI/ribbon/tabs/tab/group/button", kButton | kSize},
     {"/customUI/backstage", kNone, Edition::Office2010},
-    {"/customUI/backstage/tab", kControl | kState, Edition::Office2010},
-    {"/customUI/backstage/tab/firstColumn", kNone, Edition::Office2010},
-    {"/customUI/backstage/tab/firstColumn/taskGroup", kControl, Edition::Office2010},
-    {"/customUI/backstage/tab/firstColumn/taskGroup/category", kControl, Edition::Office2010},
+    {"/customUI/backstage/tab", kControl | kState},
+    {"/customUI/backstage/tab/firstColumn", kNone},
+    {"/customUI/backstage/tab/firstColumn/taskGroup", kControl},
+    {"/customUI/backstage/tab/firstColumn/taskGroup/category", kControl},
     {"/customUI/backstage/tab/firstColumn/taskGroup/category/task",
-     kControl | kPicture | kState | kAction | kDescription | kDefinitive, Edition::Office2010},
+     kControl | kPicture | kState | kAction | kDescription | kDefinitive},
 };
 
 enum class Value
