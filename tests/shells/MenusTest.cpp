@@ -92,6 +92,7 @@ TEST_F(Menus, AreMadeWithEveryPropertyInOrderAndHiddenBeforeTheyAreDeleted)
         const host::ComPtr<host::BarControlObject> help{MenuBar().FindTag(L"KRXMSOHelp")};
         host::CommandBarObject& helpMenu = *MenuBar().Entries().back()->Menu();
         helpMenu.Insert(host::kBarButton, 1, L"", 0).SetTag(L"KRXAboutMSO"); // in front of the other
+        MenuBar().Insert(host::kBarButton, host::kUntoldId, L"", 0);         // is passed over
         menus.DeleteMenus(Bar());
         EXPECT_TRUE(help->History().ends_with(L", Visible False, Enabled False")) << kind;
         EXPECT_EQ(MenuBar().FindTag(L"KRXSaveToCorvane"), nullptr);

@@ -107,7 +107,11 @@ Value BarControlObject::FlagProperty(const wchar_t* name, const Arguments& argum
 }
 
 Value BarControlObject::GetType(const Arguments&) { return Value{m_type}; }
-Value BarControlObject::GetId(const Arguments&) { return Value{m_id}; }
+Value BarControlObject::GetId(const Arguments&)
+{
+    if (m_id == kUntoldId) throw AutomationError{E_FAIL, L"The control does not tell its id."};
+    return Value{m_id};
+}
 
 Value BarControlObject::GetIndex(const Arguments&)
 {
