@@ -208,7 +208,14 @@ void Player::File(const Step& step)
 }
 
 // The server reads its rules again at each request.
-void Player::Faults(const Step& step) { WriteWholeFile(OutFile("faults.json"), step.At(0)); }
+// Takes its name when it is whole, because the server reads it at any time.
+void Player::Faults(const Step& step)
+{
+    const std::wstring file = OutFile("faults.json");
+    WriteWholeFile(file + L".new", step.At(0));
+    if (!::MoveFileExW((file + L".new").c_str(), file.c_str(), MOVEFILE_REPLACE_EXISTING))
+        throw std::runtime_error{"the rules cannot be put in place"};
+}
 
 void Player::Mail(const Step& step)
 {

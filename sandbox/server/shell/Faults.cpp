@@ -36,7 +36,8 @@ Fault ParseFault(const Json& rule)
                 .body = {},
                 .contentType = rule.value("contentType", ""),
                 .location = rule.value("location", ""),
-                .drop = ParseDrop(rule.value("drop", ""))};
+                .drop = ParseDrop(rule.value("drop", "")),
+                .heldIn = {}};
     if (rule.contains("status")) fault.status = rule["status"].get<int>();
     if (rule.contains("body")) fault.body = rule["body"].get<std::string>();
     if (rule.contains("file")) fault.body = ReadAll(rule["file"].get<std::string>());
@@ -55,11 +56,7 @@ std::optional<Fault> Faults::Next(std::string_view target, std::string_view body
 {
     if (m_file.empty()) return std::nullopt;
     const std::lock_guard lock{m_mutex};
-    auto content = ReadAll(m_file);
-    if (content != m_content) {
-        m_content = std::move(content);
-        m_uses.clear();
-    }
+    Read();
     if (m_content.find_first_not_of(" \t\r\n") == std::string::npos) return std::nullopt;
     const auto rules = Json::parse(m_content);
     for (std::size_t at = 0; at < rules.size(); ++at) {
@@ -67,9 +64,28 @@ std::optional<Fault> Faults::Next(std::string_view target, std::string_view body
         if (!Matches(rule, target, body)) continue;
         if (rule.contains("times") && m_uses[at] >= rule["times"].get<int>()) continue;
         ++m_uses[at];
-        return ParseFault(rule);
+        Fault fault = ParseFault(rule);
+        if (rule.value("hold", false)) fault.heldIn = m_edition;
+        return fault;
     }
     return std::nullopt;
+}
+
+bool Faults::Holds(const Fault& fault)
+{
+    if (!fault.heldIn) return false;
+    const std::lock_guard lock{m_mutex};
+    Read();
+    return m_edition == *fault.heldIn;
+}
+
+void Faults::Read()
+{
+    auto content = ReadAll(m_file);
+    if (content == m_content) return;
+    m_content = std::move(content);
+    m_uses.clear();
+    ++m_edition;
 }
 
 } // namespace server

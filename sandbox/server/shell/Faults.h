@@ -28,6 +28,7 @@ struct Fault
     std::string contentType; // empty: as the body looks
     std::string location;    // where a redirect leads
     Drop drop = Drop::Nowhere;
+    std::optional<int> heldIn; // the edition of the faults file that has to pass before the answer
 };
 
 // The rules of a faults file. The first rule that matches a request and is not used up applies to it. Thread-safe.
@@ -41,10 +42,16 @@ public:
     // no rule. Throws std::runtime_error for a file that cannot be understood.
     [[nodiscard]] std::optional<Fault> Next(std::string_view target, std::string_view body);
 
+    // Reads the file again: whether the answer has to wait still, because the file is what it was.
+    [[nodiscard]] bool Holds(const Fault& fault);
+
 private:
+    void Read();
+
     std::filesystem::path m_file;
     std::mutex m_mutex;
     std::string m_content;
+    int m_edition = 0; // grows whenever the content changes
     std::map<std::size_t, int> m_uses;
 };
 

@@ -15,6 +15,7 @@ namespace
 {
 
 constexpr std::size_t kThreads = 32;
+constexpr int kLook = 20; // milliseconds between looks at the faults file while an answer is held back
 
 // Two servers must not share a port, which the library's own options allow.
 void ReuseAddressOnly(socket_t socket)
@@ -100,6 +101,8 @@ void HttpFront::Serve(int socket)
         const auto answer = AnswerTo(*request, fault);
         m_log.Write(*request, fault.drop == Drop::BeforeAnswer ? 0 : answer.status);
         Wait(fault.delayMs);
+        while (m_faults.Holds(fault) && !Wait(kLook)) {
+        }
         connection.Send(CutAnswer(answer, fault.drop));
         if (fault.drop != Drop::Nowhere) connection.BreakOff();
     } else if (problem != 0) {
@@ -130,10 +133,10 @@ Answer HttpFront::AnswerTo(const Request& request, const Fault& fault)
     return answer;
 }
 
-void HttpFront::Wait(int milliseconds)
+bool HttpFront::Wait(int milliseconds)
 {
     std::unique_lock lock{m_mutex};
-    m_stopping.wait_for(lock, std::chrono::milliseconds{milliseconds}, [&] { return m_stopped; });
+    return m_stopping.wait_for(lock, std::chrono::milliseconds{milliseconds}, [&] { return m_stopped; });
 }
 
 } // namespace server

@@ -37,7 +37,7 @@ private:
     void Serve(int socket);
     [[nodiscard]] Answer AnswerTo(const Request& request, const Fault& fault);
     [[nodiscard]] Fault NextFault(const Request& request);
-    void Wait(int milliseconds);
+    bool Wait(int milliseconds); // whether the server was stopped before the time was over
 
     Handler m_handler;
     RequestLog& m_log;
