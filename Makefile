@@ -18,9 +18,10 @@ demo: all
 test: all
 	tests/run $(ARCH)
 
-# Every call of the server under every fault.
+# Every fault of the server: in each call, and in each request of each dialog.
 faults: all
 	tests/faults/run $(ARCH)
+	tests/scenarios/run $(ARCH) stories
 
 # A thousand saves in one host; what it holds after each round is in build/scenarios/soak/host.txt.
 soak: all

@@ -19,14 +19,41 @@ if [ -z "${DISPLAY:-}" ]; then
   export DISPLAY=:$number
 fi
 
-if [ ! -e "$WINEPREFIX/prepared" ]; then
-  wineboot -i >/dev/null 2>&1 9>&-
+# make_template: a Wine that no program of ours has run in, in place of this one's.
+make_template() {
+  rm -rf "$WINEPREFIX"
+  mkdir "$WINEPREFIX"
+  wineboot -i >/dev/null 2>&1 9>&- 7>&-
   # Documents and its like are folders of this Wine, not links into the person's home.
   find "$WINEPREFIX/drive_c/users" -maxdepth 2 -type l -exec sh -c 'rm "$1" && mkdir "$1"' sh {} \;
   # Wine looks for its own fonts (captions, the message font) only here.
   cp /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
-  wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d corvane /f >/dev/null 9>&-
-  wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v corvane /d 1400x1050 /f >/dev/null 9>&-
+  wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d corvane /f >/dev/null 9>&- 7>&-
+  wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v corvane /d 1400x1050 /f >/dev/null 9>&- 7>&-
+  wineserver -k
+  wineserver -w
+  touch "$WINEPREFIX/prepared"
+}
+
+# copy_template FOLDER: what the system never writes to again is shared, the rest is the copy's own.
+copy_template() {
+  local shared
+  rm -rf "$WINEPREFIX"/{drive_c,dosdevices,registered,dpi}
+  cp -a "$1"/{dosdevices,.update-timestamp,*.reg} "$WINEPREFIX/"
+  tar -C "$1" -c --exclude=drive_c/windows/system32 --exclude=drive_c/windows/syswow64 drive_c | tar -C "$WINEPREFIX" -x
+  for shared in "$1"/drive_c/windows/{system32,syswow64}; do
+    [ ! -e "$shared" ] || cp -al "$shared" "$WINEPREFIX/drive_c/windows/" || exit 2
+  done
+}
+
+if [ ! -e "$WINEPREFIX/prepared" ]; then
+  template=$top/build/wine/template-$arch
+  mkdir -p "${template%/*}"
+  exec 7>"$template.lock"
+  flock 7
+  [ -e "$template/prepared" ] || (WINEPREFIX=$template && make_template)
+  exec 7>&-
+  copy_template "$template"
   touch "$WINEPREFIX/prepared"
 fi
 # The share that Windows makes of its disk.

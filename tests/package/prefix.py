@@ -1,12 +1,10 @@
 """A fresh Wine with nothing of the add-in in it, and what its registry and its disk hold."""
-import os, pathlib, re, shutil, subprocess
+import pathlib, re, subprocess, sys
 
-TOP = pathlib.Path(__file__).resolve().parents[2]
+sys.path.append(str(pathlib.Path(__file__).resolve().parents[2] / "sandbox"))
+from desk import TOP, Desk, windows_path
+
 PATIENCE = 120  # seconds for one program
-
-
-def windows_path(path):
-    return "Z:" + str(path).replace("/", "\\")
 
 
 def values_of(export):
@@ -20,32 +18,9 @@ def values_of(export):
     return values
 
 
-class Prefix:
-    """Its display stays up, which makes each program start fast."""
-
+class Prefix(Desk):
     def __init__(self, arch):
-        self.arch, self.path = arch, TOP / f"build/wine/package-{arch}"
-        wine = subprocess.run([TOP / "tools/wine-path", arch], stdout=subprocess.PIPE, text=True, check=True).stdout
-        self.environment = dict(os.environ, CORVANE_WINEPREFIX=str(self.path), WINEPREFIX=str(self.path),
-                                PATH=wine.strip())
-        self.stop()
-        shutil.rmtree(self.path, ignore_errors=True)
-        self.path.mkdir(parents=True)
-        reading, writing = os.pipe()
-        self.screen = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-screen", "0", "1400x1050x24", "-nolisten",
-                                        "tcp"], pass_fds=[writing], stderr=subprocess.DEVNULL)
-        os.close(writing)
-        with os.fdopen(reading) as number:
-            self.environment["DISPLAY"] = ":" + number.readline().strip()
-
-    def stop(self):
-        for option in ("-k", "-w"):
-            subprocess.run(["wineserver", option], env=self.environment, stderr=subprocess.DEVNULL, check=False)
-
-    def close(self):
-        self.stop()
-        self.screen.terminate()
-        self.screen.wait()
+        super().__init__(arch, f"package-{arch}", fresh=True)
 
     def run(self, *command):
         """The exit status of a Windows program and what it printed."""

@@ -2,22 +2,19 @@
 
 The steps write the server's rules: one fault for the next request of its kind.
 """
-import itertools, json
+import itertools, json, pathlib, sys
 
+sys.path.append(str(pathlib.Path(__file__).resolve().parents[1] / "faults"))
 from hostile import write_hostile
+from kinds import (CLOSED, CLOSED_RELATED, DECLINED, NO_NUMBER, NOT_OWNER, NOT_SET, NUMBERS, OLD, OWN, SECURE, STATUSES,
+                   TOO_OLD, TRUNCATED, document)
 
 LOST = "Unable to contact server ${SERVER}."
-SECURE = "The server cannot be accessed or the page must be viewed over a secure channel."
 TOO_LARGE = "File size is greater than maximum allowed. Please contact your server administrator."
-NOT_SET = "Object variable or With block variable not set"
 NOT_TEAM = "Document cannot be uploaded to Corvane because you are not a project team member."
 NOT_OWN = "Document cannot be uploaded to Corvane because you do not own this "
 UNSET = f'message exactly "ERROR" "Number: 91" "Description: {NOT_SET}" "Source: WebService.FirstRow" OK'
-DOCUMENT = "<error number='7' source='Its own' description='Its words.'/>"
-OLD = "This Corvane for MS Office add-in must be used with a server where Corvane 8.0 or higher has been installed."
-TOO_OLD, DECLINED, NO_NUMBER = 0x8004070C - 2**32, 287, -2147221504
-NOT_OWNER, CLOSED, CLOSED_RELATED = 0x8004C6A3 - 2**32, 0x8004C6A4 - 2**32, 0x8004073C - 2**32
-NUMBERS = [*range(NOT_OWNER, NOT_OWNER + 7), CLOSED_RELATED, TOO_OLD, DECLINED, 0, "", "abc", "99999999999"]
+DOCUMENT = document()
 REFUSED = "Document cannot be uploaded to Corvane because "
 REFUSALS = {  # what a save says instead of the number, by its dialog
     "frmSaveAssignment": {
@@ -32,20 +29,21 @@ REFUSALS = {  # what a save says instead of the number, by its dialog
         CLOSED: ["The project 'Apollo' is closed and no longer active.", "", "Please click the Change button to select "
                  "another project.", "", "Your document has not been saved."]},
     "frmSaveRelatedDoc": {CLOSED_RELATED: ["Document cannot be uploaded to Corvane  because the project is closed."]}}
-STATUSES = [401, 403, 404, 424, 500, 503, 509]
 FAMILIES = {  # kinds of faults that one story meets, by its name
     "faults": {"drop": {"drop": "before"}, "document": {"body": DOCUMENT}, **{f"{n}": {"status": n} for n in STATUSES}},
     "answers": {**{f"{n} document": {"status": n, "body": DOCUMENT} for n in STATUSES},
-                "upper case": {"body": DOCUMENT.replace("error", "ERROR")}, "empty": {"body": ""},
-                "truncated": {"body": '<xml xmlns:z="#RowsetSchema"><z:row a='},
+                "upper case": {"body": document(tag="ERROR")}, "empty": {"body": ""}, "truncated": {"body": TRUNCATED},
                 "wrong type": {"body": "GIF89a", "contentType": "image/png"},
                 "redirected": {"status": 302, "location": "/"}},
     "lines": {"refused": {"status": 302, "location": "http://127.0.0.1:1/"}, "late": {"delayMs": 3000},
               "no such name": {"status": 302, "location": "http://h.invalid/"}, "head": {"drop": "status"},
               "body": {"drop": "body"}},
-    "numbers": {number: {"body": DOCUMENT.replace("'7'", f"'{number}'")} for number in NUMBERS},
+    "numbers": {number: {"body": document(number)} for number in NUMBERS},
     "large": {"64 MiB": {"file": "HUGE"}}}
 FAULTS = {kind: rule for family in FAMILIES.values() for kind, rule in family.items()}
+# What a dialog can tell apart; the number that its dialog has words for comes with them.
+TOLD_APART = ["drop", "403", "500", "document", TOO_OLD, DECLINED, "empty"]
+MAILED = ["document", DECLINED, "empty"]  # what the mail's request meets: each takes a whole save
 SILENT = {"empty", "truncated", "wrong type", "redirected", "64 MiB"}  # no failure, and nothing of use in them
 SAVE, SENDING = ["press cmdSave"], ["MaxFileUploadSize", "UploadTo"]
 ASSIGNMENT = ("DelivAct", "GetMyAssignmentsAsTree", "frmSaveAssignment")
@@ -80,8 +78,9 @@ class Story:
     def __init__(self, name, family):
         self.name, self.family = name, family
         self.command, self.tree, self.dialog, self.target, self.recordings, self.loading = STORIES[name]
-        self.silent = [kind for kind in FAMILIES[family] if kind in SILENT]
-        self.loud = [kind for kind in FAMILIES[family] if kind not in SILENT]
+        self.kinds = FAMILIES.get(family) or [*TOLD_APART, next(iter(REFUSALS[self.dialog]))]
+        self.silent = [kind for kind in self.kinds if kind in SILENT]
+        self.loud = [kind for kind in self.kinds if kind not in SILENT]
         self.open = [f"command {self.command}"]
         self.pick = [f'pick "{self.target}"']
         self.usable = [f"window {self.dialog}", 'expect StatusBar1 "Ready"', "expect cmdSave enabled"]
@@ -116,7 +115,7 @@ class Story:
         if status in ([404] if upload else [401, 404, 424]) or {"drop", "delayMs", "location"} & FAULTS[kind].keys():
             return told_as(225, source, "Unable to connect to server '${SERVER}'" if upload else LOST)
         if document:
-            return told_as(7, "Its own", "Its words.")
+            return told_as(OWN, "Its own", "Its words.")
         if kind == "upper case" or (status == 509 and not upload):
             return told_as(91, source, NOT_SET)
         lines = [f"Error: HTTP Status Code {status}", "", "Remote call to '${SERVER}' failed.", ""]
@@ -145,7 +144,7 @@ class Story:
                 idle = ["window frmSaveTo", "expect cmdOK disabled", 'expect StatusBar1 "Ready"']
                 self.meet(request, [kind], again if len(self.steps) > 1 else self.open, idle)
         # Each picture is asked for once, and what none comes for looks plain.
-        self.steps += [self.rules(FAMILIES[self.family], "GetSetIcon"), *(again if self.loud else self.open), *ready]
+        self.steps += [self.rules(self.kinds, "GetSetIcon"), *(again if self.loud else self.open), *ready]
         self.meet(self.tree, self.silent, again, ["expect txtTree visible", 'expect StatusBar1 "Ready"'], [])
         self.steps += [*again, *ready]
         if self.name == "deliverable":
@@ -167,7 +166,7 @@ class Story:
             self.meet(request, self.loud, SAVE, self.usable)
             if request in silence:
                 self.meet(request, self.silent, SAVE, self.usable, silence[request])
-        self.meet(recording, self.silent, SAVE, [f"closed {self.dialog}", *reopen, *self.usable], [])
+        self.meet(recording, self.silent[:1], SAVE, [f"closed {self.dialog}", *reopen, *self.usable], [])
         self.versions += 1 + self.unseen
         self.steps += [*SAVE, f"closed {self.dialog}"]
 
@@ -185,7 +184,7 @@ class Story:
             self.meet(request, self.silent, self.open, self.leave, words)
 
     def meet_in_mail(self):
-        for kind in [*self.loud, *self.silent] if self.name in MAILS else []:
+        for kind in [kind for kind in MAILED if kind in self.kinds and self.name in MAILS]:
             send = [*self.open, *self.usable, "press cmdSaveAndSend", f"closed {self.dialog}"]
             silence = [UNSET] if self.name == "related" else []
             self.meet(MAILS[self.name], [kind], send, [], silence if kind in SILENT else None)
@@ -218,13 +217,13 @@ class Story:
 
 
 def write_stories(folder):
-    """Writes the scenarios; their paths."""
+    """Writes the scenarios; the paths of those that are always played, and of the stories of every fault."""
     folder.mkdir(parents=True, exist_ok=True)
     huge = folder / "huge"
     huge.exists() or huge.write_bytes(b"x" * 2**26)
-    paths = [write_hostile(folder)]
-    for family in FAMILIES:
-        for name in STORIES:
-            paths.append(folder / f"{family}-{name}.txt")
-            paths[-1].write_text(Story(name, family).text().replace("HUGE", str(huge)), encoding="utf-8")
-    return paths
+    stories = {}
+    for family, name in itertools.product(["told", *FAMILIES], STORIES):
+        path = folder / f"{family}-{name}.txt"
+        path.write_text(Story(name, family).text().replace("HUGE", str(huge)), encoding="utf-8")
+        stories.setdefault(family == "told", []).append(path)
+    return [*stories[True], write_hostile(folder)], stories[False]

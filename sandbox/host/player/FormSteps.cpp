@@ -15,7 +15,7 @@ namespace
 {
 
 constexpr std::size_t kTypedByHand = 2000; // longer texts are pasted; a thread's queue is limited
-constexpr UINT kRepaintPatience = 1000;    // milliseconds
+constexpr UINT kRepaintPatience = 3000;    // milliseconds; a form that does not serve its window takes longer
 
 HWND EditOf(HWND control)
 {
@@ -247,7 +247,7 @@ void Player::Repainted(const Step& step)
     DWORD_PTR result = 0;
     const LRESULT answered = ::SendMessageTimeoutW(form, WM_PAINT, 0, 0, SMTO_NORMAL, kRepaintPatience, &result);
     if (!answered || ::GetUpdateRect(form, nullptr, FALSE))
-        throw std::runtime_error{"the window was not painted within a second"};
+        throw std::runtime_error{"the window was not painted within three seconds"};
 }
 
 } // namespace host
