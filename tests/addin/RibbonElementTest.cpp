@@ -85,12 +85,6 @@ TEST(Ribbon, IsThatOfTheHost)
         EXPECT_EQ(Drawn(BuildRibbon(item.hostVersion, kCaptions, item.tab)), item.expected) << item.name;
 }
 
-TEST(Ribbon, IsInTheNamespaceOfTheHost)
-{
-    EXPECT_STREQ(CustomUINamespaceFor(13), L"http://schemas.microsoft.com/office/2006/01/customui");
-    EXPECT_STREQ(CustomUINamespaceFor(14), L"http://schemas.microsoft.com/office/2009/07/customui");
-}
-
 TEST(RibbonButton, WritesWhatItHasInOrderAndKeepsItsLabelAndTips)
 {
     RibbonElement parent{L"menu", {}, {}};

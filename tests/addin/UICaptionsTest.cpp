@@ -34,10 +34,4 @@ TEST(UICaptions, ReplaceTheirTermsOneAfterTheOther)
     EXPECT_EQ(captions.saveAsDelivActMenu, L"Save as Activity Item or Task...") << "its pieces are replaced apart";
 }
 
-TEST(UICaptions, NameTheApplicationAfterTheProduct)
-{
-    EXPECT_EQ(ApplicationTitleFor(L"Corvane"), L"Corvane for MS Office");
-    EXPECT_EQ(ApplicationTitleFor(L"R&D Hub"), L"R&D Hub for MS Office");
-}
-
 } // namespace corvane

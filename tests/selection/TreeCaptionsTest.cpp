@@ -21,10 +21,4 @@ TEST(TreeCaptions, TellOfAnActiveFilterOnce)
     EXPECT_EQ(WithFilterMark(L"My Projects (Filter Active)"), L"My Projects (Filter Active)");
 }
 
-TEST(TreeCaptions, NameTheEntryLimit)
-{
-    EXPECT_EQ(EntryLimitMessage(), L"There are more than 500 entries in the selection tree.  Please use filtering to "
-                                   L"reduce the number of entries to fewer than 500");
-}
-
 } // namespace corvane

@@ -1,5 +1,3 @@
-#include "platform/Error.h"
-#include "support/ErrorReport.h"
 #include "support/Settings.h"
 #include "support/TraceText.h"
 #include "support/VersionText.h"
@@ -78,12 +76,6 @@ TEST(TraceText, WritesAnErrorAsOneBlock)
 {
     EXPECT_EQ(TraceErrorBlock(-2147221504, L"No access", L"CUser"),
               L"ERROR HAS OCCURED\r\n\r\n\tNumber = -2147221504\r\n\tDescription = No access\r\n\tSource = CUser\r\n");
-}
-
-TEST(ErrorReport, ShowsNumberDescriptionAndSource)
-{
-    EXPECT_EQ(ErrorReportText({225, L"UpdateUserLog", L"Invalid URL."}),
-              L"ERROR\r\nNumber: 225\r\nDescription: Invalid URL.\r\nSource: UpdateUserLog");
 }
 
 TEST(VersionText, PadsTheMinorNumberOnly)

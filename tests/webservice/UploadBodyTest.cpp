@@ -5,20 +5,6 @@
 
 namespace corvane
 {
-namespace
-{
-const std::string kBoundary = std::string(27, '-') + "998284F0-10C0-4D3B-8D1C-22EAA672A15D";
-}
-
-TEST(UploadBody, WrapsTheFileByteForByte)
-{
-    EXPECT_EQ(UploadHeader(L"my \"plan\" \x20AC\xE9.pptx"),
-              "--" + kBoundary +
-                  "\r\nContent-Disposition: form-data; name=\"FileField\"; filename=\"my \"plan\" "
-                  "\xE2\x82\xAC\xC3\xA9.pptx\"\r\nContent-Type: application/upload\r\n\r\n");
-    EXPECT_EQ(UploadTrailer(), "\r\n--" + kBoundary + "--\r\n");
-    EXPECT_EQ(ToUtf8(kUploadBoundary), kBoundary);
-}
 
 struct Utf8Case
 {
