@@ -55,6 +55,7 @@ TEST(ServerList, PutsTheAdministratorsAddressesInFront)
          {L"x", L"http://b", L""},
          {L"http://a", L"http://b"},
          {L"http://b", L"http://a", L"x"}},
+        {"HolesAreNoAddresses", {L"", L"x"}, {L"http://a"}, {L"http://a", L"x"}},
         {"UsersLastFallsOff", {L"x", L"y"}, {L"http://a"}, {L"http://a", L"x"}},
         {"GrowsForThePresetOnly", {L"x"}, {L"http://a", L"http://b"}, {L"http://a", L"http://b"}},
         {"BroughtIntoItsForm", {L"http://a", L""}, {L" A ", L"HTTP://A"}, {L"http://a", L""}},
