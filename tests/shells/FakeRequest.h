@@ -17,8 +17,10 @@ public:
     HRESULT statusResult = S_OK;
     long status = 200;
     const wchar_t* text = L"12";                    // of every answer
+    std::wstring url;                               // of the last request
     std::string sent;                               // the bytes of the last binary body
     std::map<std::wstring, const wchar_t*> headers; // of every answer; with any, its body has no bytes
+    std::string bytes;                              // of every answer that is read as such
     bool refusesDocuments = false;
     int aborted = 0;
     ULONG references = 0;
@@ -38,8 +40,9 @@ public:
     {
         return E_NOTIMPL;
     }
-    STDMETHODIMP open(BSTR, BSTR, VARIANT, VARIANT, VARIANT) override
+    STDMETHODIMP open(BSTR, BSTR address, VARIANT, VARIANT, VARIANT) override
     {
+        url = address;
         m_opened = true;
         return openResult;
     }
@@ -75,7 +78,14 @@ public:
         *answer = ::SysAllocString(text);
         return S_OK;
     }
-    STDMETHODIMP get_responseBody(VARIANT*) override { return headers.empty() ? E_NOTIMPL : S_OK; }
+    STDMETHODIMP get_responseBody(VARIANT* body) override
+    {
+        if (bytes.empty()) return headers.empty() ? E_NOTIMPL : S_OK;
+        body->vt = VT_ARRAY | VT_UI1;
+        body->parray = ::SafeArrayCreateVector(VT_UI1, 0, static_cast<ULONG>(bytes.size()));
+        bytes.copy(static_cast<char*>(body->parray->pvData), bytes.size());
+        return S_OK;
+    }
     STDMETHODIMP get_responseStream(VARIANT*) override { return E_NOTIMPL; }
     STDMETHODIMP get_readyState(LONG* state) override
     {

@@ -7,6 +7,7 @@
 #include "shared/DocumentProperties.h"
 #include "shared/HostDocument.h"
 #include "support/CCustomNames.h"
+#include "support/Registry.h"
 #include "support/Settings.h"
 
 using namespace corvane;
@@ -104,7 +105,7 @@ TEST_F(DocumentSwitch, ComesBeforeTheHostsRule)
     EXPECT_FALSE(Enabled("word", L"10.0", L"True"));
 }
 
-TEST(SettingsBesideTheLibrary, GiveTheTimeOutInSecondsAndNoneIsFiveMinutes)
+TEST(SettingsBesideTheLibrary, GiveTheTimeOutInSecondsAndNoneIsFiveMinutesUnlessAPolicyDecides)
 {
     const Apartment apartment;
     const host::test::TemporaryFolder folder;
@@ -119,6 +120,10 @@ TEST(SettingsBesideTheLibrary, GiveTheTimeOutInSecondsAndNoneIsFiveMinutes)
     EXPECT_EQ(timeoutOf("0.5"), 1s);
     for (const char* unusable : {"-1", "soon", "", "'/><"})
         EXPECT_EQ(timeoutOf(unusable), 300s) << unusable;
+    constexpr wchar_t kPolicies[] = L"Software\\Policies\\Halvex\\Corvane";
+    Registry::WriteNumber(kPolicies, L"RequestTimeoutSeconds", 20);
+    EXPECT_EQ(timeoutOf("45"), 20s);
+    Registry::DeleteTree(kPolicies);
 }
 
 } // namespace

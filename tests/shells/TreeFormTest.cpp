@@ -1,12 +1,16 @@
-// The window of the target tree where its host, its user or its start go another way.
+// The windows of the selection, and the About box: what no scenario sees of them, and where their host, their user or
+// their start go another way.
 #include "FakeRequest.h"
 #include "OfferedClass.h"
 
 #include "platform/ComObject.h"
+#include "platform/MessageLoop.h"
 #include "resources/resource.h"
+#include "selection/frmBusy.h"
 #include "selection/frmSaveTo.h"
 #include "support/CCustomNames.h"
 #include "support/Registry.h"
+#include "support/frmAbout.h"
 #include "webservice/WebService.h"
 
 #include <commctrl.h>
@@ -19,29 +23,52 @@ namespace
 
 constexpr CLSID kXmlHttp3 = {0xF5078F35, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
 constexpr wchar_t kListKey[] = L"Software\\Halvex\\Corvane\\ServerURLMRU";
+constexpr wchar_t kPolicies[] = L"Software\\Policies\\Halvex\\Corvane";
 
-// Looks at every tick whether a form's text in place of the tree has come, and destroys the form's window then.
-class HostThatCloses
+// Looks at a form at every tick of a timer, and acts on it once it is ready.
+class User
 {
 public:
-    explicit HostThatCloses(const Form& form)
+    using Look = std::function<bool(HWND form)>;
+    using Act = std::function<void(HWND form)>;
+
+    User(const Form& form, Look ready, Act act, UINT milliseconds = 10)
     {
-        s_form = &form;
-        m_timer = ::SetTimer(nullptr, 0, 10, &Tick);
+        s_tick = [&form, ready = std::move(ready), act = std::move(act), done = false]() mutable {
+            if (!done && (done = ready(form.Window()))) act(form.Window());
+        };
+        m_timer = ::SetTimer(nullptr, 0, milliseconds, &Tick);
     }
-    ~HostThatCloses() { ::KillTimer(nullptr, m_timer); }
-    HostThatCloses(const HostThatCloses&) = delete;
-    HostThatCloses& operator=(const HostThatCloses&) = delete;
+    ~User() { ::KillTimer(nullptr, m_timer); }
+    User(const User&) = delete;
+    User& operator=(const User&) = delete;
 
 private:
-    static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD)
-    {
-        if (::IsWindowVisible(::GetDlgItem(s_form->Window(), txtTree))) ::DestroyWindow(s_form->Window());
-    }
+    static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) { s_tick(); }
 
-    static inline const Form* s_form = nullptr;
+    static inline std::function<void()> s_tick;
     UINT_PTR m_timer;
 };
+
+// The nodes of a tree from one on, those below each behind it, with the numbers of their pictures; the selected one has
+// a star.
+std::wstring NodesOf(HWND tree, HTREEITEM item)
+{
+    std::wstring nodes;
+    for (; item != nullptr; item = TreeView_GetNextSibling(tree, item)) {
+        wchar_t text[64] = L"";
+        TVITEMW node{};
+        node.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+        node.hItem = item;
+        node.pszText = text;
+        node.cchTextMax = 64;
+        TreeView_GetItem(tree, &node);
+        const bool isSelected = item == TreeView_GetSelection(tree);
+        nodes += text + std::to_wstring(isSelected ? node.iSelectedImage : node.iImage) + (isSelected ? L"* " : L" ");
+        nodes += NodesOf(tree, TreeView_GetChild(tree, item));
+    }
+    return nodes;
+}
 
 class TreeForm : public testing::Test
 {
@@ -49,16 +76,25 @@ protected:
     TreeForm()
     {
         Library::SetModule(::GetModuleHandleW(nullptr));
-        Registry::DeleteTree(kListKey);
+        ForgetServers();
         SetAccessLogged(true);
         g_oCustomNames = std::make_unique<CCustomNames>([](auto&&...) { return std::vector<CustomNameRow>{}; });
     }
     ~TreeForm() override
     {
         g_oCustomNames.reset();
-        Registry::DeleteTree(kListKey);
+        ForgetServers();
     }
 
+    static void ForgetServers()
+    {
+        for (const wchar_t* key : {kListKey, kPolicies})
+            Registry::DeleteTree(key);
+    }
+    static std::wstring Kept(int number)
+    {
+        return Registry::ReadText(kListKey, L"MRUServerURL" + std::to_wstring(number)).value_or(L"none");
+    }
     static void Press(const Form& form, int button)
     {
         ::PostMessageW(form.Window(), WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), 0);
@@ -70,19 +106,25 @@ protected:
                                [this](REFIID id, void** object) { return m_transport.QueryInterface(id, object); }};
 };
 
-TEST_F(TreeForm, KeepsItsServersAlsoWhenTheHostClosesIt)
+TEST_F(TreeForm, AsksTheServerInItsBoxAndKeepsItAlsoWhenTheHostClosesIt)
 {
     m_transport.text = L"<xml/>";
+    const HWND other = ::CreateWindowW(WC_STATICW, L"", WS_VISIBLE, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
     {
         frmSaveTo tree;
         tree.ServerURL = L"http://h";
         tree.Load();
+        ::SetDlgItemTextW(tree.Window(), cmbServerURL, L" HTTP://Other/a ");
         Press(tree, cmdGo);
-        const HostThatCloses host{tree};
+        const User host{tree, [](HWND form) { return ::IsWindowVisible(::GetDlgItem(form, txtTree)) != FALSE; },
+                        [](HWND form) { ::DestroyWindow(form); }};
         tree.ShowModal();
         EXPECT_EQ(tree.Window(), nullptr);
     }
-    EXPECT_EQ(Registry::ReadText(kListKey, L"MRUServerURL1"), L"http://h");
+    EXPECT_TRUE(m_transport.url.starts_with(L"http://other/a/WebServices/offi.asp?"));
+    EXPECT_EQ(Kept(1), L"http://other/a");
+    EXPECT_TRUE(::IsWindowEnabled(other));
+    ::DestroyWindow(other);
 }
 
 TEST_F(TreeForm, IsLeftInTheMiddleOfALargeProject)
@@ -96,9 +138,14 @@ TEST_F(TreeForm, IsLeftInTheMiddleOfALargeProject)
     frmSaveTo tree;
     tree.ServerURL = L"http://h";
     tree.Load();
-    Press(tree, cmdGo);
-    Press(tree, cmdCancel);
+    wchar_t status[64] = L"";
+    const auto hasNodes = [](HWND form) { return TreeView_GetCount(::GetDlgItem(form, TreeView1)) > 0; };
+    const User user{tree, hasNodes, [&](HWND form) {
+                        ::SendDlgItemMessageW(form, StatusBar1, SB_GETTEXTW, 0, reinterpret_cast<LPARAM>(status));
+                        Press(tree, cmdCancel);
+                    }};
     tree.ShowModal();
+    EXPECT_STREQ(status, L"Contacting the server...");
     EXPECT_LT(TreeView_GetCount(::GetDlgItem(tree.Window(), TreeView1)), static_cast<UINT>(kDeliverables));
 }
 
@@ -110,6 +157,149 @@ TEST_F(TreeForm, BearsADoubleClickWhenItCouldNotBeLoaded)
     NMHDR doubleClick{::GetDlgItem(tree.Window(), TreeView1), TreeView1, static_cast<UINT>(NM_DBLCLK)};
     ::SendMessageW(tree.Window(), WM_NOTIFY, TreeView1, reinterpret_cast<LPARAM>(&doubleClick));
     EXPECT_NE(tree.Window(), nullptr);
+}
+
+constexpr wchar_t kProjects[] =
+    L"<xml><project pid='12' name='P' IconSet='Azure'>"
+    L"<stage phaseid='3' name='S'><deliverable deliverableid='45' name='D'><activity activityid='678' name='A'/>"
+    L"</deliverable></stage><relatedfile id='907' name='R'/>"
+    L"<gate phaseid='5' name='G'><gateDocument gateDocumentID='1201' name='GD'/></gate></project></xml>";
+
+struct PicturesCase
+{
+    std::int32_t mode;
+    const wchar_t* withoutSet;
+    const wchar_t* withSet; // its pictures stand behind the five fixed ones: project, stage, gate
+};
+
+TEST_F(TreeForm, ShowsEachNodeWithItsPictureAndSelectsTheTargetThatItWasGiven)
+{
+    constexpr PicturesCase kCases[] = {
+        {0, L"P4 S4 D0 A1* ", L"P5 S6 D0 A1* "},
+        {1, L"P4 [New Related Document]2 R2* ", L"P5 [New Related Document]2 R2* "},
+        {2, L"P4 G4 GD3* ", L"P5 G7 GD3* "},
+    };
+    m_transport.text = kProjects;
+    const HRSRC picture = ::FindResourceW(nullptr, MAKEINTRESOURCEW(IDR_IMAGE_DELIVERABLE), RT_RCDATA);
+    const auto* bytes = static_cast<const char*>(::LockResource(::LoadResource(nullptr, picture)));
+    for (const bool isSetThere : {false, true}) {
+        if (isSetThere) m_transport.bytes.assign(bytes, ::SizeofResource(nullptr, picture));
+        for (const PicturesCase& item : kCases) {
+            frmSaveTo tree;
+            tree.DialogType = item.mode;
+            tree.ServerURL = L"http://h";
+            tree.ProjectID = 12;
+            tree.DeliverableID = 45;
+            tree.ActivityID = 678;
+            tree.RelatedDocID = 907;
+            tree.GateDocumentID = 1201;
+            tree.Load();
+            std::wstring nodes;
+            int width = 0;
+            int loads = 0;
+            const auto isLoadedAgain = [&](HWND form) {
+                if (::IsWindowEnabled(::GetDlgItem(form, cmdOK)) && loads++ == 0) Press(tree, cmdGo);
+                return loads > 1;
+            };
+            const User user{tree, isLoadedAgain, [&](HWND form) {
+                                const HWND view = ::GetDlgItem(form, TreeView1);
+                                nodes = NodesOf(view, TreeView_GetRoot(view));
+                                int height = 0;
+                                ::ImageList_GetIconSize(TreeView_GetImageList(view, TVSIL_NORMAL), &width, &height);
+                                Press(tree, cmdCancel);
+                            }};
+            tree.ShowModal();
+            EXPECT_EQ(nodes, isSetThere ? item.withSet : item.withoutSet);
+            EXPECT_EQ(width, 17);
+        }
+    }
+}
+
+TEST_F(TreeForm, OffersTheGivenServerBeforeTheFirstOfTheListAndNoneWhereThatIsEmpty)
+{
+    const auto offered = [](const wchar_t* given) {
+        frmSaveTo tree;
+        tree.ServerURL = given;
+        tree.Load();
+        wchar_t text[64] = L"";
+        ::GetDlgItemTextW(tree.Window(), cmbServerURL, text, 64);
+        return text + std::to_wstring(::SendDlgItemMessageW(tree.Window(), cmbServerURL, CB_GETCOUNT, 0, 0));
+    };
+    Registry::WriteText(kListKey, L"MRUServerURL2", L"http://b");
+    EXPECT_EQ(offered(L""), L"http://1");
+    Registry::WriteText(kListKey, L"MRUServerURL1", L"http://a");
+    EXPECT_EQ(offered(L""), L"http://a2");
+    EXPECT_EQ(offered(L"http://h"), L"http://h2");
+}
+
+TEST_F(TreeForm, KeepsAListOfItsCountWithItsHolesBehindTheAdministratorsServers)
+{
+    using Urls = std::vector<std::wstring>;
+    EXPECT_EQ(CMRUServers{}.GetURLs(), Urls(5));
+    Registry::WriteNumber(kListKey, L"MRUServerURLCount", 3);
+    for (const std::wstring number : {L"1", L"3", L"4"})
+        Registry::WriteText(kListKey, L"MRUServerURL" + number, number);
+    EXPECT_EQ(CMRUServers{}.GetURLs(), (Urls{L"1", L"", L"3"}));
+    Registry::WriteText(std::wstring{kPolicies} + L"\\ServerURLs", L"ServerURL1", L"http://p");
+    CMRUServers list;
+    list.AddURL(L"N");
+    EXPECT_EQ(list.GetURLs(), (Urls{L"http://p", L"N", L"1"}));
+    list.SaveURLs();
+    EXPECT_EQ((Urls{Kept(1), Kept(2), Kept(3), Kept(4)}), (Urls{L"N", L"1", L"", L"4"}));
+    EXPECT_EQ(Registry::ReadNumber(kListKey, L"MRUServerURLCount"), 3);
+    Registry::WriteNumber(kPolicies, L"ServerURLCount", 2);
+    EXPECT_EQ(CMRUServers{}.GetURLs(), (Urls{L"http://p", L"N"}));
+}
+
+TEST_F(TreeForm, HasRoomInItsListForALongAddress)
+{
+    Registry::WriteText(kListKey, L"MRUServerURL1", L"http://" + std::wstring(200, L'w'));
+    frmSaveTo tree;
+    tree.Load();
+    RECT box{};
+    ::GetClientRect(::GetDlgItem(tree.Window(), cmbServerURL), &box);
+    EXPECT_GT(::SendDlgItemMessageW(tree.Window(), cmbServerURL, CB_GETDROPPEDWIDTH, 0, 0), box.right);
+}
+
+TEST_F(TreeForm, IsFollowedByABusyWindowThatStartsItsProcedureOnce)
+{
+    int started = 0;
+    const auto work = [&](const frmBusy& busy) {
+        if (++started > 1) return;
+        ::SendMessageW(busy.Window(), WM_ACTIVATE, WA_ACTIVE, 0); // again, as after a message
+        const HWND bar = ::GetDlgItem(busy.Window(), ProgressBar1);
+        const auto progress = [bar] { return ::SendMessageW(bar, PBM_GETPOS, 0, 0); };
+        int tenths = 0;
+        const User clock{busy, [&](HWND) { return ++tenths < 0; }, {}, 100};
+        EXPECT_EQ(PumpUntil([&] { return progress() >= 50; }, std::chrono::seconds{20}), WaitEnd::Done);
+        EXPECT_NEAR(tenths, 10, 3);
+        EXPECT_EQ(::SendMessageW(bar, PBM_GETRANGE, FALSE, 0), 100);
+        for (LRESULT before = progress(); before < 100; before = progress()) {
+            ::SendMessageW(busy.Window(), WM_TIMER, 1, 0);
+            ASSERT_EQ(progress(), before + 5);
+        }
+        ::SendMessageW(busy.Window(), WM_TIMER, 1, 0);
+        EXPECT_EQ(progress(), 0);
+    };
+    for (const int kind : {0, 3, -1}) {
+        frmBusy busy{{work, work, work}};
+        busy.lMethodType = kind;
+        busy.ShowModal();
+        EXPECT_EQ(started, 1);
+    }
+}
+
+TEST(AboutForm, HasItsLabelsInVerdana)
+{
+    Library::SetModule(::GetModuleHandleW(nullptr));
+    frmAbout about;
+    about.Load();
+    for (const int label : {lblComponentName, lblVersion, lblRights, lblLegalNotice}) {
+        LOGFONTW font{};
+        const LRESULT handle = ::SendDlgItemMessageW(about.Window(), label, WM_GETFONT, 0, 0);
+        ::GetObjectW(reinterpret_cast<HFONT>(handle), sizeof font, &font);
+        EXPECT_STREQ(font.lfFaceName, L"Verdana") << label;
+    }
 }
 
 } // namespace
