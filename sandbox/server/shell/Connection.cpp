@@ -1,6 +1,7 @@
 #include "shell/Connection.h"
 
 #include <array>
+#include <cerrno>
 #include <charconv>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -19,6 +20,18 @@ std::optional<std::size_t> ParseLength(std::string_view text)
     std::size_t length = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), length);
     return error == std::errc{} && end == text.data() + text.size() ? std::optional{length} : std::nullopt;
+}
+
+// Repeats a call that a signal cut short: a process that is stopped and goes on ends those of a socket with a time-out,
+// which the library gives to each.
+template<typename Call>
+ssize_t Uninterrupted(Call call) noexcept
+{
+    ssize_t count = 0;
+    do
+        count = call();
+    while (count < 0 && errno == EINTR);
+    return count;
 }
 
 } // namespace
@@ -41,7 +54,7 @@ void Connection::CloseInOrder() noexcept
     constexpr timeval kPatience{.tv_sec = 1, .tv_usec = 0};
     ::setsockopt(m_socket, SOL_SOCKET, SO_RCVTIMEO, &kPatience, sizeof kPatience);
     std::array<char, 4096> rest{};
-    while (::recv(m_socket, rest.data(), rest.size(), 0) > 0) {
+    while (Uninterrupted([&] { return ::recv(m_socket, rest.data(), rest.size(), 0); }) > 0) {
     }
 }
 
@@ -82,7 +95,7 @@ bool Connection::ReadBody(Request& request, int& problem)
 bool Connection::ReadMore()
 {
     std::array<char, 64 * 1024> buffer;
-    const auto count = ::recv(m_socket, buffer.data(), buffer.size(), 0);
+    const auto count = Uninterrupted([&] { return ::recv(m_socket, buffer.data(), buffer.size(), 0); });
     if (count <= 0) return false;
     m_received.append(buffer.data(), static_cast<std::size_t>(count));
     return true;
@@ -91,7 +104,7 @@ bool Connection::ReadMore()
 void Connection::Send(std::string_view bytes) noexcept
 {
     while (!bytes.empty()) {
-        const auto count = ::send(m_socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+        const auto count = Uninterrupted([&] { return ::send(m_socket, bytes.data(), bytes.size(), MSG_NOSIGNAL); });
         if (count <= 0) return;
         bytes.remove_prefix(static_cast<std::size_t>(count));
     }
