@@ -39,27 +39,43 @@ bool DispatchOne(bool& quit)
     return true;
 }
 
-// The time left to a limit in whole milliseconds, rounded up; INFINITE without one.
-DWORD LeftUntil(const std::optional<Clock::time_point>& end)
+// Counts a limit down, turn by turn. Most of a turn that takes long is none of the wait's own time: a handler runs
+// another command, the machine sleeps or is too busy to let this thread go on. What came meanwhile has yet to be seen.
+class Countdown
 {
-    if (!end) return INFINITE;
-    const auto left = std::chrono::ceil<std::chrono::milliseconds>(*end - Clock::now()).count();
-    return static_cast<DWORD>(std::clamp<long long>(left, 0, INFINITE - 1));
-}
+public:
+    explicit Countdown(std::optional<Clock::duration> limit) : m_left{limit} {}
+
+    // Begins a turn: the whole milliseconds it may wait at most, rounded up; 0 when the limit has passed.
+    DWORD NextTurn()
+    {
+        if (!m_left) return INFINITE;
+        constexpr Clock::duration kLongestTurn = std::chrono::milliseconds{250};
+        const auto now = Clock::now();
+        *m_left -= std::min(now - m_turn, kLongestTurn);
+        m_turn = now;
+        const auto turn = std::clamp(*m_left, Clock::duration::zero(), kLongestTurn);
+        return static_cast<DWORD>(std::chrono::ceil<std::chrono::milliseconds>(turn).count());
+    }
+
+private:
+    std::optional<Clock::duration> m_left;
+    Clock::time_point m_turn = Clock::now();
+};
 
 } // namespace
 
 WaitEnd PumpUntil(const std::function<bool()>& done, std::optional<std::chrono::milliseconds> limit)
 {
-    const auto end = limit ? std::optional{Clock::now() + *limit} : std::nullopt;
+    Countdown countdown{limit};
     bool quit = false;
     while (!done()) {
-        const DWORD left = LeftUntil(end);
-        if (left == 0) return WaitEnd::TimedOut;
+        const DWORD turn = countdown.NextTurn();
+        if (turn == 0) return WaitEnd::TimedOut;
         if (DispatchOne(quit)) continue;
         if (quit) return WaitEnd::Quit;
         if (done()) break; // a message sent from elsewhere was handled while none was waiting
-        ::MsgWaitForMultipleObjectsEx(0, nullptr, left, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+        ::MsgWaitForMultipleObjectsEx(0, nullptr, turn, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
     }
     return WaitEnd::Done;
 }

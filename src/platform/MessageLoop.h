@@ -18,7 +18,8 @@ enum class WaitEnd
 };
 
 // Dispatches messages until done() holds. done is asked before the first wait and after every message, so what it
-// watches must change on this thread. Between messages the thread sleeps; no limit means waiting for ever.
+// watches must change on this thread. Between messages the thread sleeps; no limit means waiting for ever. A limit is
+// time spent waiting: a handler that runs for long, or the machine's own sleep, takes no more than a moment of it.
 [[nodiscard]] WaitEnd PumpUntil(const std::function<bool()>& done,
                                 std::optional<std::chrono::milliseconds> limit = std::nullopt);
 

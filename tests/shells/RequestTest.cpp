@@ -189,4 +189,16 @@ TEST(Wait, HandlesMessagesUntilTheLimit)
     EXPECT_LE(asked, 60); // and asleep between them
 }
 
+TEST(Wait, SeesWhatCameWhileAHandlerRanForLongerThanTheLimit)
+{
+    static bool came = false;
+    ::SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR timer, DWORD) {
+        ::KillTimer(nullptr, timer);
+        ::SetTimer(nullptr, 0, 10,
+                   [](HWND, UINT, UINT_PTR other, DWORD) { came = ::KillTimer(nullptr, other) != FALSE; });
+        ::Sleep(600); // as another command may take
+    });
+    EXPECT_EQ(PumpUntil([] { return came; }, 500ms), WaitEnd::Done);
+}
+
 } // namespace
