@@ -5,25 +5,12 @@
 #include "objects/ComAddIn.h"
 #include "objects/RibbonObjects.h"
 
-#include <addin.h>
-
 namespace bench
 {
 namespace
 {
 
 constexpr LONG kStartUp = 1;
-
-host::ComPtr<IClassFactory> ClassOf(const std::wstring& library)
-{
-    const HMODULE module = ::LoadLibraryW(library.c_str());
-    const auto entry =
-        reinterpret_cast<LPFNGETCLASSOBJECT>(reinterpret_cast<void*>(::GetProcAddress(module, "DllGetClassObject")));
-    if (entry == nullptr) throw std::runtime_error{"the library is none of COM's"};
-    host::ComPtr<IClassFactory> factory;
-    Require(entry(CLSID_Connect, IID_IClassFactory, reinterpret_cast<void**>(factory.GetAddressOf())), "class");
-    return factory;
-}
 
 } // namespace
 
@@ -37,36 +24,19 @@ AddInUnderTest::~AddInUnderTest()
 
 void AddInUnderTest::Load(const std::wstring& library)
 {
-    Require(ClassOf(library)->CreateInstance(nullptr, host::kExtensibilityId,
-                                             reinterpret_cast<void**>(m_addIn.GetAddressOf())),
-            "instance");
+    m_library.emplace(library);
+    *m_addIn.GetAddressOf() = m_library->Create<::IDTExtensibility2>(CLSID_Connect);
+    if (!m_addIn) throw std::runtime_error{"the library offers no add-in"};
     const host::ComPtr<host::ComAddInObject> entry =
         host::MakeObject<host::ComAddInObject>(L"CorvaneMSOfficePowerPoint.Connect", L"");
     m_addIn->OnConnection(&m_session.Application(), kStartUp, entry.Get(), nullptr);
-    host::ComPtr<host::IRibbonExtensibility> ribbon;
-    Require(m_addIn->QueryInterface(host::kRibbonExtensibilityId, reinterpret_cast<void**>(ribbon.GetAddressOf())),
-            "ribbon");
-    BSTR xml = nullptr;
-    Require(ribbon->GetCustomUI(nullptr, &xml), "ribbon");
-    ::SysFreeString(xml);
+    if (RibbonOf(*m_addIn.Get()).empty()) throw std::runtime_error{"the add-in has no ribbon"};
 }
 
 void AddInUnderTest::Press(const std::wstring& control)
 {
-    host::ComPtr<IDispatch> callbacks;
-    Require(m_addIn->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(callbacks.GetAddressOf())), "callbacks");
-    std::wstring name = L"RibbonHandler";
-    LPOLESTR names[] = {name.data()};
-    DISPID member = 0;
-    Require(callbacks->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &member), "RibbonHandler");
     const auto pressed = host::MakeObject<host::RibbonControlObject>(control, L"", nullptr);
-    VARIANT argument{};
-    argument.vt = VT_DISPATCH;
-    argument.pdispVal = pressed.Get();
-    DISPPARAMS arguments{&argument, nullptr, 1, 0};
-    Require(callbacks->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &arguments, nullptr, nullptr,
-                              nullptr),
-            "RibbonHandler");
+    Require(PressControl(*m_addIn.Get(), *pressed.Get()), "RibbonHandler");
 }
 
 } // namespace bench

@@ -1,16 +1,17 @@
 // An add-in's library in a host that does only what it is told.
 #pragma once
 
-#include "automation/OfficeInterfaces.h"
+#include "LoadedAddIn.h"
 #include "objects/Session.h"
 
+#include <optional>
 #include <string>
 
 namespace bench
 {
 
 // Loads a library that offers the add-in's class, connects the add-in to a host of version 16 as at its start, and
-// takes its ribbon. The library stays loaded.
+// takes its ribbon.
 class AddInUnderTest
 {
 public:
@@ -27,7 +28,8 @@ public:
 
 private:
     host::Session m_session{host::Options{}};
-    host::ComPtr<host::IDTExtensibility2> m_addIn;
+    std::optional<LoadedAddIn> m_library;
+    host::ComPtr<::IDTExtensibility2> m_addIn; // gone before its library
 };
 
 } // namespace bench

@@ -15,7 +15,7 @@ protected:
     void SetUp() override
     {
         AddInLibrary::SetUp();
-        m_connect = Create<IDTExtensibility2>(CLSID_Connect);
+        m_connect = Loaded().Create<IDTExtensibility2>(CLSID_Connect);
         ASSERT_NE(m_connect, nullptr);
     }
     void TearDown() override
@@ -31,32 +31,9 @@ protected:
     void Press(const wchar_t* id) const
     {
         FakeObject control{{{L"Id", id}}};
-        IDispatch* callbacks = nullptr;
-        m_connect->QueryInterface(IID_PPV_ARGS(&callbacks));
-        std::wstring name = L"RibbonHandler";
-        LPOLESTR names[] = {name.data()};
-        DISPID member = 0;
-        EXPECT_EQ(callbacks->GetIDsOfNames(IID_NULL, names, 1, 0, &member), S_OK);
-        VARIANTARG argument{};
-        argument.vt = VT_DISPATCH;
-        argument.pdispVal = &control;
-        DISPPARAMS parameters{&argument, nullptr, 1, 0};
-        EXPECT_EQ(callbacks->Invoke(member, IID_NULL, 0, DISPATCH_METHOD, &parameters, nullptr, nullptr, nullptr),
-                  S_OK);
-        callbacks->Release();
+        EXPECT_EQ(PressControl(*m_connect, control), S_OK);
     }
-    // What the host gets when it asks for the ribbon.
-    std::wstring Ribbon() const
-    {
-        IRibbonExtensibility* ribbon = nullptr;
-        m_connect->QueryInterface(IID_PPV_ARGS(&ribbon));
-        BSTR xml = nullptr;
-        EXPECT_EQ(ribbon->GetCustomUI(nullptr, &xml), S_OK);
-        ribbon->Release();
-        std::wstring text = xml;
-        ::SysFreeString(xml);
-        return text;
-    }
+    std::wstring Ribbon() const { return RibbonOf(*m_connect); }
 
     IDTExtensibility2* m_connect = nullptr;
     FakeObject m_instance{{{L"ProgId", L"CorvaneMSOfficePowerPoint.Connect"}, {L"Guid", L"{}"}}};
@@ -100,7 +77,7 @@ TEST_F(Connection, CallbacksBeforeAConnectionAndAfterItsEndAreNotServed)
     }
     FakePowerPoint host{L"16.0"};
     ConnectTo(host, kStartup);
-    auto* const other = Create<IDTExtensibility2>(CLSID_Connect);
+    auto* const other = Loaded().Create<IDTExtensibility2>(CLSID_Connect);
     EXPECT_EQ(other->OnDisconnection(0, nullptr), S_OK); // of what never was
     other->Release();
     EXPECT_NE(Ribbon(), L"");

@@ -11,20 +11,20 @@ class Library : public AddInLibrary
 TEST_F(Library, KnowsItsFourClassesAndNoOther)
 {
     for (const CLSID& id : {CLSID_Connect, CLSID_CController, CLSID_CTraceLog, CLSID_CRbnBtnInfo}) {
-        auto* object = Create<IUnknown>(id);
+        auto* object = Loaded().Create<IUnknown>(id);
         ASSERT_NE(object, nullptr);
         EXPECT_EQ(CanUnload(), S_FALSE) << "a living object must keep the library";
         EXPECT_EQ(object->Release(), 0U);
     }
     void* nothing = this;
-    EXPECT_EQ(ClassObject(IID_IUnknown, IID_IClassFactory, &nothing), CLASS_E_CLASSNOTAVAILABLE);
+    EXPECT_EQ(Loaded().ClassObject(IID_IUnknown, IID_IClassFactory, &nothing), CLASS_E_CLASSNOTAVAILABLE);
     EXPECT_EQ(nothing, nullptr);
 }
 
 TEST_F(Library, FactoriesRefuseAggregationAndLockTheLibrary)
 {
     IClassFactory* factory = nullptr;
-    ASSERT_EQ(ClassObject(CLSID_CController, IID_PPV_ARGS(&factory)), S_OK);
+    ASSERT_EQ(Loaded().ClassObject(CLSID_CController, IID_PPV_ARGS(&factory)), S_OK);
     void* object = this;
     EXPECT_EQ(factory->CreateInstance(factory, IID_IUnknown, &object), CLASS_E_NOAGGREGATION);
     EXPECT_EQ(object, nullptr);
@@ -32,14 +32,14 @@ TEST_F(Library, FactoriesRefuseAggregationAndLockTheLibrary)
     factory->LockServer(TRUE);
     factory->Release();
     EXPECT_EQ(CanUnload(), S_FALSE);
-    ASSERT_EQ(ClassObject(CLSID_CController, IID_PPV_ARGS(&factory)), S_OK);
+    ASSERT_EQ(Loaded().ClassObject(CLSID_CController, IID_PPV_ARGS(&factory)), S_OK);
     factory->LockServer(FALSE);
     factory->Release();
 }
 
 TEST_F(Library, ConnectAnswersItsInterfacesWithOneIdentity)
 {
-    auto* identity = Create<IUnknown>(CLSID_Connect);
+    auto* identity = Loaded().Create<IUnknown>(CLSID_Connect);
     ASSERT_NE(identity, nullptr);
     for (const IID& id :
          {__uuidof(IDTExtensibility2), __uuidof(IRibbonExtensibility), __uuidof(_Connect), IID_IDispatch}) {
@@ -95,7 +95,7 @@ TEST_F(Library, TheSlotsOfItsInterfacesKeepTheirOrder)
          L" GetScreentip =GetScreentip OnAction =OnAction Description =Description Size =Size Clear"},
     };
     for (const auto& [id, expected] : classes) {
-        auto* object = Create<IDispatch>(id);
+        auto* object = Loaded().Create<IDispatch>(id);
         ASSERT_NE(object, nullptr);
         const std::wstring slots =
             SlotsOf(*object); // a type library holds each name once, in whichever case comes first

@@ -26,8 +26,6 @@ protected:
         AddInLibrary::TearDown();
     }
 
-    HRESULT Run(const char* entry) const { return Entry<HRESULT(STDAPICALLTYPE*)()>(entry)(); }
-
     static std::wstring TextAt(const std::wstring& key, const wchar_t* name)
     {
         std::wstring text(MAX_PATH, L'\0');

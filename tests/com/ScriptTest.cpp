@@ -13,7 +13,7 @@ protected:
     void SetUp() override
     {
         AddInLibrary::SetUp();
-        ASSERT_EQ(Entry<HRESULT(STDAPICALLTYPE*)()>("DllRegisterServer")(), S_OK);
+        ASSERT_EQ(Run("DllRegisterServer"), S_OK);
         for (const std::wstring& key : Keys())
             CopyToMachine(key);
     }
@@ -21,7 +21,7 @@ protected:
     {
         for (const std::wstring& key : Keys())
             ::RegDeleteTreeW(HKEY_LOCAL_MACHINE, key.c_str());
-        Entry<HRESULT(STDAPICALLTYPE*)()>("DllUnregisterServer")();
+        EXPECT_EQ(Run("DllUnregisterServer"), S_OK);
         AddInLibrary::TearDown();
     }
 
