@@ -22,6 +22,7 @@ public:
     MessageBoxAnswer(const MessageBoxAnswer&) = delete;
     MessageBoxAnswer& operator=(const MessageBoxAnswer&) = delete;
 
+    // Whether it came, under the title if one was given.
     [[nodiscard]] bool Appeared() const { return m_appeared; }
     [[nodiscard]] bool HadIcon() const { return m_hadIcon; }
 
@@ -31,17 +32,17 @@ private:
 
     void Watch()
     {
-        while (!m_stop && !m_appeared) {
-            const HWND box = ::FindWindowW(L"#32770", m_title.empty() ? nullptr : m_title.c_str());
+        for (bool answered = false; !m_stop && !answered; ::Sleep(20)) {
+            const HWND box = ::FindWindowW(L"#32770", nullptr);
             wchar_t text[512] = L"";
+            wchar_t title[64] = L"";
             if (box != nullptr) ::GetDlgItemTextW(box, kTextOfBox, text, 512);
-            if (box != nullptr && std::wstring{text}.starts_with(m_text)) {
-                m_hadIcon =
-                    ::GetDlgItem(box, kIconOfBox) != nullptr && ::IsWindowVisible(::GetDlgItem(box, kIconOfBox));
-                m_appeared = true;
-                ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-            }
-            ::Sleep(20);
+            if (box == nullptr || !std::wstring{text}.starts_with(m_text)) continue;
+            ::GetWindowTextW(box, title, 64);
+            m_hadIcon = ::IsWindowVisible(::GetDlgItem(box, kIconOfBox)) != FALSE;
+            m_appeared = m_title.empty() || m_title == title;
+            answered = true;
+            ::PostMessageW(box, WM_COMMAND, IDOK, 0);
         }
     }
 
