@@ -1,7 +1,9 @@
 # Sourced: makes a Wine prefix ready for one run and gives it a display. Wants: top (the project's folder), arch
 # (x64, x86) and dpi. Sets WINEPREFIX and DISPLAY; file descriptor 9 holds the prefix until the run ends.
 
-export WINEPREFIX=${CORVANE_WINEPREFIX:-$top/build/wine/$arch} WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree,mshtml="
+export WINEPREFIX=${CORVANE_WINEPREFIX:-$top/build/wine/$arch} WINEDEBUG=${WINEDEBUG:--all}
+# Without the debugger a program that crashes is gone; with it, it would wait for somebody to close a window.
+export WINEDLLOVERRIDES="mscoree,mshtml=;winedbg.exe=d"
 export WINEARCH=win64 # the commands of the 32-bit Wine set their own
 PATH=$("$top/tools/wine-path" "$arch") || exit 2
 
