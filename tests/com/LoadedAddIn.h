@@ -44,37 +44,3 @@ public:
 private:
     HMODULE m_module;
 };
-
-// What the host gets when it asks for the ribbon.
-inline std::wstring RibbonOf(IUnknown& addIn)
-{
-    IRibbonExtensibility* ribbon = nullptr;
-    BSTR xml = nullptr;
-    if (FAILED(addIn.QueryInterface(IID_PPV_ARGS(&ribbon)))) return {};
-    ribbon->GetCustomUI(nullptr, &xml);
-    ribbon->Release();
-    std::wstring text{xml, ::SysStringLen(xml)};
-    ::SysFreeString(xml);
-    return text;
-}
-
-// Presses a button of the ribbon, given as the control that its callback is about; returns when the command has ended.
-inline HRESULT PressControl(IUnknown& addIn, IDispatch& control)
-{
-    IDispatch* callbacks = nullptr;
-    HRESULT result = addIn.QueryInterface(IID_PPV_ARGS(&callbacks));
-    if (FAILED(result)) return result;
-    std::wstring name = L"RibbonHandler";
-    LPOLESTR names[] = {name.data()};
-    DISPID member = 0;
-    result = callbacks->GetIDsOfNames(IID_NULL, names, 1, LOCALE_NEUTRAL, &member);
-    VARIANTARG argument{};
-    argument.vt = VT_DISPATCH;
-    argument.pdispVal = &control;
-    DISPPARAMS parameters{&argument, nullptr, 1, 0};
-    if (SUCCEEDED(result))
-        result = callbacks->Invoke(member, IID_NULL, LOCALE_NEUTRAL, DISPATCH_METHOD, &parameters, nullptr, nullptr,
-                                   nullptr);
-    callbacks->Release();
-    return result;
-}

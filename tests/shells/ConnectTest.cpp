@@ -1,5 +1,6 @@
 // The connection class in a host: what it keeps of the host, what it answers it, and what it traces.
 #include "HostTest.h"
+#include "MessageBox.h"
 #include "OfferedClass.h"
 
 #include "addin/CAddInMenus.h"
@@ -72,6 +73,20 @@ protected:
     {
         EXPECT_EQ(m_connect->OnDisconnection(0, nullptr), S_OK);
         EXPECT_EQ(g_oAddInMenus, nullptr);
+    }
+    [[nodiscard]] std::wstring Ribbon() const
+    {
+        Bstr xml;
+        EXPECT_EQ(m_connect->GetCustomUI(nullptr, xml.Put()), S_OK);
+        return xml.Text();
+    }
+    // Whether a step tells of an error with this number.
+    template<class Step>
+    static bool Tells(const wchar_t* number, Step&& step)
+    {
+        const MessageBoxAnswer box{std::wstring{L"ERROR\r\nNumber: "} + number};
+        step();
+        return box.Appeared();
     }
     void OfferRibbon()
     {
@@ -217,6 +232,48 @@ TEST_F(ConnectTest, WritesEachConnectionsTraceToAFileNamedByItsTime)
     g_oTraceLog.reset();
     EXPECT_EQ(TraceFiles(), names);
     EXPECT_EQ(TraceIn(names[0]), TraceIn(names[1]));
+}
+
+TEST_F(ConnectTest, TellsOfCallbacksBeforeAConnectionAndAfterItsEnd)
+{
+    const auto findNoRibbon = [this] { EXPECT_EQ(Ribbon(), L""); };
+    EXPECT_TRUE(Tells(L"91", findNoRibbon));
+    ConnectTo(L"16.0", kStartUp);
+    EXPECT_EQ(MakeObject<corvane::Connect>()->OnDisconnection(0, nullptr), S_OK); // of what never was
+    EXPECT_NE(Ribbon().find(L"TabSaveToCorvane"), std::wstring::npos);
+    Disconnect();
+    Disconnect(); // once too often is no error
+    EXPECT_TRUE(Tells(L"91", findNoRibbon));
+    session.reset();
+    EXPECT_EQ(host::ObjectCore::Living(), L"Ribbon x1") << "of this test";
+}
+
+TEST_F(ConnectTest, ReplacesItsFirstHostByTheSecond)
+{
+    ConnectTo(L"16.0", kStartUp);
+    const auto first = std::move(session);
+    ConnectTo(L"12.0", kStartUp);
+    EXPECT_FALSE(first->Application().Events().HasSinks());
+    EXPECT_NE(Ribbon().find(L"officeMenu"), std::wstring::npos);
+    Disconnect();
+}
+
+TEST_F(ConnectTest, LetsEverythingGoWhereTheMenusCannotBeRemoved)
+{
+    ConnectTo(L"11.0", kStartUp);
+    g_oAddInMenus.reset();
+    EXPECT_TRUE(Tells(L"91", [this] { Disconnect(); }));
+    EXPECT_FALSE(session->Application().Events().HasSinks());
+}
+
+TEST_F(ConnectTest, TellsOfAHostThatIsNoPowerPoint)
+{
+    Start("word");
+    const auto entry = host::MakeObject<host::ComAddInObject>(L"CorvaneMSOfficePowerPoint.Connect", L"");
+    EXPECT_TRUE(Tells(L"", [&] {
+        EXPECT_EQ(m_connect->OnConnection(&session->Application(), kStartUp, entry.Get(), nullptr), S_OK);
+    }));
+    Disconnect();
 }
 
 TEST_F(ConnectTest, AnswersCallbacksThatNoControlNames)

@@ -110,6 +110,7 @@ TEST_F(TreeForm, AsksTheServerInItsBoxAndKeepsItAlsoWhenTheHostClosesIt)
 {
     m_transport.text = L"<xml/>";
     const HWND other = ::CreateWindowW(WC_STATICW, L"", WS_VISIBLE, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+    bool otherWasInUse = true;
     {
         frmSaveTo tree;
         tree.ServerURL = L"http://h";
@@ -117,12 +118,16 @@ TEST_F(TreeForm, AsksTheServerInItsBoxAndKeepsItAlsoWhenTheHostClosesIt)
         ::SetDlgItemTextW(tree.Window(), cmbServerURL, L" HTTP://Other/a ");
         Press(tree, cmdGo);
         const User host{tree, [](HWND form) { return ::IsWindowVisible(::GetDlgItem(form, txtTree)) != FALSE; },
-                        [](HWND form) { ::DestroyWindow(form); }};
+                        [&](HWND form) {
+                            otherWasInUse = ::IsWindowEnabled(other) != FALSE;
+                            ::DestroyWindow(form);
+                        }};
         tree.ShowModal();
         EXPECT_EQ(tree.Window(), nullptr);
     }
     EXPECT_TRUE(m_transport.url.starts_with(L"http://other/a/WebServices/offi.asp?"));
     EXPECT_EQ(Kept(1), L"http://other/a");
+    EXPECT_FALSE(otherWasInUse);
     EXPECT_TRUE(::IsWindowEnabled(other));
     ::DestroyWindow(other);
 }
