@@ -143,6 +143,7 @@ constexpr FailingStep kFailingSteps[] = {
     {"MissingEntry", "choose ClassList \"Middle\"", "the list has no entry"},
     {"MissingWindow", "window frmFilter", "no window frmFilter"},
     {"OpenWindow", "closed frmSaveTo", "the window frmSaveTo is open"},
+    {"PressThatClosesNothing", "press cmdGo closes", "the window frmSaveTo is open"},
     {"MissingProperty", "property Node \"x\"", "no property Node"},
     {"MacroNotRun", "ran \"Fake.BeforeSave\"", "the macro was not run"},
     {"FileMissing", "file exists \"${FOLDER}\\nothing*.pptx\"", "there is no such file"},

@@ -47,7 +47,7 @@ TEST_P(BadLineTest, IsReportedWithItsNumberBeforeAnythingRuns)
 }
 
 constexpr BadLine kBadLines[] = {
-    {"UnknownVerb", "click cmdGo"},        {"MissingWord", "press"},       {"WordTooMany", "press cmdGo cmdOK"},
+    {"UnknownVerb", "click cmdGo"},        {"MissingWord", "press"},       {"WordTooMany", "closed frmX frmY"},
     {"UnknownSetting", "open ${NOPE}"},    {"OpenQuote", "type a \"text"}, {"OpenSetting", "open \"${SERVER\""},
     {"StateMissing", "expect chkPublish"},
 };

@@ -81,17 +81,20 @@ void Player::Focus(HWND control)
     Settle();
 }
 
-void Player::Window(const Step& step)
+void Player::Window(const Step& step) { Address(step.At(0)); }
+
+void Player::Address(const std::string& window)
 {
-    const std::wstring name = Widen(step.At(0));
-    m_onMessage = step.At(0) == "message";
+    const std::wstring name = Widen(window);
+    m_onMessage = window == "message";
     if (!m_onMessage) m_form = name;
     WaitFor([&] { return Form() ? Finding{} : L"no window " + name; });
 }
 
-void Player::Closed(const Step& step)
+void Player::Closed(const Step& step) { AwaitClosed(Widen(step.At(0))); }
+
+void Player::AwaitClosed(const std::wstring& name)
 {
-    const std::wstring name = Widen(step.At(0));
     WaitFor([&] { return FindForm(name) ? L"the window " + name + L" is open" : Finding{}; });
 }
 
@@ -115,7 +118,13 @@ void Player::Type(const Step& step)
     Settle();
 }
 
-void Player::Press(const Step& step) { PressButton(step.At(0)); }
+void Player::Press(const Step& step)
+{
+    const bool closes = step.words.size() > 1;
+    if (closes && step.At(1) != "closes") throw std::runtime_error{"a pressed control closes the form or nothing"};
+    PressButton(step.At(0));
+    if (closes) AwaitClosed(m_form);
+}
 
 void Player::PressButton(const std::string& name)
 {
@@ -182,6 +191,7 @@ void Player::Pick(const Step& step)
     static_cast<void>(UsableControl("cmdOK"));
     SelectNode("TreeView1", step.At(0));
     PressButton("cmdOK");
+    if (step.words.size() > 1) Address(step.At(1));
 }
 
 void Player::DoubleClick(const Step& step)

@@ -89,6 +89,8 @@ private:
     [[nodiscard]] HWND UsableControl(const std::string& name);
     void Focus(HWND control);
     void PressButton(const std::string& name);
+    void Address(const std::string& window);
+    void AwaitClosed(const std::wstring& name);
     void SelectNode(const std::string& treeName, const std::string& path);
     void ExpandNode(HWND tree, HTREEITEM node);
 
