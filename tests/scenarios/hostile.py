@@ -45,6 +45,7 @@ def write_hostile(folder):
 
 
 HOSTILE_STEPS = r"""#! set mail.client=outlook
+#! set patience=120
 #! set outlook=new
 new
 command Related
