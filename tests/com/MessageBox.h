@@ -27,8 +27,14 @@ public:
     [[nodiscard]] bool HadIcon() const { return m_hadIcon; }
 
 private:
-    static constexpr int kTextOfBox = 0xFFFF; // the ids of a message box's parts
-    static constexpr int kIconOfBox = 20;
+    static constexpr int kTextOfBox = 0xFFFF; // the id of a message box's text
+
+    static bool HasIcon(HWND box)
+    {
+        for (HWND part = nullptr; (part = ::FindWindowExW(box, part, L"Static", nullptr)) != nullptr;)
+            if (::SendMessageW(part, STM_GETICON, 0, 0) != 0) return true;
+        return false;
+    }
 
     void Watch()
     {
@@ -39,7 +45,7 @@ private:
             if (box != nullptr) ::GetDlgItemTextW(box, kTextOfBox, text, 512);
             if (box == nullptr || !std::wstring{text}.starts_with(m_text)) continue;
             ::GetWindowTextW(box, title, 64);
-            m_hadIcon = ::IsWindowVisible(::GetDlgItem(box, kIconOfBox)) != FALSE;
+            m_hadIcon = HasIcon(box);
             m_appeared = m_title.empty() || m_title == title;
             answered = true;
             ::PostMessageW(box, WM_COMMAND, IDOK, 0);
