@@ -147,9 +147,12 @@ TEST_F(TreeForm, IsLeftInTheMiddleOfALargeProject)
     const auto hasNodes = [](HWND form) { return TreeView_GetCount(::GetDlgItem(form, TreeView1)) > 0; };
     const User user{tree, hasNodes, [&](HWND form) {
                         ::SendDlgItemMessageW(form, StatusBar1, SB_GETTEXTW, 0, reinterpret_cast<LPARAM>(status));
+                        m_transport.url.clear();
+                        Press(tree, cmdGo);
                         Press(tree, cmdCancel);
                     }};
     tree.ShowModal();
+    EXPECT_EQ(m_transport.url, L"") << "Go was pressed while it was out of use";
     EXPECT_STREQ(status, L"Contacting the server...");
     EXPECT_LT(TreeView_GetCount(::GetDlgItem(tree.Window(), TreeView1)), static_cast<UINT>(kDeliverables));
 }
@@ -170,28 +173,22 @@ constexpr wchar_t kProjects[] =
     L"</deliverable></stage><relatedfile id='907' name='R'/>"
     L"<gate phaseid='5' name='G'><gateDocument gateDocumentID='1201' name='GD'/></gate></project></xml>";
 
-struct PicturesCase
-{
-    std::int32_t mode;
-    const wchar_t* withoutSet;
-    const wchar_t* withSet; // its pictures stand behind the five fixed ones: project, stage, gate
-};
-
 TEST_F(TreeForm, ShowsEachNodeWithItsPictureAndSelectsTheTargetThatItWasGiven)
 {
-    constexpr PicturesCase kCases[] = {
-        {0, L"P4 S4 D0 A1* ", L"P5 S6 D0 A1* "},
-        {1, L"P4 [New Related Document]2 R2* ", L"P5 [New Related Document]2 R2* "},
-        {2, L"P4 G4 GD3* ", L"P5 G7 GD3* "},
+    // By mode: without pictures of the server, and with those of project, stage and gate behind the fixed ones.
+    constexpr const wchar_t* kNodes[][2] = {
+        {L"P4 S4 D0 A1* ", L"P5 S6 D0 A1* "},
+        {L"P4 [New Related Document]2 R2* ", L"P5 [New Related Document]2 R2* "},
+        {L"P4 G4 GD3* ", L"P5 G7 GD3* "},
     };
     m_transport.text = kProjects;
     const HRSRC picture = ::FindResourceW(nullptr, MAKEINTRESOURCEW(IDR_IMAGE_DELIVERABLE), RT_RCDATA);
     const auto* bytes = static_cast<const char*>(::LockResource(::LoadResource(nullptr, picture)));
     for (const bool isSetThere : {false, true}) {
         if (isSetThere) m_transport.bytes.assign(bytes, ::SizeofResource(nullptr, picture));
-        for (const PicturesCase& item : kCases) {
+        for (const int mode : {0, 1, 2}) {
             frmSaveTo tree;
-            tree.DialogType = item.mode;
+            tree.DialogType = mode;
             tree.ServerURL = L"http://h";
             tree.ProjectID = 12;
             tree.DeliverableID = 45;
@@ -200,7 +197,7 @@ TEST_F(TreeForm, ShowsEachNodeWithItsPictureAndSelectsTheTargetThatItWasGiven)
             tree.GateDocumentID = 1201;
             tree.Load();
             std::wstring nodes;
-            int width = 0;
+            int size = 0;
             int loads = 0;
             const auto isLoadedAgain = [&](HWND form) {
                 if (::IsWindowEnabled(::GetDlgItem(form, cmdOK)) && loads++ == 0) Press(tree, cmdGo);
@@ -209,13 +206,12 @@ TEST_F(TreeForm, ShowsEachNodeWithItsPictureAndSelectsTheTargetThatItWasGiven)
             const User user{tree, isLoadedAgain, [&](HWND form) {
                                 const HWND view = ::GetDlgItem(form, TreeView1);
                                 nodes = NodesOf(view, TreeView_GetRoot(view));
-                                int height = 0;
-                                ::ImageList_GetIconSize(TreeView_GetImageList(view, TVSIL_NORMAL), &width, &height);
+                                ::ImageList_GetIconSize(TreeView_GetImageList(view, TVSIL_NORMAL), &size, &size);
                                 Press(tree, cmdCancel);
                             }};
             tree.ShowModal();
-            EXPECT_EQ(nodes, isSetThere ? item.withSet : item.withoutSet);
-            EXPECT_EQ(width, 17);
+            EXPECT_EQ(nodes, kNodes[mode][isSetThere ? 1 : 0]);
+            EXPECT_EQ(size, 17);
         }
     }
 }
@@ -228,9 +224,13 @@ TEST_F(TreeForm, OffersTheGivenServerBeforeTheFirstOfTheListAndNoneWhereThatIsEm
         tree.Load();
         wchar_t text[64] = L"";
         ::GetDlgItemTextW(tree.Window(), cmbServerURL, text, 64);
-        return text + std::to_wstring(::SendDlgItemMessageW(tree.Window(), cmbServerURL, CB_GETCOUNT, 0, 0));
+        const HWND combo = ::GetDlgItem(tree.Window(), cmbServerURL);
+        RECT box{};
+        ::GetClientRect(combo, &box);
+        EXPECT_GT(::SendMessageW(combo, CB_GETDROPPEDWIDTH, 0, 0), box.right) << "no room for the long address";
+        return text + std::to_wstring(::SendMessageW(combo, CB_GETCOUNT, 0, 0));
     };
-    Registry::WriteText(kListKey, L"MRUServerURL2", L"http://b");
+    Registry::WriteText(kListKey, L"MRUServerURL2", L"http://" + std::wstring(200, L'w'));
     EXPECT_EQ(offered(L""), L"http://1");
     Registry::WriteText(kListKey, L"MRUServerURL1", L"http://a");
     EXPECT_EQ(offered(L""), L"http://a2");
@@ -254,16 +254,6 @@ TEST_F(TreeForm, KeepsAListOfItsCountWithItsHolesBehindTheAdministratorsServers)
     EXPECT_EQ(Registry::ReadNumber(kListKey, L"MRUServerURLCount"), 3);
     Registry::WriteNumber(kPolicies, L"ServerURLCount", 2);
     EXPECT_EQ(CMRUServers{}.GetURLs(), (Urls{L"http://p", L"N"}));
-}
-
-TEST_F(TreeForm, HasRoomInItsListForALongAddress)
-{
-    Registry::WriteText(kListKey, L"MRUServerURL1", L"http://" + std::wstring(200, L'w'));
-    frmSaveTo tree;
-    tree.Load();
-    RECT box{};
-    ::GetClientRect(::GetDlgItem(tree.Window(), cmbServerURL), &box);
-    EXPECT_GT(::SendDlgItemMessageW(tree.Window(), cmbServerURL, CB_GETDROPPEDWIDTH, 0, 0), box.right);
 }
 
 TEST_F(TreeForm, IsFollowedByABusyWindowThatStartsItsProcedureOnce)
@@ -294,9 +284,10 @@ TEST_F(TreeForm, IsFollowedByABusyWindowThatStartsItsProcedureOnce)
     }
 }
 
-TEST(AboutForm, HasItsLabelsInVerdana)
+using AboutForm = TreeForm;
+
+TEST_F(AboutForm, HasItsLabelsInVerdana)
 {
-    Library::SetModule(::GetModuleHandleW(nullptr));
     frmAbout about;
     about.Load();
     for (const int label : {lblComponentName, lblVersion, lblRights, lblLegalNotice}) {
