@@ -21,7 +21,6 @@ using namespace corvane;
 namespace
 {
 
-constexpr CLSID kXmlHttp3 = {0xF5078F35, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
 const DocumentBinding kBinding{.server = L"http://h", .projectId = 12, .deliverableId = 45};
 
 // Where the user's documents are, until the object ends. Wine makes a link to the home folder of a folder that is not

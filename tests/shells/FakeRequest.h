@@ -3,10 +3,15 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <map>
 #include <msxml2.h>
 #include <string>
 #include <utility>
+#include <vector>
+
+// The class that requests are made of.
+inline constexpr CLSID kXmlHttp3 = {0xF5078F35, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
 
 // Lives on the stack and counts its references.
 class FakeRequest final : public IXMLHTTPRequest
@@ -14,10 +19,13 @@ class FakeRequest final : public IXMLHTTPRequest
 public:
     long readyState = 4; // once sent
     HRESULT openResult = S_OK;
+    HRESULT headerResult = S_OK;
     HRESULT statusResult = S_OK;
     long status = 200;
-    const wchar_t* text = L"12";                    // of every answer
-    std::wstring url;                               // of the last request
+    const wchar_t* text = L"12";                    // of every answer,
+    std::map<std::wstring, const wchar_t*> answers; // but for requests that hold a part
+    std::vector<std::wstring> asked;                // each as its method, address, headers' names and text
+    std::function<void()> onSend;
     std::string sent;                               // the bytes of the last binary body
     std::map<std::wstring, const wchar_t*> headers; // of every answer; with any, its body has no bytes
     std::string bytes;                              // of every answer that is read as such
@@ -40,13 +48,17 @@ public:
     {
         return E_NOTIMPL;
     }
-    STDMETHODIMP open(BSTR, BSTR address, VARIANT, VARIANT, VARIANT) override
+    STDMETHODIMP open(BSTR method, BSTR url, VARIANT, VARIANT, VARIANT) override
     {
-        url = address;
+        asked.push_back(std::wstring{method} + L" " + url);
         m_opened = true;
         return openResult;
     }
-    STDMETHODIMP setRequestHeader(BSTR, BSTR) override { return S_OK; }
+    STDMETHODIMP setRequestHeader(BSTR name, BSTR) override
+    {
+        asked.back().append(L" ").append(name);
+        return headerResult;
+    }
     STDMETHODIMP getResponseHeader(BSTR name, BSTR* value) override
     {
         *value = headers.contains(name) ? ::SysAllocString(headers[name]) : nullptr;
@@ -57,6 +69,8 @@ public:
     {
         // What fails to be sent has to be opened anew.
         if (!std::exchange(m_opened, false) || (body.vt == VT_DISPATCH && refusesDocuments)) return E_INVALIDARG;
+        if (onSend) onSend();
+        if (body.vt == VT_BSTR) asked.back().append(L"|").append(body.bstrVal);
         if (body.vt != (VT_ARRAY | VT_UI1)) return S_OK;
         sent.assign(static_cast<const char*>(body.parray->pvData), body.parray->rgsabound[0].cElements);
         return S_OK;
@@ -76,6 +90,8 @@ public:
     STDMETHODIMP get_responseText(BSTR* answer) override
     {
         *answer = ::SysAllocString(text);
+        for (const auto& [part, own] : answers)
+            if (asked.back().find(part) != std::wstring::npos) ::SysReAllocString(answer, own);
         return S_OK;
     }
     STDMETHODIMP get_responseBody(VARIANT* body) override

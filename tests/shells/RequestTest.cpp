@@ -1,8 +1,11 @@
 // Requests whose transport fails in ways that only real Windows shows, and waits that end early.
 #include "FakeRequest.h"
 #include "OfferedClass.h"
+#include "app/OfferedClass.h"
+#include "objects/Companions.h"
 
 #include "platform/Files.h"
+#include "platform/LateBound.h"
 #include "platform/MessageLoop.h"
 #include "platform/Procedure.h"
 #include "webservice/AnswerRules.h"
@@ -10,8 +13,10 @@
 #include "webservice/Transfer.h"
 #include "webservice/WebService.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <optional>
+#include <set>
 
 #include <windows.h>
 
@@ -23,8 +28,16 @@ using namespace std::chrono_literals;
 namespace
 {
 
-constexpr CLSID kXmlHttp3 = {0xF5078F35, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
 constexpr CLSID kXmlHttp6 = {0x88D96A0A, 0xF192, 0x11D4, {0xA6, 0x5F, 0x00, 0x40, 0x96, 0x32, 0x51, 0xE5}};
+
+// The copies of files that were in the temporary folder at some tick.
+std::set<std::filesystem::path> g_copies;
+
+void CALLBACK NoteCopies(HWND, UINT, UINT_PTR, DWORD)
+{
+    for (const auto& entry : std::filesystem::directory_iterator{TemporaryFolder()})
+        if (entry.path().extension() == L".tmp") g_copies.insert(entry.path());
+}
 
 class Request : public testing::Test
 {
@@ -38,10 +51,9 @@ protected:
     }
 
     // Sends a query and tells how it failed; number 0 when it did not.
-    static Error Query()
+    static Error Query(const Operation& operation = Operations::kGetUserId)
     {
-        const auto failure =
-            Catch([] { static_cast<void>(QueryText(L"http://h", Operations::kGetUserId, Parameters{})); });
+        const auto failure = Catch([&] { static_cast<void>(QueryText(L"http://h", operation, Parameters{})); });
         return failure.value_or(Error{0, L"", L""});
     }
     static void ExpectSendError()
@@ -84,6 +96,36 @@ TEST_F(Request, WhatTheComponentMakesOfNoContentIsAnHttpStatus)
     EXPECT_EQ(Query().Number(), 204);
 }
 
+TEST_F(Request, OnlyPostsAndUploadsCarryHeadersAndTheAccessIsLoggedOnce)
+{
+    SetAccessLogged(false);
+    const TemporaryFile file{L"bin"};
+    WriteFile(file.Path(), std::vector<std::byte>(1, std::byte{7}));
+    ExecuteASPWSUploadFile(L"http://h", file.Path(), L"n.bin");
+    EXPECT_EQ(Query(Operations::kIsProjectTeamMember).Number(), 0);
+    const std::wstring pages = L" http://h/WebServices/";
+    EXPECT_EQ(m_transport.asked,
+              (std::vector{L"POST" + pages + L"offi.asp?Op=UPDATEUSERACCESSLOG&P1=v6",
+                           L"GET" + pages + L"offi.asp?Op=MaxFileUploadSize&P1=v6&P2=MaxFileUploadSize",
+                           L"POST" + pages + L"UploadToTransfer.ashx Content-Type CharSet",
+                           L"POST" + pages + L"offi.asp lastCached Content-Type|Op=IsProjectTeamMember&P1=v6"}));
+}
+
+TEST_F(Request, TheSiblingLearnsOfTheAccessAndThatAServerTookItBack)
+{
+    const auto login = host::MakeObject<host::LoginObject>(false);
+    const ComPtr<IDispatch> object{login.Get()};
+    const host::OfferedClass sibling{kXmlHttp6, L"CorvaneMSOfficeExcel.CLogin", [&] { return object; }};
+    SetAccessLogged(false);
+    EXPECT_EQ(Query().Number(), 0);
+    EXPECT_NE(LateBound{object}.Number(L"IsLoggedIn"), 0);
+    SetAccessLogged(false);
+    m_transport.onSend = [] { SetAccessLogged(true); }; // another request, in the wait for this one
+    m_transport.status = 424;
+    EXPECT_EQ(Query().Source(), L"UpdateUserLog");
+    EXPECT_TRUE(AccessLogPending());
+}
+
 TEST_F(Request, TheAccessIsLoggedEvenWhereTheEmptyDocumentIsRefused)
 {
     SetAccessLogged(false);
@@ -113,12 +155,16 @@ TEST_F(Request, NoQuestionIsAnsweredByWhatTheSystemHasKept)
     EXPECT_FALSE(isKept());
 }
 
-TEST_F(Request, OnlyAnUnspecifiedFailureToOpenMeansTheAddress)
+TEST_F(Request, OnlyAnUnspecifiedFailureToOpenOrToSetAHeaderMeansTheAddress)
 {
-    m_transport.openResult = E_FAIL;
-    EXPECT_EQ(Query().Description(), L"Invalid URL.");
-    m_transport.openResult = E_INVALIDARG;
-    EXPECT_EQ(Query().Description(), L"Unable to contact server.");
+    for (HRESULT* const result : {&m_transport.openResult, &m_transport.headerResult}) {
+        *result = E_FAIL;
+        EXPECT_EQ(Query(Operations::kIsProjectTeamMember).Description(), L"Invalid URL.");
+        *result = E_INVALIDARG;
+        EXPECT_EQ(Query(Operations::kIsProjectTeamMember).Description(), L"Unable to contact server.");
+        EXPECT_EQ(Query(Operations::kIsProjectTeamMember).Number(), kTransportError);
+        *result = S_OK;
+    }
 }
 
 TEST_F(Request, AFileOfJustTheServersLimitIsSentWithTheTimeItsSizeNeeds)
@@ -132,8 +178,21 @@ TEST_F(Request, AFileOfJustTheServersLimitIsSentWithTheTimeItsSizeNeeds)
     EXPECT_FALSE(send(12)); // the answer to the question for the limit
     EXPECT_NE(m_transport.sent.find(std::string(12, 7)), std::string::npos);
     EXPECT_TRUE(send(13));
+    EXPECT_TRUE(Catch([&] { ExecuteASPWSUploadFile(L"", file.Path(), L"n.bin"); })) << "no server, no limit to ask for";
     SetRequestTimeout(0s);
     EXPECT_EQ(RequestLimit(65536), std::nullopt);
+}
+
+TEST_F(Request, AnUnfinishedFileIsReadSixTimesEachFromACopyOfItsOwnWhereItsPathNeedsOne)
+{
+    NoteCopies(nullptr, 0, 0, 0);
+    const std::size_t before = g_copies.size();
+    const TemporaryFile file{L"\x4E2D"};
+    WriteFile(file.Path(), std::vector<std::byte>(12));
+    const UINT_PTR timer = ::SetTimer(nullptr, 0, 100, &NoteCopies);
+    EXPECT_TRUE(Catch([&] { ExecuteASPWSUploadFile(L"http://h", file.Path(), L"n.bin"); }));
+    ::KillTimer(nullptr, timer);
+    EXPECT_EQ(g_copies.size() - before, 5U) << "seen in the pauses between six attempts";
 }
 
 TEST_F(Request, TheTimeOutIsAFailureToSendAndTheRequestGoesOnUntilItEnds)
