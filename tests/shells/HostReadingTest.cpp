@@ -3,6 +3,7 @@
 #include "OfferedClass.h"
 
 #include "platform/Files.h"
+#include "platform/Procedure.h"
 #include "shared/ClientEvents.h"
 #include "shared/DocumentProperties.h"
 #include "shared/HostDocument.h"
@@ -65,6 +66,49 @@ TEST(Binding, IsReadInTheOrderOfTheInterface)
                            binding.relatedFileId, binding.excelReportId, binding.templateLibraryId}),
               (std::vector{2, 3, 4, 5, 6, 7, 9}));
     EXPECT_TRUE(binding.projectReport);
+}
+
+class Writing : public host::test::HostTest
+{
+protected:
+    LateBound NewDocument(const char* hostName, const wchar_t* version)
+    {
+        Start(hostName, version);
+        session->New();
+        m_application = LateBound{ComPtr<IDispatch>{&session->Application()}};
+        ActiveDocument(m_application).Call(L"SaveAs", folder.File(L"a"));
+        return ActiveDocument(m_application);
+    }
+
+    Apartment m_apartment;
+    LateBound m_application;
+};
+
+TEST_F(Writing, OfABindingKeepsTypesAndPutsAllBackWhereOneValueIsRefused)
+{
+    const LateBound properties = NewDocument("word", L"16.0").Object(L"CustomDocumentProperties");
+    constexpr std::int32_t kDate = 3;
+    properties.Call(L"Add", L"KRX_SYS_ProjectID", false, kPropertyText, L"7");
+    properties.Call(L"Add", L"KRX_SYS_GateDocumentID", false, kDate, 1);
+    DocumentBinding binding{.server = L"http://h", .projectId = 12, .gateDocumentId = 1 << 30}; // beyond all dates
+    EXPECT_TRUE(Catch([&] { SetBindingProperties(m_application, binding); }));
+    EXPECT_EQ(GetCustomProperty(m_application, L"KRX_SYS_ProjectID"), L"7");
+    EXPECT_EQ(properties.Number(L"Count"), 2);
+    binding.gateDocumentId = 2;
+    SetBindingProperties(m_application, binding);
+    EXPECT_EQ(GetCustomProperty(m_application, L"KRX_SYS_ProjectID"), L"12");
+    EXPECT_EQ(properties.Object(L"Item", L"KRX_SYS_ProjectID").Number(L"Type"), kPropertyText);
+}
+
+TEST_F(Writing, CountsAsAChangeInExcelFromVersion12On)
+{
+    const auto isSaved = [&](const char* hostName, const wchar_t* version) {
+        const LateBound document = NewDocument(hostName, version);
+        SetBindingProperties(m_application, {});
+        return document.Number(L"Saved") != 0;
+    };
+    EXPECT_FALSE(isSaved("excel", L"12.0"));
+    EXPECT_TRUE(isSaved("word", L"12.0")); // its own business
 }
 
 class DocumentSwitch : public host::test::HostTest
