@@ -37,6 +37,18 @@ bool IsInView(HWND form, HWND control)
     return ::IntersectRect(&common, &view, &place) && ::EqualRect(&common, &place);
 }
 
+// Whether a form is to be seen and none of its buttons, lists and boxes can be used. A read-only box only shows text.
+bool IsLocked(HWND form)
+{
+    if (!::IsWindowVisible(form)) return false;
+    for (HWND child = ::GetWindow(form, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        const LONG_PTR style = ::GetWindowLongPtrW(child, GWL_STYLE);
+        const bool shows = IsClass(child, WC_EDITW) && (style & ES_READONLY) != 0;
+        if ((style & WS_TABSTOP) != 0 && !shows && ::IsWindowVisible(child) && ::IsWindowEnabled(child)) return false;
+    }
+    return true;
+}
+
 constexpr StateName kStates[] = {
     {"enabled", [](HWND, HWND control, HWND) { return ::IsWindowEnabled(control) != FALSE; }},
     {"disabled", [](HWND, HWND control, HWND) { return ::IsWindowEnabled(control) == FALSE; }},
@@ -46,6 +58,7 @@ constexpr StateName kStates[] = {
     {"unchecked", [](HWND, HWND control, HWND) { return !IsChecked(control); }},
     {"focused",
      [](HWND, HWND control, HWND focus) { return focus && (focus == control || ::IsChild(control, focus)); }},
+    {"locked", [](HWND form, HWND, HWND) { return IsLocked(form); }},
     {"inview", [](HWND form, HWND control, HWND) { return IsInView(form, control); }},
     {"default", [](HWND form, HWND control, HWND) { return IsDefaultButton(form, control); }},
     {"notdefault", [](HWND form, HWND control, HWND) { return !IsDefaultButton(form, control); }},
@@ -98,6 +111,7 @@ void Player::Expect(const Step& step)
     if (what == "icon") return ExpectIcon(step);
     if (what == "menu") return ExpectMenu(step);
     if (what == "closebox") return ExpectCloseBox(step);
+    if (what == "hourglass") return ExpectHourglass(step);
     if (!step.words[1].quoted) return WaitFor([&] { return StateFinding(what, step.At(1)); });
 
     const std::wstring wanted = Widen(step.Lines(1));
@@ -137,6 +151,19 @@ void Player::ExpectCloseBox(const Step& step)
         const UINT state = ::GetMenuState(::GetSystemMenu(Form(), FALSE), SC_CLOSE, MF_BYCOMMAND);
         const bool enabled = state != static_cast<UINT>(-1) && !(state & (MF_GRAYED | MF_DISABLED));
         return enabled == wanted ? Finding{} : Finding{L"it is not " + Widen(step.At(1))};
+    });
+}
+
+void Player::ExpectHourglass(const Step& step)
+{
+    const bool wanted = OneOf(step.At(1), "shown", "hidden");
+    WaitFor([&] {
+        bool shown = false;
+        OnUi([&] {
+            ::SendMessageW(Form(), WM_SETCURSOR, reinterpret_cast<WPARAM>(Form()), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+            shown = ::GetCursor() == ::LoadCursorW(nullptr, IDC_WAIT);
+        });
+        return shown == wanted ? Finding{} : Finding{L"it is not " + Widen(step.At(1))};
     });
 }
 

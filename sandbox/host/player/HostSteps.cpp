@@ -166,8 +166,8 @@ Player::Finding Player::PropertyFinding(const std::wstring& name, const std::wst
         for (const CustomProperty& property : ActiveOf(m_host).File().Custom())
             if (Widen(property.name) == name) value = ToValue(property).Text();
     });
-    if (!value) return L"the presentation has no property " + name;
-    return *value == wanted ? Finding{} : Finding{L"the property is \"" + *value + L"\""};
+    if (!value && !wanted.empty()) return L"the presentation has no property " + name;
+    return value.value_or(L"") == wanted ? Finding{} : Finding{L"the property is \"" + *value + L"\""};
 }
 
 void Player::Property(const Step& step)

@@ -107,6 +107,7 @@ private:
     void ExpectCommand(const Step& step);
     void ExpectMenu(const Step& step);
     void ExpectCloseBox(const Step& step);
+    void ExpectHourglass(const Step& step);
     [[nodiscard]] Finding StateFinding(const std::string& control, const std::string& state);
 
     Host& m_host;
