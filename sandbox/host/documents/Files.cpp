@@ -112,8 +112,10 @@ FileHandle WriteDocumentFile(const std::wstring& path, const std::string& bytes,
     const auto row = std::ranges::find(kFaults, fault, &FaultRow::fault);
     if (row != std::end(kFaults) && row->error != ERROR_SUCCESS) throw FileError{row->error, path};
     if (fault == SaveFault::Slow) std::this_thread::sleep_for(kSlowTime);
-    const bool zeros = fault == SaveFault::Zeros || fault == SaveFault::Growing;
-    WriteWholeFile(path, fault == SaveFault::Empty ? std::string{} : zeros ? std::string(bytes.size(), '\0') : bytes);
+    const std::size_t zeros = fault == SaveFault::Zeros     ? bytes.size()
+                              : fault == SaveFault::Growing ? bytes.size() / 2
+                                                            : 0;
+    WriteWholeFile(path, zeros != 0 || fault == SaveFault::Empty ? std::string(zeros, '\0') : bytes);
     if (fault == SaveFault::Growing) CompleteLater(path, bytes);
     if (fault == SaveFault::Gone) ::DeleteFileW(SystemPath(path).c_str());
     return fault == SaveFault::Held ? OpenFile(path, GENERIC_READ, 0) : FileHandle{};

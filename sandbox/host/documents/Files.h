@@ -41,7 +41,7 @@ enum class SaveFault
     None,
     Empty,   // no bytes at all
     Zeros,   // the right length, all zero
-    Growing, // zeros first, the real bytes 2.5 s later
+    Growing, // half of it in zeros first, the real bytes 2.5 s later
     Error,   // the save fails
     Locked,  // another program has the file open
     Full,    // there is no room
