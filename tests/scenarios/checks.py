@@ -118,7 +118,9 @@ def repeated(line):
 
 def check_all_requests(lines, outcome):
     wanted = [] if lines == ["nothing"] else [one for line in lines for one in repeated(line)]
-    found = map(request_line, outcome.server.requests())
+    found = [request_line(request) for request in outcome.server.requests()]
+    if wanted[:1] == ["..."]:
+        wanted, found = wanted[1:], found[1 - len(wanted):]
     for number, (one, other) in enumerate(itertools.zip_longest(found, wanted), 1):
         equal(f"request {number}", one, other)
 
@@ -173,7 +175,8 @@ def custom_properties(path):
 def check_bound(outcome, rest):
     name, *ids = shlex.split(rest)
     wanted = [("lpwstr", outcome.server.url)] + [("i4", number) for number in ids]
-    equal("properties", custom_properties(outcome.file(name)), dict(zip(PROPERTIES, wanted, strict=True)))
+    found = list(custom_properties(outcome.file(name)).items())
+    equal("properties", found, list(zip(PROPERTIES, wanted, strict=True)))
 
 
 def check_unbound(outcome, rest):
