@@ -248,16 +248,21 @@ TEST(Wait, HandlesMessagesUntilTheLimit)
     EXPECT_LE(asked, 60); // and asleep between them
 }
 
+bool g_came = false;
+void CALLBACK Arrive(HWND, UINT, UINT_PTR timer, DWORD) { g_came = ::KillTimer(nullptr, timer) != FALSE; }
+
+// As another command may take.
+void CALLBACK RunForLong(HWND, UINT, UINT_PTR timer, DWORD)
+{
+    ::KillTimer(nullptr, timer);
+    ::SetTimer(nullptr, 0, 10, &Arrive);
+    ::Sleep(600);
+}
+
 TEST(Wait, SeesWhatCameWhileAHandlerRanForLongerThanTheLimit)
 {
-    static bool came = false;
-    ::SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR timer, DWORD) {
-        ::KillTimer(nullptr, timer);
-        ::SetTimer(nullptr, 0, 10,
-                   [](HWND, UINT, UINT_PTR other, DWORD) { came = ::KillTimer(nullptr, other) != FALSE; });
-        ::Sleep(600); // as another command may take
-    });
-    EXPECT_EQ(PumpUntil([] { return came; }, 500ms), WaitEnd::Done);
+    ::SetTimer(nullptr, 0, 10, &RunForLong);
+    EXPECT_EQ(PumpUntil([] { return g_came; }, 500ms), WaitEnd::Done);
 }
 
 } // namespace

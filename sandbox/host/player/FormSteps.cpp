@@ -242,7 +242,21 @@ void Player::Choose(const Step& step)
 
 void Player::Key(const Step& step)
 {
-    const KeyStroke stroke = ParseKey(step.At(0));
+    for (const Word& key : step.words)
+        PressKeys(key.text);
+}
+
+void Player::Tab(const Step& step)
+{
+    for (const Word& control : step.words) {
+        PressKeys("Tab");
+        WaitFor([&] { return StateFinding(control.text, "focused"); });
+    }
+}
+
+void Player::PressKeys(const std::string& keys)
+{
+    const KeyStroke stroke = ParseKey(keys);
     WaitFor([&] { return FocusOf(m_host.Queue().ThreadId()) ? Finding{} : L"no window has the focus"; });
     PressKey(m_host.Queue(), stroke);
     for (int work = 0; work < 3; ++work) // the press, the release, the end of the held keys: each is posted by the last

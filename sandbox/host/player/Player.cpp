@@ -79,7 +79,7 @@ void Player::Perform(const Step& step)
         {"fits", &Player::LayoutFits}, {"readable", &Player::Readable},
         {"spoken", &Player::Spoken},   {"over", &Player::Over},
         {"hover", &Player::Hover},     {"expect", &Player::Expect},
-        {"pick", &Player::Pick},
+        {"pick", &Player::Pick},       {"tab", &Player::Tab},
     };
     if (m_quit) throw std::runtime_error{"the host has quit"};
     for (const Verb& verb : kVerbs)

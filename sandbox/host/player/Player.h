@@ -77,6 +77,7 @@ private:
     void Choose(const Step& step);
     void Check(const Step& step);
     void Key(const Step& step);
+    void Tab(const Step& step);
     void Repainted(const Step& step);
     void LayoutFits(const Step& step);
     void Readable(const Step& step);
@@ -89,6 +90,7 @@ private:
     [[nodiscard]] HWND UsableControl(const std::string& name);
     void Focus(HWND control);
     void PressButton(const std::string& name);
+    void PressKeys(const std::string& keys);
     void Address(const std::string& window);
     void AwaitClosed(const std::wstring& name);
     void SelectNode(const std::string& treeName, const std::string& path);

@@ -23,12 +23,12 @@ constexpr VerbRule kVerbs[] = {
     {"new", 0, 0},        {"open", 1, 1},     {"saveas", 1, 2},    {"save", 0, 0},        {"activate", 1, 1},
     {"close", 0, 0},      {"quit", 0, 0},     {"command", 1, 1},   {"controller", 1, 1},  {"window", 1, 1},
     {"closed", 1, 1},     {"type", 2, kAny},  {"press", 1, 2},     {"select", 2, 2},      {"choose", 2, 2},
-    {"check", 2, 2},      {"key", 1, 1},      {"expect", 2, kAny}, {"message", 1, kAny},  {"no", 1, 2},
+    {"check", 2, 2},      {"key", 1, kAny},   {"expect", 2, kAny}, {"message", 1, kAny},  {"no", 1, 2},
     {"property", 2, 2},   {"shot", 1, 2},     {"show", 1, 1},      {"ran", 1, 1},         {"repainted", 1, 1},
     {"disconnect", 0, 0}, {"file", 2, 2},     {"fits", 1, 1},      {"letter", 1, 1},      {"mail", 2, kAny},
     {"over", 2, 2},       {"readable", 1, 1}, {"set", 2, 2},       {"spoken", 2, 2},      {"exit", 0, 0},
     {"usage", 0, 1},      {"repeat", 1, 1},   {"end", 0, 0},       {"doubleclick", 1, 2}, {"registry", 3, 3},
-    {"faults", 1, 1},     {"hover", 2, 2},    {"pick", 1, 2},
+    {"faults", 1, 1},     {"hover", 2, 2},    {"pick", 1, 2},      {"tab", 1, kAny},
 };
 
 std::string_view Trim(std::string_view text)
