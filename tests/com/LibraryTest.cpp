@@ -1,4 +1,7 @@
 #include "AddInLibrary.h"
+#include "MessageBox.h"
+
+#include "platform/LateBound.h"
 
 #include <map>
 
@@ -101,6 +104,64 @@ TEST_F(Library, TheSlotsOfItsInterfacesKeepTheirOrder)
             SlotsOf(*object); // a type library holds each name once, in whichever case comes first
         EXPECT_EQ(::lstrcmpiW(slots.c_str(), expected), 0) << testing::PrintToString(slots);
         object->Release();
+    }
+}
+
+class Script : public AddInLibrary
+{
+protected:
+    [[nodiscard]] corvane::LateBound Object(REFCLSID id) const
+    {
+        corvane::ComPtr<IDispatch> object;
+        *object.GetAddressOf() = Loaded().Create<IDispatch>(id);
+        return corvane::LateBound{object};
+    }
+};
+
+TEST_F(Script, WritesAndReadsThePropertiesOfAButton)
+{
+    const auto button = Object(CLSID_CRbnBtnInfo);
+    const wchar_t* const properties[] = {L"ID",       L"Label",        L"ImageMso",    L"Screentip",
+                                         L"Supertip", L"GetEnabled",   L"GetLabel",    L"GetSupertip",
+                                         L"OnAction", L"GetScreentip", L"Description", L"Size"};
+    const auto all = [&] {
+        std::wstring text;
+        for (const wchar_t* name : properties)
+            text += button.Text(name);
+        return text;
+    };
+    wchar_t letter = L'a';
+    for (const wchar_t* name : properties)
+        button.Put(name, std::wstring(1, letter++));
+    EXPECT_EQ(all(), L"abcdefghijkl");
+    button.Call(L"Clear");
+    EXPECT_EQ(all(), L"bde") << "it keeps label and tips";
+}
+
+TEST_F(Script, MovesTheLevelOfATrace)
+{
+    const auto log = Object(CLSID_CTraceLog);
+    const auto tabs = [&] { return log.Call(L"GetTabs").Text(); };
+    EXPECT_EQ(log.Text(L"bTimeStamp"), L"True");
+    EXPECT_EQ(tabs(), L"\t");
+    log.Call(L"WriteEventStart", L"Outer");
+    EXPECT_EQ(tabs(), L"\t\t");
+    log.Call(L"WriteLine", L"a line", 1);
+    log.Call(L"WriteVariable", L"Number", 5);
+    log.Call(L"WriteError", 287, L"declined", L"Script");
+    log.Call(L"WriteEventEnd", L"Outer");
+    log.Call(L"WriteEventEnd", L"Outer");
+    EXPECT_EQ(tabs(), L"");
+}
+
+TEST_F(Script, IsToldOfACommandWithoutAConnection)
+{
+    const auto controller = Object(CLSID_CController);
+    for (const std::wstring method : {L"SaveAsAssignement", L"SaveGateDoc", L"SaveRelatedDoc"}) {
+        const MessageBoxAnswer box{L"CController." + method + L"\r\nObject variable or With block variable not set",
+                                   L"CorvaneMSOffice"};
+        controller.Call(method.c_str());
+        EXPECT_TRUE(box.Appeared());
     }
 }
 

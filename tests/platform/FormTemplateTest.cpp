@@ -97,15 +97,4 @@ TEST(FormTemplate, RefusesWhatIsNoExtendedTemplateWithAFont)
     EXPECT_TRUE(WithFont(classic, kShipped).empty());
 }
 
-TEST(FormTemplate, RefusesATemplateThatEndsBeforeItsItems)
-{
-    for (const Layout& layout : kLayouts) {
-        const Bytes front = Front(layout, kShipped);
-        for (std::size_t size = 0; size + 3 < front.size(); ++size) {
-            const Bytes cut(front.begin(), front.begin() + static_cast<std::ptrdiff_t>(size));
-            EXPECT_TRUE(WithFont(cut, kShipped).empty()) << layout.name << size;
-        }
-    }
-}
-
 } // namespace corvane

@@ -65,13 +65,4 @@ TEST(NodeKey, IsNoTargetWithoutTheMarkerOfItsMode)
         EXPECT_FALSE(TargetOfKey(TreeMode::GateDocument, key)) << testing::PrintToString(key);
 }
 
-TEST(NodeKey, StandsBesideThePictureOfItsLevel)
-{
-    const auto lastOf = [](TreeMode mode) { return TreeLevels(mode).back().image; };
-    EXPECT_EQ(TreeLevels(TreeMode::Assignment)[2].image, 1);
-    EXPECT_EQ(
-        (std::array{lastOf(TreeMode::Assignment), lastOf(TreeMode::RelatedDocument), lastOf(TreeMode::GateDocument)}),
-        (std::array{2, 3, 4}));
-}
-
 } // namespace corvane
