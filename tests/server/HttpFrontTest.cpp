@@ -4,11 +4,14 @@
 
 #include <arpa/inet.h>
 #include <cerrno>
+#include <csignal>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <future>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
+#include <sys/syscall.h>
 
 namespace server
 {
@@ -17,7 +20,7 @@ namespace
 {
 
 // A real connection, because the bytes on it are what is tested.
-std::string Exchange(int port, const std::string& bytes)
+int Connect(int port)
 {
     const int client = ::socket(AF_INET, SOCK_STREAM, 0);
     sockaddr_in address{};
@@ -25,6 +28,11 @@ std::string Exchange(int port, const std::string& bytes)
     address.sin_port = htons(static_cast<std::uint16_t>(port));
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     EXPECT_EQ(::connect(client, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+    return client;
+}
+
+std::string Talk(int client, const std::string& bytes)
+{
     EXPECT_EQ(::send(client, bytes.data(), bytes.size(), 0), static_cast<ssize_t>(bytes.size()));
     std::string answer;
     errno = 0;
@@ -35,6 +43,8 @@ std::string Exchange(int port, const std::string& bytes)
     ::close(client);
     return answer;
 }
+
+std::string Exchange(int port, const std::string& bytes) { return Talk(Connect(port), bytes); }
 
 class Front : public testing::Test
 {
@@ -127,6 +137,29 @@ TEST_F(Front, StopsAtOnceDespiteADelayedAnswer)
     m_front.Stop();
     EXPECT_TRUE(pending.get().starts_with("HTTP/1.1 200 ")) << "what was carried out is still answered";
     m_run.get();
+}
+
+TEST_F(Front, HoldsAnAnswerBackUntilTheFaultsFileChanges)
+{
+    WriteFaults(R"([{"hold": true, "body": "held"}])");
+    auto pending = std::async(std::launch::async, [&] { return Get("/x"); });
+    while (LogLines().empty())
+        std::this_thread::yield();
+    EXPECT_EQ(pending.wait_for(std::chrono::milliseconds{200}), std::future_status::timeout);
+    WriteFaults("[]");
+    EXPECT_TRUE(pending.get().ends_with("held"));
+}
+
+TEST_F(Front, GoesOnReadingAfterASignal)
+{
+    std::signal(SIGUSR1, [](int) {});
+    const int client = Connect(m_port);
+    for (int round = 0; round < 20; ++round) {
+        for (const auto& thread : std::filesystem::directory_iterator{"/proc/self/task"})
+            ::syscall(SYS_tgkill, ::getpid(), std::stoi(thread.path().filename()), SIGUSR1);
+        std::this_thread::sleep_for(std::chrono::milliseconds{5});
+    }
+    EXPECT_TRUE(Talk(client, "GET / HTTP/1.1\r\n\r\n").ends_with("echo:"));
 }
 
 TEST_F(Front, DoesNotShareItsPort)
