@@ -1,5 +1,4 @@
-// The windows of the selection, and the About box: what no scenario sees of them, and where their host, their user or
-// their start go another way.
+// The windows of the selection, and the About box: what no scenario sees of them.
 #include "FakeRequest.h"
 #include "OfferedClass.h"
 
