@@ -33,7 +33,6 @@ struct DataStream : IDispatch
 namespace
 {
 
-constexpr const wchar_t* kSource = L"ADODB.Stream";
 // The interface under its present id, and under the one of the library's early versions.
 constexpr IID kStreamIds[] = {
     {0x00001565, 0x0000, 0x0010, {0x80, 0x00, 0x00, 0xAA, 0x00, 0x6D, 0x2E, 0xA4}},
@@ -48,8 +47,9 @@ constexpr long kReadAll = -1;
 
 BinaryStream::BinaryStream()
 {
+    constexpr const wchar_t* kSource = L"BinaryStream.BinaryStream";
     CLSID classId{};
-    Check(::CLSIDFromProgID(kSource, &classId), kSource);
+    Check(::CLSIDFromProgID(L"ADODB.Stream", &classId), kSource);
     HRESULT result = E_NOINTERFACE;
     for (const IID& id : kStreamIds) {
         if (result != E_NOINTERFACE) break;
@@ -66,10 +66,11 @@ BinaryStream::BinaryStream(BinaryStream&& other) noexcept = default;
 BinaryStream& BinaryStream::operator=(BinaryStream&& other) noexcept = default;
 BinaryStream::~BinaryStream() = default;
 
-void BinaryStream::Write(const Variant& bytes) { Check(m_stream->Write(bytes.Get()), kSource); }
+void BinaryStream::Write(const Variant& bytes) { Check(m_stream->Write(bytes.Get()), L"BinaryStream.Write"); }
 
 void BinaryStream::SaveTo(const std::wstring& path)
 {
+    constexpr const wchar_t* kSource = L"BinaryStream.SaveTo";
     Check(m_stream->put_Position(0), kSource);
     Variant bytes;
     Check(m_stream->Read(kReadAll, bytes.Put()), kSource);

@@ -53,23 +53,25 @@ private:
 
 LateBound LateBound::Create(const wchar_t* programmaticId)
 {
+    constexpr const wchar_t* kSource = L"LateBound.Create";
     CLSID classId{};
-    Check(::CLSIDFromProgID(programmaticId, &classId), programmaticId);
+    Check(::CLSIDFromProgID(programmaticId, &classId), kSource);
     ComPtr<IDispatch> object;
     Check(::CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER,
                              IID_PPV_ARGS(object.GetAddressOf())),
-          programmaticId);
+          kSource);
     return LateBound{std::move(object)};
 }
 
 LateBound LateBound::Running(const wchar_t* programmaticId)
 {
+    constexpr const wchar_t* kSource = L"LateBound.Running";
     CLSID classId{};
-    Check(::CLSIDFromProgID(programmaticId, &classId), programmaticId);
+    Check(::CLSIDFromProgID(programmaticId, &classId), kSource);
     ComPtr<IUnknown> running;
-    Check(::GetActiveObject(classId, nullptr, running.GetAddressOf()), programmaticId);
+    Check(::GetActiveObject(classId, nullptr, running.GetAddressOf()), kSource);
     ComPtr<IDispatch> object;
-    Check(running->QueryInterface(IID_PPV_ARGS(object.GetAddressOf())), programmaticId);
+    Check(running->QueryInterface(IID_PPV_ARGS(object.GetAddressOf())), kSource);
     return LateBound{std::move(object)};
 }
 

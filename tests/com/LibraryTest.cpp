@@ -100,9 +100,7 @@ TEST_F(Library, TheSlotsOfItsInterfacesKeepTheirOrder)
     for (const auto& [id, expected] : classes) {
         auto* object = Loaded().Create<IDispatch>(id);
         ASSERT_NE(object, nullptr);
-        const std::wstring slots =
-            SlotsOf(*object); // a type library holds each name once, in whichever case comes first
-        EXPECT_EQ(::lstrcmpiW(slots.c_str(), expected), 0) << testing::PrintToString(slots);
+        EXPECT_EQ(SlotsOf(*object), expected);
         object->Release();
     }
 }
@@ -118,12 +116,20 @@ protected:
     }
 };
 
+// Calls a member as a compiled client does, by its place in the object's table of functions alone.
+template<class... Arguments>
+HRESULT CallSlot(const corvane::LateBound& object, std::size_t slot, Arguments... arguments)
+{
+    using Function = HRESULT(STDMETHODCALLTYPE*)(IDispatch*, Arguments...);
+    return reinterpret_cast<Function>((*reinterpret_cast<void***>(object.Get()))[slot])(object.Get(), arguments...);
+}
+
 TEST_F(Script, WritesAndReadsThePropertiesOfAButton)
 {
     const auto button = Object(CLSID_CRbnBtnInfo);
     const wchar_t* const properties[] = {L"ID",       L"Label",        L"ImageMso",    L"Screentip",
                                          L"Supertip", L"GetEnabled",   L"GetLabel",    L"GetSupertip",
-                                         L"OnAction", L"GetScreentip", L"Description", L"Size"};
+                                         L"GetScreentip", L"OnAction", L"Description", L"Size"};
     const auto all = [&] {
         std::wstring text;
         for (const wchar_t* name : properties)
@@ -134,35 +140,77 @@ TEST_F(Script, WritesAndReadsThePropertiesOfAButton)
     for (const wchar_t* name : properties)
         button.Put(name, std::wstring(1, letter++));
     EXPECT_EQ(all(), L"abcdefghijkl");
-    button.Call(L"Clear");
-    EXPECT_EQ(all(), L"bde") << "it keeps label and tips";
+    std::size_t slot = 7;
+    for (std::size_t index = 0; index < std::size(properties); ++index) {
+        corvane::Bstr text;
+        EXPECT_EQ(CallSlot(button, slot++, text.Put()), S_OK);
+        EXPECT_EQ(CallSlot(button, slot++, corvane::Bstr{text.Text() + text.Text()}.Get()), S_OK);
+    }
+    EXPECT_EQ(all(), L"aabbccddeeffgghhiijjkkll");
+    EXPECT_EQ(CallSlot(button, slot), S_OK);
+    EXPECT_EQ(all(), L"bbddee") << "it keeps label and tips";
 }
 
 TEST_F(Script, MovesTheLevelOfATrace)
 {
     const auto log = Object(CLSID_CTraceLog);
-    const auto tabs = [&] { return log.Call(L"GetTabs").Text(); };
+    const auto tabs = [&] {
+        corvane::Bstr text;
+        EXPECT_EQ(CallSlot(log, 10, text.Put()), S_OK);
+        EXPECT_EQ(text.Text(), log.Call(L"GetTabs").Text());
+        return text.Text();
+    };
+    VARIANT_BOOL stamped = VARIANT_FALSE;
+    EXPECT_EQ(CallSlot(log, 13, &stamped), S_OK);
+    EXPECT_EQ(stamped, VARIANT_TRUE);
     EXPECT_EQ(log.Text(L"bTimeStamp"), L"True");
     EXPECT_EQ(tabs(), L"\t");
     log.Call(L"WriteEventStart", L"Outer");
-    EXPECT_EQ(tabs(), L"\t\t");
+    EXPECT_EQ(CallSlot(log, 8, corvane::Bstr{L"Inner"}.Get()), S_OK);
+    EXPECT_EQ(tabs(), L"\t\t\t");
     log.Call(L"WriteLine", L"a line", 1);
     log.Call(L"WriteVariable", L"Number", 5);
     log.Call(L"WriteError", 287, L"declined", L"Script");
-    log.Call(L"WriteEventEnd", L"Outer");
-    log.Call(L"WriteEventEnd", L"Outer");
+    log.Call(L"WriteEventEnd", L"Inner");
+    for (int level = 0; level < 2; ++level)
+        EXPECT_EQ(CallSlot(log, 9, corvane::Bstr{L"Outer"}.Get()), S_OK);
     EXPECT_EQ(tabs(), L"");
 }
 
 TEST_F(Script, IsToldOfACommandWithoutAConnection)
 {
     const auto controller = Object(CLSID_CController);
+    std::size_t slot = 7;
     for (const std::wstring method : {L"SaveAsAssignement", L"SaveGateDoc", L"SaveRelatedDoc"}) {
-        const MessageBoxAnswer box{L"CController." + method + L"\r\nObject variable or With block variable not set",
-                                   L"CorvaneMSOffice"};
-        controller.Call(method.c_str());
-        EXPECT_TRUE(box.Appeared());
+        const auto tells = [&](auto&& call) {
+            const MessageBoxAnswer box{L"CController." + method + L"\r\nObject variable or With block variable not set",
+                                       L"CorvaneMSOffice"};
+            call();
+            EXPECT_TRUE(box.Appeared());
+        };
+        tells([&] { controller.Call(method.c_str()); });
+        tells([&] { EXPECT_EQ(CallSlot(controller, slot++), S_OK); });
     }
+}
+
+TEST_F(Script, CallsBackIntoAConnectionBySlot)
+{
+    const auto connection = Object(CLSID_Connect);
+    IDispatch* const none = nullptr;
+    VARIANT_BOOL enabled = VARIANT_TRUE;
+    EXPECT_EQ(CallSlot(connection, 8, none, &enabled), S_OK);
+    EXPECT_EQ(enabled, VARIANT_FALSE);
+    for (std::size_t slot = 9; slot < 12; ++slot)
+        EXPECT_EQ(CallSlot(connection, slot, none, static_cast<BSTR*>(nullptr)), E_POINTER);
+    const auto tells = [](const std::wstring& failing, auto&& call) {
+        const MessageBoxAnswer box{L"ERROR\r\nNumber: 91\r\nDescription: Object variable or With block variable not set"
+                                   L"\r\nSource: " + failing};
+        EXPECT_EQ(call(), S_OK);
+        EXPECT_TRUE(box.Appeared()) << testing::PrintToString(failing);
+    };
+    corvane::Variant result;
+    tells(L"Id", [&] { return CallSlot(connection, 7, none); });
+    tells(L"Version", [&] { return CallSlot(connection, 12, none, result.Put()); });
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "HostTest.h"
 #include "OfferedClass.h"
 
+#include "platform/BinaryStream.h"
 #include "platform/Files.h"
 #include "platform/Procedure.h"
 #include "shared/ClientEvents.h"
@@ -168,6 +169,23 @@ TEST(SettingsBesideTheLibrary, GiveTheTimeOutInSecondsAndNoneIsFiveMinutesUnless
     Registry::WriteNumber(kPolicies, L"RequestTimeoutSeconds", 20);
     EXPECT_EQ(timeoutOf("45"), 20s);
     Registry::DeleteTree(kPolicies);
+}
+
+TEST(Errors, NameTheProcedureThatRaisedThem)
+{
+    const Apartment apartment;
+    const std::pair<const wchar_t*, std::function<void()>> cases[] = {
+        {L"LateBound.Create", [] { static_cast<void>(LateBound::Create(L"Corvane.NoClass")); }},
+        {L"LateBound.Running", [] { static_cast<void>(LateBound::Running(L"Corvane.NoClass")); }},
+        {L"BinaryStream.Write", [] { BinaryStream{}.Write(Variant{L"no bytes"}); }},
+        {L"CustomNames", [] { static_cast<void>(CustomName(L"Corvane")); }},
+        {L"Registry.OpenOrCreate", [] { Registry::CreateKey(std::wstring(300, L'k')); }},
+    };
+    for (const auto& [source, raise] : cases) {
+        const auto error = Catch(raise);
+        ASSERT_TRUE(error) << testing::PrintToString(source);
+        EXPECT_EQ(error->Source(), source);
+    }
 }
 
 } // namespace

@@ -123,7 +123,11 @@ Value BarControlObject::CaptionProperty(const Arguments& arguments)
 {
     return TextProperty(L"Caption", arguments, m_caption);
 }
-Value BarControlObject::TagProperty(const Arguments& arguments) { return TextProperty(L"Tag", arguments, m_tag); }
+Value BarControlObject::TagProperty(const Arguments& arguments)
+{
+    if (m_id == kUntoldId) throw AutomationError{E_FAIL, L"The control does not tell its tag."};
+    return TextProperty(L"Tag", arguments, m_tag);
+}
 Value BarControlObject::Parameter(const Arguments& arguments)
 {
     return TextProperty(L"Parameter", arguments, m_parameter);

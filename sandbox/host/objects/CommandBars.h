@@ -12,7 +12,7 @@ class CommandBarObject;
 
 // The numbers of MsoControlType.
 constexpr long kBarButton = 1;
-constexpr long kUntoldId = -1; // of an entry that refuses to tell it
+constexpr long kUntoldId = -1; // of an entry that refuses to tell its id and its tag
 constexpr long kBarPopup = 10;
 
 // One entry of a menu: a button, or a popup with a menu of its own. It is the menu model itself, so that the object an
