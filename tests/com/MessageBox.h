@@ -7,7 +7,7 @@
 #include <string>
 #include <thread>
 
-// Waits, on a thread of its own, for a message box whose text begins with the given one and presses its OK.
+// Waits, on a thread of its own, for a message box and presses its OK.
 class MessageBoxAnswer
 {
 public:
@@ -22,7 +22,7 @@ public:
     MessageBoxAnswer(const MessageBoxAnswer&) = delete;
     MessageBoxAnswer& operator=(const MessageBoxAnswer&) = delete;
 
-    // Whether it came, under the title if one was given.
+    // Whether it came with a text that begins with the given one, under the title if one was given.
     [[nodiscard]] bool Appeared() const { return m_appeared; }
     [[nodiscard]] bool HadIcon() const { return m_hadIcon; }
 
@@ -43,10 +43,10 @@ private:
             wchar_t text[512] = L"";
             wchar_t title[64] = L"";
             if (box != nullptr) ::GetDlgItemTextW(box, kTextOfBox, text, 512);
-            if (box == nullptr || !std::wstring{text}.starts_with(m_text)) continue;
+            if (text[0] == L'\0') continue;
             ::GetWindowTextW(box, title, 64);
             m_hadIcon = HasIcon(box);
-            m_appeared = m_title.empty() || m_title == title;
+            m_appeared = std::wstring{text}.starts_with(m_text) && (m_title.empty() || m_title == title);
             answered = true;
             ::PostMessageW(box, WM_COMMAND, IDOK, 0);
         }
