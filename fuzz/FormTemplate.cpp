@@ -1,5 +1,5 @@
 // A template of any bytes is read within its bounds, and what comes out can be read again.
-#include "platform/FormTemplate.h"
+#include "forms/FormTemplate.h"
 #include "Input.h"
 
 #include <span>

@@ -1,9 +1,9 @@
 #include "addin/CAddInMenus.h"
 
 #include "addin/RibbonXml.h"
+#include "forms/Messages.h"
 #include "platform/ComObject.h"
 #include "platform/Error.h"
-#include "platform/Messages.h"
 #include "platform/Procedure.h"
 #include "selection/frmSaveTo.h"
 #include "shared/DocumentProperties.h"

@@ -1,7 +1,7 @@
 #include "addin/CController.h"
 
 #include "addin/CAddInMenus.h"
-#include "platform/Messages.h"
+#include "forms/Messages.h"
 #include "platform/Procedure.h"
 
 namespace corvane

@@ -1,7 +1,7 @@
 #include "diagnose/ServerCheck.h"
 
 #include "platform/Owners.h"
-#include "selection/ServerList.h"
+#include "support/ServerList.h"
 #include "webservice/AnswerRules.h"
 #include "webservice/Operations.h"
 #include "webservice/RequestText.h"

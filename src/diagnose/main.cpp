@@ -10,7 +10,7 @@
 #include "platform/ComObject.h"
 #include "platform/Files.h"
 #include "platform/Procedure.h"
-#include "selection/CMRUServers.h"
+#include "support/CMRUServers.h"
 #include "support/Conversions.h"
 #include "support/Policy.h"
 #include "support/Registry.h"

@@ -1,7 +1,7 @@
 // How the deliverable or activity dialog fetches its target and decides whether it may be uploaded.
 #include "dialogs/frmSaveAssignment.h"
 
-#include "platform/FormLayout.h"
+#include "forms/FormLayout.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
 #include "support/Conversions.h"

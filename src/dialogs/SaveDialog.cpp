@@ -1,9 +1,9 @@
 #include "dialogs/SaveDialog.h"
 
-#include "platform/Messages.h"
+#include "forms/Messages.h"
+#include "forms/WindCloseBtn.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
-#include "selection/WindCloseBtn.h"
 #include "selection/frmSaveTo.h"
 #include "shared/ClientEvents.h"
 #include "shared/DocumentProperties.h"

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "dialogs/UploadMessages.h"
+#include "forms/Form.h"
 #include "platform/Error.h"
-#include "platform/Form.h"
 #include "platform/LateBound.h"
 #include "shared/DocumentBinding.h"
 #include "shared/NotificationTexts.h"

@@ -1,8 +1,8 @@
 // The one flow by which every save dialog saves a document, and the notification behind it.
 #include "dialogs/SaveDialog.h"
 
+#include "forms/Messages.h"
 #include "platform/MessageLoop.h"
-#include "platform/Messages.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
 #include "shared/ClientEvents.h"

@@ -1,6 +1,6 @@
 #include "dialogs/frmSaveAssignment.h"
 
-#include "platform/Messages.h"
+#include "forms/Messages.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
 #include "selection/frmSaveTo.h"

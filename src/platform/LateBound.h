@@ -11,7 +11,8 @@ namespace corvane
 {
 
 // Holds one reference to an Automation object. Every call throws Error: the object's own (number, source,
-// description) when it raised one, number 91 when there is no object; a source that the object leaves out is the member.
+// description) when it raised one, number 91 when there is no object; a source that the object leaves out is the
+// member.
 class LateBound
 {
 public:

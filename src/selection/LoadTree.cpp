@@ -1,8 +1,8 @@
 // How the window of the target tree fetches the tree: the limit of entries, the filter that it forces, the icons.
 #include "selection/frmSaveTo.h"
 
+#include "forms/Messages.h"
 #include "platform/Files.h"
-#include "platform/Messages.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
 #include "webservice/Transfer.h"

@@ -1,7 +1,7 @@
 #include "selection/TreeImages.h"
 
+#include "forms/FormLayout.h"
 #include "platform/ComObject.h"
-#include "platform/FormLayout.h"
 #include "platform/HResult.h"
 #include "platform/Variant.h"
 #include "resources/resource.h"

@@ -1,7 +1,7 @@
 // The window that shows progress while a save dialog is being opened.
 #pragma once
 
-#include "platform/Form.h"
+#include "forms/Form.h"
 #include "platform/LateBound.h"
 
 #include <array>

@@ -1,6 +1,6 @@
 #include "selection/frmFilter.h"
 
-#include "platform/FormLists.h"
+#include "forms/FormLists.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
 #include "support/Conversions.h"

@@ -1,8 +1,8 @@
 // The window in which the user narrows the tree by project class and name.
 #pragma once
 
+#include "forms/Form.h"
 #include "platform/Error.h"
-#include "platform/Form.h"
 #include "selection/FilterState.h"
 
 #include <optional>

@@ -1,7 +1,7 @@
 #include "selection/frmSaveTo.h"
 
-#include "platform/FormLists.h"
-#include "platform/Messages.h"
+#include "forms/FormLists.h"
+#include "forms/Messages.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
 #include "support/CCustomNames.h"

@@ -1,12 +1,12 @@
 // The window in which the user picks a server and the target of a save.
 #pragma once
 
-#include "platform/Form.h"
-#include "selection/CMRUServers.h"
+#include "forms/Form.h"
 #include "selection/FilterState.h"
 #include "selection/TargetTree.h"
 #include "selection/TreeCaptions.h"
 #include "selection/frmFilter.h"
+#include "support/CMRUServers.h"
 
 #include <functional>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "shared/ClientEvents.h"
 
-#include "platform/Messages.h"
+#include "forms/Messages.h"
 #include "platform/Procedure.h"
 #include "shared/DocumentProperties.h"
 #include "shared/HostVersion.h"

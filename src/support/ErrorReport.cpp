@@ -1,6 +1,6 @@
 #include "support/ErrorReport.h"
 
-#include "platform/Messages.h"
+#include "forms/Messages.h"
 #include "platform/Procedure.h"
 #include "support/CTraceLog.h"
 

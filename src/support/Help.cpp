@@ -1,8 +1,8 @@
 #include "support/Help.h"
 
+#include "forms/Messages.h"
 #include "platform/Files.h"
 #include "platform/HResult.h"
-#include "platform/Messages.h"
 #include "platform/Owners.h"
 #include "platform/Procedure.h"
 #include "platform/SystemLibrary.h"

@@ -1,7 +1,7 @@
 // The About box.
 #pragma once
 
-#include "platform/Form.h"
+#include "forms/Form.h"
 #include "platform/Owners.h"
 
 namespace corvane

@@ -127,9 +127,9 @@ HRESULT CallSlot(const corvane::LateBound& object, std::size_t slot, Arguments..
 TEST_F(Script, WritesAndReadsThePropertiesOfAButton)
 {
     const auto button = Object(CLSID_CRbnBtnInfo);
-    const wchar_t* const properties[] = {L"ID",       L"Label",        L"ImageMso",    L"Screentip",
-                                         L"Supertip", L"GetEnabled",   L"GetLabel",    L"GetSupertip",
-                                         L"GetScreentip", L"OnAction", L"Description", L"Size"};
+    const wchar_t* const properties[] = {L"ID",           L"Label",      L"ImageMso",    L"Screentip",
+                                         L"Supertip",     L"GetEnabled", L"GetLabel",    L"GetSupertip",
+                                         L"GetScreentip", L"OnAction",   L"Description", L"Size"};
     const auto all = [&] {
         std::wstring text;
         for (const wchar_t* name : properties)
@@ -204,7 +204,8 @@ TEST_F(Script, CallsBackIntoAConnectionBySlot)
         EXPECT_EQ(CallSlot(connection, slot, none, static_cast<BSTR*>(nullptr)), E_POINTER);
     const auto tells = [](const std::wstring& failing, auto&& call) {
         const MessageBoxAnswer box{L"ERROR\r\nNumber: 91\r\nDescription: Object variable or With block variable not set"
-                                   L"\r\nSource: " + failing};
+                                   L"\r\nSource: " +
+                                   failing};
         EXPECT_EQ(call(), S_OK);
         EXPECT_TRUE(box.Appeared()) << testing::PrintToString(failing);
     };

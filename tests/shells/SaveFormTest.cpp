@@ -4,8 +4,8 @@
 #include "OfferedClass.h"
 
 #include "dialogs/frmSaveAssignment.h"
+#include "forms/FormLayout.h"
 #include "platform/ComObject.h"
-#include "platform/FormLayout.h"
 #include "resources/resource.h"
 #include "support/CCustomNames.h"
 #include "webservice/WebService.h"

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "app/HostFacts.h"
-#include "scenario/Script.h"
+#include "player/Script.h"
 
 namespace host
 {

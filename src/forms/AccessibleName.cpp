@@ -1,4 +1,4 @@
-#include "platform/AccessibleName.h"
+#include "forms/AccessibleName.h"
 
 #include "platform/Owners.h"
 

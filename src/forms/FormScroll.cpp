@@ -1,4 +1,4 @@
-#include "platform/FormScroll.h"
+#include "forms/FormScroll.h"
 
 #include <commctrl.h>
 

@@ -1,13 +1,13 @@
-#include "platform/FormTips.h"
+#include "forms/FormTips.h"
 
-#include "platform/AccessibleName.h"
-#include "platform/FormCaption.h"
-#include "platform/FormLayout.h"
-#include "platform/FormLists.h"
-#include "platform/FormWindow.h"
-#include "platform/ShownBox.h"
-#include "platform/ShownText.h"
-#include "platform/TextRuler.h"
+#include "forms/AccessibleName.h"
+#include "forms/FormCaption.h"
+#include "forms/FormLayout.h"
+#include "forms/FormLists.h"
+#include "forms/FormWindow.h"
+#include "forms/ShownBox.h"
+#include "forms/ShownText.h"
+#include "forms/TextRuler.h"
 
 #include <commctrl.h>
 

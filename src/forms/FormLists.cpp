@@ -1,6 +1,6 @@
-#include "platform/FormLists.h"
+#include "forms/FormLists.h"
 
-#include "platform/TextRuler.h"
+#include "forms/TextRuler.h"
 
 #include <commctrl.h>
 

@@ -1,4 +1,4 @@
-#include "platform/FormPlacement.h"
+#include "forms/FormPlacement.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 // What forms do with their controls.
-#include "platform/Form.h"
-#include "platform/FormWindow.h"
+#include "forms/Form.h"
+#include "forms/FormWindow.h"
 
 #include <commctrl.h>
 

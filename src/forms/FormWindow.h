@@ -1,7 +1,7 @@
 // How a form's window comes into being: its window class, its template in the user's font, its place on the screen.
 #pragma once
 
-#include "platform/FormPlacement.h"
+#include "forms/FormPlacement.h"
 
 #include <windows.h>
 

@@ -1,9 +1,9 @@
-#include "selection/CMRUServers.h"
+#include "support/CMRUServers.h"
 
 #include "platform/Procedure.h"
-#include "selection/ServerList.h"
 #include "support/Policy.h"
 #include "support/Registry.h"
+#include "support/ServerList.h"
 
 namespace corvane
 {

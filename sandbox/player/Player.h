@@ -9,8 +9,8 @@
 #include <commctrl.h>
 
 #include "app/Host.h"
+#include "player/Script.h"
 #include "player/Usage.h"
-#include "scenario/Script.h"
 
 namespace host
 {

@@ -1,7 +1,7 @@
-#include "platform/FormCaption.h"
+#include "forms/FormCaption.h"
 
+#include "forms/TextRuler.h"
 #include "platform/Owners.h"
-#include "platform/TextRuler.h"
 
 namespace corvane
 {

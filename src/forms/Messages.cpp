@@ -1,6 +1,6 @@
-#include "platform/Messages.h"
+#include "forms/Messages.h"
 
-#include "platform/Form.h"
+#include "forms/Form.h"
 
 namespace corvane
 {

@@ -1,4 +1,4 @@
-#include "platform/FormLayout.h"
+#include "forms/FormLayout.h"
 
 #include "platform/Owners.h"
 

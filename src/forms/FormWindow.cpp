@@ -1,9 +1,9 @@
-#include "platform/FormWindow.h"
+#include "forms/FormWindow.h"
 
+#include "forms/FormLayout.h"
+#include "forms/FormLists.h"
+#include "forms/FormTemplate.h"
 #include "platform/ComObject.h"
-#include "platform/FormLayout.h"
-#include "platform/FormLists.h"
-#include "platform/FormTemplate.h"
 #include "platform/HResult.h"
 #include "resources/resource.h"
 

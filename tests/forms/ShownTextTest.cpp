@@ -1,4 +1,4 @@
-#include "platform/ShownText.h"
+#include "forms/ShownText.h"
 
 #include <gtest/gtest.h>
 

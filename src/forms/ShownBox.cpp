@@ -1,9 +1,9 @@
-#include "platform/ShownBox.h"
+#include "forms/ShownBox.h"
 
-#include "platform/FormWindow.h"
+#include "forms/FormWindow.h"
+#include "forms/TextRuler.h"
 #include "platform/Owners.h"
 #include "platform/Procedure.h"
-#include "platform/TextRuler.h"
 
 #include <commctrl.h>
 

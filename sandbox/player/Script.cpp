@@ -1,4 +1,4 @@
-#include "scenario/Script.h"
+#include "player/Script.h"
 
 #include <algorithm>
 #include <cctype>

@@ -1,4 +1,4 @@
-#include "platform/TextRuler.h"
+#include "forms/TextRuler.h"
 
 namespace corvane
 {

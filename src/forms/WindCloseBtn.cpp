@@ -1,4 +1,4 @@
-#include "selection/WindCloseBtn.h"
+#include "forms/WindCloseBtn.h"
 
 #include "platform/MessageLoop.h"
 #include "platform/Procedure.h"

@@ -2,8 +2,8 @@
 // everything the system calls it with. It knows no particular form.
 #pragma once
 
-#include "platform/FormScroll.h"
-#include "platform/FormTips.h"
+#include "forms/FormScroll.h"
+#include "forms/FormTips.h"
 
 #include <windows.h>
 

@@ -1,7 +1,7 @@
 // Forms larger than the screen: the window is cut to a size that fits and scrolls.
 #pragma once
 
-#include "platform/FormPlacement.h"
+#include "forms/FormPlacement.h"
 
 #include <windows.h>
 

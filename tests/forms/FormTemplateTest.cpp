@@ -1,4 +1,4 @@
-#include "platform/FormTemplate.h"
+#include "forms/FormTemplate.h"
 
 #include <gtest/gtest.h>
 

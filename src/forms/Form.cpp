@@ -1,8 +1,8 @@
-#include "platform/Form.h"
+#include "forms/Form.h"
 
-#include "platform/FormWindow.h"
+#include "forms/FormWindow.h"
+#include "forms/Messages.h"
 #include "platform/MessageLoop.h"
-#include "platform/Messages.h"
 #include "platform/Procedure.h"
 
 #include <windowsx.h>

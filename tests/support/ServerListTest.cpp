@@ -1,4 +1,4 @@
-#include "selection/ServerList.h"
+#include "support/ServerList.h"
 
 #include <gtest/gtest.h>
 
