@@ -24,8 +24,8 @@ class Desk:
         with os.fdopen(reading) as answer:
             display = ":" + answer.readline().strip()
         self.environment = dict(os.environ, CORVANE_WINEPREFIX=str(self.path), WINEPREFIX=str(self.path), DISPLAY=display,
-                                WINEDEBUG="-all", WINEDLLOVERRIDES="mscoree,mshtml=;winedbg.exe=d", PATH=path.strip(),
-                                WINEARCH="win64")
+                                WINEDEBUG="-all", WINEDLLOVERRIDES="mscoree,mshtml=;winedbg.exe=d", LC_ALL="C.UTF-8",
+                                PATH=path.strip(), WINEARCH="win64")
         self.renew() if fresh else self.prepare()
 
     def prepare(self):
