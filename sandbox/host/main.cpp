@@ -10,9 +10,9 @@
 #include <ole2.h>
 #include <shellapi.h>
 
-#include "app/Console.h"
 #include "app/Host.h"
 #include "automation/Text.h"
+#include "base/Console.h"
 #include "documents/Files.h"
 #include "player/Player.h"
 

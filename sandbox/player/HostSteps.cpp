@@ -2,12 +2,12 @@
 #include <optional>
 #include <stdexcept>
 
-#include "app/Console.h"
-#include "app/Registry.h"
-#include "automation/PropertyValue.h"
 #include "automation/Text.h"
+#include "base/Console.h"
+#include "base/Registry.h"
 #include "documents/Files.h"
 #include "objects/DocumentObject.h"
+#include "objects/PropertyValue.h"
 #include "player/Player.h"
 #include "player/Screen.h"
 #include "player/Screenshot.h"

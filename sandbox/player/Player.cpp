@@ -4,8 +4,8 @@
 #include <chrono>
 #include <stdexcept>
 
-#include "app/Console.h"
 #include "automation/Text.h"
+#include "base/Console.h"
 #include "documents/Files.h"
 #include "player/Screen.h"
 

@@ -7,8 +7,8 @@
 
 #include "FakeAddIn.h"
 #include "TemporaryFolder.h"
-#include "app/Registry.h"
 #include "automation/Text.h"
+#include "base/Registry.h"
 #include "documents/Files.h"
 
 namespace host

@@ -1,7 +1,7 @@
 // The hosts and the states of a document that a save is tried in, and where each leaves it.
 #pragma once
 
-#include "app/Options.h"
+#include "base/Options.h"
 
 enum Hosts : unsigned
 {

@@ -1,7 +1,7 @@
 // Classes of the system replaced in this process.
 #pragma once
 
-#include "app/ClassObject.h"
+#include "automation/ClassObject.h"
 
 #include <objbase.h>
 #include <utility>

@@ -1,7 +1,7 @@
 // Requests whose transport fails in ways that only real Windows shows, and waits that end early.
 #include "FakeRequest.h"
 #include "OfferedClass.h"
-#include "app/OfferedClass.h"
+#include "automation/OfferedClass.h"
 #include "objects/Companions.h"
 
 #include "platform/Files.h"

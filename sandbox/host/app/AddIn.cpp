@@ -1,8 +1,8 @@
 #include "app/AddIn.h"
 
-#include "app/Console.h"
-#include "app/Registry.h"
 #include "automation/Text.h"
+#include "base/Console.h"
+#include "base/Registry.h"
 #include "documents/Files.h"
 #include "objects/Application.h"
 #include "objects/Session.h"
@@ -14,7 +14,6 @@ namespace host
 namespace
 {
 
-constexpr int kRibbonVersion = 12;
 constexpr DWORD kFailedLoadBehavior = 2;
 constexpr LONG kHostShutdown = 0;
 constexpr long kConnectAtStart = 1;
@@ -98,7 +97,7 @@ void AddIn::Load()
         Create();
         Connect();
         m_state = AddInState::Connected;
-        if (m_session.Settings().MajorVersion() >= kRibbonVersion) ReadRibbonXml();
+        if (m_session.Settings().Edition() != Edition::Menus) ReadRibbonXml();
         CustomArray custom;
         if (m_session.Settings().connectMode == kConnectAtStart)
             ThrowIfFailed(m_extensibility->OnStartupComplete(custom.Get()), L"OnStartupComplete failed");

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "app/ClassLoader.h"
-#include "app/HostFacts.h"
+#include "automation/ClassLoader.h"
 #include "automation/OfficeInterfaces.h"
+#include "base/HostFacts.h"
 #include "objects/ComAddIn.h"
 #include "objects/RibbonObjects.h"
 #include "ribbon/Ribbon.h"

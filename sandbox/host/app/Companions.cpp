@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "app/Registry.h"
+#include "base/Registry.h"
 #include "objects/HttpRequestObject.h"
 
 namespace host

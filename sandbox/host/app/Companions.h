@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "app/OfferedClass.h"
-#include "app/Options.h"
+#include "automation/OfferedClass.h"
+#include "base/Options.h"
 #include "objects/Companions.h"
 
 namespace host

@@ -2,8 +2,8 @@
 
 #include <commdlg.h>
 
-#include "app/Console.h"
 #include "automation/Text.h"
+#include "base/Console.h"
 #include "objects/CommandBars.h"
 #include "objects/DocumentObject.h"
 #include "ui/MailWindow.h"
@@ -14,7 +14,6 @@ namespace host
 namespace
 {
 
-constexpr int kRibbonVersion = 12;
 constexpr wchar_t kControllerProgId[] = L"CorvaneMSOfficePowerPoint.CController";
 
 // The path that the user picks, or an empty text.
@@ -101,7 +100,7 @@ bool Host::HasCommand(const std::string& name) const
     for (const auto& addIn : m_addIns)
         if (addIn->Contribution() && addIn->Contribution()->Find(name)) return true;
     auto& bars = const_cast<Session&>(m_session).CommandBars();
-    return m_session.Settings().MajorVersion() < kRibbonVersion && bars.MenuBar().FindTag(Widen(name));
+    return m_session.Settings().Edition() == Edition::Menus && bars.MenuBar().FindTag(Widen(name));
 }
 
 void Host::Press(const std::string& name)

@@ -52,7 +52,7 @@ public:
     [[nodiscard]] const MailFields* LastMail() const { return m_companions->LastMail(); }
     [[nodiscard]] bool IsLoaded() const { return m_loaded; }
     [[nodiscard]] const HostFacts& Facts() const { return m_session.Facts(); }
-    [[nodiscard]] int Version() const { return m_session.Settings().MajorVersion(); }
+    [[nodiscard]] host::Edition Edition() const { return m_session.Settings().Edition(); }
 
     // The command is a ribbon control's id or, on command bars, an entry's tag.
     [[nodiscard]] bool HasCommand(const std::string& name) const;

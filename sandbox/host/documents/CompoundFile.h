@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "app/HostFacts.h"
+#include "base/HostFacts.h"
 #include "package/DocumentContents.h"
 
 namespace host

@@ -17,7 +17,6 @@ namespace
 {
 
 constexpr char kFinalMark[] = "_MarkAsFinal";
-constexpr int kRibbonVersion = 12; // knows the final mark, and extensions that belong to formats
 
 struct BuiltInProperty
 {
@@ -131,7 +130,7 @@ std::wstring Document::CheckedPath(const std::wstring& path, const SaveFormat& f
     if (!IsUsableName(path)) Refuse(m_host.kind, Refusal::WrongName, path);
     const std::wstring extension = Extension(path);
     const bool other = extension != format.extension && IsKnownExtension(m_host.kind, extension);
-    if (other && m_host.kind == HostKind::Excel && m_host.major >= kRibbonVersion)
+    if (other && m_host.kind == HostKind::Excel && EditionOf(m_host.major) >= Edition::OfficeButton)
         Refuse(m_host.kind, Refusal::WrongExtension, path);
     std::wstring full = FullPath(extension.empty() ? path + L"." + format.extension : path);
     if (full.size() > FactsOf(m_host.kind).pathLimit) Refuse(m_host.kind, Refusal::WrongName, full);
@@ -159,7 +158,8 @@ void Document::ShowAs(const std::wstring& address)
 bool Document::IsFinal() const
 {
     const auto found = std::ranges::find(m_contents.custom, kFinalMark, &CustomProperty::name);
-    return m_host.major >= kRibbonVersion && found != m_contents.custom.end() && found->value == "true";
+    return EditionOf(m_host.major) >= Edition::OfficeButton && found != m_contents.custom.end() &&
+           found->value == "true";
 }
 
 void Document::SetFinal(bool final)

@@ -5,7 +5,7 @@
 #include <cwctype>
 #include <thread>
 
-#include "app/Console.h"
+#include "base/Console.h"
 
 namespace host
 {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "app/HostFacts.h"
 #include "automation/AutomationError.h"
+#include "base/HostFacts.h"
 
 namespace host
 {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "app/HostFacts.h"
+#include "base/HostFacts.h"
 
 namespace host
 {

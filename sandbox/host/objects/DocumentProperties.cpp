@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "automation/OfficeInterfaces.h"
-#include "automation/PropertyValue.h"
 #include "automation/Text.h"
 #include "objects/Collections.h"
+#include "objects/PropertyValue.h"
 #include "objects/Session.h"
 
 namespace host

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/HostFacts.h"
 #include "automation/AutomationObject.h"
+#include "base/HostFacts.h"
 
 namespace host
 {

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "app/Options.h"
 #include "automation/AutomationObject.h"
+#include "base/Options.h"
 #include "documents/Document.h"
 #include "objects/HostModel.h"
 

@@ -3,7 +3,7 @@
 #include <span>
 #include <string_view>
 
-#include "app/HostFacts.h"
+#include "base/HostFacts.h"
 #include "package/Zip.h"
 
 namespace host

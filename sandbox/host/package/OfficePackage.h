@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/HostFacts.h"
+#include "base/HostFacts.h"
 #include "package/CustomProperty.h"
 #include "package/Zip.h"
 

@@ -1,8 +1,11 @@
 #include "ribbon/RibbonRules.h"
 
 #include <algorithm>
+#include <optional>
 #include <set>
 #include <stdexcept>
+
+#include "base/HostFacts.h"
 
 namespace host
 {
@@ -11,7 +14,6 @@ namespace
 
 constexpr std::string_view kNamespace2007 = "http://schemas.microsoft.com/office/2006/01/customui";
 constexpr std::string_view kNamespace2010 = "http://schemas.microsoft.com/office/2009/07/customui";
-constexpr int kBackstageVersion = 14;
 constexpr std::size_t kLongestText = 1024;
 constexpr std::size_t kLongestDescription = 4096;
 
@@ -36,26 +38,19 @@ enum Attributes : unsigned
     kMenu = kControl | kPicture | kTips | kState | kItemSize,
 };
 
-enum class Edition
-{
-    Any,
-    Office2007,
-    Office2010
-};
-
 // An element by its path from the root, and the edition that has it and all below it. One without an id stands there
 // once.
 struct ElementRule
 {
     std::string_view path;
     unsigned attributes;
-    Edition edition = Edition::Any;
+    std::optional<Edition> edition{}; // the one whose schema alone knows it
 };
 
 constexpr ElementRule kElements[] = {
     {"/customUI", kLoad},
     {"/customUI/ribbon", kNone},
-    {"/customUI/ribbon/officeMenu", kNone, Edition::Office2007},
+    {"/customUI/ribbon/officeMenu", kNone, Edition::OfficeButton},
     {"/customUI/ribbon/officeMenu/menu", kMenu | kTitle},
     {"/customUI/ribbon/officeMenu/menu/button", kButton},
     {"/customUI/ribbon/tabs", kNone},
@@ -64,7 +59,7 @@ constexpr ElementRule kElements[] = {
     {"/customUI/ribbon/tabs/tab/group/menu", kMenu | kDescription | kSize},
     {"/customUI/ribbon/tabs/tab/group/menu/button", kButton},
     {"/customUI/ribbon/tabs/tab/group/button", kButton | kSize},
-    {"/customUI/backstage", kNone, Edition::Office2010},
+    {"/customUI/backstage", kNone, Edition::Backstage},
     {"/customUI/backstage/tab", kControl | kState},
     {"/customUI/backstage/tab/firstColumn", kNone},
     {"/customUI/backstage/tab/firstColumn/taskGroup", kControl},
@@ -156,8 +151,8 @@ public:
         DeclarePrefixes(element);
         const std::string path = above + '/' + std::string{element.LocalName()};
         const auto rule = std::ranges::find(kElements, path, &ElementRule::path);
-        const Edition edition = m_space == kNamespace2007 ? Edition::Office2007 : Edition::Office2010;
-        const bool known = rule != std::end(kElements) && (rule->edition == Edition::Any || rule->edition == edition);
+        const Edition edition = m_space == kNamespace2007 ? Edition::OfficeButton : Edition::Backstage;
+        const bool known = rule != std::end(kElements) && rule->edition.value_or(edition) == edition;
         if (!known || NamespaceOf(SplitName(element.name).first) != m_space) Refuse(path + " has no place there");
         if (element.text.find_first_not_of(" \t\r\n") != std::string::npos) Refuse("words inside of " + path);
         CheckAttributes(element, *rule);
@@ -245,7 +240,8 @@ void CheckRibbon(const XmlElement& root, int hostVersion)
 {
     const std::string_view prefix = SplitName(root.name).first;
     const std::string space = root.Attribute(prefix.empty() ? "xmlns" : "xmlns:" + std::string{prefix});
-    const bool known = space == kNamespace2007 || (hostVersion >= kBackstageVersion && space == kNamespace2010);
+    const bool known =
+        space == kNamespace2007 || (EditionOf(hostVersion) >= Edition::Backstage && space == kNamespace2010);
     if (!known) Refuse("the namespace \"" + space + "\" is not known to this version");
     Checker{space}.Check(root, "");
 }

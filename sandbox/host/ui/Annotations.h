@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "app/ClassObject.h"
+#include "automation/ClassObject.h"
 
 namespace host
 {

@@ -13,8 +13,6 @@ namespace
 {
 
 constexpr wchar_t kClassName[] = L"CorvaneHostWindow";
-constexpr int kRibbonVersion = 12;
-constexpr int kBackstageVersion = 14;
 constexpr WORD kIconId = 1;
 
 std::wstring ProductName(const Host& host) { return std::wstring{host.Facts().product} + L" (stand-in)"; }
@@ -63,7 +61,7 @@ void MainWindow::Refresh()
     const std::wstring product = ProductName(m_host);
     const std::wstring title = active ? active->File().Name() + L" - " + product : product;
     ::SetWindowTextW(m_window, title.c_str());
-    if (m_host.Version() < kRibbonVersion) RebuildMenuBar();
+    if (m_host.Edition() == Edition::Menus) RebuildMenuBar();
     Layout();
 }
 
@@ -106,7 +104,7 @@ bool MainWindow::ShowPage(const std::wstring& page)
         return true;
     }
     if (page == L"File") {
-        if (m_host.Version() >= kBackstageVersion)
+        if (m_host.Edition() == Edition::Backstage)
             OpenBackstage({});
         else
             m_host.Queue().Post([this] { OpenFileMenu(); }); // it returns when the menu closes
@@ -208,7 +206,7 @@ void MainWindow::OpenRibbonMenu(const SceneItem& item)
 void MainWindow::OpenFileMenu()
 {
     const Menu menu;
-    if (m_host.Version() >= kRibbonVersion) {
+    if (m_host.Edition() != Edition::Menus) {
         m_menus.Clear();
         m_menus.FillOfficeMenu(menu.Get());
         return TrackMenu(menu.Get(), m_scene.items.front().box);

@@ -10,8 +10,6 @@ namespace host
 namespace
 {
 
-constexpr int kRibbonVersion = 12;
-constexpr int kBackstageVersion = 14;
 constexpr int kStripHeight = 32;
 constexpr int kPanelHeight = 104;
 constexpr int kGroupLabelHeight = 20;
@@ -45,17 +43,17 @@ public:
         : m_host{host}, m_view{view}, m_theme{theme}, m_size{size}
     {}
 
-    Scene Build(int version)
+    Scene Build(Edition edition)
     {
         m_scene.content = {0, 0, m_size.cx, m_size.cy};
-        m_scene.ribbon = version >= kRibbonVersion;
+        m_scene.ribbon = edition != Edition::Menus;
         if (!m_scene.ribbon) return std::move(m_scene);
         m_scene.backstage = m_view.backstage;
         if (m_scene.backstage) {
             BuildNavigation();
             BuildTasks();
         } else {
-            BuildStrip(version);
+            BuildStrip(edition);
             BuildPanel();
         }
         return std::move(m_scene);
@@ -88,9 +86,9 @@ private:
         m_x += width;
     }
 
-    void BuildStrip(int version)
+    void BuildStrip(Edition edition)
     {
-        if (version >= kBackstageVersion) {
+        if (edition == Edition::Backstage) {
             AddTab(ItemKind::FileTab, L"File", {}, false);
         } else {
             SceneItem button{.kind = ItemKind::OfficeButton, .label = L"P"};
@@ -244,7 +242,7 @@ bool IsEnabled(const AddIn& addIn, const RibbonControl& control)
 
 Scene BuildScene(const Host& host, const ViewState& view, const Theme& theme, SIZE size)
 {
-    return Layout{host, view, theme, size}.Build(host.Version());
+    return Layout{host, view, theme, size}.Build(host.Edition());
 }
 
 } // namespace host

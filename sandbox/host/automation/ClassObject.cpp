@@ -1,4 +1,4 @@
-#include "app/ClassObject.h"
+#include "automation/ClassObject.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "automation/PropertyValue.h"
+#include "objects/PropertyValue.h"
 
 #include <cstdio>
 #include <iterator>

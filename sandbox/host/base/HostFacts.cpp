@@ -1,4 +1,4 @@
-#include "app/HostFacts.h"
+#include "base/HostFacts.h"
 
 #include <algorithm>
 #include <iterator>

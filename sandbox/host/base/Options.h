@@ -1,16 +1,18 @@
+// What the command line asks for.
 #pragma once
 
 #include <map>
 #include <string>
 #include <vector>
 
-#include "app/HostFacts.h"
-#include "player/Script.h"
+#include "base/HostFacts.h"
 
 namespace host
 {
 
-// What the command line asks for. Texts of settings are UTF-8, as scenarios are.
+// Texts are UTF-8, as scenarios are.
+using Settings = std::map<std::string, std::string, std::less<>>;
+
 struct Options
 {
     HostKind host = HostKind::PowerPoint;
@@ -22,6 +24,7 @@ struct Options
 
     // The number before the first point of the version.
     [[nodiscard]] int MajorVersion() const;
+    [[nodiscard]] host::Edition Edition() const { return EditionOf(MajorVersion()); }
 
     // A setting's value, or an empty text.
     [[nodiscard]] std::string Setting(std::string_view name) const;

@@ -1,3 +1,4 @@
+// What the hosts that the stand-in can be are called, and where that is all that differs.
 #pragma once
 
 #include <cstddef>
@@ -14,6 +15,21 @@ enum class HostKind
     Excel,
     Outlook,
 };
+
+// The generations of Office, by what shows an add-in's commands. The formats of Open XML and the mark of a final
+// document came with the Office button.
+enum class Edition
+{
+    Menus,
+    OfficeButton,
+    Backstage,
+};
+
+[[nodiscard]] constexpr Edition EditionOf(int majorVersion) noexcept
+{
+    if (majorVersion < 12) return Edition::Menus;
+    return majorVersion < 14 ? Edition::OfficeButton : Edition::Backstage;
+}
 
 // What a host is called and calls things, wherever that is all that differs.
 struct HostFacts

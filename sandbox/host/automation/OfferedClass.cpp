@@ -1,6 +1,6 @@
-#include "app/OfferedClass.h"
+#include "automation/OfferedClass.h"
 
-#include "app/Registry.h"
+#include "base/Registry.h"
 
 namespace host
 {

@@ -3,8 +3,8 @@
 #include <functional>
 #include <string>
 
-#include "app/ClassObject.h"
 #include "automation/AutomationObject.h"
+#include "automation/ClassObject.h"
 
 namespace host
 {

@@ -1,7 +1,7 @@
-#include "app/ClassLoader.h"
+#include "automation/ClassLoader.h"
 
-#include "app/Console.h"
-#include "app/Registry.h"
+#include "base/Console.h"
+#include "base/Registry.h"
 
 namespace host
 {

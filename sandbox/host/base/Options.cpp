@@ -1,4 +1,4 @@
-#include "app/Options.h"
+#include "base/Options.h"
 
 #include <cwchar>
 #include <stdexcept>
