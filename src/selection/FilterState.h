@@ -34,21 +34,6 @@ struct FilterOutcome
 
 // More projects than this force the filter.
 inline constexpr int kEntryLimit = 500;
-
-enum class LimitStep
-{
-    Proceed,    // few enough: build the tree
-    AskAgain,   // the filter changed: count again
-    GiveUp,     // the filter was cancelled or left as it was
-    ForceFilter // too many: show the filter
-};
-
-// What follows a count of projects; the outcome is that of the forced filter, or null before it was shown.
-[[nodiscard]] constexpr LimitStep NextLimitStep(std::size_t projects, const FilterOutcome* forced) noexcept
-{
-    if (projects <= kEntryLimit) return LimitStep::Proceed;
-    if (forced == nullptr) return LimitStep::ForceFilter;
-    return forced->canceled || !forced->changed ? LimitStep::GiveUp : LimitStep::AskAgain;
-}
+[[nodiscard]] constexpr bool ForcesFilter(std::size_t projects) noexcept { return projects > kEntryLimit; }
 
 } // namespace corvane

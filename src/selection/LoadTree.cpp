@@ -38,18 +38,11 @@ XmlDocument frmSaveTo::QueryTree() const
 bool frmSaveTo::CheckEntryCount()
 {
     const ProcedureScope scope{L"frmSaveTo.CheckEntryCount"};
-    for (;;) {
-        const std::size_t projects = QueryTree().Select(L"//project").size();
-        if (!IsWanted()) return false;
-        LimitStep step = NextLimitStep(projects, nullptr);
-        if (step == LimitStep::ForceFilter) {
-            ShowFilter(true);
-            if (!IsWanted()) return false;
-            step = NextLimitStep(projects, &m_filter->Outcome());
-        }
-        if (step == LimitStep::Proceed) return true;
-        if (step == LimitStep::GiveUp) return false;
+    while (ForcesFilter(QueryTree().Select(L"//project").size())) {
+        if (IsWanted()) ShowFilter(true);
+        if (!IsWanted() || !FilterChanged) return false;
     }
+    return IsWanted();
 }
 
 void frmSaveTo::ShowFilter(bool forced)

@@ -1,7 +1,6 @@
 #include "selection/FilterState.h"
 
 #include <gtest/gtest.h>
-#include <optional>
 
 namespace corvane
 {
@@ -38,27 +37,11 @@ TEST(FilterState, IsActiveWhenItNarrowsAndChangedAgainstTheLastAppliedOne)
     }
 }
 
-struct LimitCase
-{
-    const char* name;
-    std::size_t projects;
-    std::optional<FilterOutcome> forced;
-    LimitStep expected;
-};
-
+// What follows a forced filter is in the scenario too-many-projects.
 TEST(FilterState, IsForcedByMoreThanFiveHundredProjects)
 {
-    constexpr LimitCase kCases[] = {
-        {"NoProject", 0, std::nullopt, LimitStep::Proceed},
-        {"AtTheLimit", 500, std::nullopt, LimitStep::Proceed},
-        {"PastTheLimit", 501, std::nullopt, LimitStep::ForceFilter},
-        {"FilterChanged", 501, FilterOutcome{true, true, false}, LimitStep::AskAgain},
-        {"FilterClearedAgain", 501, FilterOutcome{false, true, false}, LimitStep::AskAgain},
-        {"FilterLeftAsItWas", 501, FilterOutcome{true, false, false}, LimitStep::GiveUp},
-        {"FilterCancelled", 501, FilterOutcome{true, false, true}, LimitStep::GiveUp},
-    };
-    for (const auto& [name, projects, forced, expected] : kCases)
-        EXPECT_EQ(NextLimitStep(projects, forced ? &*forced : nullptr), expected) << name;
+    EXPECT_FALSE(ForcesFilter(500));
+    EXPECT_TRUE(ForcesFilter(501));
 }
 
 } // namespace corvane
