@@ -9,13 +9,13 @@ void Fuzz(Input& input)
     constexpr std::int32_t kLargest = 2147483647;
     std::wstring key;
     std::int32_t id = 0;
-    for (const TreeLevel& level : TreeLevels(mode))
+    for (const TreeLevel& level : TreeKindOf(mode).levels)
         key = NodeKey(key, level, std::to_wstring(id = input.Number(0, kLargest)));
     const auto target = TargetOfKey(mode, key);
     Require(target.has_value());
     const std::int32_t last = mode == TreeMode::Assignment     ? target->activityId
                               : mode == TreeMode::GateDocument ? target->gateDocumentId
-                                                               : target->relatedDocId;
+                                                               : target->relatedFileId;
     Require(last == id);
     static_cast<void>(TargetOfKey(mode, input.Rest()));
 }

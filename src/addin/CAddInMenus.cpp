@@ -151,11 +151,7 @@ void CAddInMenus::Save(const SaveCommand& command, frmBusy& busy)
     if (!command.hasTarget(m_binding)) return;
     busy.lMethodType = command.methodType;
     busy.sServer = m_binding.server;
-    busy.lProjectID = m_binding.projectId;
-    busy.lDeliverableID = m_binding.deliverableId;
-    busy.lActivityID = m_binding.activityId;
-    busy.lRelatedDocID = m_binding.relatedFileId;
-    busy.lGateDocID = m_binding.gateDocumentId;
+    busy.target = TargetIn(static_cast<TreeMode>(command.dialogType), m_binding);
     busy.oApplication = m_oApplication;
     busy.ShowModal();
 }
@@ -172,18 +168,10 @@ void CAddInMenus::PickTarget(const SaveCommand& command)
     frmSaveTo tree;
     tree.DialogType = command.dialogType;
     tree.ServerURL = start.server;
-    tree.ProjectID = start.projectId;
-    tree.DeliverableID = start.deliverableId;
-    tree.ActivityID = start.activityId;
-    tree.RelatedDocID = start.relatedFileId;
-    tree.GateDocumentID = start.gateDocumentId;
+    tree.target = start;
     tree.ShowModal();
     m_binding.server = tree.ServerURL;
-    m_binding.projectId = tree.ProjectID;
-    m_binding.deliverableId = tree.DeliverableID;
-    m_binding.activityId = tree.ActivityID;
-    m_binding.relatedFileId = tree.RelatedDocID;
-    m_binding.gateDocumentId = tree.GateDocumentID;
+    static_cast<Target&>(m_binding) = tree.target;
     tree.Unload();
     SetExcelInteractive(m_oApplication, false);
 }

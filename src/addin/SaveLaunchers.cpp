@@ -22,28 +22,18 @@ void Prepare(SaveDialog& dialog, const frmBusy& busy)
     dialog.AutomaticallySetPublishCheckbox = ToBooleanSafe(QueryText(
         busy.sServer, Operations::kIsAutoSetPublishCheckbox, {std::wstring{L"AutomaticallySetPublishCheckbox"}}));
     dialog.ServerURL = busy.sServer;
-    dialog.ProjectID = busy.lProjectID;
+    dialog.target = busy.target;
     dialog.oApplication = busy.oApplication;
     dialog.OutlookInspector = busy.oOutlookInspector;
     dialog.Document = busy.sDocument;
 }
 
-// An id of the target: where the dialog takes it and where the busy window keeps it.
 template<class Dialog>
-struct HandedId
-{
-    std::int32_t Dialog::*to;
-    std::int32_t frmBusy::*from;
-};
-
-template<class Dialog>
-void Launch(const frmBusy& busy, std::initializer_list<HandedId<Dialog>> ids)
+void Launch(const frmBusy& busy)
 {
     const ProcedureScope scope{L"SharedCode.LaunchSaveDialog"};
     Dialog dialog;
     Prepare(dialog, busy);
-    for (const auto& [to, from] : ids)
-        dialog.*to = busy.*from;
     dialog.ShowModal();
 }
 
@@ -51,16 +41,7 @@ void Launch(const frmBusy& busy, std::initializer_list<HandedId<Dialog>> ids)
 
 SaveProcedures MakeSaveProcedures()
 {
-    return {[](frmBusy& busy) {
-                Launch<frmSaveAssignment>(busy, {{&frmSaveAssignment::DeliverableID, &frmBusy::lDeliverableID},
-                                                 {&frmSaveAssignment::ActivityID, &frmBusy::lActivityID}});
-            },
-            [](frmBusy& busy) {
-                Launch<frmSaveGateDoc>(busy, {{&frmSaveGateDoc::GateDocumentID, &frmBusy::lGateDocID}});
-            },
-            [](frmBusy& busy) {
-                Launch<frmSaveRelatedDoc>(busy, {{&frmSaveRelatedDoc::RelatedDocID, &frmBusy::lRelatedDocID}});
-            }};
+    return {&Launch<frmSaveAssignment>, &Launch<frmSaveGateDoc>, &Launch<frmSaveRelatedDoc>};
 }
 
 } // namespace corvane

@@ -37,7 +37,7 @@ SaveDialog::TargetState frmSaveAssignment::LoadTarget()
         m_facts.isTeamMember = ToBooleanSafe(QueryText(ServerURL, Operations::kIsProjectTeamMember, {ProjectID}));
     ShowTypeCaptions();
     SetText(AssignmentDetailsFrame, EscapeAmpersands(Terms().targetType + L" details"));
-    m_facts.userId = ToLongSafe(QueryText(ServerURL, Operations::kGetUserId, {}));
+    m_facts.userId = UserId();
     m_userName = FirstRow(QueryXml(ServerURL, Operations::kGetUser, {})).Text(L"Name");
     if (IsActivity())
         LoadActivity();

@@ -11,6 +11,7 @@
 #include "shared/MailClient.h"
 #include "support/CCustomNames.h"
 #include "support/Conversions.h"
+#include "webservice/WebService.h"
 
 namespace corvane
 {
@@ -60,7 +61,7 @@ void SaveDialog::LoadInputs()
     for (const int textBox : {txtAuthor, txtComments, txtNotes, txtName, txtDescription})
         SelectAllOnCtrlA(textBox);
     const auto failure = Catch([this] {
-        if (!ServerURL.empty()) LoadUser();
+        if (m_kind.asksForUser && !ServerURL.empty()) static_cast<void>(UserId());
     });
     // What needs no server is there all the same: Change may lead to another one when this one fails.
     m_clientEvents = ClientEventsEnabled(oApplication);
@@ -71,18 +72,20 @@ void SaveDialog::LoadInputs()
     if (!ServerURL.empty()) ReloadTarget();
 }
 
+std::int32_t SaveDialog::UserId() const { return ToLongSafe(QueryText(ServerURL, Operations::kGetUserId, {})); }
+
 void SaveDialog::ReloadTarget()
 {
     // Until the rules have decided about this target, nothing is saved to it and no other is chosen.
     const bool couldSave = ::IsWindowEnabled(Control(cmdSave)) != FALSE;
-    m_target = TargetState::Unread;
+    m_targetState = TargetState::Unread;
     EnableSave(false);
     Enable(cmdChange, false);
     SetHourglass(true);
-    const auto failure = Catch([this] { m_target = LoadTarget(); });
+    const auto failure = Catch([this] { m_targetState = LoadTarget(); });
     SetHourglass(false);
     Enable(cmdChange, true);
-    EnableSave(m_target == TargetState::Allowed || (m_target != TargetState::Refused && couldSave));
+    EnableSave(m_targetState == TargetState::Allowed || (m_targetState != TargetState::Refused && couldSave));
     if (failure && !m_left) throw *failure;
 }
 
@@ -139,7 +142,7 @@ void SaveDialog::BindDocument() const
 {
     if (!CanCarryProperties(oApplication)) return;
     RequireNotFinal(oApplication);
-    SetBindingProperties(oApplication, Binding());
+    SetBindingProperties(oApplication, {target, ServerURL});
     MarkDocumentChanged(oApplication);
 }
 
@@ -155,22 +158,15 @@ void SaveDialog::ShowError(const Error& error) const
 void SaveDialog::cmdChange_Click()
 {
     if (m_inMacro) return;
-    const auto ids = TargetIds();
     frmSaveTo tree;
-    tree.DialogType = m_kind.treeDialogType;
+    tree.DialogType = static_cast<std::int32_t>(m_kind.tree);
     tree.ServerURL = ServerURL;
-    for (const auto& [own, inTree] : ids)
-        tree.*inTree = own;
+    tree.target = target;
     tree.ShowModal();
     tree.Unload();
-    bool changed = tree.ServerURL != ServerURL;
-    for (const auto& [own, inTree] : ids)
-        changed = changed || tree.*inTree != own;
-    if (!changed) return;
+    if (tree.ServerURL == ServerURL && IsSameTarget(m_kind.tree, tree.target, target)) return;
     ServerURL = tree.ServerURL;
-    ProjectID = tree.ProjectID;
-    for (const auto& [own, inTree] : ids)
-        own = tree.*inTree;
+    target = tree.target;
     ReloadTarget();
     if (!m_left) SetFocusTo(FirstControl());
 }

@@ -5,18 +5,15 @@
 #include "forms/Form.h"
 #include "platform/Error.h"
 #include "platform/LateBound.h"
-#include "shared/DocumentBinding.h"
+#include "selection/TreeMode.h"
 #include "shared/NotificationTexts.h"
 #include "support/Help.h"
 
 #include <span>
 #include <string>
-#include <vector>
 
 namespace corvane
 {
-
-class frmSaveTo;
 
 // Texts of a form that name its kind of target.
 struct TypeCaptions
@@ -31,8 +28,9 @@ struct SaveDialogKind
 {
     const wchar_t* name; // of the form
     int templateId;
-    std::int32_t treeDialogType; // the tree's mode for Change
+    TreeMode tree; // for Change
     HelpTopic helpTopic;
+    bool asksForUser;              // who it is, before the target is fetched
     SaveErrors errors;             // the server's refusals
     TypeCaptions captions;         // empty where the template's texts stay
     std::span<const int> controls; // out of use while a save runs, beside the buttons
@@ -45,19 +43,14 @@ class SaveDialog : public Form
 public:
     // Inputs, set before the dialog is loaded.
     std::wstring ServerURL;
-    std::int32_t ProjectID = 0;
+    Target target;
+    std::int32_t& ProjectID = target.projectId;
     bool AutomaticallySetPublishCheckbox = false;
     LateBound oApplication;
     LateBound OutlookInspector; // where the host is Outlook
     std::wstring Document;      // what tells the document to be saved from the others (ActiveDocumentName)
 
 protected:
-    // An id of the dialog's target and where the tree keeps it.
-    struct TargetId
-    {
-        std::int32_t& own;
-        std::int32_t frmSaveTo::*inTree;
-    };
     // What the user had entered when the save began; texts are trimmed, and empty where the dialog has no such control.
     struct Entries
     {
@@ -88,21 +81,16 @@ protected:
 
     explicit SaveDialog(const SaveDialogKind& kind) noexcept : Form{kind.name, kind.templateId}, m_kind{kind} {}
 
-    // Puts the customer's words into the captions; fetches what is known of the user before the target is; fetches the
-    // target, decides whether it may be uploaded and tells of a refusal. The last two run only where a server is given.
+    // Puts the customer's words into the captions; fetches the target, decides whether it may be uploaded and tells of
+    // a refusal. The latter runs only where a server is given.
     virtual void ShowTerms() = 0;
-    virtual void LoadUser() {}
     [[nodiscard]] virtual TargetState LoadTarget() = 0;
-    // The ids that name the target.
-    [[nodiscard]] virtual std::vector<TargetId> TargetIds() = 0;
 
     // Asks or checks before the save; then, with the controls out of use, whether the user may save at all.
     [[nodiscard]] virtual SaveStart BeginSave() { return SaveStart::Go; }
     [[nodiscard]] virtual bool MaySave() { return true; }
     // Whether there is a target to save to disk and to record for.
     [[nodiscard]] virtual bool HasTarget() const { return true; }
-    // What the document will remember.
-    [[nodiscard]] virtual DocumentBinding Binding() const = 0;
     // Records the uploaded file as a new version; returns the server's reply.
     [[nodiscard]] virtual std::wstring Record(const std::wstring& uploadName) = 0;
     // After a recorded version that was not cancelled.
@@ -120,8 +108,10 @@ protected:
     void ShowTypeCaptions();
     // False once the host's programs or its user have opened or activated another document than the dialog's.
     [[nodiscard]] bool IsDocumentActive() const;
-    // Writes the binding into the document and makes the next save write it.
+    // Writes server and target into the document and makes the next save write them.
     void BindDocument() const;
+    // The user's id on the server.
+    [[nodiscard]] std::int32_t UserId() const;
     // The facts that every notification of this dialog shares.
     [[nodiscard]] NotificationFacts NotificationOf(NotifiedKind kind, std::int32_t targetId,
                                                    std::wstring targetName) const;
@@ -162,7 +152,7 @@ private:
     SaveDialogKind m_kind;
     UploadTerms m_terms;
     Entries m_entered;
-    TargetState m_target = TargetState::Unread;
+    TargetState m_targetState = TargetState::Unread;
     bool m_inMacro = false; // the document's before a save; it may serve the dialog, whose controls are still in use
     bool m_left = false;    // by Cancel, perhaps in the middle of a wait for the server
     bool m_clientEvents = false;

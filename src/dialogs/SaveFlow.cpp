@@ -36,7 +36,7 @@ bool SaveDialog::Save()
 {
     if (m_inMacro) return false;
     if (!RequireDocument()) return false;
-    if (m_target == TargetState::Unread && !ServerURL.empty()) { // the user is to see first what is to be saved
+    if (m_targetState == TargetState::Unread && !ServerURL.empty()) { // the user is to see first what is to be saved
         ReloadTarget();
         return false;
     }

@@ -3,7 +3,6 @@
 #include "forms/Messages.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
-#include "selection/frmSaveTo.h"
 #include "shared/DateText.h"
 #include "support/Conversions.h"
 #include "webservice/WebService.h"
@@ -19,27 +18,15 @@ constexpr TypeCaptions kTypeCaptions{L"Save as Deliverable or Activity",
 } // namespace
 
 frmSaveAssignment::frmSaveAssignment() noexcept
-    : SaveDialog{{L"frmSaveAssignment", IDD_frmSaveAssignment, static_cast<std::int32_t>(TreeMode::Assignment),
-                  HelpTopic::SaveAssignment, kAssignmentErrors, kTypeCaptions, kSaveControls}}
+    : SaveDialog{{L"frmSaveAssignment", IDD_frmSaveAssignment, TreeMode::Assignment, HelpTopic::SaveAssignment, true,
+                  kAssignmentErrors, kTypeCaptions, kSaveControls}}
 {}
-
-std::vector<SaveDialog::TargetId> frmSaveAssignment::TargetIds()
-{
-    return {{DeliverableID, &frmSaveTo::DeliverableID}, {ActivityID, &frmSaveTo::ActivityID}};
-}
 
 void frmSaveAssignment::ShowTerms()
 {
     SetText(lblDeliverable, EscapeAmpersands(Terms().deliverable));
     SetText(lblActivity, EscapeAmpersands(Terms().activity));
     SetText(chkComplete, EscapeAmpersands(L"Mark as " + Terms().completed));
-}
-
-void frmSaveAssignment::LoadUser() { m_facts.userId = ToLongSafe(QueryText(ServerURL, Operations::kGetUserId, {})); }
-
-DocumentBinding frmSaveAssignment::Binding() const
-{
-    return {.server = ServerURL, .projectId = ProjectID, .deliverableId = DeliverableID, .activityId = ActivityID};
 }
 
 SaveDialog::SaveStart frmSaveAssignment::BeginSave()
@@ -68,7 +55,7 @@ NotificationFacts frmSaveAssignment::Notified() const
     return facts;
 }
 
-void frmSaveAssignment::GetLatestVersionInfo(NotificationFacts& facts) const
+void frmSaveAssignment::AddLatestVersion(NotificationFacts& facts) const
 {
     const ProcedureScope scope{L"frmSaveAssignment.GetLatestVersionInfo"};
     if (IsActivity()) {

@@ -12,20 +12,17 @@ class frmSaveAssignment final : public SaveDialog
 public:
     frmSaveAssignment() noexcept;
 
-    // Inputs beside those of every save dialog: the target; one of the two is 0.
-    std::int32_t DeliverableID = 0;
-    std::int32_t ActivityID = 0;
+    // Inputs beside those of every save dialog; where there is no activity, the target is the deliverable.
+    std::int32_t& DeliverableID = target.deliverableId;
+    std::int32_t& ActivityID = target.activityId;
 
 private:
     void ShowTerms() override;
-    void LoadUser() override;
     [[nodiscard]] TargetState LoadTarget() override;
-    [[nodiscard]] std::vector<TargetId> TargetIds() override;
     [[nodiscard]] SaveStart BeginSave() override;
-    [[nodiscard]] DocumentBinding Binding() const override;
     [[nodiscard]] std::wstring Record(const std::wstring& uploadName) override;
     [[nodiscard]] NotificationFacts Notified() const override;
-    void AddLatestVersion(NotificationFacts& facts) const override { GetLatestVersionInfo(facts); }
+    void AddLatestVersion(NotificationFacts& facts) const override;
 
     [[nodiscard]] bool IsActivity() const noexcept { return ActivityID >= 1; }
     void LoadDeliverable();
@@ -39,7 +36,6 @@ private:
     [[nodiscard]] TargetState Allow() const;
     void ShowActivityRow(bool shown);
     void StretchNotes();
-    void GetLatestVersionInfo(NotificationFacts& facts) const;
 
     UploadFacts m_facts;
     std::wstring m_userName;

@@ -3,7 +3,6 @@
 #include "forms/Messages.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
-#include "selection/frmSaveTo.h"
 #include "shared/DateText.h"
 #include "support/Conversions.h"
 #include "webservice/WebService.h"
@@ -19,11 +18,9 @@ constexpr std::int32_t kGateDocumentObject = 3; // object kind of the update rig
 } // namespace
 
 frmSaveGateDoc::frmSaveGateDoc() noexcept
-    : SaveDialog{{L"frmSaveGateDoc", IDD_frmSaveGateDoc, static_cast<std::int32_t>(TreeMode::GateDocument),
-                  HelpTopic::SaveGateDocument, kGateDocumentErrors, kTypeCaptions, kSaveControls}}
+    : SaveDialog{{L"frmSaveGateDoc", IDD_frmSaveGateDoc, TreeMode::GateDocument, HelpTopic::SaveGateDocument, true,
+                  kGateDocumentErrors, kTypeCaptions, kSaveControls}}
 {}
-
-std::vector<SaveDialog::TargetId> frmSaveGateDoc::TargetIds() { return {{GateDocumentID, &frmSaveTo::GateDocumentID}}; }
 
 void frmSaveGateDoc::ShowTerms()
 {
@@ -32,14 +29,12 @@ void frmSaveGateDoc::ShowTerms()
     SetText(lblGate, EscapeAmpersands(Terms().gate));
 }
 
-void frmSaveGateDoc::LoadUser() { m_userId = ToLongSafe(QueryText(ServerURL, Operations::kGetUserId, {})); }
-
 SaveDialog::TargetState frmSaveGateDoc::LoadTarget()
 {
     const ProcedureScope scope{L"frmSaveGateDoc.LoadGateDocument"};
     m_facts = {};
     Terms().ownerName.clear();
-    LoadUser();
+    m_userId = UserId();
     LoadRights();
     if (HasTarget()) LoadGateDocument();
     if (ProjectID >= 1 && IsOutsider(m_facts)) {
@@ -84,11 +79,6 @@ bool frmSaveGateDoc::MaySave()
     return false;
 }
 
-DocumentBinding frmSaveGateDoc::Binding() const
-{
-    return {.server = ServerURL, .projectId = ProjectID, .gateDocumentId = GateDocumentID};
-}
-
 std::wstring frmSaveGateDoc::Record(const std::wstring& uploadName)
 {
     return QueryText(ServerURL, Operations::kUploadGateDocument,
@@ -105,7 +95,7 @@ NotificationFacts frmSaveGateDoc::Notified() const
     return facts;
 }
 
-void frmSaveGateDoc::GetLatestGateVersionInfo(NotificationFacts& facts) const
+void frmSaveGateDoc::AddLatestVersion(NotificationFacts& facts) const
 {
     const ProcedureScope scope{L"frmSaveGateDoc.GetLatestGateVersionInfo"};
     const XmlDocument answer = QueryXml(ServerURL, Operations::kGetProjectGateDocument, {GateDocumentID, m_userId});

@@ -4,7 +4,6 @@
 #include "forms/Messages.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
-#include "selection/frmSaveTo.h"
 #include "shared/DateText.h"
 #include "shared/HostDocument.h"
 #include "support/Conversions.h"
@@ -27,17 +26,13 @@ std::wstring InLines(const std::wstring& text) { return ReplaceAll(ReplaceAll(te
 frmSaveRelatedDoc::frmSaveRelatedDoc() noexcept
     : SaveDialog{{L"frmSaveRelatedDoc",
                   IDD_frmSaveRelatedDoc,
-                  static_cast<std::int32_t>(TreeMode::RelatedDocument),
+                  TreeMode::RelatedDocument,
                   HelpTopic::SaveRelatedDocument,
+                  false,
                   kRelatedDocumentErrors,
                   {},
                   kSaveControls}}
 {}
-
-std::vector<SaveDialog::TargetId> frmSaveRelatedDoc::TargetIds()
-{
-    return {{ProjectID, &frmSaveTo::ProjectID}, {RelatedDocID, &frmSaveTo::RelatedDocID}};
-}
 
 SaveDialog::TargetState frmSaveRelatedDoc::LoadTarget()
 {
@@ -136,11 +131,6 @@ std::wstring frmSaveRelatedDoc::Description() const
     return Entered().description == Trim(InLines(m_description)) ? Trim(m_description) : Entered().description;
 }
 
-DocumentBinding frmSaveRelatedDoc::Binding() const
-{
-    return {.server = ServerURL, .projectId = ProjectID, .relatedFileId = RelatedDocID};
-}
-
 std::wstring frmSaveRelatedDoc::Record(const std::wstring& uploadName)
 {
     return QueryText(ServerURL, IsNew() ? Operations::kCreateRelatedFile : Operations::kUploadRelatedFile,
@@ -171,7 +161,7 @@ NotificationFacts frmSaveRelatedDoc::Notified() const
     return facts;
 }
 
-void frmSaveRelatedDoc::GetRelatedVersionInfo(NotificationFacts& facts) const
+void frmSaveRelatedDoc::AddLatestVersion(NotificationFacts& facts) const
 {
     const ProcedureScope scope{L"frmSaveRelatedDoc.GetRelatedVersionInfo"};
     const XmlDocument answer = QueryXml(ServerURL, Operations::kGetRelatedFileDate, {RelatedDocID});

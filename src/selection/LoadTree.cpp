@@ -13,10 +13,6 @@ namespace corvane
 namespace
 {
 
-// By DialogType.
-constexpr const Operation* kOperations[] = {&Operations::kAssignmentTree, &Operations::kRelatedFileTree,
-                                            &Operations::kGateDocumentTree};
-
 // Fetches one picture of an icon set through a file of its own, as the system's picture loader wants it.
 void LoadIcon(TreeImages& images, const std::wstring& server, const std::wstring& iconSet, const std::wstring& kind)
 {
@@ -31,8 +27,7 @@ void LoadIcon(TreeImages& images, const std::wstring& server, const std::wstring
 
 XmlDocument frmSaveTo::QueryTree() const
 {
-    return QueryXml(m_currentServer, *kOperations[static_cast<std::size_t>(DialogType)],
-                    {FilterClassID, FilterProjectSearchName});
+    return QueryXml(m_currentServer, Kind().operation, {FilterClassID, FilterProjectSearchName});
 }
 
 bool frmSaveTo::CheckEntryCount()
@@ -94,8 +89,7 @@ void frmSaveTo::LoadTree(const std::wstring& server)
     const auto projects = QueryTree().Select(L"//project");
     ShowTree(!projects.empty());
     SetText(txtTree, m_captions.emptyText);
-    const TreeTarget preselected{ProjectID, DeliverableID, ActivityID, RelatedDocID, GateDocumentID};
-    m_tree->AddProjects(projects, preselected, [this] { return IsWanted(); });
+    m_tree->AddProjects(projects, target, [this] { return IsWanted(); });
     ShowTreeLabel();
     m_treeLoaded = true;
     m_filterPending = false;

@@ -28,7 +28,7 @@ private:
 } // namespace
 
 TargetTree::TargetTree(HWND treeView, TreeMode mode, IconLoader loadIcons)
-    : m_treeView{treeView}, m_mode{mode}, m_loadIcons{std::move(loadIcons)}
+    : m_treeView{treeView}, m_kind{TreeKindOf(mode)}, m_loadIcons{std::move(loadIcons)}
 {
     TreeView_SetImageList(m_treeView, m_images.Get(), TVSIL_NORMAL);
 }
@@ -41,7 +41,7 @@ void TargetTree::Clear()
     m_keys.clear();
 }
 
-void TargetTree::AddProjects(const std::vector<XmlNode>& projects, const TreeTarget& preselected, const Wanted& wanted)
+void TargetTree::AddProjects(const std::vector<XmlNode>& projects, const Target& preselected, const Wanted& wanted)
 {
     m_preselected = preselected;
     m_pauses = WorkPauses{};
@@ -62,13 +62,12 @@ void TargetTree::AddProject(const XmlNode& project, const Wanted& wanted)
 void TargetTree::AddNode(const Position& parent, const XmlNode& element, std::size_t depth, const std::wstring& iconSet,
                          const Wanted& wanted)
 {
-    const auto levels = TreeLevels(m_mode);
-    const TreeLevel& level = levels[depth];
+    const TreeLevel& level = m_kind.levels[depth];
     const Position node = Insert(parent, level, element.Text(level.idAttribute), element.Text(L"name"), iconSet);
     m_pauses.Step();
-    if (depth + 1 == levels.size()) return;
-    const TreeLevel& below = levels[depth + 1];
-    if (m_mode == TreeMode::RelatedDocument) Insert(node, below, L"0", std::wstring{kNewRelatedDocumentText}, iconSet);
+    if (depth + 1 == m_kind.levels.size()) return;
+    const TreeLevel& below = m_kind.levels[depth + 1];
+    if (m_kind.newEntry != nullptr) Insert(node, below, L"0", m_kind.newEntry, iconSet);
     for (XmlNode child = element.FirstElement(); child && wanted(); child = child.NextElement()) {
         if (child.Name() == below.element) AddNode(node, child, depth + 1, iconSet, wanted);
     }
@@ -85,7 +84,7 @@ TargetTree::Position TargetTree::Insert(const Position& parent, const TreeLevel&
     insert.item.pszText = const_cast<LPWSTR>(text.c_str());
     insert.item.lParam = static_cast<LPARAM>(m_keys.size());
     insert.item.iImage =
-        level.iconKind == nullptr ? TreeImages::IndexOf(level.image) : m_images.IndexOf(level.iconKind + iconSet);
+        level.isTarget ? TreeImages::IndexOf(level.picture) : m_images.IndexOf(level.element + iconSet);
     insert.item.iSelectedImage = insert.item.iImage;
     node.item = TreeView_InsertItem(m_treeView, &insert);
     m_keys.push_back(node.key);
@@ -98,14 +97,11 @@ TargetTree::Position TargetTree::Insert(const Position& parent, const TreeLevel&
 
 bool TargetTree::IsPreselected(const std::wstring& key, const TreeLevel& level) const
 {
-    if (level.iconKind != nullptr) return false;
-    const auto target = TargetOfKey(m_mode, key);
-    if (!target) return false;
-    if (level.image == kActivityImage) return target->activityId == m_preselected.activityId;
-    if (level.image == kDeliverableImage) return target->deliverableId == m_preselected.deliverableId;
-    if (level.image == kGateDocumentImage) return target->gateDocumentId == m_preselected.gateDocumentId;
-    if (target->relatedDocId != m_preselected.relatedDocId) return false;
-    return target->relatedDocId != 0 || target->projectId == m_preselected.projectId;
+    if (!level.isTarget) return false;
+    const auto target = TargetOfKey(m_kind.mode, key);
+    if (!target || *target.*level.id != m_preselected.*level.id) return false;
+    // Entries for a new target have one id in all projects.
+    return m_kind.newEntry == nullptr || *target.*level.id != 0 || target->projectId == m_preselected.projectId;
 }
 
 std::wstring TargetTree::SelectedKey() const

@@ -33,7 +33,7 @@ public:
     void Clear();
     // Adds projects with all below them; nodes whose ids equal those of preselected become visible and selected.
     // Messages are handled meanwhile; once wanted() no longer holds, the rest is left out.
-    void AddProjects(const std::vector<XmlNode>& projects, const TreeTarget& preselected, const Wanted& wanted);
+    void AddProjects(const std::vector<XmlNode>& projects, const Target& preselected, const Wanted& wanted);
 
     // The key of the selected node, empty when none is selected; whether it has children; and whether the message being
     // handled came from the mouse over a node.
@@ -56,12 +56,12 @@ private:
     [[nodiscard]] bool IsPreselected(const std::wstring& key, const TreeLevel& level) const;
 
     HWND m_treeView;
-    TreeMode m_mode;
+    const TreeKind& m_kind;
     IconLoader m_loadIcons;
     TreeImages m_images;
     std::set<std::wstring> m_iconSets;
     std::vector<std::wstring> m_keys; // by the number that a node carries
-    TreeTarget m_preselected;
+    Target m_preselected;
     WorkPauses m_pauses;
 };
 

@@ -10,37 +10,31 @@ namespace
 
 constexpr std::wstring_view kFilterMark = L"(Filter Active)";
 
-std::wstring Placed(std::wstring_view text, std::wstring_view term, const NameLookup& name)
+// A text with the customer's words in place of their marks.
+std::wstring Filled(std::wstring_view text, const NameLookup& name)
 {
-    return ReplaceAll(text, L"<PEN" + std::wstring{term} + L">", name(term));
+    constexpr std::wstring_view kMark = L"<PEN";
+    std::wstring filled;
+    for (auto mark = text.find(kMark); mark != std::wstring_view::npos; mark = text.find(kMark)) {
+        const std::wstring_view behind = text.substr(mark + kMark.size());
+        const auto end = behind.find(L'>');
+        filled.append(text.substr(0, mark)).append(name(behind.substr(0, end)));
+        text = behind.substr(end + 1);
+    }
+    return filled.append(text);
 }
 
 } // namespace
 
 TreeCaptions TreeCaptionsFor(TreeMode mode, const NameLookup& name)
 {
-    TreeCaptions captions;
-    captions.serverLabel = EscapeAmpersands(Placed(L"<PENCorvane> Server URL", L"Corvane", name));
-    captions.emptyText = mode == TreeMode::RelatedDocument ? L"There are no projects." : L"There are no assignments.";
-    captions.refusalIsCritical = mode != TreeMode::GateDocument;
-    if (mode == TreeMode::RelatedDocument) {
-        captions.caption = L"Save to Related Document";
-        captions.treeLabel = L"My Projects";
-        captions.nothingSelected = L"You must select a new or existing related document entry from the list.";
-    } else if (mode == TreeMode::GateDocument) {
-        captions.caption = ReplaceAll(L"Save to Gate Document", L"Gate Document", name(L"Gate Document"));
-        captions.treeLabel =
-            EscapeAmpersands(ReplaceAll(L"My Gate Documents", L"Gate Documents", name(L"Gate Documents")));
-        captions.nothingSelected = L"You must select a " + name(L"Gate Document") + L" from the list.";
-    } else {
-        captions.caption =
-            Placed(Placed(L"Save to <PENDeliverable> or <PENActivity>", L"Deliverable", name), L"Activity", name);
-        captions.treeLabel = EscapeAmpersands(
-            Placed(Placed(L"My <PENDeliverables> and <PENActivities>", L"Deliverables", name), L"Activities", name));
-        captions.nothingSelected =
-            L"You must select a " + name(L"Deliverable") + L" or " + name(L"Activity") + L" that you own.";
-    }
-    return captions;
+    const TreeKind& kind = TreeKindOf(mode);
+    return {.serverLabel = EscapeAmpersands(Filled(L"<PENCorvane> Server URL", name)),
+            .caption = Filled(kind.caption, name),
+            .treeLabel = EscapeAmpersands(Filled(kind.treeLabel, name)),
+            .nothingSelected = Filled(kind.nothingSelected, name),
+            .emptyText = kind.emptyText,
+            .refusalIsCritical = kind.refusalIsCritical};
 }
 
 std::wstring WithFilterMark(std::wstring label)

@@ -1,7 +1,7 @@
 // What the target-selection window says in each mode.
 #pragma once
 
-#include "selection/NodeKey.h"
+#include "selection/TreeMode.h"
 
 #include <functional>
 #include <string>
@@ -15,11 +15,11 @@ using NameLookup = std::function<std::wstring(std::wstring_view term)>;
 
 struct TreeCaptions
 {
+    std::wstring serverLabel;
     std::wstring caption;
     std::wstring treeLabel;
-    std::wstring serverLabel;
-    std::wstring emptyText;       // stands in place of a tree without projects
-    std::wstring nothingSelected; // the refusal of OK without a target
+    std::wstring nothingSelected;
+    std::wstring emptyText;
     bool refusalIsCritical = true;
 };
 

@@ -5,7 +5,6 @@
 #include "platform/HResult.h"
 #include "platform/Variant.h"
 #include "resources/resource.h"
-#include "selection/NodeKey.h"
 
 #include <olectl.h>
 #include <shlwapi.h>
@@ -16,6 +15,11 @@ namespace
 {
 
 constexpr int kPictureSize = 17; // pixels at 96 dpi
+
+// In the order of TreePicture.
+constexpr int kOwnPictures[] = {IDR_IMAGE_DELIVERABLE, IDR_IMAGE_ACTIVITY, IDR_IMAGE_RELATED, IDR_IMAGE_GATEDOC,
+                                IDR_IMAGE_PLAIN};
+constexpr int kOwnCount = static_cast<int>(std::size(kOwnPictures));
 
 int ScaledSize() noexcept { return ::MulDiv(kPictureSize, ScreenDotsPerInch(), USER_DEFAULT_SCREEN_DPI); }
 
@@ -44,10 +48,9 @@ UniqueBitmap ScreenBitmap(int size) noexcept
 } // namespace
 
 TreeImages::TreeImages()
-    : m_size{ScaledSize()}, m_list{::ImageList_Create(m_size, m_size, ILC_COLOR32, kPlainImage, kPlainImage)}
+    : m_size{ScaledSize()}, m_list{::ImageList_Create(m_size, m_size, ILC_COLOR32, kOwnCount, kOwnCount)}
 {
-    for (const int id :
-         {IDR_IMAGE_DELIVERABLE, IDR_IMAGE_ACTIVITY, IDR_IMAGE_RELATED, IDR_IMAGE_GATEDOC, IDR_IMAGE_PLAIN})
+    for (const int id : kOwnPictures)
         AddResource(id);
 }
 
@@ -96,7 +99,7 @@ int TreeImages::Add(IPicture& picture)
 int TreeImages::IndexOf(const std::wstring& key) const
 {
     const auto entry = m_keys.find(key);
-    return entry == m_keys.end() ? IndexOf(kPlainImage) : entry->second;
+    return entry == m_keys.end() ? IndexOf(TreePicture::Plain) : entry->second;
 }
 
 } // namespace corvane

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Owners.h"
+#include "selection/TreeMode.h"
 
 #include <windows.h>
 
@@ -22,11 +23,11 @@ struct ImageListTraits
 };
 using UniqueImageList = Unique<ImageListTraits>;
 
-// An image list whose pictures are found by number (the fixed ones) or by key.
+// An image list of the add-in's own pictures and of those that have a key.
 class TreeImages
 {
 public:
-    // Loads the fixed pictures at the size that the screen's resolution asks for; throws Error.
+    // Loads the own pictures at the size that the screen's resolution asks for; throws Error.
     TreeImages();
 
     [[nodiscard]] HIMAGELIST Get() const noexcept { return m_list.Get(); }
@@ -34,9 +35,9 @@ public:
     // Adds the picture in a file under a key; throws Error when it cannot be read as a picture.
     void AddFile(const std::wstring& key, const std::wstring& path);
 
-    // The index of a keyed picture, of the plain one when the key is unknown; and of a fixed one by its number.
+    // The index of a keyed picture, of the plain one when the key is unknown; and of an own one.
     [[nodiscard]] int IndexOf(const std::wstring& key) const;
-    [[nodiscard]] static constexpr int IndexOf(int number) noexcept { return number - 1; }
+    [[nodiscard]] static constexpr int IndexOf(TreePicture picture) noexcept { return static_cast<int>(picture); }
 
 private:
     int Add(IPicture& picture);

@@ -3,6 +3,7 @@
 
 #include "forms/Form.h"
 #include "platform/LateBound.h"
+#include "shared/Target.h"
 
 #include <array>
 #include <functional>
@@ -27,11 +28,12 @@ public:
     std::int32_t lMethodType = 0;
     bool bWorking = false; // true once the work has started; set beforehand it keeps the window idle
     std::wstring sServer;
-    std::int32_t lProjectID = 0;
-    std::int32_t lDeliverableID = 0;
-    std::int32_t lActivityID = 0;
-    std::int32_t lRelatedDocID = 0;
-    std::int32_t lGateDocID = 0;
+    Target target;
+    std::int32_t& lProjectID = target.projectId;
+    std::int32_t& lDeliverableID = target.deliverableId;
+    std::int32_t& lActivityID = target.activityId;
+    std::int32_t& lRelatedDocID = target.relatedFileId;
+    std::int32_t& lGateDocID = target.gateDocumentId;
     std::wstring sDocument; // the document that the command was given for (ActiveDocumentName)
     LateBound oApplication;
     LateBound oOutlookInspector;

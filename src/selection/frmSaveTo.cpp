@@ -15,10 +15,6 @@ namespace
 
 constexpr std::wstring_view kSchemeOnly = L"http://";
 
-// By DialogType.
-constexpr HelpTopic kHelpTopics[] = {HelpTopic::AssignmentTree, HelpTopic::RelatedDocumentTree,
-                                     HelpTopic::GateDocumentTree};
-
 } // namespace
 
 frmSaveTo::frmSaveTo() noexcept : Form{L"frmSaveTo", IDD_frmSaveTo} {}
@@ -182,33 +178,16 @@ void frmSaveTo::cmdOK_Click()
 {
     if (Text(cmbServerURL) != m_currentServer) return Go();
     if (!m_tree) return; // it could not be made
-    const auto target = TargetOfKey(Mode(), m_tree->SelectedKey());
-    if (!target) {
+    const auto picked = TargetOfKey(Mode(), m_tree->SelectedKey());
+    if (!picked) {
         ShowMessage(m_captions.nothingSelected, m_captions.refusalIsCritical ? kStyleCritical : kStylePlain);
         return;
     }
     // When this fails, or the user leaves meanwhile, nothing is chosen.
     if (!Work([this] { CustomNames().RefreshOnce(m_currentServer); })) return;
-    TakeTarget(*target);
-    Hide();
-}
-
-void frmSaveTo::TakeTarget(const TreeTarget& target)
-{
     ServerURL = m_currentServer;
-    ProjectID = target.projectId;
-    switch (Mode()) {
-    case TreeMode::Assignment:
-        DeliverableID = target.deliverableId;
-        ActivityID = target.activityId;
-        break;
-    case TreeMode::RelatedDocument:
-        RelatedDocID = target.relatedDocId;
-        break;
-    case TreeMode::GateDocument:
-        GateDocumentID = target.gateDocumentId;
-        break;
-    }
+    target = *picked;
+    Hide();
 }
 
 void frmSaveTo::TreeView1_DblClick()
@@ -220,6 +199,6 @@ void frmSaveTo::TreeView1_DblClick()
 
 void frmSaveTo::cmdCancel_Click() { Hide(); }
 
-void frmSaveTo::cmdHelp_Click() { ShowHelpTopic(Window(), kHelpTopics[static_cast<std::size_t>(DialogType)]); }
+void frmSaveTo::cmdHelp_Click() { ShowHelpTopic(Window(), Kind().helpTopic); }
 
 } // namespace corvane

@@ -26,11 +26,12 @@ public:
 
     std::wstring ServerURL;
     std::int32_t DialogType = 0; // 0 deliverable or activity, 1 related document, 2 gate document
-    std::int32_t ProjectID = 0;
-    std::int32_t DeliverableID = 0;
-    std::int32_t ActivityID = 0;
-    std::int32_t RelatedDocID = 0; // 0 a new related document
-    std::int32_t GateDocumentID = 0;
+    Target target;
+    std::int32_t& ProjectID = target.projectId;
+    std::int32_t& DeliverableID = target.deliverableId;
+    std::int32_t& ActivityID = target.activityId;
+    std::int32_t& RelatedDocID = target.relatedFileId;
+    std::int32_t& GateDocumentID = target.gateDocumentId;
     std::int32_t FilterClassID = 0; // 0 all classes
     std::wstring FilterProjectSearchName;
     bool FilterActive = false;
@@ -56,6 +57,7 @@ private:
     void TreeView1_DblClick();
 
     [[nodiscard]] TreeMode Mode() const noexcept { return static_cast<TreeMode>(DialogType); }
+    [[nodiscard]] const TreeKind& Kind() const noexcept { return TreeKindOf(Mode()); }
     void FillServers();
     // Writes the list of servers, once.
     void KeepServers() noexcept;
@@ -75,7 +77,6 @@ private:
     void ShowFilter(bool forced);
     // The tree, or in its place the text that says that there is nothing.
     void ShowTree(bool shown);
-    void TakeTarget(const TreeTarget& target);
 
     std::optional<CMRUServers> m_servers;
     std::optional<TargetTree> m_tree;

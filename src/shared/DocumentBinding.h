@@ -1,6 +1,8 @@
 // How a document remembers where on the server it was saved to.
 #pragma once
 
+#include "shared/Target.h"
+
 #include <cstdint>
 #include <string>
 
@@ -19,15 +21,10 @@ enum class DocumentBindingKind
     Unbound
 };
 
-// The server and the ids that a document's properties hold. 0 stands for none.
-struct DocumentBinding
+// The target that a document's properties hold, its server, and what else they tell. 0 stands for none.
+struct DocumentBinding : Target
 {
     std::wstring server;
-    std::int32_t projectId = 0;
-    std::int32_t deliverableId = 0;
-    std::int32_t activityId = 0;
-    std::int32_t relatedFileId = 0;
-    std::int32_t gateDocumentId = 0;
     std::int32_t excelReportId = 0;
     std::int32_t templateLibraryId = 0;
     bool projectReport = false; // read only

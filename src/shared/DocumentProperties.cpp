@@ -113,10 +113,11 @@ DocumentBinding ReadBinding(const LateBound& oApplication)
         binding.*id = ToLongSafe(GetCustomProperty(oApplication, property->name));
     };
     // The interface's order, which is not that of writing.
+    constexpr std::int32_t Binding::*kFirst[] = {&Binding::projectId,      &Binding::deliverableId,
+                                                 &Binding::gateDocumentId, &Binding::activityId,
+                                                 &Binding::relatedFileId,  &Binding::excelReportId};
     binding.server = GetCustomProperty(oApplication, kServerProperty);
-    for (const auto id : {&Binding::projectId, &Binding::deliverableId, &Binding::gateDocumentId, &Binding::activityId,
-                          &Binding::relatedFileId, &Binding::excelReportId})
-        read(id);
+    std::ranges::for_each(kFirst, read);
     binding.projectReport = ToBooleanSafe(GetCustomProperty(oApplication, kProjectReportProperty));
     read(&Binding::templateLibraryId);
     return binding;

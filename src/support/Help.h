@@ -1,23 +1,14 @@
 // The add-in's compiled help file and the system's viewer for it.
 #pragma once
 
+#include "support/HelpTopic.h"
+
 #include <windows.h>
 
 #include <string>
 
 namespace corvane
 {
-
-// The topics that the forms ask for, by their context ids in the help file.
-enum class HelpTopic
-{
-    SaveAssignment = 1,
-    SaveRelatedDocument = 2,
-    AssignmentTree = 3,
-    RelatedDocumentTree = 4,
-    SaveGateDocument = 6,
-    GateDocumentTree = 7
-};
 
 // The full path of the help file, which need not be there.
 void SetHelpFile(std::wstring path);

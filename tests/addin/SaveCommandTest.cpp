@@ -34,7 +34,7 @@ const CommandCase kCases[] = {
     {"RelatedDocumentOfADeliverable", kSaveRelatedDoc, &DocumentBinding::deliverableId, 3, false, false},
 };
 
-DocumentBinding FullBinding() { return {L"http://host", 12, 45, 678, 4, 9, 0, 0}; }
+DocumentBinding FullBinding() { return {{12, 45, 678, 4, 9}, L"http://host"}; }
 
 } // namespace
 

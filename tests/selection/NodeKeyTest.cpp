@@ -25,7 +25,7 @@ std::wstring KeyOf(TreeMode mode, const std::vector<const wchar_t*>& ids)
 {
     std::wstring key;
     for (std::size_t level = 0; level < ids.size(); ++level)
-        key = NodeKey(key, TreeLevels(mode)[level], ids[level]);
+        key = NodeKey(key, TreeKindOf(mode).levels[level], ids[level]);
     return key;
 }
 

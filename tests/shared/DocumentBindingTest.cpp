@@ -55,8 +55,10 @@ constexpr KindCase kCases[] = {
 TEST(DocumentBinding, IsClassifiedByTheSignsOfItsIds)
 {
     for (const auto& [name, ids, expected] : kCases) {
-        const DocumentBinding binding{{},          ids.project,      ids.deliverable, ids.activity,
-                                      ids.related, ids.gateDocument, ids.excelReport, ids.templateLibrary};
+        const DocumentBinding binding{{ids.project, ids.deliverable, ids.activity, ids.related, ids.gateDocument},
+                                      {},
+                                      ids.excelReport,
+                                      ids.templateLibrary};
         EXPECT_EQ(ClassifyBoundDocument(binding), expected) << name;
     }
 }

@@ -21,7 +21,7 @@ using namespace corvane;
 namespace
 {
 
-const DocumentBinding kBinding{.server = L"http://h", .projectId = 12, .deliverableId = 45};
+const DocumentBinding kBinding{{.projectId = 12, .deliverableId = 45}, L"http://h"};
 
 // Where the user's documents are, until the object ends. Wine makes a link to the home folder of a folder that is not
 // there yet.

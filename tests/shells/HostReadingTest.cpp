@@ -91,7 +91,7 @@ TEST_F(Writing, OfABindingKeepsTypesAndPutsAllBackWhereOneValueIsRefused)
     constexpr std::int32_t kDate = 3;
     properties.Call(L"Add", L"KRX_SYS_ProjectID", false, kPropertyText, L"7");
     properties.Call(L"Add", L"KRX_SYS_GateDocumentID", false, kDate, 1);
-    DocumentBinding binding{.server = L"http://h", .projectId = 12, .gateDocumentId = 1 << 30}; // beyond all dates
+    DocumentBinding binding{{.projectId = 12, .gateDocumentId = 1 << 30}, L"http://h"}; // beyond all dates
     EXPECT_TRUE(Catch([&] { SetBindingProperties(m_application, binding); }));
     EXPECT_EQ(GetCustomProperty(m_application, L"KRX_SYS_ProjectID"), L"7");
     EXPECT_EQ(properties.Number(L"Count"), 2);
