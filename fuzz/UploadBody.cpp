@@ -1,6 +1,7 @@
 // The header holds the name, and its UTF-8 is well-formed.
 #include "webservice/UploadBody.h"
 #include "Input.h"
+#include "platform/Utf8.h"
 
 namespace
 {

@@ -6,7 +6,7 @@
 #include "addin/Connect.h"
 #include "addin/TraceLogObject.h"
 #include "platform/Procedure.h"
-#include "support/Registry.h"
+#include "platform/Registry.h"
 
 #include <array>
 

@@ -17,7 +17,7 @@ namespace
 // What every launch does before its dialog, and what it hands to it.
 void Prepare(SaveDialog& dialog, const frmBusy& busy)
 {
-    CustomNames().RefreshOnce(busy.sServer);
+    CustomNames().RefreshOnce(busy.sServer, kServicePage);
     AddInMenus()->SetUICaptions();
     dialog.AutomaticallySetPublishCheckbox = ToBooleanSafe(QueryText(
         busy.sServer, Operations::kIsAutoSetPublishCheckbox, {std::wstring{L"AutomaticallySetPublishCheckbox"}}));

@@ -3,8 +3,8 @@
 #include "platform/Files.h"
 #include "platform/HttpRequest.h"
 #include "platform/Procedure.h"
+#include "platform/Registry.h"
 #include "platform/XmlDocument.h"
-#include "support/Registry.h"
 
 #include <algorithm>
 #include <array>

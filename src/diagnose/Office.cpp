@@ -1,8 +1,8 @@
 #include "diagnose/Office.h"
 
 #include "diagnose/Installation.h"
+#include "platform/Registry.h"
 #include "support/Conversions.h"
-#include "support/Registry.h"
 
 namespace diagnose
 {

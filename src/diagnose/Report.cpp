@@ -1,5 +1,7 @@
 #include "diagnose/Report.h"
 
+#include "platform/Utf8.h"
+
 #include <windows.h>
 
 namespace diagnose
@@ -17,13 +19,10 @@ void Report::Findings(const std::vector<std::wstring>& findings)
 void Report::Write() const
 {
     const HANDLE output = ::GetStdHandle(STD_OUTPUT_HANDLE);
-    const auto length = static_cast<int>(m_text.size());
     DWORD written = 0;
-    if (::WriteConsoleW(output, m_text.data(), static_cast<DWORD>(length), &written, nullptr)) return;
-    std::string bytes(m_text.size() * 3, '\0');
-    const int size = ::WideCharToMultiByte(CP_UTF8, 0, m_text.data(), length, bytes.data(),
-                                           static_cast<int>(bytes.size()), nullptr, nullptr);
-    ::WriteFile(output, bytes.data(), static_cast<DWORD>(size), &written, nullptr);
+    if (::WriteConsoleW(output, m_text.data(), static_cast<DWORD>(m_text.size()), &written, nullptr)) return;
+    const std::string bytes = corvane::ToUtf8(m_text);
+    ::WriteFile(output, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
 }
 
 } // namespace diagnose

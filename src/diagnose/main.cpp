@@ -10,10 +10,10 @@
 #include "platform/ComObject.h"
 #include "platform/Files.h"
 #include "platform/Procedure.h"
+#include "platform/Registry.h"
 #include "support/CMRUServers.h"
 #include "support/Conversions.h"
 #include "support/Policy.h"
-#include "support/Registry.h"
 #include "support/Settings.h"
 
 #include <cstdio>

@@ -129,25 +129,6 @@ bool CopyWholeFile(const std::wstring& from, const std::wstring& to) noexcept
     return ::CopyFileW(AsLongPath(from).c_str(), AsLongPath(to).c_str(), FALSE) != FALSE;
 }
 
-std::string AnsiText(const std::wstring& text)
-{
-    std::string ansi(text.size() * 4, '\0');
-    const int length = ::WideCharToMultiByte(CP_ACP, 0, text.data(), static_cast<int>(text.size()), ansi.data(),
-                                             static_cast<int>(ansi.size()), nullptr, nullptr);
-    ansi.resize(static_cast<std::size_t>(length));
-    return ansi;
-}
-
-bool FitsAnsiCodePage(const std::wstring& text)
-{
-    const std::string ansi = AnsiText(text);
-    std::wstring back(text.size() * 4, L'\0');
-    const int wide = ::MultiByteToWideChar(CP_ACP, 0, ansi.data(), static_cast<int>(ansi.size()), back.data(),
-                                           static_cast<int>(back.size()));
-    back.resize(static_cast<std::size_t>(wide));
-    return back == text;
-}
-
 std::wstring ShortPath(const std::wstring& path)
 {
     std::array<wchar_t, kPathBuffer> shortPath{};

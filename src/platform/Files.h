@@ -49,12 +49,6 @@ void WriteFile(const std::wstring& path, std::span<const std::byte> bytes);
 // Copies a file, replacing one that is there; false when it cannot.
 bool CopyWholeFile(const std::wstring& from, const std::wstring& to) noexcept;
 
-// The text in the system's ANSI code page; what that cannot hold is replaced.
-[[nodiscard]] std::string AnsiText(const std::wstring& text);
-
-// True when the system's ANSI code page can hold every character of the text.
-[[nodiscard]] bool FitsAnsiCodePage(const std::wstring& text);
-
 // The path in the system's 8.3 form; the path itself where it has none.
 [[nodiscard]] std::wstring ShortPath(const std::wstring& path);
 

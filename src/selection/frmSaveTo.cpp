@@ -7,6 +7,7 @@
 #include "support/CCustomNames.h"
 #include "support/Conversions.h"
 #include "support/Help.h"
+#include "webservice/Operations.h"
 
 namespace corvane
 {
@@ -184,7 +185,7 @@ void frmSaveTo::cmdOK_Click()
         return;
     }
     // When this fails, or the user leaves meanwhile, nothing is chosen.
-    if (!Work([this] { CustomNames().RefreshOnce(m_currentServer); })) return;
+    if (!Work([this] { CustomNames().RefreshOnce(m_currentServer, kServicePage); })) return;
     ServerURL = m_currentServer;
     target = *picked;
     Hide();

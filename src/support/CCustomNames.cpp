@@ -2,14 +2,13 @@
 
 #include "platform/Error.h"
 #include "platform/Procedure.h"
-#include "support/Registry.h"
+#include "platform/Registry.h"
 
 namespace corvane
 {
 namespace
 {
 constexpr const wchar_t* kCacheKey = L"Software\\Halvex\\Corvane\\CustomNames";
-constexpr const wchar_t* kServicePage = L"offi.asp";
 } // namespace
 
 std::unique_ptr<CCustomNames> g_oCustomNames;
@@ -32,9 +31,9 @@ void CCustomNames::Refresh(const std::wstring& server, const std::wstring& page)
     m_refreshed = true;
 }
 
-void CCustomNames::RefreshOnce(const std::wstring& server)
+void CCustomNames::RefreshOnce(const std::wstring& server, const std::wstring& page)
 {
-    if (!m_refreshed) Refresh(server, kServicePage);
+    if (!m_refreshed) Refresh(server, page);
 }
 
 CCustomNames& CustomNames()

@@ -42,7 +42,7 @@ public:
     void Refresh(const std::wstring& server, const std::wstring& page);
 
     // The rule of every caller: refresh on the first server that the user works with, and never again.
-    void RefreshOnce(const std::wstring& server);
+    void RefreshOnce(const std::wstring& server, const std::wstring& page);
 
 private:
     Query m_query;

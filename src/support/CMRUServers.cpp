@@ -1,8 +1,8 @@
 #include "support/CMRUServers.h"
 
 #include "platform/Procedure.h"
+#include "platform/Registry.h"
 #include "support/Policy.h"
-#include "support/Registry.h"
 #include "support/ServerList.h"
 
 namespace corvane

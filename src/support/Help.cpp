@@ -1,6 +1,7 @@
 #include "support/Help.h"
 
 #include "forms/Messages.h"
+#include "platform/CodePage.h"
 #include "platform/Files.h"
 #include "platform/HResult.h"
 #include "platform/Owners.h"
@@ -34,7 +35,7 @@ std::wstring& HelpFile()
 // The viewer takes paths in the ANSI code page; a path with other letters has a short form without them.
 std::string AnsiPath(const std::wstring& longPath)
 {
-    return AnsiText(FitsAnsiCodePage(longPath) ? longPath : ShortPath(longPath));
+    return ToCodePage(FitsCodePage(longPath) ? longPath : ShortPath(longPath));
 }
 
 // The viewer, once it was needed. It stays loaded: its windows outlive the call.

@@ -1,6 +1,6 @@
 #include "support/Policy.h"
 
-#include "support/Registry.h"
+#include "platform/Registry.h"
 
 namespace corvane::Policy
 {

@@ -1,5 +1,6 @@
 #include "support/Settings.h"
 
+#include "platform/CodePage.h"
 #include "platform/ComObject.h"
 #include "platform/Files.h"
 #include "platform/Procedure.h"
@@ -16,16 +17,12 @@ namespace corvane
 namespace
 {
 
-// The file's 8-bit text in the ANSI code page.
-std::wstring ReadAnsiText(const std::wstring& path)
+// The file's 8-bit text.
+std::wstring ReadText(const std::wstring& path)
 {
     std::string bytes(static_cast<std::size_t>(FileLength(path).value_or(0)), '\0');
     bytes.resize(ReadFile(path, std::as_writable_bytes(std::span{bytes})));
-    std::wstring text(bytes.size(), L'\0');
-    const int length = ::MultiByteToWideChar(CP_ACP, 0, bytes.data(), static_cast<int>(bytes.size()), text.data(),
-                                             static_cast<int>(text.size()));
-    text.resize(static_cast<std::size_t>(length));
-    return text;
+    return FromCodePage(bytes);
 }
 
 // Rounded up, since a time-out of none is asked for by nothing but a 0; and no longer than the system can count.
@@ -60,7 +57,7 @@ Settings Settings::ReadFrom(const std::wstring& folder) noexcept
         const std::wstring path = folder + L"\\settings.config";
         if (!FileExists(path)) return;
         XmlDocument document;
-        if (document.Load(ReadAnsiText(path))) Apply(document, settings);
+        if (document.Load(ReadText(path))) Apply(document, settings);
     });
     return settings.Under({Policy::Number(L"EnableTraceLogs"), Policy::Number(L"RequestTimeoutSeconds")});
 }

@@ -1,5 +1,6 @@
 #include "webservice/RequestText.h"
 
+#include "platform/Utf8.h"
 #include "support/CFastString.h"
 
 #include <array>
@@ -10,7 +11,6 @@ namespace
 {
 
 constexpr std::wstring_view kProtocolVersion = L"v6";
-constexpr std::uint32_t kReplacementCharacter = 0xFFFD;
 
 struct ParameterTextOf
 {
@@ -54,17 +54,13 @@ public:
 private:
     static constexpr std::size_t kLongestCode = 9; // three bytes
 
-    // A code unit above 255, two or three bytes; half of a surrogate pair becomes the replacement character.
+    // A code unit above 255, also half of a surrogate pair: two or three bytes.
     void AddUtf8(std::uint32_t unit)
     {
-        if (unit >= 0xD800 && unit <= 0xDFFF) unit = kReplacementCharacter;
-        if (unit < 0x800) {
-            AddByte(0xC0U | (unit >> 6U));
-        } else {
-            AddByte(0xE0U | (unit >> 12U));
-            AddByte(0x80U | ((unit >> 6U) & 0x3FU));
-        }
-        AddByte(0x80U | (unit & 0x3FU));
+        m_bytes.clear();
+        AppendUtf8(m_bytes, unit);
+        for (const char byte : m_bytes)
+            AddByte(static_cast<unsigned char>(byte));
     }
     void AddByte(std::uint32_t byte)
     {
@@ -81,6 +77,7 @@ private:
     }
 
     CFastString m_builder;
+    std::string m_bytes;
     std::array<wchar_t, 4096> m_piece{};
     std::size_t m_length = 0;
 };

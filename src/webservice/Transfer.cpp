@@ -1,5 +1,6 @@
 #include "webservice/Transfer.h"
 
+#include "platform/CodePage.h"
 #include "platform/Files.h"
 #include "platform/MessageLoop.h"
 #include "platform/Procedure.h"
@@ -54,7 +55,7 @@ class ReadablePath
 public:
     explicit ReadablePath(const std::wstring& path) : m_path{path}
     {
-        if (FitsAnsiCodePage(path)) return;
+        if (FitsCodePage(path)) return;
         m_copy.emplace(L"tmp");
         CopyWholeFile(path, m_copy->Path()); // what cannot be copied yet reads as unfinished
     }

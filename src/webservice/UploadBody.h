@@ -17,9 +17,6 @@ inline constexpr std::wstring_view kUploadBoundary = L"-------------------------
 [[nodiscard]] std::string UploadHeader(std::wstring_view uploadName);
 [[nodiscard]] std::string UploadTrailer();
 
-// UTF-8 of a text whose code units are UTF-16 (or, where wide characters have 32 bits, UTF-32).
-[[nodiscard]] std::string ToUtf8(std::wstring_view text);
-
 // One attempt to read a file that its writer may not have finished.
 struct ReadAttempt
 {

@@ -5,11 +5,11 @@
 #include "platform/BinaryStream.h"
 #include "platform/Files.h"
 #include "platform/Procedure.h"
+#include "platform/Registry.h"
 #include "shared/ClientEvents.h"
 #include "shared/DocumentProperties.h"
 #include "shared/HostDocument.h"
 #include "support/CCustomNames.h"
-#include "support/Registry.h"
 #include "support/Settings.h"
 
 using namespace corvane;

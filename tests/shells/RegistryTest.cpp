@@ -90,14 +90,14 @@ TEST_F(KeptNames, AreAllWrittenByARefreshUnlessTheyAreThereAlready)
     SetText(HKEY_CURRENT_USER, kCache, L"Stage", L"My Stage", REG_EXPAND_SZ);
     SetText(HKEY_CURRENT_USER, kCache, L"Gate", L"my Gate", REG_EXPAND_SZ);
     CCustomNames names{[](const std::wstring& server, const std::wstring& page) {
-        EXPECT_EQ(server + page, L"http://hoffi.asp");
+        EXPECT_EQ(server + page, L"http://hpage");
         std::vector<CustomNameRow> rows{{L"Extra", L"My Extra"}};
         for (const auto& [key, cachedAs] : kCustomNameKeys)
             rows.push_back({key, std::wstring{L"My "} + key});
         return rows;
     }};
     EXPECT_FALSE(names.IsRefreshed());
-    names.RefreshOnce(L"http://h");
+    names.RefreshOnce(L"http://h", L"page");
     EXPECT_TRUE(names.IsRefreshed());
     for (const std::wstring name : {L"Extra", L"Gate"})
         EXPECT_EQ(Kept(name), L"1 My " + name);

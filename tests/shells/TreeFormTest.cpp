@@ -4,11 +4,11 @@
 
 #include "platform/ComObject.h"
 #include "platform/MessageLoop.h"
+#include "platform/Registry.h"
 #include "resources/resource.h"
 #include "selection/frmBusy.h"
 #include "selection/frmSaveTo.h"
 #include "support/CCustomNames.h"
-#include "support/Registry.h"
 #include "support/frmAbout.h"
 #include "webservice/WebService.h"
 

@@ -6,29 +6,6 @@
 namespace corvane
 {
 
-struct Utf8Case
-{
-    const char* name;
-    const wchar_t* text;
-    const char* expected;
-};
-
-TEST(UploadBody, TurnsTextIntoUtf8)
-{
-    constexpr Utf8Case kCases[] = {
-        {"Ascii", L"a\x7F", "a\x7F"},
-        {"TwoBytes", L"\x80\x7FF", "\xC2\x80\xDF\xBF"},
-        {"ThreeBytes", L"\x800\xFFFF", "\xE0\xA0\x80\xEF\xBF\xBF"},
-        {"PairOfHalves", L"\xD83D\xDE00", "\xF0\x9F\x98\x80"},
-        {"LoneHighHalf", L"\xD83Dx", "\xEF\xBF\xBDx"},
-        {"HighHalfAtTheEnd", L"\xD800", "\xEF\xBF\xBD"},
-        {"LoneLowHalf", L"\xDE00x", "\xEF\xBF\xBDx"},
-        {"HalvesTheWrongWayRound", L"\xDE00\xD83D", "\xEF\xBF\xBD\xEF\xBF\xBD"},
-    };
-    for (const auto& item : kCases)
-        EXPECT_EQ(ToUtf8(item.text), item.expected) << item.name;
-}
-
 struct AttemptCase
 {
     const char* name;

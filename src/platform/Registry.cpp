@@ -1,4 +1,4 @@
-#include "support/Registry.h"
+#include "platform/Registry.h"
 
 #include "platform/HResult.h"
 #include "platform/Owners.h"
