@@ -52,7 +52,7 @@ protected:
     void SetUp() override
     {
         m_port = m_front.Bind(0);
-        m_run = std::async(std::launch::async, [this] { m_front.Run(); });
+        m_run = std::async(std::launch::async, [this] { m_context.run(); });
     }
     void TearDown() override { m_front.Stop(); }
 
@@ -75,11 +75,13 @@ protected:
     RequestLog m_log{m_folder.Path() / "log"};
     Faults m_faults{m_folder.Path() / "faults"};
     std::atomic<int> m_handled = 0;
-    HttpFront m_front{[this](const Request& request) {
-                          ++m_handled;
-                          return Answer{.status = 200, .contentType = "text/plain", .body = "echo:" + request.body};
-                      },
-                      m_log, m_faults};
+    asio::io_context m_context;
+    HttpFront m_front{m_context,
+                      {[this](const Request& request) {
+                           ++m_handled;
+                           return Answer{.status = 200, .contentType = "text/plain", .body = "echo:" + request.body};
+                       },
+                       m_log, m_faults}};
     int m_port = 0;
     std::future<void> m_run;
 };
@@ -164,9 +166,7 @@ TEST_F(Front, GoesOnReadingAfterASignal)
 
 TEST_F(Front, DoesNotShareItsPort)
 {
-    RequestLog log{""};
-    Faults faults{""};
-    HttpFront other{[](const Request&) { return Answer{}; }, log, faults};
+    HttpFront other{m_context, {[](const Request&) { return Answer{}; }, m_log, m_faults}};
     EXPECT_THROW((void)other.Bind(m_port), std::runtime_error);
 }
 

@@ -1,40 +1,50 @@
+// One connection of a client, from its first byte to its close.
 #pragma once
 
-#include "core/Http.h"
+#include "shell/Answering.h"
 
-#include <optional>
+#include <array>
+#include <asio/ip/tcp.hpp>
+#include <asio/steady_timer.hpp>
+#include <memory>
 #include <string>
-#include <string_view>
 
 namespace server
 {
 
-// Owns one accepted socket; closing it is how an answer ends, or is cut off.
-class Connection
+// Reads one request, sends its response and closes. Lives as long as anything is still to happen on the connection. A
+// response that cannot be sent any more, because the client is gone, is dropped silently.
+class Connection : public std::enable_shared_from_this<Connection>
 {
 public:
-    explicit Connection(int socket) noexcept : m_socket{socket} {}
-    Connection(const Connection&) = delete;
-    Connection& operator=(const Connection&) = delete;
-    ~Connection();
+    // `answering` outlives this object.
+    Connection(asio::ip::tcp::socket socket, Answering& answering);
 
-    // Reads one whole request. On failure `problem` is the status to answer with, 0 when the client is gone.
-    [[nodiscard]] std::optional<Request> ReadRequest(int& problem);
+    void Serve();
 
-    // What cannot be sent any more, because the client is gone, is dropped silently.
-    void Send(std::string_view bytes) noexcept;
-
-    // Lets the connection end by a reset instead of an orderly close: the client gets what was sent, then a failure.
-    void BreakOff() noexcept { m_breakOff = true; }
+    // The server ends: a request that is not there yet is not waited for, a response that waits is sent at once.
+    void Hurry();
 
 private:
-    void CloseInOrder() noexcept;
-    [[nodiscard]] bool ReadMore();
-    [[nodiscard]] bool ReadBody(Request& request, int& problem);
+    void TakeHead(std::size_t size);
+    void ReadBody(std::size_t size);
+    void Respond();
+    void Refuse(int status);
+    void SendAfter(int milliseconds);
+    void Send();
+    void Close();
+    void BreakOff();
+    void Drain();
 
-    int m_socket;
-    bool m_breakOff = false;
+    asio::ip::tcp::socket m_socket;
+    asio::steady_timer m_timer;
+    Answering& m_answering;
     std::string m_received;
+    Request m_request;
+    Response m_response;
+    std::array<char, 4096> m_rest{};
+    bool m_sending = false;
+    bool m_hurried = false;
 };
 
 } // namespace server

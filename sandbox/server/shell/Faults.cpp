@@ -55,7 +55,6 @@ bool Matches(const Json& rule, std::string_view target, std::string_view body)
 std::optional<Fault> Faults::Next(std::string_view target, std::string_view body)
 {
     if (m_file.empty()) return std::nullopt;
-    const std::lock_guard lock{m_mutex};
     Read();
     if (m_content.find_first_not_of(" \t\r\n") == std::string::npos) return std::nullopt;
     const auto rules = Json::parse(m_content);
@@ -74,7 +73,6 @@ std::optional<Fault> Faults::Next(std::string_view target, std::string_view body
 bool Faults::Holds(const Fault& fault)
 {
     if (!fault.heldIn) return false;
-    const std::lock_guard lock{m_mutex};
     Read();
     return m_edition == *fault.heldIn;
 }

@@ -1,8 +1,8 @@
+// The faults file: rules by which a request is answered late, wrongly or not at all.
 #pragma once
 
 #include <filesystem>
 #include <map>
-#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,7 +31,7 @@ struct Fault
     std::optional<int> heldIn; // the edition of the faults file that has to pass before the answer
 };
 
-// The rules of a faults file. The first rule that matches a request and is not used up applies to it. Thread-safe.
+// The rules of a faults file. The first rule that matches a request and is not used up applies to it.
 class Faults
 {
 public:
@@ -49,7 +49,6 @@ private:
     void Read();
 
     std::filesystem::path m_file;
-    std::mutex m_mutex;
     std::string m_content;
     int m_edition = 0; // grows whenever the content changes
     std::map<std::size_t, int> m_uses;

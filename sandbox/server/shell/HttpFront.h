@@ -1,56 +1,40 @@
+// The port on which the server listens.
 #pragma once
 
-#include "core/Http.h"
-#include "shell/Faults.h"
-#include "shell/RequestLog.h"
+#include "shell/Answering.h"
 
-#include <condition_variable>
-#include <functional>
-#include <httplib.h>
-#include <mutex>
-#include <set>
+#include <asio/io_context.hpp>
+#include <asio/ip/tcp.hpp>
+#include <memory>
+#include <vector>
 
 namespace server
 {
 
-// Listens and answers. The library accepts the connections and spreads them over its threads; requests are read from
-// the socket here, because the library keeps neither the raw target nor the order of headers and cannot cut an answer.
-class HttpFront : private httplib::Server
+class Connection;
+
+// Accepts connections and serves them, all of it on the thread that runs the context.
+class HttpFront
 {
 public:
-    using Handler = std::function<Answer(const Request&)>;
-
-    // The handler is called by one thread at a time. Log and faults outlive this object.
-    HttpFront(Handler handler, RequestLog& log, Faults& faults);
+    // The context outlives this object, and so does what the answering refers to.
+    HttpFront(asio::io_context& context, Answering answering);
 
     // Binds to a port of 127.0.0.1, 0 for any free one, and returns it. From then on clients can connect. Throws
     // std::runtime_error when the port is not free.
     [[nodiscard]] int Bind(int port);
 
-    // Serves until Stop is called, which may be before.
-    void Run();
+    // Closes the port and hurries what is under way; then the context has no more work from here. Any thread may call.
     void Stop();
 
 private:
-    bool process_and_close_socket(socket_t socket) override;
+    void Accept();
+    void Serve(asio::ip::tcp::socket socket);
 
-    void Serve(int socket);
-    [[nodiscard]] Answer AnswerTo(const Request& request, const Fault& fault);
-    [[nodiscard]] Fault NextFault(const Request& request);
-    bool Wait(int milliseconds); // whether the server was stopped before the time was over
-
-    Handler m_handler;
-    RequestLog& m_log;
-    Faults& m_faults;
-    std::mutex m_handling;
-    std::mutex m_mutex;
-    std::condition_variable m_stopping;
-    std::set<int> m_open;
-    bool m_stopped = false;
+    asio::io_context& m_context;
+    asio::ip::tcp::acceptor m_acceptor;
+    Answering m_answering;
+    std::vector<std::weak_ptr<Connection>> m_connections;
 };
-
-// The part of an answer that is sent before the connection is cut. A body that is announced but empty is announced one
-// byte long, so that the cut shows.
-[[nodiscard]] std::string CutAnswer(const Answer& answer, Drop drop);
 
 } // namespace server

@@ -81,9 +81,7 @@ RequestLog::RequestLog(const std::filesystem::path& file)
 void RequestLog::Write(const Request& request, int status)
 {
     if (!m_file.is_open()) return;
-    const auto line = LogLine(request, status, UtcTime());
-    const std::lock_guard lock{m_mutex};
-    m_file << line << '\n' << std::flush;
+    m_file << LogLine(request, status, UtcTime()) << '\n' << std::flush;
 }
 
 } // namespace server

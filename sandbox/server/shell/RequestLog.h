@@ -1,10 +1,10 @@
+// The log of the requests as they arrived.
 #pragma once
 
 #include "core/Http.h"
 
 #include <filesystem>
 #include <fstream>
-#include <mutex>
 
 namespace server
 {
@@ -13,7 +13,7 @@ namespace server
 // number, so that encoding the text as Latin-1 gives back exactly what arrived.
 [[nodiscard]] std::string LogLine(const Request& request, int status, std::string_view time);
 
-// Appends such a line for each request and flushes it. Thread-safe.
+// Appends such a line for each request and flushes it.
 class RequestLog
 {
 public:
@@ -24,7 +24,6 @@ public:
     void Write(const Request& request, int status);
 
 private:
-    std::mutex m_mutex;
     std::ofstream m_file;
 };
 

@@ -4,9 +4,10 @@
 #include "shell/CommandLine.h"
 #include "shell/DataFolder.h"
 #include "shell/HttpFront.h"
-#include "shell/StopSignals.h"
 
-#include <cstdio>
+#include <asio/io_context.hpp>
+#include <asio/signal_set.hpp>
+#include <csignal>
 #include <iostream>
 
 namespace
@@ -18,16 +19,18 @@ constexpr int kBadArguments = 2;
 
 int Serve(const Options& options)
 {
-    BlockStopSignals();
+    asio::io_context context;
+    // From here on they end the server in order.
+    asio::signal_set stops{context, SIGINT, SIGTERM};
     const DataFolder folder{options.data};
     Site site{Service{nlohmann::json::parse(SeedText()), options.user, Archive{folder.Path()}, LocalTime}};
     RequestLog log{options.log};
     Faults faults{options.faults};
-    HttpFront front{[&](const Request& request) { return site.Handle(request); }, log, faults};
+    HttpFront front{context, {[&](const Request& request) { return site.Handle(request); }, log, faults}};
     const int port = front.Bind(options.port);
-    const StopWatch watch{[&] { front.Stop(); }};
+    stops.async_wait([&](const std::error_code&, int) { front.Stop(); });
     std::cout << "listening on http://127.0.0.1:" << port << std::endl;
-    front.Run();
+    context.run();
     return 0;
 }
 
