@@ -1,3 +1,4 @@
+// The pictures of the projects' trees, one for each kind of node in every icon set.
 #pragma once
 
 #include <optional>
@@ -7,8 +8,8 @@
 namespace server
 {
 
-// A GIF of 17 by 17 pixels for "project_offi.gif", "stage_offi.gif" or "gate_offi.gif" in the colours of an icon set;
-// nothing for an unknown set or file name.
-[[nodiscard]] std::optional<std::string> DrawSetIcon(std::string_view set, std::string_view fileName);
+// The GIF of that name ("project_offi.gif", "stage_offi.gif" or "gate_offi.gif") in an icon set; nothing for an unknown
+// set or file name.
+[[nodiscard]] std::optional<std::string> SetIcon(const std::string& set, std::string_view fileName);
 
 } // namespace server

@@ -72,7 +72,7 @@ Answer GetValues(Service& service, const Parameters&)
 
 Answer GetSetIcon(Service&, const Parameters& parameters)
 {
-    auto picture = DrawSetIcon(parameters.Text(1), parameters.Text(2));
+    auto picture = SetIcon(parameters.Text(1), parameters.Text(2));
     if (!picture)
         throw ServiceError{ErrorNumber::NotFound, parameters.Operation(),
                            "There is no icon '" + parameters.Text(2) + "' in set '" + parameters.Text(1) + "'."};
