@@ -1,7 +1,7 @@
 #include "core/Fields.h"
 
-#include "core/Http.h"
 #include "core/ServiceError.h"
+#include "core/Utf8.h"
 
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// Names and values as a query string or a form carries them, and the parameters of an operation among them.
 #pragma once
 
 #include <map>
@@ -8,10 +9,6 @@ namespace server
 {
 
 using Fields = std::map<std::string, std::string, std::less<>>;
-
-// Keeps valid UTF-8 sequences and reads every other byte from 0x80 on as Latin-1: clients send Latin-1 letters raw in a
-// query but as UTF-8 in a body.
-[[nodiscard]] std::string ToUtf8(std::string_view bytes);
 
 // "+" is a blank, %XX a byte of UTF-8; a "%" that no two hexadecimal digits follow stays as it is.
 [[nodiscard]] std::string DecodeText(std::string_view encoded);

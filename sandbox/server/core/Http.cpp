@@ -1,5 +1,7 @@
 #include "core/Http.h"
 
+#include "core/Utf8.h"
+
 #include <algorithm>
 
 namespace server
@@ -7,22 +9,6 @@ namespace server
 
 namespace
 {
-
-char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-bool SameLetter(char left, char right) { return Lower(left) == Lower(right); }
-
-// Latin-1 capitals are C3 80 to C3 9E in UTF-8, all but the multiplication sign C3 97.
-std::string LowerText(std::string_view text)
-{
-    std::string lower{text};
-    for (std::size_t at = 0; at < lower.size(); ++at) {
-        const auto byte = static_cast<unsigned char>(lower[at]);
-        const bool capital = at > 0 && lower[at - 1] == '\xC3' && byte >= 0x80 && byte <= 0x9E && byte != 0x97;
-        lower[at] = capital ? static_cast<char>(byte + 0x20) : Lower(lower[at]);
-    }
-    return lower;
-}
 
 std::string_view Trim(std::string_view text)
 {
@@ -81,13 +67,6 @@ std::string_view Reason(int status)
 }
 
 } // namespace
-
-bool EqualNoCase(std::string_view left, std::string_view right) { return std::ranges::equal(left, right, SameLetter); }
-
-bool ContainsNoCase(std::string_view text, std::string_view part)
-{
-    return LowerText(text).find(LowerText(part)) != std::string::npos;
-}
 
 std::string_view Request::Header(std::string_view name) const
 {

@@ -1,3 +1,4 @@
+// Requests and answers of HTTP, and the heads of both as text.
 #pragma once
 
 #include <optional>
@@ -39,9 +40,5 @@ struct Answer
 // Status line and headers with the empty line. The connection is always closed after one answer, so that a client never
 // meets a connection that is being closed, nor silently repeats a request on a new one.
 [[nodiscard]] std::string FormatHead(const Answer& answer, std::size_t contentLength);
-
-[[nodiscard]] bool EqualNoCase(std::string_view left, std::string_view right);
-// Whether UTF-8 text holds the part; ASCII and Latin-1 letters count alike in both cases.
-[[nodiscard]] bool ContainsNoCase(std::string_view text, std::string_view part);
 
 } // namespace server

@@ -1,7 +1,6 @@
 #include "core/Multipart.h"
 
-#include "core/Fields.h"
-#include "core/Http.h"
+#include "core/Utf8.h"
 
 namespace server
 {

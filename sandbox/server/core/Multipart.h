@@ -1,3 +1,4 @@
+// The body of an upload.
 #pragma once
 
 #include <optional>

@@ -1,4 +1,5 @@
 #include "core/Operations.h"
+#include "core/Utf8.h"
 
 #include <algorithm>
 

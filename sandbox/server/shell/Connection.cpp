@@ -1,5 +1,7 @@
 #include "shell/Connection.h"
 
+#include "core/Utf8.h"
+
 #include <asio/buffer.hpp>
 #include <asio/read.hpp>
 #include <asio/read_until.hpp>

@@ -1,10 +1,11 @@
 #include "shell/RequestLog.h"
 
+#include "core/Utf8.h"
+
 #include <array>
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
-#include <ctime>
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 
@@ -13,17 +14,6 @@ namespace server
 
 namespace
 {
-
-std::string Latin1ToUtf8(std::string_view bytes)
-{
-    std::string text;
-    for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte >= 0x80) text += static_cast<char>(0xC0 | (byte >> 6));
-        text += static_cast<char>(byte < 0x80 ? byte : 0x80 | (byte & 0x3F));
-    }
-    return text;
-}
 
 std::string Base64(std::string_view bytes)
 {
@@ -43,14 +33,14 @@ std::string Base64(std::string_view bytes)
 std::string UtcTime()
 {
     using namespace std::chrono;
-    const auto now = system_clock::now();
-    const auto seconds = system_clock::to_time_t(now);
-    const auto milliseconds = duration_cast<std::chrono::milliseconds>(now.time_since_epoch()).count() % 1000;
-    std::tm utc{};
-    gmtime_r(&seconds, &utc);
+    const auto now = floor<milliseconds>(system_clock::now());
+    const year_month_day date{floor<days>(now)};
+    const hh_mm_ss clock{now - floor<days>(now)};
     std::array<char, 32> text{};
-    const auto length = std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%S", &utc);
-    std::snprintf(text.data() + length, text.size() - length, ".%03dZ", static_cast<int>(milliseconds));
+    std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02d.%03dZ", int{date.year()},
+                  unsigned{date.month()}, unsigned{date.day()}, static_cast<int>(clock.hours().count()),
+                  static_cast<int>(clock.minutes().count()), static_cast<int>(clock.seconds().count()),
+                  static_cast<int>(clock.subseconds().count()));
     return text.data();
 }
 
