@@ -15,19 +15,28 @@ std::string WithoutControls(std::string text)
     return text;
 }
 
+std::string Written(const char* firstLine, const pugi::xml_document& document)
+{
+    std::ostringstream out;
+    out << firstLine << '\n';
+    document.save(out, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
+    return out.str();
+}
+
 } // namespace
 
 Answer TextAnswer(std::string text) { return {.body = std::move(text)}; }
 
 Answer XmlAnswer(const pugi::xml_document& document)
 {
-    std::ostringstream out;
-    out << R"(<?xml version="1.0" encoding="utf-8"?>)" << '\n';
-    document.save(out, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
-    return {.contentType = "text/xml; charset=utf-8", .body = out.str()};
+    return {.contentType = "text/xml; charset=utf-8",
+            .body = Written(R"(<?xml version="1.0" encoding="utf-8"?>)", document)};
 }
 
-Answer HtmlAnswer(std::string page) { return {.contentType = "text/html; charset=utf-8", .body = std::move(page)}; }
+Answer HtmlAnswer(const pugi::xml_document& page)
+{
+    return {.contentType = "text/html; charset=utf-8", .body = Written("<!DOCTYPE html>", page)};
+}
 
 Answer ErrorAnswer(const ServiceError& error)
 {

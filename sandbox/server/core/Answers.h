@@ -1,3 +1,4 @@
+// The kinds of answers: text, XML, pages, errors and rowsets.
 #pragma once
 
 #include "core/Http.h"
@@ -16,7 +17,7 @@ using Row = std::vector<std::pair<const char*, std::string>>;
 
 [[nodiscard]] Answer TextAnswer(std::string text);
 [[nodiscard]] Answer XmlAnswer(const pugi::xml_document& document);
-[[nodiscard]] Answer HtmlAnswer(std::string page);
+[[nodiscard]] Answer HtmlAnswer(const pugi::xml_document& page);
 [[nodiscard]] Answer ErrorAnswer(const ServiceError& error);
 [[nodiscard]] Answer RowsetAnswer(const std::vector<Row>& rows);
 

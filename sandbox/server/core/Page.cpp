@@ -8,7 +8,7 @@ namespace server
 namespace
 {
 
-constexpr std::string_view kStyle = R"(
+constexpr const char* kStyle = R"(
 :root { color-scheme: light; --ink: #1d2733; --soft: #5c6b7a; --line: #dde4ea; --brand: #184e8c; }
 * { box-sizing: border-box; }
 body { margin: 0; font: 15px/1.5 "Segoe UI", system-ui, sans-serif; color: var(--ink); background: #f4f6f8; }
@@ -28,15 +28,36 @@ a { color: var(--brand); } ul { margin: 0; padding-left: 20px; }
 .none { color: var(--soft); }
 )";
 
-std::string Document(std::string_view title, std::string_view content)
+// An element of a page. It holds a text, be it empty, because a browser takes one without an end tag for open.
+pugi::xml_node Add(pugi::xml_node parent, const char* name, const Row& attributes = {}, const std::string& text = {})
 {
-    std::string page = "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">";
-    page += "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">";
-    page += "<title>" + EscapeHtml(title) + " - Corvane</title><style>";
-    page += kStyle;
-    page += "</style></head><body><header><a href=\"/\">Corvane</a></header><main>";
-    page += content;
-    return page + "</main></body></html>\n";
+    auto element = AppendElement(parent, name, attributes);
+    element.text().set(text.c_str());
+    return element;
+}
+
+void AddLink(pugi::xml_node parent, const std::string& link, const std::string& text)
+{
+    Add(parent, "a", {{"href", link}}, text);
+}
+
+void AddText(pugi::xml_node parent, const std::string& text)
+{
+    parent.append_child(pugi::node_pcdata).set_value(text.c_str());
+}
+
+// A page without content, and the element for it.
+pugi::xml_node StartPage(pugi::xml_document& page, const std::string& title)
+{
+    const auto html = AppendElement(page, "html", {{"lang", "en"}});
+    const auto head = AppendElement(html, "head", {});
+    AppendElement(head, "meta", {{"charset", "utf-8"}});
+    AppendElement(head, "meta", {{"name", "viewport"}, {"content", "width=device-width, initial-scale=1"}});
+    Add(head, "title", {}, title + " - Corvane");
+    Add(head, "style", {}, kStyle);
+    const auto body = Add(html, "body");
+    AddLink(Add(body, "header"), "/", "Corvane");
+    return Add(body, "main");
 }
 
 std::string KindName(TargetKind kind)
@@ -46,99 +67,82 @@ std::string KindName(TargetKind kind)
     return name;
 }
 
-std::string Cell(std::string_view text) { return "<td>" + EscapeHtml(text) + "</td>"; }
-
-std::string VersionRow(const Version& version, std::string_view link)
+void AddVersion(pugi::xml_node table, const Version& version, const std::string& link)
 {
-    std::string row = "<tr>" + Cell(std::to_string(version.number)) + Cell(DateWithTime(version.date)) +
-                      Cell(version.author) + Cell(version.comments);
-    row += version.published ? "<td><span class=\"tag\">Published</span></td>" : "<td></td>";
-    if (version.storedAs.empty()) return row + "<td class=\"none\">no file kept</td></tr>";
-    return row + "<td><a href=\"" + EscapeHtml(link) + "&amp;Version=" + std::to_string(version.number) + "\">" +
-           EscapeHtml(version.file) + "</a></td></tr>";
+    const auto row = Add(table, "tr");
+    const auto number = std::to_string(version.number);
+    for (const auto& text : {number, DateWithTime(version.date), version.author, version.comments})
+        Add(row, "td", {}, text);
+    const auto state = Add(row, "td");
+    if (version.published) Add(state, "span", {{"class", "tag"}}, "Published");
+    if (version.storedAs.empty())
+        Add(row, "td", {{"class", "none"}}, "no file kept");
+    else
+        AddLink(Add(row, "td"), link + "&Version=" + number, version.file);
 }
 
-std::string VersionTable(const Target& target, std::string_view link)
+void AddVersions(pugi::xml_node section, const Target& target, const std::string& link)
 {
-    if (target.versions.empty()) return "<p class=\"none\">No version has been saved yet.</p>";
-    std::string table =
-        "<table><tr><th>Version</th><th>Date</th><th>Author</th><th>Comments</th><th></th><th>File</th></tr>";
+    if (target.versions.empty()) {
+        Add(section, "p", {{"class", "none"}}, "No version has been saved yet.");
+        return;
+    }
+    const auto table = Add(section, "table");
+    const auto heads = Add(table, "tr");
+    for (const char* head : {"Version", "Date", "Author", "Comments", "", "File"})
+        Add(heads, "th", {}, head);
     for (auto version = target.versions.rbegin(); version != target.versions.rend(); ++version)
-        table += VersionRow(*version, link);
-    return table + "</table>";
+        AddVersion(table, *version, link);
 }
 
 std::string PathOf(const Place& place, TargetKind kind)
 {
     std::string path = place.project->name;
-    if (place.stage) path += " / " + place.stage->name;
-    if (place.activity) path += " / " + place.deliverable->name;
-    if (place.gate) path += " / " + place.gate->name;
+    if (place.stage != nullptr) path += " / " + place.stage->name;
+    if (place.activity != nullptr) path += " / " + place.deliverable->name;
+    if (place.gate != nullptr) path += " / " + place.gate->name;
     return KindName(kind) + " in " + path;
 }
 
-std::string StateLine(const Place& place)
+void AddState(pugi::xml_node section, const Place& place)
 {
-    if (!place.deliverable) return {};
+    if (place.deliverable == nullptr) return;
     const auto& assignment = place.GetAssignment();
-    std::string line;
-    if (assignment.statusCode == kStatusCompleted) line += "<span class=\"tag\">Completed</span> ";
-    return assignment.statusNote.empty() && line.empty() ? line
-                                                         : "<p>" + line + EscapeHtml(assignment.statusNote) + "</p>";
+    const bool completed = assignment.statusCode == kStatusCompleted;
+    if (assignment.statusNote.empty() && !completed) return;
+    const auto line = Add(section, "p");
+    if (completed) Add(line, "span", {{"class", "tag"}}, "Completed");
+    AddText(line, (completed ? " " : "") + assignment.statusNote);
 }
 
-std::string Item(TargetKind kind, int projectId, const Target& target)
+void AddItem(pugi::xml_node list, TargetKind kind, int projectId, const Target& target)
 {
-    return "<li><a href=\"" + EscapeHtml(PageLink(kind, projectId, target.id)) + "\">" + EscapeHtml(target.name) +
-           "</a> <span class=\"none\">" + KindName(kind) + ", " + std::to_string(target.versions.size()) +
-           " versions</span></li>";
+    const auto item = Add(list, "li");
+    AddLink(item, PageLink(kind, projectId, target.id), target.name);
+    AddText(item, " ");
+    Add(item, "span", {{"class", "none"}},
+        KindName(kind) + ", " + std::to_string(target.versions.size()) + " versions");
 }
 
-std::string ProjectSection(const Project& project)
+void AddProject(pugi::xml_node main, const Project& project)
 {
-    std::string items;
+    const auto section = Add(main, "section");
+    Add(section, "h2", {}, project.name);
+    const auto list = Add(section, "ul");
     for (const auto& stage : project.stages)
         for (const auto& deliverable : stage.deliverables) {
-            items += Item(TargetKind::Deliverable, project.id, deliverable);
+            AddItem(list, TargetKind::Deliverable, project.id, deliverable);
             for (const auto& activity : deliverable.activities)
-                items += Item(TargetKind::Activity, project.id, activity);
+                AddItem(list, TargetKind::Activity, project.id, activity);
         }
     for (const auto& gate : project.gates)
         for (const auto& document : gate.documents)
-            items += Item(TargetKind::GateDocument, project.id, document);
+            AddItem(list, TargetKind::GateDocument, project.id, document);
     for (const auto& file : project.relatedFiles)
-        items += Item(TargetKind::RelatedFile, project.id, file);
-    return "<section><h2>" + EscapeHtml(project.name) + "</h2><ul>" + items + "</ul></section>";
+        AddItem(list, TargetKind::RelatedFile, project.id, file);
 }
 
 } // namespace
-
-std::string EscapeHtml(std::string_view text)
-{
-    std::string escaped;
-    for (const char c : text) {
-        switch (c) {
-        case '&':
-            escaped += "&amp;";
-            break;
-        case '<':
-            escaped += "&lt;";
-            break;
-        case '>':
-            escaped += "&gt;";
-            break;
-        case '"':
-            escaped += "&quot;";
-            break;
-        case '\'':
-            escaped += "&#39;";
-            break;
-        default:
-            escaped += c;
-        }
-    }
-    return escaped;
-}
 
 std::string PageLink(TargetKind kind, int projectId, int targetId)
 {
@@ -150,27 +154,37 @@ std::string PageLink(TargetKind kind, int projectId, int targetId)
            std::to_string(targetId);
 }
 
-std::string IndexPage(Service& service)
+Answer IndexPage(Service& service)
 {
-    std::string sections;
+    pugi::xml_document page;
+    const auto main = StartPage(page, "Projects");
+    Add(main, "p", {{"class", "path"}}, "Projects of " + service.CurrentUser().name);
     for (const auto& project : service.Shown().projects)
-        if (Contains(project.team, service.CurrentUser().id)) sections += ProjectSection(project);
-    return Document("Projects",
-                    "<p class=\"path\">Projects of " + EscapeHtml(service.CurrentUser().name) + "</p>" + sections);
+        if (Contains(project.team, service.CurrentUser().id)) AddProject(main, project);
+    return HtmlAnswer(page);
 }
 
-std::string TargetPage(const Place& place, TargetKind kind)
+Answer TargetPage(const Place& place, TargetKind kind)
 {
     const auto& target = place.GetTarget();
-    const auto link = PageLink(kind, place.project->id, target.id);
-    return Document(target.name, "<section><h1>" + EscapeHtml(target.name) + "</h1><p class=\"path\">" +
-                                     EscapeHtml(PathOf(place, kind)) + "</p>" + StateLine(place) +
-                                     VersionTable(target, link) + "</section>");
+    pugi::xml_document page;
+    const auto section = Add(StartPage(page, target.name), "section");
+    Add(section, "h1", {}, target.name);
+    Add(section, "p", {{"class", "path"}}, PathOf(place, kind));
+    AddState(section, place);
+    AddVersions(section, target, PageLink(kind, place.project->id, target.id));
+    return HtmlAnswer(page);
 }
 
-std::string NotFoundPage()
+Answer NotFoundPage()
 {
-    return Document("Not found", "<section><h1>Not found</h1><p>There is nothing at this address.</p></section>");
+    pugi::xml_document page;
+    const auto section = Add(StartPage(page, "Not found"), "section");
+    Add(section, "h1", {}, "Not found");
+    Add(section, "p", {}, "There is nothing at this address.");
+    auto answer = HtmlAnswer(page);
+    answer.status = 404;
+    return answer;
 }
 
 } // namespace server

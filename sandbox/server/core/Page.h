@@ -1,19 +1,18 @@
+// The pages that links of notifications lead to.
 #pragma once
 
+#include "core/Answers.h"
 #include "core/Service.h"
 
 #include <string>
-#include <string_view>
 
 namespace server
 {
 
-// HTML pages without any outside reference. All texts are escaped.
-[[nodiscard]] std::string IndexPage(Service& service);
-[[nodiscard]] std::string TargetPage(const Place& place, TargetKind kind);
-[[nodiscard]] std::string NotFoundPage();
-
-[[nodiscard]] std::string EscapeHtml(std::string_view text);
+// HTML pages without any outside reference; the last one with its status.
+[[nodiscard]] Answer IndexPage(Service& service);
+[[nodiscard]] Answer TargetPage(const Place& place, TargetKind kind);
+[[nodiscard]] Answer NotFoundPage();
 
 // Target of the link that shows a deliverable, activity, gate document or related document.
 [[nodiscard]] std::string PageLink(TargetKind kind, int projectId, int targetId);

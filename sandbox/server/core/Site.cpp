@@ -13,13 +13,6 @@ namespace server
 namespace
 {
 
-Answer NotFound()
-{
-    auto answer = HtmlAnswer(NotFoundPage());
-    answer.status = 404;
-    return answer;
-}
-
 int NumberIn(const Fields& fields, std::string_view name)
 {
     int value = 0;
@@ -67,7 +60,7 @@ Answer Download(const Archive& files, const Target& target, int number)
                 .body = std::move(*bytes),
                 .headers = {{"Content-Disposition", "attachment; filename*=UTF-8''" + PercentEncode(version.file)}}};
     }
-    return NotFound();
+    return NotFoundPage();
 }
 
 } // namespace
@@ -88,7 +81,7 @@ Answer Site::Route(const Request& request)
     const auto path = request.Path();
     if (path == "/WebServices/offi.asp") return WebService(request);
     if (path == "/WebServices/UploadToTransfer.ashx") return Upload(request);
-    return path == "/" || path.empty() ? Page(request) : NotFound();
+    return path == "/" || path.empty() ? Page(request) : NotFoundPage();
 }
 
 Answer Site::WebService(const Request& request)
@@ -114,13 +107,13 @@ Answer Site::Upload(const Request& request)
 Answer Site::Page(const Request& request)
 {
     const auto fields = DecodeFields(request.Query());
-    if (fields.empty()) return HtmlAnswer(IndexPage(m_service));
+    if (fields.empty()) return IndexPage(m_service);
     const auto kind = KindOfPage(fields);
-    if (!kind) return NotFound();
+    if (!kind) return NotFoundPage();
     const auto place = m_service.Shown().Find(*kind, NumberIn(fields, IdField(*kind)));
-    if (!place || place->project->id != NumberIn(fields, "PID")) return NotFound();
+    if (!place || place->project->id != NumberIn(fields, "PID")) return NotFoundPage();
     if (fields.contains("Version")) return Download(m_service.Files(), place->GetTarget(), NumberIn(fields, "Version"));
-    return HtmlAnswer(TargetPage(*place, *kind));
+    return TargetPage(*place, *kind);
 }
 
 } // namespace server

@@ -1,3 +1,4 @@
+// The server without its port: an answer for every request.
 #pragma once
 
 #include "core/Answers.h"
