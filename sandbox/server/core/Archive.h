@@ -1,3 +1,4 @@
+// The data folder: uploads, recorded files and the list of all versions.
 #pragma once
 
 #include "core/Version.h"

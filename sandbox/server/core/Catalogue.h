@@ -1,3 +1,4 @@
+// Users and projects with everything in them that a version can be recorded for.
 #pragma once
 
 #include "core/Version.h"

@@ -1,3 +1,4 @@
+// The time, and how answers write it.
 #pragma once
 
 #include <string>

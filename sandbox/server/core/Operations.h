@@ -1,3 +1,4 @@
+// The operations of the web service by their names.
 #pragma once
 
 #include "core/Answers.h"

@@ -1,3 +1,4 @@
+// Who may record a new version of what.
 #pragma once
 
 #include "core/Catalogue.h"

@@ -1,3 +1,4 @@
+// The data that the server starts with.
 #pragma once
 
 #include "core/Catalogue.h"

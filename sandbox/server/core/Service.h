@@ -1,3 +1,4 @@
+// What operations and pages work on.
 #pragma once
 
 #include "core/Archive.h"

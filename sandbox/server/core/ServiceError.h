@@ -1,3 +1,4 @@
+// The errors that a client is told.
 #pragma once
 
 #include <stdexcept>

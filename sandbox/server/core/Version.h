@@ -1,3 +1,4 @@
+// A recorded version, as it is kept and listed.
 #pragma once
 
 #include <cstdint>

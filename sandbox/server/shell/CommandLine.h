@@ -1,3 +1,4 @@
+// The options of the program.
 #pragma once
 
 #include <filesystem>

@@ -1,7 +1,6 @@
 #include "shell/DataFolder.h"
 
-#include <cerrno>
-#include <cstdlib>
+#include <random>
 #include <string>
 #include <system_error>
 
@@ -10,14 +9,25 @@ namespace server
 
 namespace fs = std::filesystem;
 
-DataFolder::DataFolder(fs::path chosen) : m_temporary{chosen.empty()}, m_path{std::move(chosen)}
+namespace
 {
-    if (!m_temporary) return;
-    auto pattern = (fs::temp_directory_path() / "corvane-server-XXXXXX").string();
-    if (!::mkdtemp(pattern.data()))
-        throw fs::filesystem_error{"temporary folder", pattern, std::error_code{errno, std::generic_category()}};
-    m_path = pattern;
+
+fs::path NewTemporaryFolder()
+{
+    std::random_device random;
+    fs::path folder;
+    do
+        folder = fs::temp_directory_path() / ("corvane-server-" + std::to_string(random()));
+    while (!fs::create_directory(folder));
+    fs::permissions(folder, fs::perms::owner_all);
+    return folder;
 }
+
+} // namespace
+
+DataFolder::DataFolder(const fs::path& chosen)
+    : m_temporary{chosen.empty()}, m_path{m_temporary ? NewTemporaryFolder() : chosen}
+{}
 
 DataFolder::~DataFolder()
 {

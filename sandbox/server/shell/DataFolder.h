@@ -1,3 +1,4 @@
+// Where the server keeps its state while it runs.
 #pragma once
 
 #include <filesystem>
@@ -11,7 +12,7 @@ class DataFolder
 {
 public:
     // Throws std::filesystem::filesystem_error when no temporary folder can be made.
-    explicit DataFolder(std::filesystem::path chosen);
+    explicit DataFolder(const std::filesystem::path& chosen);
     DataFolder(const DataFolder&) = delete;
     DataFolder& operator=(const DataFolder&) = delete;
     ~DataFolder();
