@@ -12,9 +12,9 @@ public:
         *object = nullptr;
         if (id == IID_IClassFactory)
             *object = static_cast<IClassFactory*>(this);
-        else if (id == host::kRibbonExtensibilityId)
+        else if (id == __uuidof(host::IRibbonExtensibility))
             *object = static_cast<host::IRibbonExtensibility*>(this);
-        else if (id == host::kExtensibilityId || id == IID_IUnknown)
+        else if (id == __uuidof(host::IDTExtensibility2) || id == IID_IUnknown)
             *object = static_cast<host::IDTExtensibility2*>(this);
         return *object == nullptr ? E_NOINTERFACE : S_OK;
     }

@@ -164,7 +164,7 @@ Player::Finding Player::PropertyFinding(const std::wstring& name, const std::wst
     std::optional<std::wstring> value;
     OnUi([&] {
         for (const CustomProperty& property : ActiveOf(m_host).File().Custom())
-            if (Widen(property.name) == name) value = ToValue(property).Text();
+            if (Widen(property.name) == name) value = ToValue(property).As(VT_BSTR).Text();
     });
     if (!value && !wanted.empty()) return L"the presentation has no property " + name;
     return value.value_or(L"") == wanted ? Finding{} : Finding{L"the property is \"" + *value + L"\""};

@@ -82,7 +82,7 @@ void Player::Hover(const Step& step)
         PointAt(form, control);
         ::Sleep(2 * ::GetDoubleClickTime()); // a tooltip comes after a double click's time
         const std::wstring tip = ShownTip(form);
-        if (!tip.empty()) throw AutomationError{E_FAIL, L"the tooltip is \"" + tip + L"\""};
+        if (!tip.empty()) throw Error{E_FAIL, {}, L"the tooltip is \"" + tip + L"\""};
         return;
     }
     WaitFor([&, wanted = Widen(step.At(1)), look = 0]() mutable {

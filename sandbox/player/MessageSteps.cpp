@@ -89,7 +89,7 @@ void Player::No(const Step& step)
     }
     if (step.At(0) != "message") throw std::runtime_error{"only \"no message\" and \"no macro\" are offered"};
     const auto boxes = MessageBoxes();
-    if (!boxes.empty()) throw AutomationError{E_FAIL, ReportOf(boxes.front())};
+    if (!boxes.empty()) throw Error{E_FAIL, {}, ReportOf(boxes.front())};
 }
 
 void Player::ExpectIcon(const Step& step)

@@ -40,7 +40,7 @@ bool Player::Play()
     } catch (const ScriptError& error) {
         PrintError(m_path + L":" + std::to_wstring(error.Line()) + L": " + Widen(error.Source()) + L"\n  " +
                    Widen(error.what()));
-    } catch (const AutomationError& error) {
+    } catch (const Error& error) {
         const std::wstring where =
             current ? m_path + L":" + std::to_wstring(current->line) + L": " + Widen(current->source) : m_path;
         PrintError(where + L"\n  " + error.Description() + L"\n" + DescribeScreen());
@@ -95,7 +95,7 @@ void Player::WaitFor(const std::function<Finding()>& check)
     auto poll = kFirstPoll;
     for (Finding finding = check(); !finding.empty(); finding = check()) {
         CheckFaults();
-        if (std::chrono::steady_clock::now() > end) throw AutomationError{E_FAIL, finding};
+        if (std::chrono::steady_clock::now() > end) throw Error{E_FAIL, {}, finding};
         ::Sleep(static_cast<DWORD>(poll.count()));
         poll = std::min(poll * 5 / 4, kSlowestPoll);
     }
@@ -116,7 +116,7 @@ void Player::CheckFaults()
 {
     if (m_faultsExpected) return;
     const auto faults = m_host.TakeFaults();
-    if (!faults.empty()) throw AutomationError{E_FAIL, L"the add-in failed: " + faults.front()};
+    if (!faults.empty()) throw Error{E_FAIL, {}, L"the add-in failed: " + faults.front()};
 }
 
 } // namespace host

@@ -8,7 +8,7 @@
 #include <wincodec.h>
 #include <wrl/client.h>
 
-#include "automation/AutomationError.h"
+#include "automation/Errors.h"
 
 namespace host
 {
@@ -27,7 +27,7 @@ struct Pixels
 RECT PlaceOf(HWND window)
 {
     RECT place = {0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN)};
-    if (window && !::GetWindowRect(window, &place)) throw AutomationError{E_FAIL, L"The window is gone."};
+    if (window && !::GetWindowRect(window, &place)) throw Error{E_FAIL, {}, L"The window is gone."};
     return place;
 }
 
@@ -63,7 +63,7 @@ public:
         Pixels pixels{static_cast<UINT>(m_width), static_cast<UINT>(m_height), {}};
         pixels.bytes.resize(std::size_t{4} * pixels.width * pixels.height);
         const int lines = ::GetDIBits(m_memory, m_bitmap, 0, pixels.height, pixels.bytes.data(), &info, DIB_RGB_COLORS);
-        if (!copied || lines != m_height) throw AutomationError{E_FAIL, L"The screen cannot be read."};
+        if (!copied || lines != m_height) throw Error{E_FAIL, {}, L"The screen cannot be read."};
         return pixels;
     }
 

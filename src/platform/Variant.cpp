@@ -11,6 +11,14 @@ Variant::Variant(std::int32_t number) noexcept : Variant{}
     m_value.lVal = number;
 }
 
+Variant::Variant(long number) noexcept : Variant{static_cast<std::int32_t>(number)} {}
+
+Variant::Variant(double number) noexcept : Variant{}
+{
+    m_value.vt = VT_R8;
+    m_value.dblVal = number;
+}
+
 Variant::Variant(bool value) noexcept : Variant{}
 {
     m_value.vt = VT_BOOL;
@@ -38,6 +46,27 @@ Variant Variant::Missing() noexcept
     return missing;
 }
 
+Variant Variant::OfDate(DATE date) noexcept
+{
+    Variant value;
+    value.m_value.vt = VT_DATE;
+    value.m_value.date = date;
+    return value;
+}
+
+bool Variant::IsMissing() const noexcept
+{
+    return m_value.vt == VT_EMPTY || (m_value.vt == VT_ERROR && m_value.scode == DISP_E_PARAMNOTFOUND);
+}
+
+Variant Variant::As(VARTYPE type) const
+{
+    Variant other;
+    Check(::VariantChangeTypeEx(other.Put(), const_cast<VARIANT*>(&m_value), LOCALE_INVARIANT, VARIANT_ALPHABOOL, type),
+          L"Variant.As");
+    return other;
+}
+
 std::wstring Variant::TextOf(const VARIANT& value)
 {
     if (value.vt == VT_EMPTY || value.vt == VT_NULL) return {};
@@ -48,10 +77,10 @@ std::wstring Variant::TextOf(const VARIANT& value)
     return std::wstring{ViewOf(text.m_value.bstrVal)};
 }
 
-Variant Variant::Copy() const
+Variant Variant::Of(const VARIANT& value)
 {
     Variant copy;
-    Check(::VariantCopyInd(copy.Put(), const_cast<VARIANT*>(&m_value)), L"Variant.Copy");
+    Check(::VariantCopyInd(copy.Put(), const_cast<VARIANT*>(&value)), L"Variant.Copy");
     return copy;
 }
 

@@ -16,11 +16,16 @@ class Variant
 public:
     Variant() noexcept { ::VariantInit(&m_value); }
     Variant(std::int32_t number) noexcept; // NOLINT(google-explicit-constructor): arguments of late-bound calls
+    Variant(long number) noexcept;         // NOLINT(google-explicit-constructor): idem
+    Variant(double number) noexcept;       // NOLINT(google-explicit-constructor): idem
     Variant(bool value) noexcept;          // NOLINT(google-explicit-constructor): idem
     Variant(std::wstring_view text);       // NOLINT(google-explicit-constructor): idem
     Variant(const wchar_t* text) : Variant{std::wstring_view{text}} {}      // NOLINT(google-explicit-constructor): idem
     Variant(const std::wstring& text) : Variant{std::wstring_view{text}} {} // NOLINT(google-explicit-constructor): idem
     Variant(IDispatch* object) noexcept; // NOLINT(google-explicit-constructor): idem; adds a reference
+    template<class Object>
+    Variant(const ComPtr<Object>& object) noexcept : Variant{static_cast<IDispatch*>(object.Get())} // NOLINT: idem
+    {}
     Variant(const Variant&) = delete;
     Variant(Variant&& other) noexcept : m_value{std::exchange(other.m_value, VARIANT{})} {}
     Variant& operator=(Variant other) noexcept
@@ -32,6 +37,9 @@ public:
 
     // An argument left out of a late-bound call (DISP_E_PARAMNOTFOUND).
     [[nodiscard]] static Variant Missing() noexcept;
+    [[nodiscard]] static Variant OfDate(DATE date) noexcept;
+    // A second owner of what somebody else's VARIANT holds or refers to; throws Error.
+    [[nodiscard]] static Variant Of(const VARIANT& value);
 
     [[nodiscard]] const VARIANT& Get() const noexcept { return m_value; }
     [[nodiscard]] VARIANT* Put() noexcept
@@ -39,12 +47,23 @@ public:
         *this = Variant{};
         return &m_value;
     }
+    // Gives the value to a callee or caller that frees it.
+    [[nodiscard]] VARIANT Detach() noexcept { return std::exchange(m_value, VARIANT{}); }
+
+    [[nodiscard]] VARTYPE Type() const noexcept { return m_value.vt; }
+    // Whether it is Empty or an argument left out.
+    [[nodiscard]] bool IsMissing() const noexcept;
+
+    // The value as another type by the rules of the neutral locale; throws Error where it has no such form.
+    [[nodiscard]] Variant As(VARTYPE type) const;
+    [[nodiscard]] std::int32_t Number() const { return As(VT_I4).m_value.lVal; }
+    [[nodiscard]] bool Boolean() const { return As(VT_BOOL).m_value.boolVal != VARIANT_FALSE; }
 
     // The classic Automation text: Booleans "True" and "False", integers in decimal, Empty and Null as nothing.
     // Throws Error for a value without a text form.
     [[nodiscard]] std::wstring Text() const { return TextOf(m_value); }
-    // A second owner of the same value; throws Error.
-    [[nodiscard]] Variant Copy() const;
+    // Of() its own value.
+    [[nodiscard]] Variant Copy() const { return Of(m_value); }
     // The object inside, or null when the value is not an object.
     [[nodiscard]] ComPtr<IDispatch> Object() const;
 

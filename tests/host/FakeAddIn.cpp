@@ -5,14 +5,16 @@
 #include <cstdlib>
 
 #include "FakeForm.h"
-#include "LateBound.h"
 #include "automation/EventSource.h"
 #include "automation/OfficeInterfaces.h"
+#include "platform/LateBound.h"
 
 namespace host::test
 {
 namespace
 {
+
+using corvane::LateBound;
 
 constexpr CLSID kClassId{0x6B1D5C0E, 0x2E0F, 0x4C55, {0x8E, 0x0B, 0x6B, 0x3C, 0x6F, 0x9B, 0x7A, 0x21}};
 constexpr wchar_t kRibbonXml[] =
@@ -33,7 +35,7 @@ std::wstring Environment(const wchar_t* name)
 class FakeAddIn final : public AutomationObject<IDTExtensibility2>
 {
 public:
-    FakeAddIn() : AutomationObject{L"FakeAddIn", kExtensibilityId} {}
+    FakeAddIn() : AutomationObject{L"FakeAddIn"} {}
 
     std::span<const Member> Members() const override
     {
@@ -49,7 +51,7 @@ public:
 
     void* Interface(REFIID id) override
     {
-        if (id == kRibbonExtensibilityId) return &m_ribbon;
+        if (id == __uuidof(IRibbonExtensibility)) return &m_ribbon;
         return id == kApplicationEventsId ? static_cast<IDTExtensibility2*>(this) : nullptr;
     }
 
@@ -67,7 +69,7 @@ public:
     {
         if (m_events) m_events->Unadvise(m_cookie);
         m_events.Reset();
-        m_ribbonUi.Reset();
+        m_ribbonUi.Release();
         if (!Environment(L"FAKE_LEAK").empty()) m_application.Get()->AddRef();
         m_application.Reset();
         return S_OK;
@@ -94,37 +96,37 @@ private:
         }
         STDMETHODIMP GetCustomUI(BSTR, BSTR* xml) override
         {
-            *xml = ComText{kRibbonXml}.Detach();
+            *xml = Bstr{kRibbonXml}.Detach();
             return S_OK;
         }
         FakeAddIn& m_owner;
     };
 
-    Value OnLoad(const Arguments& arguments)
+    Variant OnLoad(const Arguments& arguments)
     {
-        m_ribbonUi = arguments.At(0).Object();
+        m_ribbonUi = LateBound{arguments.At(0).Object()};
         return {};
     }
 
-    Value GetLabel(const Arguments&) { return Value{std::to_wstring(m_activations) + L" activations"}; }
+    Variant GetLabel(const Arguments&) { return Variant{std::to_wstring(m_activations) + L" activations"}; }
 
-    Value WindowActivate(const Arguments& arguments)
+    Variant WindowActivate(const Arguments& arguments)
     {
-        CallByName(*arguments.At(1).Object(), L"caption", DISPATCH_PROPERTYGET);
+        static_cast<void>(LateBound{arguments.At(1).Object()}.Text(L"caption"));
         ++m_activations;
-        if (m_ribbonUi) CallByName(*m_ribbonUi.Get(), L"Invalidate", DISPATCH_METHOD);
+        if (m_ribbonUi) m_ribbonUi.Call(L"Invalidate");
         return {};
     }
 
-    Value PresentationClose(const Arguments&)
+    Variant PresentationClose(const Arguments&)
     {
         ++m_closes;
         return {};
     }
 
-    Value Press(const Arguments& arguments)
+    Variant Press(const Arguments& arguments)
     {
-        const std::wstring id = CallByName(*arguments.At(0).Object(), L"id", DISPATCH_PROPERTYGET).Text();
+        const std::wstring id = LateBound{arguments.At(0).Object()}.Text(L"id");
         if (id == L"Hello") {
             const std::wstring text =
                 GetLabel(arguments).Text() + L"\r\nand  " + std::to_wstring(m_closes) + L" closed";
@@ -138,7 +140,7 @@ private:
     RibbonSide m_ribbon{*this};
     ComPtr<IDispatch> m_application;
     ComPtr<IConnectionPoint> m_events;
-    ComPtr<IDispatch> m_ribbonUi;
+    LateBound m_ribbonUi;
     DWORD m_cookie = 0;
     long m_activations = 0;
     long m_closes = 0;
@@ -169,4 +171,4 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID id, void** object)
     return classId == host::test::kClassId ? factory.QueryInterface(id, object) : CLASS_E_CLASSNOTAVAILABLE;
 }
 
-STDAPI DllCanUnloadNow() { return host::ObjectCore::Living().empty() ? S_OK : S_FALSE; }
+STDAPI DllCanUnloadNow() { return corvane::Library::IsIdle() ? S_OK : S_FALSE; }

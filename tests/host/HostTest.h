@@ -4,11 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include "Script.h"
 #include "TemporaryFolder.h"
 #include "automation/Text.h"
 #include "objects/Application.h"
 #include "objects/Session.h"
+#include "platform/LateBound.h"
 
 namespace host::test
 {
@@ -26,7 +26,7 @@ protected:
         options.settings = std::move(settings);
         session = std::make_unique<Session>(options);
     }
-    Script Application() { return Script{&session->Application()}; }
+    corvane::LateBound Application() { return corvane::LateBound{ComPtr<IDispatch>{&session->Application()}}; }
 
     TemporaryFolder folder;
     std::unique_ptr<Session> session;

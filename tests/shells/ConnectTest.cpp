@@ -27,7 +27,7 @@ constexpr wchar_t kPolicies[] = L"Software\\Policies\\Halvex\\Corvane";
 class CountingRibbon final : public host::AutomationObject<IDispatch>
 {
 public:
-    CountingRibbon() : AutomationObject{L"Ribbon", host::kRibbonUiId} {}
+    CountingRibbon() : AutomationObject{L"Ribbon", __uuidof(host::IRibbonUI)} {}
 
     int invalidated = 0;
 
@@ -39,7 +39,7 @@ public:
     }
 
 private:
-    host::Value Invalidate(const host::Arguments&)
+    Variant Invalidate(const host::Arguments&)
     {
         ++invalidated;
         return {};
@@ -99,8 +99,8 @@ protected:
     void ActivateWindowOfNothing()
     {
         constexpr DISPID kWindowActivate = 2009;
-        const host::Value nothing{static_cast<IDispatch*>(nullptr)};
-        const host::Value window{session->Active()->Window(1).Get()};
+        const Variant nothing{static_cast<IDispatch*>(nullptr)};
+        const Variant window{session->Active()->Window(1).Get()};
         VARIANT arguments[] = {nothing.Get(), window.Get()};
         session->Application().Events().Fire(kWindowActivate, arguments);
     }
@@ -250,7 +250,7 @@ TEST_F(ConnectTest, TellsOfCallbacksBeforeAConnectionAndAfterItsEnd)
     Disconnect(); // once too often is no error
     EXPECT_TRUE(Tells(L"91", findNoRibbon));
     session.reset();
-    EXPECT_EQ(host::ObjectCore::Living(), L"Ribbon x1") << "of this test";
+    EXPECT_EQ(host::ObjectCore::StillReferenced(), L"Ribbon x1") << "of this test";
 }
 
 TEST_F(ConnectTest, ReplacesItsFirstHostByTheSecond)

@@ -42,15 +42,15 @@ public:
     }
 
 private:
-    host::Value Name(const host::Arguments&) { return L"Microsoft PowerPoint"; }
-    host::Value Version(const host::Arguments&) { return L"16.0"; }
-    host::Value Itself(const host::Arguments&) { return host::Value{this}; }
-    host::Value Item(const host::Arguments& arguments)
+    Variant Name(const host::Arguments&) { return L"Microsoft PowerPoint"; }
+    Variant Version(const host::Arguments&) { return L"16.0"; }
+    Variant Itself(const host::Arguments&) { return Variant{this}; }
+    Variant Item(const host::Arguments& arguments)
     {
         names.push_back(arguments.At(0).Text());
-        return host::Value{this};
+        return Variant{this};
     }
-    host::Value Number(const host::Arguments&) { return static_cast<long>(names.size()); }
+    Variant Number(const host::Arguments&) { return static_cast<long>(names.size()); }
 };
 
 TEST(Binding, IsReadInTheOrderOfTheInterface)

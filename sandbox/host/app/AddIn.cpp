@@ -6,6 +6,7 @@
 #include "documents/Files.h"
 #include "objects/Application.h"
 #include "objects/Session.h"
+#include "platform/LateBound.h"
 
 #include <ranges>
 
@@ -45,28 +46,6 @@ private:
     SAFEARRAY* m_array;
 };
 
-// What a failed call reported. Owned by this object.
-struct CallReport
-{
-    CallReport() = default;
-    CallReport(const CallReport&) = delete;
-    CallReport& operator=(const CallReport&) = delete;
-    ~CallReport()
-    {
-        ::SysFreeString(info.bstrSource);
-        ::SysFreeString(info.bstrDescription);
-        ::SysFreeString(info.bstrHelpFile);
-    }
-
-    [[nodiscard]] std::wstring Text(HRESULT result)
-    {
-        if (info.pfnDeferredFillIn) info.pfnDeferredFillIn(&info);
-        return Hex(result) + (info.bstrDescription ? std::wstring{L" "} + info.bstrDescription : std::wstring{});
-    }
-
-    EXCEPINFO info{};
-};
-
 } // namespace
 
 std::vector<AddInEntry> RegisteredAddIns(const HostFacts& facts)
@@ -101,7 +80,7 @@ void AddIn::Load()
         CustomArray custom;
         if (m_session.Settings().connectMode == kConnectAtStart)
             ThrowIfFailed(m_extensibility->OnStartupComplete(custom.Get()), L"OnStartupComplete failed");
-    } catch (const AutomationError& error) {
+    } catch (const Error& error) {
         Fail(error.Description() + L" (" + Hex(error.Number()) + L")");
     } catch (const std::exception& error) {
         Fail(Widen(error.what()));
@@ -114,9 +93,8 @@ void AddIn::Create()
     const CLSID classId = ClassLoader::ClassOf(m_entry.progId);
     m_registration->SetClass(classId);
     const ComPtr<IUnknown> object = m_classes.Create(classId);
-    ThrowIfFailed(object->QueryInterface(kExtensibilityId, reinterpret_cast<void**>(m_extensibility.GetAddressOf())),
-                  L"it does not offer IDTExtensibility2");
-    object->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(m_callbacks.GetAddressOf()));
+    ThrowIfFailed(object.As(&m_extensibility), L"it does not offer IDTExtensibility2");
+    object.As(&m_callbacks);
 }
 
 void AddIn::Connect()
@@ -134,11 +112,9 @@ void AddIn::Connect()
 void AddIn::ReadRibbonXml()
 {
     ComPtr<IRibbonExtensibility> extensibility;
-    if (FAILED(m_extensibility->QueryInterface(kRibbonExtensibilityId,
-                                               reinterpret_cast<void**>(extensibility.GetAddressOf()))))
-        return;
-    const ComText id{m_session.Facts().ribbonId};
-    ComText xml;
+    if (FAILED(m_extensibility.As(&extensibility))) return;
+    const Bstr id{m_session.Facts().ribbonId};
+    Bstr xml;
     ThrowIfFailed(extensibility->GetCustomUI(id.Get(), xml.Put()), L"GetCustomUI failed");
     const std::string text = Narrow(xml.Text());
     const std::wstring& folder = m_session.Settings().outFolder;
@@ -168,12 +144,12 @@ void AddIn::ReadDynamic(const std::vector<RibbonControl>& controls)
         ReadDynamic(control.children);
         const auto ask = [&](const char* attribute) {
             const std::string name = control.Attribute(attribute);
-            return name.empty() ? Value{} : Callback(name, ControlObject(control).Get());
+            return name.empty() ? Variant{} : Callback(name, ControlObject(control).Get());
         };
         DynamicState state;
-        if (const Value label = ask("getLabel"); !label.IsMissing()) state.label = label.Text();
-        if (const Value enabled = ask("getEnabled"); !enabled.IsMissing()) state.enabled = enabled.Boolean();
-        if (const Value visible = ask("getVisible"); !visible.IsMissing()) state.visible = visible.Boolean();
+        if (const Variant label = ask("getLabel"); !label.IsMissing()) state.label = label.Text();
+        if (const Variant enabled = ask("getEnabled"); !enabled.IsMissing()) state.enabled = enabled.Boolean();
+        if (const Variant visible = ask("getVisible"); !visible.IsMissing()) state.visible = visible.Boolean();
         if (state.label || state.enabled || state.visible) m_dynamic[control.id] = state;
     }
 }
@@ -197,23 +173,17 @@ void AddIn::Press(const RibbonControl& control)
     if (!name.empty()) Callback(name, ControlObject(control).Get());
 }
 
-Value AddIn::Callback(const std::string& name, IDispatch* argument)
+Variant AddIn::Callback(const std::string& name, IDispatch* argument)
 {
-    const ComPtr<IDispatch> callbacks = m_callbacks; // the add-in may be disconnected meanwhile
-    std::wstring wide = Widen(name);
-    LPOLESTR names[] = {wide.data()};
-    DISPID id = DISPID_UNKNOWN;
-    if (!callbacks || FAILED(callbacks->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id)))
-        throw AutomationError{DISP_E_UNKNOWNNAME, L"the callback " + wide + L" is missing"};
-    const Value value{argument};
-    VARIANT arguments[] = {value.Get()};
-    DISPPARAMS parameters{arguments, nullptr, 1, 0};
-    Value answer;
-    CallReport report;
-    const HRESULT called = callbacks->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters,
-                                             answer.Put(), &report.info, nullptr);
-    if (FAILED(called)) throw AutomationError{called, L"the callback " + wide + L" failed: " + report.Text(called)};
-    return answer;
+    const std::wstring wide = Widen(name);
+    const corvane::LateBound callbacks{m_callbacks}; // the add-in may be disconnected meanwhile
+    Variant answer;
+    const auto failure = corvane::Catch([&] { answer = callbacks.Call(wide.c_str(), argument); });
+    if (!failure) return answer;
+    if (!callbacks || failure->Number() == DISP_E_UNKNOWNNAME)
+        throw Error{DISP_E_UNKNOWNNAME, {}, L"the callback " + wide + L" is missing"};
+    const std::wstring report = Hex(failure->Number()) + L" " + failure->Description();
+    throw Error{failure->Number(), {}, L"the callback " + wide + L" failed: " + report};
 }
 
 void AddIn::Disconnect()

@@ -67,7 +67,7 @@ public:
     [[nodiscard]] const Ribbon* Contribution() const { return m_ribbon ? &*m_ribbon : nullptr; }
     [[nodiscard]] const DynamicState* Dynamic(const std::string& id) const;
 
-    // Calls the control's onAction. Throws AutomationError when the callback is missing or fails.
+    // Calls the control's onAction. Throws Error when the callback is missing or fails.
     void Press(const RibbonControl& control);
 
     // Called with every failure of the add-in that a user of Office would be told about.
@@ -81,7 +81,7 @@ private:
     void ReadDynamicStates();
     void Fail(const std::wstring& why);
     [[nodiscard]] ComPtr<RibbonControlObject> ControlObject(const RibbonControl& control) const;
-    Value Callback(const std::string& name, IDispatch* argument);
+    Variant Callback(const std::string& name, IDispatch* argument);
 
     Session& m_session;
     ClassLoader& m_classes;

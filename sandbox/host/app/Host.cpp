@@ -6,6 +6,7 @@
 #include "base/Console.h"
 #include "objects/CommandBars.h"
 #include "objects/DocumentObject.h"
+#include "platform/LateBound.h"
 #include "ui/MailWindow.h"
 #include "ui/MainWindow.h"
 
@@ -82,7 +83,7 @@ bool Host::RunMessages()
     m_companions.reset();
     m_session.Release();
     m_classes.UnloadUnused(); // what was running when the add-ins were disconnected
-    const std::wstring living = ObjectCore::Living();
+    const std::wstring living = ObjectCore::StillReferenced();
     if (!living.empty()) PrintError(L"still referenced by the add-in: " + living);
     return living.empty();
 }
@@ -161,15 +162,7 @@ void Host::CallController(const std::wstring& method)
         const ComPtr<IUnknown> object = m_classes.Create(ClassLoader::ClassOf(kControllerProgId));
         ComPtr<IDispatch> controller;
         ThrowIfFailed(object.As(&controller), L"the controller offers no IDispatch");
-        std::wstring name = method;
-        LPOLESTR names[] = {name.data()};
-        DISPID id = DISPID_UNKNOWN;
-        ThrowIfFailed(controller->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id),
-                      L"the controller has no such method");
-        DISPPARAMS none{};
-        ThrowIfFailed(
-            controller->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &none, nullptr, nullptr, nullptr),
-            L"the controller's method failed");
+        corvane::LateBound{controller}.Call(method.c_str());
     });
 }
 
@@ -185,7 +178,7 @@ void Host::Guarded(const std::function<void()>& action)
     ++m_running;
     try {
         action();
-    } catch (const AutomationError& error) {
+    } catch (const Error& error) {
         AddFault(error.Description());
         if (m_session.Settings().playFile.empty())
             ::MessageBoxW(m_window->Handle(), error.Description().c_str(), L"Stand-in host", MB_ICONEXCLAMATION);

@@ -31,20 +31,20 @@ bool SameName(std::wstring_view a, std::wstring_view b)
 
 HRESULT Report(EXCEPINFO* exception, HRESULT number, const std::wstring& description)
 {
-    if (!exception) return number;
+    if (exception == nullptr) return number;
     *exception = {};
     exception->scode = number;
-    exception->bstrSource = ::SysAllocString(Source());
-    exception->bstrDescription = ::SysAllocString(description.c_str());
+    exception->bstrSource = Bstr{Source()}.Detach();
+    exception->bstrDescription = Bstr{description}.Detach();
     return DISP_E_EXCEPTION;
 }
 
 } // namespace
 
-Value Arguments::At(std::size_t index) const
+Variant Arguments::At(std::size_t index) const
 {
-    if (index >= Count()) throw AutomationError{DISP_E_BADPARAMCOUNT, L"Wrong number of arguments."};
-    return Value{m_parameters.rgvarg[Count() - 1 - index]};
+    if (index >= Count()) throw Error{DISP_E_BADPARAMCOUNT, {}, L"Wrong number of arguments."};
+    return Variant::Of(m_parameters.rgvarg[Count() - 1 - index]);
 }
 
 ObjectCore::ObjectCore(const wchar_t* className) : m_className{className} { ++Ledger()[className]; }
@@ -52,7 +52,7 @@ ObjectCore::~ObjectCore() { --Ledger()[m_className]; }
 
 void ObjectCore::SetSource(const wchar_t* source) { Source() = source; }
 
-std::wstring ObjectCore::Living()
+std::wstring ObjectCore::StillReferenced()
 {
     std::wstring text;
     for (const auto& [name, count] : Ledger())
@@ -62,7 +62,7 @@ std::wstring ObjectCore::Living()
 
 HRESULT ObjectCore::FindNames(LPOLESTR* names, UINT count, DISPID* ids) const noexcept
 {
-    if (!names || !ids || count == 0) return E_INVALIDARG;
+    if (names == nullptr || ids == nullptr || count == 0) return E_INVALIDARG;
     std::fill(ids, ids + count, DISPID_UNKNOWN);
     const auto members = Members();
     const auto found = std::ranges::find_if(members, [&](const Member& m) { return SameName(m.name, names[0]); });
@@ -76,11 +76,11 @@ HRESULT ObjectCore::Call(DISPID id, WORD flags, const DISPPARAMS* parameters, VA
 {
     const auto members = Members();
     const auto found = std::ranges::find_if(members, [&](const Member& m) { return m.id == id; });
-    if (found == members.end() || !(found->kinds & flags)) return DISP_E_MEMBERNOTFOUND;
+    if (found == members.end() || (found->kinds & flags) == 0) return DISP_E_MEMBERNOTFOUND;
     const DISPPARAMS none{};
     try {
-        return CallMember(*found, flags, parameters ? *parameters : none, result);
-    } catch (const AutomationError& error) {
+        return CallMember(*found, flags, parameters != nullptr ? *parameters : none, result);
+    } catch (const Error& error) {
         if (error.Number() == DISP_E_TYPEMISMATCH || error.Number() == DISP_E_BADPARAMCOUNT) return error.Number();
         return Report(exception, error.Number(), error.Description());
     } catch (const std::bad_alloc&) {
@@ -94,8 +94,8 @@ HRESULT ObjectCore::CallMember(const Member& member, WORD flags, const DISPPARAM
 {
     const Arguments arguments{flags, parameters};
     if (parameters.cNamedArgs > (arguments.IsPut() ? 1u : 0u)) return DISP_E_NONAMEDARGS;
-    Value answer = member.call(*this, arguments);
-    if (result) *result = answer.Detach();
+    Variant answer = member.call(*this, arguments);
+    if (result != nullptr) *result = answer.Detach();
     return S_OK;
 }
 

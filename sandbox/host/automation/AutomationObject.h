@@ -1,19 +1,23 @@
+// Objects that answer Automation calls from tables of members.
 #pragma once
 
+#include "automation/Errors.h"
+#include "platform/ComObject.h"
+#include "platform/Variant.h"
+
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
 
-#include <wrl/client.h>
-
-#include "automation/AutomationError.h"
-#include "automation/Value.h"
-
 namespace host
 {
 
-using Microsoft::WRL::ComPtr;
+using corvane::Bstr;
+using corvane::ComPtr;
+using corvane::MakeObject;
+using corvane::Variant;
 
 // The arguments of one call, in the order in which they are written.
 class Arguments
@@ -24,7 +28,7 @@ public:
     [[nodiscard]] bool IsPut() const { return (m_flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0; }
     [[nodiscard]] std::size_t Count() const { return m_parameters.cArgs; }
     [[nodiscard]] bool Has(std::size_t index) const { return index < Count() && !At(index).IsMissing(); }
-    [[nodiscard]] Value At(std::size_t index) const; // throws when there are fewer
+    [[nodiscard]] Variant At(std::size_t index) const; // throws when there are fewer
 
 private:
     WORD m_flags;
@@ -39,7 +43,7 @@ struct Member
     DISPID id;
     std::wstring_view name;
     WORD kinds;
-    Value (*call)(ObjectCore&, const Arguments&);
+    Variant (*call)(ObjectCore&, const Arguments&);
 };
 
 constexpr WORD kGet = DISPATCH_PROPERTYGET;
@@ -48,7 +52,8 @@ constexpr WORD kMethod = DISPATCH_METHOD;
 // Items and the like: scripts call them as methods, compiled code as properties.
 constexpr WORD kEither = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
 
-// What all host objects share whatever interface they carry: the count, the member table, the ledger of living objects.
+// What all host objects share whatever interface they carry: the member table and the ledger of those that are
+// referred to.
 class ObjectCore
 {
 public:
@@ -59,7 +64,7 @@ public:
 
     [[nodiscard]] virtual std::span<const Member> Members() const = 0;
 
-    // The interfaces of the object beyond IDispatch, or null.
+    // The interfaces of the object beyond IDispatch and its own, or null.
     [[nodiscard]] virtual void* Interface(REFIID) { return nullptr; }
 
     HRESULT FindNames(LPOLESTR* names, UINT count, DISPID* ids) const noexcept;
@@ -68,11 +73,8 @@ public:
     // What all objects of this process name as the source of their errors.
     static void SetSource(const wchar_t* source);
 
-    // The living objects as "Application x1, Presentation x2", or an empty text.
-    static std::wstring Living();
-
-protected:
-    ULONG m_references = 1;
+    // The objects that are still referred to, as "Application x1, Presentation x2"; an empty text where none is.
+    static std::wstring StillReferenced();
 
 private:
     HRESULT CallMember(const Member& member, WORD flags, const DISPPARAMS& parameters, VARIANT* result);
@@ -80,41 +82,32 @@ private:
     const wchar_t* m_className;
 };
 
-// A host object with the dispatch-based interface I, found under its own id as well.
+// A host object with the dispatch-based interface I, found under an id of its own as well.
 template<class I>
-class AutomationObject : public I, public ObjectCore
+class AutomationObject : public corvane::ComObject<AutomationObject<I>, I>, public ObjectCore
 {
 public:
-    AutomationObject(const wchar_t* className, REFIID ownId) : ObjectCore{className}, m_ownId{ownId} {}
+    explicit AutomationObject(const wchar_t* className, REFIID ownId = __uuidof(I))
+        : ObjectCore{className}, m_ownId{ownId}
+    {}
 
-    STDMETHODIMP QueryInterface(REFIID id, void** object) override
+    STDMETHODIMP QueryInterface(REFIID id, void** object) noexcept override
     {
-        if (!object) return E_POINTER;
-        *object = nullptr;
-        if (id == IID_IUnknown || id == IID_IDispatch || id == m_ownId)
-            *object = static_cast<I*>(this);
-        else
-            *object = Interface(id);
-        if (!*object) return E_NOINTERFACE;
-        AddRef();
+        void* const part = object != nullptr ? Interface(id) : nullptr;
+        if (part == nullptr) return Base::QueryInterface(id == m_ownId ? IID_IUnknown : id, object);
+        *object = part;
+        this->AddRef();
         return S_OK;
-    }
-    STDMETHODIMP_(ULONG) AddRef() override { return ++m_references; }
-    STDMETHODIMP_(ULONG) Release() override
-    {
-        const ULONG left = --m_references;
-        if (left == 0) delete this;
-        return left;
     }
     STDMETHODIMP GetTypeInfoCount(UINT* count) override
     {
-        if (!count) return E_POINTER;
+        if (count == nullptr) return E_POINTER;
         *count = 0;
         return S_OK;
     }
     STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo** info) override
     {
-        if (info) *info = nullptr;
+        if (info != nullptr) *info = nullptr;
         return DISP_E_BADINDEX;
     }
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override
@@ -128,32 +121,55 @@ public:
     }
 
 private:
+    using Base = corvane::ComObject<AutomationObject<I>, I>;
+
     IID m_ownId;
 };
 
-// Makes an object with the one reference that is returned. ComPtr::Attach is avoided: MinGW's adds a reference.
-template<class T, class... A>
-ComPtr<T> MakeObject(A&&... arguments)
-{
-    ComPtr<T> object;
-    *object.GetAddressOf() = new T(std::forward<A>(arguments)...);
-    return object;
-}
-
+// The class whose method answers, or whose objects a function answers for.
 template<class>
-struct MethodTraits;
-template<class T>
-struct MethodTraits<Value (T::*)(const Arguments&)>
+struct Answering;
+template<class T, class Result, class... Rest>
+struct Answering<Result (T::*)(Rest...)>
+{
+    using Class = T;
+};
+template<class T, class Result, class... Rest>
+struct Answering<Result (T::*)(Rest...) const>
+{
+    using Class = T;
+};
+template<class T, class Result, class... Rest>
+struct Answering<Result (*)(T&, Rest...)>
 {
     using Class = T;
 };
 
-// Makes a method of an object the answer of a member table's row.
-template<auto Method>
-Value Answer(ObjectCore& object, const Arguments& arguments)
+template<auto answer>
+auto& AsAnswering(ObjectCore& object)
 {
-    using T = typename MethodTraits<decltype(Method)>::Class;
-    return (static_cast<T&>(object).*Method)(arguments);
+    if constexpr (std::is_member_pointer_v<decltype(answer)>)
+        return static_cast<typename Answering<decltype(answer)>::Class&>(object);
+    else
+        return static_cast<typename Answering<decltype(+answer)>::Class&>(object);
+}
+
+// Makes a method, or a function of an object, the answer of a member table's row. It takes the arguments if it needs
+// them and returns what a Variant can hold, or nothing.
+template<auto answer>
+Variant Answer(ObjectCore& object, const Arguments& arguments)
+{
+    auto& self = AsAnswering<answer>(object);
+    const auto ask = [&]() -> decltype(auto) {
+        if constexpr (std::is_invocable_v<decltype(answer), decltype(self), const Arguments&>)
+            return std::invoke(answer, self, arguments);
+        else
+            return std::invoke(answer, self);
+    };
+    if constexpr (std::is_void_v<decltype(ask())>)
+        return ask(), Variant{};
+    else
+        return Variant{ask()};
 }
 
 } // namespace host

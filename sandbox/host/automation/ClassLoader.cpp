@@ -54,7 +54,7 @@ ComPtr<IUnknown> ClassLoader::Create(REFCLSID classId)
         return object;
     }
     const auto getClassObject = FindExport<GetClassObject>(Load(library), "DllGetClassObject");
-    if (!getClassObject) throw AutomationError{CO_E_ERRORINDLL, L"its library exports no DllGetClassObject"};
+    if (!getClassObject) throw Error{CO_E_ERRORINDLL, {}, L"its library exports no DllGetClassObject"};
     ComPtr<IClassFactory> factory;
     ThrowIfFailed(getClassObject(classId, IID_IClassFactory, reinterpret_cast<void**>(factory.GetAddressOf())),
                   L"its library does not know the class");
@@ -81,7 +81,7 @@ HMODULE ClassLoader::Load(const std::wstring& path)
     if (loaded != m_libraries.end()) return loaded->second;
     const HMODULE library = ::LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
     if (!library)
-        throw AutomationError{HRESULT_FROM_WIN32(::GetLastError()), L"its library " + path + L" could not be loaded"};
+        throw Error{HRESULT_FROM_WIN32(::GetLastError()), {}, L"its library " + path + L" could not be loaded"};
     m_libraries.emplace(path, library);
     return library;
 }

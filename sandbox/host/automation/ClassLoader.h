@@ -20,10 +20,10 @@ public:
     ClassLoader& operator=(const ClassLoader&) = delete;
     ~ClassLoader();
 
-    // Throws AutomationError when the ProgID is not registered.
+    // Throws Error when the ProgID is not registered.
     [[nodiscard]] static CLSID ClassOf(const std::wstring& progId);
 
-    // Throws AutomationError when the class cannot be created.
+    // Throws Error when the class cannot be created.
     [[nodiscard]] ComPtr<IUnknown> Create(REFCLSID classId);
 
     // Asks each loaded library whether it is still needed, says so, and unloads those that are not.

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "automation/AutomationError.h"
+#include "automation/Errors.h"
 
 namespace host
 {

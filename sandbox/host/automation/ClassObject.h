@@ -10,7 +10,7 @@ namespace host
 {
 
 // Takes the place of a class in this process, before any that is registered, while it lives. Every creation asks the
-// given function for a new reference. Throws AutomationError when COM does not take the class.
+// given function for a new reference. Throws Error when COM does not take the class.
 class ClassObject final : public IClassFactory
 {
 public:

@@ -14,7 +14,7 @@ namespace host
 class OfferedClass
 {
 public:
-    // Every creation asks for a new reference. Throws AutomationError when COM does not take the class.
+    // Every creation asks for a new reference. Throws Error when COM does not take the class.
     OfferedClass(REFCLSID classId, std::wstring progId, std::function<ComPtr<IDispatch>()> create);
     OfferedClass(const OfferedClass&) = delete;
     OfferedClass& operator=(const OfferedClass&) = delete;

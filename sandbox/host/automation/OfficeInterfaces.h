@@ -1,12 +1,14 @@
+// The add-in interfaces of Office, in the order of their virtual tables, and the ids of its objects.
 #pragma once
 
-#include <oaidl.h>
 #include <windows.h>
+
+#include <oaidl.h>
 
 namespace host
 {
 
-// The add-in interfaces of Office, in the order of their virtual tables. The dispatch ids equal that order, from 1.
+// The dispatch ids of these equal the order of their methods, from 1.
 
 struct IDTExtensibility2 : IDispatch
 {
@@ -50,10 +52,6 @@ constexpr IID PowerPointId(ULONG first)
     return {first, 0x5A91, 0x11CF, {0x87, 0x00, 0x00, 0xAA, 0x00, 0x60, 0x26, 0x3B}};
 }
 
-constexpr IID kExtensibilityId{0xB65AD801, 0xABAF, 0x11D0, {0xBB, 0x8B, 0x00, 0xA0, 0xC9, 0x0F, 0x27, 0x44}};
-constexpr IID kRibbonExtensibilityId = OfficeId(0x000C0396);
-constexpr IID kRibbonUiId = OfficeId(0x000C03A7);
-constexpr IID kRibbonControlId = OfficeId(0x000C0395);
 constexpr IID kComAddInId = OfficeId(0x000C033A);
 constexpr IID kComAddInsId = OfficeId(0x000C0339);
 constexpr IID kCommandBarsId = OfficeId(0x000C0302);
@@ -73,3 +71,8 @@ constexpr IID kDocumentPropertiesId{0x2DF8D04D, 0x5BFA, 0x101B, {0xBD, 0xE5, 0x0
 constexpr IID kDocumentPropertyId{0x2DF8D04E, 0x5BFA, 0x101B, {0xBD, 0xE5, 0x00, 0xAA, 0x00, 0x44, 0xDE, 0x52}};
 
 } // namespace host
+
+__CRT_UUID_DECL(host::IDTExtensibility2, 0xB65AD801, 0xABAF, 0x11D0, 0xBB, 0x8B, 0x00, 0xA0, 0xC9, 0x0F, 0x27, 0x44)
+__CRT_UUID_DECL(host::IRibbonExtensibility, 0x000C0396, 0, 0, 0xC0, 0, 0, 0, 0, 0, 0, 0x46)
+__CRT_UUID_DECL(host::IRibbonUI, 0x000C03A7, 0, 0, 0xC0, 0, 0, 0, 0, 0, 0, 0x46)
+__CRT_UUID_DECL(host::IRibbonControl, 0x000C0395, 0, 0, 0xC0, 0, 0, 0, 0, 0, 0, 0x46)

@@ -6,10 +6,8 @@
 #include "automation/Text.h"
 #include "documents/CompoundFile.h"
 #include "documents/MessageFile.h"
-#include "documents/PlainFormats.h"
 #include "documents/Refusal.h"
 #include "documents/Storage.h"
-#include "package/OpenDocument.h"
 
 namespace host
 {
@@ -71,7 +69,7 @@ Document Document::Open(HostVersion host, const std::wstring& path, bool readOnl
     } catch (const FileError& error) {
         Refuse(host.kind, RefusalOfSystemError(error.Code()), full);
     } catch (const std::exception& error) {
-        Refuse(host.kind, Refusal::NotRead, full + L": " + Widen(error.what()));
+        Refuse(host.kind, Refusal::NotRead, full + L": " + ReasonOf(error));
     }
     document.m_format = &FormatOfFile(host.kind, full, storage, host.major);
     document.m_readOnly = readOnly || IsWriteProtected(full);
@@ -180,12 +178,6 @@ std::string Document::Bytes(const SaveFormat& format) const
         return WriteCompoundFile(m_host.kind, format.isTemplate, m_contents);
     case Container::Message:
         return WriteMessageFile(format.number == kUnicodeMessage, m_contents);
-    case Container::OpenDocument:
-        return WriteOpenDocument(format.type, m_contents);
-    case Container::RichText:
-        return WriteRichText(m_contents);
-    case Container::Values:
-        return WriteValues(m_contents);
     case Container::Package:
         break;
     }

@@ -20,7 +20,7 @@ struct HostVersion
 };
 
 // A document's contents and its file. It knows nothing of windows and events. Where it is said to throw, it throws
-// AutomationError as its host reports.
+// Error as its host reports.
 class Document
 {
 public:

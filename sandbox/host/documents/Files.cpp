@@ -77,7 +77,7 @@ void CompleteLater(std::wstring path, std::string bytes)
 } // namespace
 
 FileError::FileError(DWORD code, const std::wstring& path)
-    : AutomationError{E_FAIL, path + L": " + SystemReason(code)}, m_code{code}
+    : Error{E_FAIL, {}, path + L": " + SystemReason(code)}, m_code{code}
 {}
 
 SaveFault SaveFaultNamed(std::string_view name)

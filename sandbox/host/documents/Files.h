@@ -6,7 +6,7 @@
 
 #include <windows.h>
 
-#include "automation/AutomationError.h"
+#include "automation/Errors.h"
 
 namespace host
 {
@@ -53,7 +53,7 @@ enum class SaveFault
 };
 
 // A file that the system would not open, read or write.
-class FileError : public AutomationError
+class FileError : public Error
 {
 public:
     FileError(DWORD code, const std::wstring& path);

@@ -7,7 +7,7 @@
 namespace host
 {
 
-// A mail item as a file, with its Subject, Body, To and CC. Both throw AutomationError when the storage fails.
+// A mail item as a file, with its Subject, Body, To and CC. Both throw Error when the storage fails.
 [[nodiscard]] DocumentContents ReadMessageFile(const std::string& bytes);
 [[nodiscard]] std::string WriteMessageFile(bool unicode, const DocumentContents& contents);
 

@@ -97,7 +97,7 @@ void Refuse(HostKind host, Refusal refusal, const std::wstring& subject)
     Fill(text, L"%2", FactsOf(host).product);
     Fill(text, L"%3", FactsOf(host).noun);
     Fill(text, L"%1", subject);
-    throw AutomationError{row == std::end(kNumbers) ? UsualNumber(host) : row->number, text};
+    throw Error{row == std::end(kNumbers) ? UsualNumber(host) : row->number, {}, text};
 }
 
 Refusal RefusalOfSystemError(DWORD error)

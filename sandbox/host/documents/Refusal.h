@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "automation/AutomationError.h"
+#include "automation/Errors.h"
 #include "base/HostFacts.h"
 
 namespace host
@@ -28,7 +28,7 @@ enum class Refusal
     MacroFailed,
 };
 
-// Throws AutomationError with the host's own number and text. The subject is the path, the number or the name that it
+// Throws Error with the host's own number and text. The subject is the path, the number or the name that it
 // is about.
 [[noreturn]] void Refuse(HostKind host, Refusal refusal, const std::wstring& subject = {});
 

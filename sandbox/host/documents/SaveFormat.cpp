@@ -25,11 +25,6 @@ constexpr SaveFormat Package(long number, const wchar_t* extension, const char* 
     return {number, extension, Container::Package, type, kPackageVersion};
 }
 
-constexpr SaveFormat OpenDocument(long number, const wchar_t* extension, const char* type)
-{
-    return {number, extension, Container::OpenDocument, type, kPackageVersion};
-}
-
 constexpr SaveFormat Template(long number, const wchar_t* extension)
 {
     return {number, extension, Container::Compound, nullptr, 0, kEveryVersion, true};
@@ -48,19 +43,16 @@ constexpr SaveFormat kPresentationFormats[] = {
     Package(28, L"ppsx", PRESENTATION_TYPE("slideshow")),
     Package(29, L"ppsm", MACRO_PRESENTATION_TYPE("slideshow")),
     Package(30, L"ppam", MACRO_PRESENTATION_TYPE("addin")),
-    OpenDocument(35, L"odp", "application/vnd.oasis.opendocument.presentation"),
 };
 
 // WdSaveFormat
 constexpr SaveFormat kTextFormats[] = {
     {0, L"doc", Container::Compound},
     Template(1, L"dot"),
-    {6, L"rtf", Container::RichText},
     Package(12, L"docx", "application/vnd.openxmlformats-officedocument.wordprocessingml.document.main+xml"),
     Package(13, L"docm", "application/vnd.ms-word.document.macroEnabled.main+xml"),
     Package(14, L"dotx", "application/vnd.openxmlformats-officedocument.wordprocessingml.template.main+xml"),
     Package(15, L"dotm", "application/vnd.ms-word.template.macroEnabledTemplate.main+xml"),
-    OpenDocument(23, L"odt", "application/vnd.oasis.opendocument.text"),
 };
 
 // XlFileFormat
@@ -68,13 +60,11 @@ constexpr SaveFormat kWorkbookFormats[] = {
     {-4143, L"xls", Container::Compound, nullptr, 0, kLastClassic},
     {56, L"xls", Container::Compound, nullptr, kPackageVersion},
     Template(17, L"xlt"),
-    {6, L"csv", Container::Values},
     Package(50, L"xlsb", "application/vnd.ms-excel.sheet.binary.macroEnabled.main"),
     Package(51, L"xlsx", "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml"),
     Package(52, L"xlsm", "application/vnd.ms-excel.sheet.macroEnabled.main+xml"),
     Package(53, L"xltm", "application/vnd.ms-excel.template.macroEnabled.main+xml"),
     Package(54, L"xltx", "application/vnd.openxmlformats-officedocument.spreadsheetml.template.main+xml"),
-    OpenDocument(60, L"ods", "application/vnd.oasis.opendocument.spreadsheet"),
 };
 
 // OlSaveAsType; the second writes its texts as Unicode

@@ -10,12 +10,9 @@ namespace host
 // What kind of file a format is.
 enum class Container
 {
-    Package,      // Open XML
-    OpenDocument, // its own package
-    Compound,     // the binary formats
-    Message,      // a mail item in a compound file
-    RichText,
-    Values, // separated by commas
+    Package,  // Open XML
+    Compound, // the binary formats
+    Message,  // a mail item in a compound file
 };
 
 // A format that a host saves in, by the number of its own enumeration.
@@ -32,7 +29,7 @@ struct SaveFormat
 
 constexpr long kUnicodeMessage = 9;
 
-// Throws AutomationError when this version of the host does not write the format.
+// Throws Error when this version of the host does not write the format.
 [[nodiscard]] const SaveFormat& FormatOfNumber(HostKind host, long number, int version);
 
 // What the version saves in when it is not told a format.

@@ -6,7 +6,7 @@
 #include <ole2.h>
 #include <wrl/client.h>
 
-#include "automation/AutomationError.h"
+#include "automation/Errors.h"
 
 namespace host
 {
@@ -22,7 +22,7 @@ constexpr char kSignature[] = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1";
 ComPtr<ILockBytes> MemoryBytes(const std::string& bytes)
 {
     const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, bytes.size());
-    if (!memory) throw AutomationError{E_OUTOFMEMORY, kFailed};
+    if (!memory) throw Error{E_OUTOFMEMORY, {}, kFailed};
     std::memcpy(::GlobalLock(memory), bytes.data(), bytes.size());
     ::GlobalUnlock(memory);
     ComPtr<ILockBytes> lockBytes;

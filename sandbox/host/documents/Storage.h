@@ -16,7 +16,7 @@ struct StorageStream
 
 [[nodiscard]] bool IsStorage(const std::string& bytes);
 
-// A compound file in memory: its class and the streams of its root. Both throw AutomationError when it is damaged.
+// A compound file in memory: its class and the streams of its root. Both throw Error when it is damaged.
 [[nodiscard]] std::string WriteStorage(REFCLSID classId, const std::vector<StorageStream>& streams);
 [[nodiscard]] std::vector<StorageStream> ReadStorage(const std::string& bytes);
 

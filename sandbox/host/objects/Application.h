@@ -21,24 +21,24 @@ public:
 
     // The answers of the member tables. Where there is no active document or window some hosts fail, others give
     // Nothing.
-    Value GetName(const Arguments&);
-    Value GetVersion(const Arguments&);
-    Value GetBuild(const Arguments&);
-    Value GetBuildNumber(const Arguments&);
-    Value GetWindowHandle(const Arguments&);
-    Value GetDocuments(const Arguments&);
-    Value GetWindows(const Arguments&);
-    Value GetActiveWindow(const Arguments&);
-    Value GetActiveWindowOrNothing(const Arguments&);
-    Value GetActiveDocument(const Arguments&);
-    Value GetActiveDocumentOrNothing(const Arguments&);
-    Value GetCommandBars(const Arguments&);
-    Value GetComAddIns(const Arguments&);
-    Value Run(const Arguments& arguments);
-    Value Activate(const Arguments&);
-    Value Interactive(const Arguments& arguments);
-    Value GetReady(const Arguments&);
-    Value CreateItem(const Arguments& arguments);
+    Variant GetName(const Arguments&);
+    Variant GetVersion(const Arguments&);
+    Variant GetBuild(const Arguments&);
+    Variant GetBuildNumber(const Arguments&);
+    Variant GetWindowHandle(const Arguments&);
+    Variant GetDocuments(const Arguments&);
+    Variant GetWindows(const Arguments&);
+    Variant GetActiveWindow(const Arguments&);
+    Variant GetActiveWindowOrNothing(const Arguments&);
+    Variant GetActiveDocument(const Arguments&);
+    Variant GetActiveDocumentOrNothing(const Arguments&);
+    Variant GetCommandBars(const Arguments&);
+    Variant GetComAddIns(const Arguments&);
+    Variant Run(const Arguments& arguments);
+    Variant Activate(const Arguments&);
+    Variant Interactive(const Arguments& arguments);
+    Variant GetReady(const Arguments&);
+    Variant CreateItem(const Arguments& arguments);
 
 private:
     [[nodiscard]] DocumentObject& ActiveOrFail();
@@ -58,17 +58,17 @@ public:
     [[nodiscard]] Session& Owner() { return m_session; }
 
     // The answers of the member tables. Open takes the path first and, at this index, whether it is for reading only.
-    Value Item(const Arguments& arguments);
-    Value Count(const Arguments&);
-    Value Add(const Arguments&);
+    Variant Item(const Arguments& arguments);
+    Variant Count(const Arguments&);
+    Variant Add(const Arguments&);
     template<std::size_t readOnlyIndex>
-    Value Open(const Arguments& arguments)
+    Variant Open(const Arguments& arguments)
     {
         return OpenFile(arguments, arguments.Has(readOnlyIndex) && arguments.At(readOnlyIndex).Number() != 0);
     }
 
 private:
-    Value OpenFile(const Arguments& arguments, bool readOnly);
+    Variant OpenFile(const Arguments& arguments, bool readOnly);
     [[nodiscard]] std::vector<DocumentObject*> Reachable() const;
 
     Session& m_session;

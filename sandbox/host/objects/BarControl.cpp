@@ -56,7 +56,7 @@ void BarControlObject::Press()
 {
     const ComPtr<BarControlObject> alive{this};
     VARIANT_BOOL cancel = VARIANT_FALSE;
-    const Value self{this};
+    const Variant self{this};
     VARIANT byReference{};
     byReference.vt = VT_BOOL | VT_BYREF;
     byReference.pboolVal = &cancel;
@@ -75,7 +75,7 @@ void BarControlObject::Detach()
 
 CommandBarObject& BarControlObject::MenuOrFail()
 {
-    if (!m_menu) throw AutomationError{DISP_E_MEMBERNOTFOUND, L"A button has no controls."};
+    if (!m_menu) throw Error{DISP_E_MEMBERNOTFOUND, {}, L"A button has no controls."};
     return *m_menu.Get();
 }
 
@@ -86,82 +86,82 @@ void BarControlObject::NoteAdded(const Arguments& arguments)
         m_history += L" " + (arguments.Has(index) ? arguments.At(index).Text() : L"-");
 }
 
-Value BarControlObject::Note(const wchar_t* property, const Value& value)
+Variant BarControlObject::Note(const wchar_t* property, const Variant& value)
 {
     m_history.append(L", ").append(property).append(L" ").append(value.Text());
     return {};
 }
 
-Value BarControlObject::TextProperty(const wchar_t* name, const Arguments& arguments, std::wstring& text)
+Variant BarControlObject::TextProperty(const wchar_t* name, const Arguments& arguments, std::wstring& text)
 {
-    if (!arguments.IsPut()) return Value{text};
+    if (!arguments.IsPut()) return Variant{text};
     text = arguments.At(0).Text();
     return Note(name, arguments.At(0));
 }
 
-Value BarControlObject::FlagProperty(const wchar_t* name, const Arguments& arguments, bool& flag)
+Variant BarControlObject::FlagProperty(const wchar_t* name, const Arguments& arguments, bool& flag)
 {
-    if (!arguments.IsPut()) return Value::OfBoolean(flag);
+    if (!arguments.IsPut()) return Variant{flag};
     flag = arguments.At(0).Boolean();
     return Note(name, arguments.At(0));
 }
 
-Value BarControlObject::GetType(const Arguments&) { return Value{m_type}; }
-Value BarControlObject::GetId(const Arguments&)
+Variant BarControlObject::GetType(const Arguments&) { return Variant{m_type}; }
+Variant BarControlObject::GetId(const Arguments&)
 {
-    if (m_id == kUntoldId) throw AutomationError{E_FAIL, L"The control does not tell its id."};
-    return Value{m_id};
+    if (m_id == kUntoldId) throw Error{E_FAIL, {}, L"The control does not tell its id."};
+    return Variant{m_id};
 }
 
-Value BarControlObject::GetIndex(const Arguments&)
+Variant BarControlObject::GetIndex(const Arguments&)
 {
-    if (!m_parent) throw AutomationError{kInvalidRequest, L"The control was deleted."};
-    return Value{static_cast<long>(m_parent->PositionOf(*this))};
+    if (!m_parent) throw Error{kInvalidRequest, {}, L"The control was deleted."};
+    return Variant{static_cast<long>(m_parent->PositionOf(*this))};
 }
 
-Value BarControlObject::CaptionProperty(const Arguments& arguments)
+Variant BarControlObject::CaptionProperty(const Arguments& arguments)
 {
     return TextProperty(L"Caption", arguments, m_caption);
 }
-Value BarControlObject::TagProperty(const Arguments& arguments)
+Variant BarControlObject::TagProperty(const Arguments& arguments)
 {
-    if (m_id == kUntoldId) throw AutomationError{E_FAIL, L"The control does not tell its tag."};
+    if (m_id == kUntoldId) throw Error{E_FAIL, {}, L"The control does not tell its tag."};
     return TextProperty(L"Tag", arguments, m_tag);
 }
-Value BarControlObject::Parameter(const Arguments& arguments)
+Variant BarControlObject::Parameter(const Arguments& arguments)
 {
     return TextProperty(L"Parameter", arguments, m_parameter);
 }
-Value BarControlObject::TooltipText(const Arguments& arguments)
+Variant BarControlObject::TooltipText(const Arguments& arguments)
 {
     return TextProperty(L"TooltipText", arguments, m_tip);
 }
-Value BarControlObject::Enabled(const Arguments& arguments) { return FlagProperty(L"Enabled", arguments, m_enabled); }
-Value BarControlObject::Visible(const Arguments& arguments) { return FlagProperty(L"Visible", arguments, m_visible); }
-Value BarControlObject::BeginGroup(const Arguments& arguments)
+Variant BarControlObject::Enabled(const Arguments& arguments) { return FlagProperty(L"Enabled", arguments, m_enabled); }
+Variant BarControlObject::Visible(const Arguments& arguments) { return FlagProperty(L"Visible", arguments, m_visible); }
+Variant BarControlObject::BeginGroup(const Arguments& arguments)
 {
     return FlagProperty(L"BeginGroup", arguments, m_beginGroup);
 }
 
-Value BarControlObject::Style(const Arguments& arguments)
+Variant BarControlObject::Style(const Arguments& arguments)
 {
-    if (!arguments.IsPut()) return Value{m_style};
+    if (!arguments.IsPut()) return Variant{m_style};
     m_style = arguments.At(0).Number();
     return Note(L"Style", arguments.At(0));
 }
 
-Value BarControlObject::GetControls(const Arguments&) { return Value{MenuOrFail().Controls().Get()}; }
-Value BarControlObject::GetCommandBar(const Arguments&) { return Value{&MenuOrFail()}; }
-Value BarControlObject::GetParent(const Arguments&) { return Value{m_parent}; }
+Variant BarControlObject::GetControls(const Arguments&) { return Variant{MenuOrFail().Controls().Get()}; }
+Variant BarControlObject::GetCommandBar(const Arguments&) { return Variant{&MenuOrFail()}; }
+Variant BarControlObject::GetParent(const Arguments&) { return Variant{m_parent}; }
 
-Value BarControlObject::DoDelete(const Arguments&)
+Variant BarControlObject::DoDelete(const Arguments&)
 {
     const ComPtr<BarControlObject> alive{this};
     if (m_parent) m_parent->Remove(*this);
     return {};
 }
 
-Value BarControlObject::DoExecute(const Arguments&)
+Variant BarControlObject::DoExecute(const Arguments&)
 {
     Press();
     return {};

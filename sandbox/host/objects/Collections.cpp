@@ -3,12 +3,14 @@
 namespace host
 {
 
-std::size_t ItemPosition(const Value& index, std::size_t count)
+std::size_t ItemPosition(const Variant& index, std::size_t count)
 {
     const long position = index.Number();
     if (position < 1 || static_cast<std::size_t>(position) > count)
-        throw AutomationError{E_INVALIDARG, L"Integer out of range: " + std::to_wstring(position) +
-                                                L" is not in the valid range of 1 to " + std::to_wstring(count) + L"."};
+        throw Error{E_INVALIDARG,
+                    {},
+                    L"Integer out of range: " + std::to_wstring(position) + L" is not in the valid range of 1 to " +
+                        std::to_wstring(count) + L"."};
     return static_cast<std::size_t>(position);
 }
 
@@ -25,11 +27,11 @@ std::span<const Member> ListObject::Members() const
     return kMembers;
 }
 
-Value ListObject::Item(const Arguments& arguments)
+Variant ListObject::Item(const Arguments& arguments)
 {
-    return Value{m_items[ItemPosition(arguments.At(0), m_items.size()) - 1].Get()};
+    return Variant{m_items[ItemPosition(arguments.At(0), m_items.size()) - 1].Get()};
 }
 
-Value ListObject::Count(const Arguments&) { return Value{static_cast<long>(m_items.size())}; }
+Variant ListObject::Count(const Arguments&) { return Variant{static_cast<long>(m_items.size())}; }
 
 } // namespace host

@@ -7,8 +7,8 @@
 namespace host
 {
 
-// A position from an Item argument, 1 for the first; throws AutomationError when it lies outside 1 to count.
-[[nodiscard]] std::size_t ItemPosition(const Value& index, std::size_t count);
+// A position from an Item argument, 1 for the first; throws Error when it lies outside 1 to count.
+[[nodiscard]] std::size_t ItemPosition(const Variant& index, std::size_t count);
 
 // A fixed list of objects with Count and Item by position.
 class ListObject final : public AutomationObject<IDispatch>
@@ -19,8 +19,8 @@ public:
     [[nodiscard]] std::span<const Member> Members() const override;
 
 private:
-    Value Item(const Arguments& arguments);
-    Value Count(const Arguments&);
+    Variant Item(const Arguments& arguments);
+    Variant Count(const Arguments&);
 
     std::vector<ComPtr<IDispatch>> m_items;
 };

@@ -24,21 +24,21 @@ std::span<const Member> ComAddInObject::Members() const
     return kMembers;
 }
 
-Value ComAddInObject::GetDescription(const Arguments&) { return Value{m_description}; }
-Value ComAddInObject::GetProgId(const Arguments&) { return Value{m_progId}; }
-Value ComAddInObject::GetConnect(const Arguments&) { return Value::OfBoolean(m_connected); }
+Variant ComAddInObject::GetDescription(const Arguments&) { return Variant{m_description}; }
+Variant ComAddInObject::GetProgId(const Arguments&) { return Variant{m_progId}; }
+Variant ComAddInObject::GetConnect(const Arguments&) { return Variant{m_connected}; }
 
-Value ComAddInObject::GetGuid(const Arguments&)
+Variant ComAddInObject::GetGuid(const Arguments&)
 {
     wchar_t text[64] = L"";
     ::StringFromGUID2(m_classId, text, static_cast<int>(std::size(text)));
-    return Value{text};
+    return Variant{text};
 }
 
-Value ComAddInObject::Offered(const Arguments& arguments)
+Variant ComAddInObject::Offered(const Arguments& arguments)
 {
-    if (!arguments.IsPut()) return m_offered.Type() == VT_EMPTY ? Value{static_cast<IDispatch*>(nullptr)} : m_offered;
-    m_offered = Value{arguments.At(0).Object()};
+    if (!arguments.IsPut()) return m_offered;
+    m_offered = arguments.At(0).As(VT_DISPATCH).Object();
     return {};
 }
 
@@ -53,17 +53,17 @@ std::span<const Member> ComAddInsObject::Members() const
     return kMembers;
 }
 
-Value ComAddInsObject::Item(const Arguments& arguments)
+Variant ComAddInsObject::Item(const Arguments& arguments)
 {
-    const Value index = arguments.At(0);
+    const Variant index = arguments.At(0);
     const auto& addIns = m_session.AddIns();
-    if (index.Type() != VT_BSTR) return Value{addIns[ItemPosition(index, addIns.size()) - 1].Get()};
+    if (index.Type() != VT_BSTR) return Variant{addIns[ItemPosition(index, addIns.size()) - 1].Get()};
     const std::wstring progId = index.Text();
     for (const auto& addIn : addIns)
-        if (::lstrcmpiW(addIn->ProgId().c_str(), progId.c_str()) == 0) return Value{addIn.Get()};
-    throw AutomationError{E_INVALIDARG, L"COMAddIns.Item : " + progId + L" is not registered."};
+        if (::lstrcmpiW(addIn->ProgId().c_str(), progId.c_str()) == 0) return Variant{addIn.Get()};
+    throw Error{E_INVALIDARG, {}, L"COMAddIns.Item : " + progId + L" is not registered."};
 }
 
-Value ComAddInsObject::Count(const Arguments&) { return Value{static_cast<long>(m_session.AddIns().size())}; }
+Variant ComAddInsObject::Count(const Arguments&) { return Variant{static_cast<long>(m_session.AddIns().size())}; }
 
 } // namespace host

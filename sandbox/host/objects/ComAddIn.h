@@ -20,20 +20,20 @@ public:
     void SetConnected(bool connected) { m_connected = connected; }
 
     // Forgets the object that the add-in offers to programs.
-    void DropOffered() { m_offered = Value{}; }
+    void DropOffered() { m_offered.Reset(); }
 
 private:
-    Value GetDescription(const Arguments&);
-    Value GetProgId(const Arguments&);
-    Value GetGuid(const Arguments&);
-    Value GetConnect(const Arguments&);
-    Value Offered(const Arguments& arguments);
+    Variant GetDescription(const Arguments&);
+    Variant GetProgId(const Arguments&);
+    Variant GetGuid(const Arguments&);
+    Variant GetConnect(const Arguments&);
+    Variant Offered(const Arguments& arguments);
 
     std::wstring m_progId;
     std::wstring m_description;
     CLSID m_classId{};
     bool m_connected = false;
-    Value m_offered;
+    ComPtr<IDispatch> m_offered;
 };
 
 // The registered add-ins, by position or ProgID.
@@ -45,8 +45,8 @@ public:
     [[nodiscard]] std::span<const Member> Members() const override;
 
 private:
-    Value Item(const Arguments& arguments);
-    Value Count(const Arguments&);
+    Variant Item(const Arguments& arguments);
+    Variant Count(const Arguments&);
 
     Session& m_session;
 };

@@ -76,16 +76,16 @@ std::size_t CommandBarObject::PositionOf(const BarControlObject& control) const
 
 ComPtr<IDispatch> CommandBarObject::Controls() { return MakeObject<BarControlsObject>(this); }
 
-Value CommandBarObject::GetName(const Arguments&) { return Value{m_name}; }
+Variant CommandBarObject::GetName(const Arguments&) { return Variant{m_name}; }
 
-Value CommandBarObject::GetControls(const Arguments& arguments)
+Variant CommandBarObject::GetControls(const Arguments& arguments)
 {
-    if (!arguments.Has(0)) return Value{Controls().Get()};
-    return Value{m_entries[ItemPosition(arguments.At(0), m_entries.size()) - 1].Get()};
+    if (!arguments.Has(0)) return Variant{Controls().Get()};
+    return Variant{m_entries[ItemPosition(arguments.At(0), m_entries.size()) - 1].Get()};
 }
 
 // FindControl(Type, Id, Tag, Visible, Recursive): Nothing when there is no such control.
-Value CommandBarObject::FindControl(const Arguments& arguments)
+Variant CommandBarObject::FindControl(const Arguments& arguments)
 {
     const long type = arguments.Has(0) ? arguments.At(0).Number() : 0;
     const long id = arguments.Has(1) ? arguments.At(1).Number() : 0;
@@ -94,12 +94,12 @@ Value CommandBarObject::FindControl(const Arguments& arguments)
     for (const auto& entry : m_entries) {
         const bool matches = (type == 0 || entry->m_type == type) && (id == 0 || entry->m_id == id) &&
                              (tag.empty() || entry->m_tag == tag);
-        if (matches) return Value{entry.Get()};
+        if (matches) return Variant{entry.Get()};
         if (!recursive || !entry->Menu()) continue;
-        Value below = entry->Menu()->FindControl(arguments);
+        Variant below = entry->Menu()->FindControl(arguments);
         if (below.Object()) return below;
     }
-    return Value{static_cast<IDispatch*>(nullptr)};
+    return Variant{static_cast<IDispatch*>(nullptr)};
 }
 
 BarControlsObject::BarControlsObject(CommandBarObject* bar)
@@ -116,36 +116,36 @@ std::span<const Member> BarControlsObject::Members() const
     return kMembers;
 }
 
-Value BarControlsObject::Item(const Arguments& arguments)
+Variant BarControlsObject::Item(const Arguments& arguments)
 {
-    const Value index = arguments.At(0);
+    const Variant index = arguments.At(0);
     const auto& entries = m_bar->m_entries;
-    if (index.Type() != VT_BSTR) return Value{entries[ItemPosition(index, entries.size()) - 1].Get()};
+    if (index.Type() != VT_BSTR) return Variant{entries[ItemPosition(index, entries.size()) - 1].Get()};
     const std::wstring caption = WithoutMark(index.Text());
     for (const auto& entry : entries)
-        if (SameText(WithoutMark(entry->Caption()), caption)) return Value{entry.Get()};
-    throw AutomationError{E_INVALIDARG, L"There is no control " + caption + L"."};
+        if (SameText(WithoutMark(entry->Caption()), caption)) return Variant{entry.Get()};
+    throw Error{E_INVALIDARG, {}, L"There is no control " + caption + L"."};
 }
 
-Value BarControlsObject::Count(const Arguments&) { return Value{static_cast<long>(m_bar->m_entries.size())}; }
+Variant BarControlsObject::Count(const Arguments&) { return Variant{static_cast<long>(m_bar->m_entries.size())}; }
 
 // Add(Type, Id, Parameter, Before, Temporary)
-Value BarControlsObject::Add(const Arguments& arguments)
+Variant BarControlsObject::Add(const Arguments& arguments)
 {
     const long type = arguments.Has(0) ? arguments.At(0).Number() : kBarButton;
     const long id = arguments.Has(1) ? arguments.At(1).Number() : 1;
-    if (type != kBarButton && type != kBarPopup) throw AutomationError{E_INVALIDARG, L"Unknown control type."};
+    if (type != kBarButton && type != kBarPopup) throw Error{E_INVALIDARG, {}, L"Unknown control type."};
     const std::size_t count = m_bar->m_entries.size();
     // One past the last position is allowed: it appends.
     const std::size_t position = arguments.Has(3) ? ItemPosition(arguments.At(3), count + 1) - 1 : count;
     // What is not temporary stays in the user's menus for good when the add-in is gone.
     const bool isBuiltIn = std::ranges::any_of(m_bar->m_entries, [](const auto& one) { return one->Id() != 1; });
     if (isBuiltIn && !(arguments.Has(4) && arguments.At(4).Boolean()))
-        throw AutomationError{E_INVALIDARG, L"This host's own menus take temporary controls only."};
+        throw Error{E_INVALIDARG, {}, L"This host's own menus take temporary controls only."};
     BarControlObject& control = m_bar->Insert(type, id, {}, position);
     if (arguments.Has(2)) control.SetParameter(arguments.At(2).Text());
     control.NoteAdded(arguments);
-    return Value{&control};
+    return Variant{&control};
 }
 
 CommandBarsObject::CommandBarsObject(std::wstring menuBar)
@@ -163,14 +163,14 @@ std::span<const Member> CommandBarsObject::Members() const
     return kMembers;
 }
 
-Value CommandBarsObject::Item(const Arguments& arguments)
+Variant CommandBarsObject::Item(const Arguments& arguments)
 {
-    const Value index = arguments.At(0);
+    const Variant index = arguments.At(0);
     const bool known = index.Type() == VT_BSTR ? SameText(index.Text(), m_name) : ItemPosition(index, 1) == 1;
-    if (!known) throw AutomationError{E_INVALIDARG, L"There is no command bar " + index.Text() + L"."};
-    return Value{m_menuBar.Get()};
+    if (!known) throw Error{E_INVALIDARG, {}, L"There is no command bar " + index.Text() + L"."};
+    return Variant{m_menuBar.Get()};
 }
 
-Value CommandBarsObject::Count(const Arguments&) { return Value{1L}; }
+Variant CommandBarsObject::Count(const Arguments&) { return Variant{1L}; }
 
 } // namespace host

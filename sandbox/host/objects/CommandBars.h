@@ -50,27 +50,27 @@ public:
 private:
     friend class CommandBarObject;
 
-    Value GetType(const Arguments&);
-    Value GetId(const Arguments&);
-    Value GetIndex(const Arguments&);
-    Value CaptionProperty(const Arguments& arguments);
-    Value TagProperty(const Arguments& arguments);
-    Value Parameter(const Arguments& arguments);
-    Value Enabled(const Arguments& arguments);
-    Value Visible(const Arguments& arguments);
-    Value Style(const Arguments& arguments);
-    Value BeginGroup(const Arguments& arguments);
-    Value TooltipText(const Arguments& arguments);
-    Value GetControls(const Arguments&);
-    Value GetCommandBar(const Arguments&);
-    Value GetParent(const Arguments&);
-    Value DoDelete(const Arguments&);
-    Value DoExecute(const Arguments&);
+    Variant GetType(const Arguments&);
+    Variant GetId(const Arguments&);
+    Variant GetIndex(const Arguments&);
+    Variant CaptionProperty(const Arguments& arguments);
+    Variant TagProperty(const Arguments& arguments);
+    Variant Parameter(const Arguments& arguments);
+    Variant Enabled(const Arguments& arguments);
+    Variant Visible(const Arguments& arguments);
+    Variant Style(const Arguments& arguments);
+    Variant BeginGroup(const Arguments& arguments);
+    Variant TooltipText(const Arguments& arguments);
+    Variant GetControls(const Arguments&);
+    Variant GetCommandBar(const Arguments&);
+    Variant GetParent(const Arguments&);
+    Variant DoDelete(const Arguments&);
+    Variant DoExecute(const Arguments&);
 
     [[nodiscard]] CommandBarObject& MenuOrFail();
-    Value Note(const wchar_t* property, const Value& value);
-    Value TextProperty(const wchar_t* name, const Arguments& arguments, std::wstring& text);
-    Value FlagProperty(const wchar_t* name, const Arguments& arguments, bool& flag);
+    Variant Note(const wchar_t* property, const Variant& value);
+    Variant TextProperty(const wchar_t* name, const Arguments& arguments, std::wstring& text);
+    Variant FlagProperty(const wchar_t* name, const Arguments& arguments, bool& flag);
 
     long m_type;
     long m_id;
@@ -113,9 +113,9 @@ public:
 private:
     friend class BarControlsObject;
 
-    Value GetName(const Arguments&);
-    Value GetControls(const Arguments&);
-    Value FindControl(const Arguments& arguments);
+    Variant GetName(const Arguments&);
+    Variant GetControls(const Arguments&);
+    Variant FindControl(const Arguments& arguments);
 
     std::wstring m_name;
     std::vector<ComPtr<BarControlObject>> m_entries;
@@ -130,9 +130,9 @@ public:
     [[nodiscard]] std::span<const Member> Members() const override;
 
 private:
-    Value Item(const Arguments& arguments);
-    Value Count(const Arguments&);
-    Value Add(const Arguments& arguments);
+    Variant Item(const Arguments& arguments);
+    Variant Count(const Arguments&);
+    Variant Add(const Arguments& arguments);
 
     ComPtr<CommandBarObject> m_bar;
 };
@@ -147,8 +147,8 @@ public:
     [[nodiscard]] CommandBarObject& MenuBar() { return *m_menuBar.Get(); }
 
 private:
-    Value Item(const Arguments& arguments);
-    Value Count(const Arguments&);
+    Variant Item(const Arguments& arguments);
+    Variant Count(const Arguments&);
 
     std::wstring m_name; // of the menu bar
     ComPtr<CommandBarObject> m_menuBar;

@@ -16,10 +16,10 @@ std::span<const Member> LoginObject::Members() const
     return kMembers;
 }
 
-Value LoginObject::IsLoggedIn(const Arguments& arguments)
+Variant LoginObject::IsLoggedIn(const Arguments& arguments)
 {
     if (arguments.IsPut()) m_loggedIn = arguments.At(0).Boolean();
-    return Value::OfBoolean(m_loggedIn);
+    return Variant{m_loggedIn};
 }
 
 std::span<const Member> OutlookObject::Members() const
@@ -32,8 +32,8 @@ std::span<const Member> OutlookObject::Members() const
     return kMembers;
 }
 
-Value OutlookObject::GetName(const Arguments&) { return Value{L"Outlook"}; }
-Value OutlookObject::GetVersion(const Arguments&) { return Value{L"16.0.0.4266"}; }
+Variant OutlookObject::GetName(const Arguments&) { return Variant{L"Outlook"}; }
+Variant OutlookObject::GetVersion(const Arguments&) { return Variant{L"16.0.0.4266"}; }
 
 void OutlookObject::Display(const MailFields& fields)
 {
@@ -44,15 +44,15 @@ void OutlookObject::Display(const MailFields& fields)
 void OutlookObject::FailWhere(MailMood mood) const
 {
     if (m_mood != mood) return;
-    if (mood == MailMood::Failing) throw AutomationError{E_FAIL, L"The mail store cannot be opened."};
-    throw AutomationError{kDeclined, L"Application-defined or object-defined error"};
+    if (mood == MailMood::Failing) throw Error{E_FAIL, {}, L"The mail store cannot be opened."};
+    throw Error{kDeclined, {}, L"Application-defined or object-defined error"};
 }
 
-Value OutlookObject::CreateItem(const Arguments& arguments)
+Variant OutlookObject::CreateItem(const Arguments& arguments)
 {
     FailWhere(MailMood::Failing);
-    if (arguments.At(0).Number() != kMailItem) throw AutomationError{E_INVALIDARG, L"Only mail items are offered."};
-    return Value{MakeObject<MailItemObject>(this).Get()};
+    if (arguments.At(0).Number() != kMailItem) throw Error{E_INVALIDARG, {}, L"Only mail items are offered."};
+    return Variant{MakeObject<MailItemObject>(this).Get()};
 }
 
 std::span<const Member> MailItemObject::Members() const
@@ -69,20 +69,20 @@ std::span<const Member> MailItemObject::Members() const
     return kMembers;
 }
 
-Value MailItemObject::To(const Arguments& arguments)
+Variant MailItemObject::To(const Arguments& arguments)
 {
     m_outlook->FailWhere(MailMood::Refusing);
     return Field(L"To", arguments);
 }
 
-Value MailItemObject::Field(const wchar_t* name, const Arguments& arguments)
+Variant MailItemObject::Field(const wchar_t* name, const Arguments& arguments)
 {
-    if (!arguments.IsPut()) return Value{m_fields[name]};
+    if (!arguments.IsPut()) return Variant{m_fields[name]};
     m_fields[name] = arguments.At(0).Text();
     return {};
 }
 
-Value MailItemObject::Display(const Arguments&)
+Variant MailItemObject::Display(const Arguments&)
 {
     m_outlook->Display(m_fields);
     return {};

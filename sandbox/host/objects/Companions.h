@@ -19,7 +19,7 @@ public:
     [[nodiscard]] std::span<const Member> Members() const override;
 
 private:
-    Value IsLoggedIn(const Arguments&);
+    Variant IsLoggedIn(const Arguments&);
 
     bool m_loggedIn;
 };
@@ -51,9 +51,9 @@ public:
     void FailWhere(MailMood mood) const;
 
 private:
-    Value GetName(const Arguments&);
-    Value GetVersion(const Arguments&);
-    Value CreateItem(const Arguments& arguments);
+    Variant GetName(const Arguments&);
+    Variant GetVersion(const Arguments&);
+    Variant CreateItem(const Arguments& arguments);
 
     MailMood m_mood;
     std::vector<MailFields> m_displayed;
@@ -68,13 +68,13 @@ public:
     [[nodiscard]] std::span<const Member> Members() const override;
 
 private:
-    Value To(const Arguments& arguments);
-    Value Copy(const Arguments& arguments) { return Field(L"CC", arguments); }
-    Value Subject(const Arguments& arguments) { return Field(L"Subject", arguments); }
-    Value Body(const Arguments& arguments) { return Field(L"Body", arguments); }
-    Value HtmlBody(const Arguments& arguments) { return Field(L"HTMLBody", arguments); }
-    Value Field(const wchar_t* name, const Arguments& arguments);
-    Value Display(const Arguments&);
+    Variant To(const Arguments& arguments);
+    Variant Copy(const Arguments& arguments) { return Field(L"CC", arguments); }
+    Variant Subject(const Arguments& arguments) { return Field(L"Subject", arguments); }
+    Variant Body(const Arguments& arguments) { return Field(L"Body", arguments); }
+    Variant HtmlBody(const Arguments& arguments) { return Field(L"HTMLBody", arguments); }
+    Variant Field(const wchar_t* name, const Arguments& arguments);
+    Variant Display(const Arguments&);
 
     ComPtr<OutlookObject> m_outlook;
     MailFields m_fields;

@@ -101,12 +101,12 @@ const SaveFormat& DocumentObject::Format(std::optional<long> number) const
 
 SaveFault DocumentObject::Fault() const { return SaveFaultNamed(m_session.Settings().Setting("save.fault")); }
 
-Value DocumentObject::GetApplication(const Arguments&) { return Value{&m_session.Application()}; }
-Value DocumentObject::GetName(const Arguments&) { return Value{m_document.Name()}; }
-Value DocumentObject::GetFullName(const Arguments&) { return Value{m_document.FullName()}; }
-Value DocumentObject::GetPath(const Arguments&) { return Value{m_document.Folder()}; }
-Value DocumentObject::GetReadOnly(const Arguments&) { return Value::OfBoolean(m_document.IsReadOnly()); }
-Value DocumentObject::GetReadOnlyState(const Arguments&) { return Value::OfTriState(m_document.IsReadOnly()); }
+Variant DocumentObject::GetApplication(const Arguments&) { return Variant{&m_session.Application()}; }
+Variant DocumentObject::GetName(const Arguments&) { return Variant{m_document.Name()}; }
+Variant DocumentObject::GetFullName(const Arguments&) { return Variant{m_document.FullName()}; }
+Variant DocumentObject::GetPath(const Arguments&) { return Variant{m_document.Folder()}; }
+Variant DocumentObject::GetReadOnly(const Arguments&) { return Variant{m_document.IsReadOnly()}; }
+Variant DocumentObject::GetReadOnlyState(const Arguments&) { return TriState(m_document.IsReadOnly()); }
 
 void DocumentObject::PutSaved(const Arguments& arguments)
 {
@@ -114,98 +114,98 @@ void DocumentObject::PutSaved(const Arguments& arguments)
     m_session.Changed();
 }
 
-Value DocumentObject::Saved(const Arguments& arguments)
+Variant DocumentObject::Saved(const Arguments& arguments)
 {
     CheckOpen();
-    if (!arguments.IsPut()) return Value::OfBoolean(m_document.IsSaved());
+    if (!arguments.IsPut()) return Variant{m_document.IsSaved()};
     PutSaved(arguments);
     return {};
 }
 
-Value DocumentObject::SavedState(const Arguments& arguments)
+Variant DocumentObject::SavedState(const Arguments& arguments)
 {
     CheckOpen();
-    if (!arguments.IsPut()) return Value::OfTriState(m_document.IsSaved());
+    if (!arguments.IsPut()) return TriState(m_document.IsSaved());
     PutSaved(arguments);
     return {};
 }
 
-Value DocumentObject::Final(const Arguments& arguments)
+Variant DocumentObject::Final(const Arguments& arguments)
 {
     CheckOpen();
-    if (!arguments.IsPut()) return Value::OfBoolean(m_document.IsFinal());
+    if (!arguments.IsPut()) return Variant{m_document.IsFinal()};
     m_document.SetFinal(arguments.At(0).Boolean());
     m_document.SetSaved(false);
     m_session.Changed();
     return {};
 }
 
-Value DocumentObject::GetHasVBProject(const Arguments&)
+Variant DocumentObject::GetHasVBProject(const Arguments&)
 {
     CheckOpen();
-    return Value::OfBoolean(m_session.Settings().Setting("document.macros") == "true");
+    return Variant{m_session.Settings().Setting("document.macros") == "true"};
 }
 
-Value DocumentObject::GetBuiltIn(const Arguments& arguments)
+Variant DocumentObject::GetBuiltIn(const Arguments& arguments)
 {
     CheckOpen();
     const auto properties = MakeObject<DocumentPropertiesObject>(this, PropertySet::BuiltIn);
-    return arguments.Has(0) ? properties->Item(arguments) : Value{properties.Get()};
+    return arguments.Has(0) ? properties->Item(arguments) : Variant{properties.Get()};
 }
 
-Value DocumentObject::GetCustom(const Arguments& arguments)
+Variant DocumentObject::GetCustom(const Arguments& arguments)
 {
     CheckOpen();
     const auto properties = MakeObject<DocumentPropertiesObject>(this, PropertySet::Custom);
-    return arguments.Has(0) ? properties->Item(arguments) : Value{properties.Get()};
+    return arguments.Has(0) ? properties->Item(arguments) : Variant{properties.Get()};
 }
 
-Value DocumentObject::GetWindows(const Arguments&)
+Variant DocumentObject::GetWindows(const Arguments&)
 {
     CheckOpen();
     std::vector<ComPtr<IDispatch>> windows;
     for (long number = 1; number <= m_windows; ++number)
         windows.push_back(Window(number));
-    return Value{m_session.WindowList(std::move(windows)).Get()};
+    return Variant{m_session.WindowList(std::move(windows)).Get()};
 }
 
-Value DocumentObject::GetWindow(const Arguments&) { return Value{Window(1).Get()}; }
+Variant DocumentObject::GetWindow(const Arguments&) { return Variant{Window(1).Get()}; }
 
-Value DocumentObject::DoSave(const Arguments&)
+Variant DocumentObject::DoSave(const Arguments&)
 {
     Save();
     return {};
 }
 
-Value DocumentObject::DoSaveAs(const Arguments& arguments)
+Variant DocumentObject::DoSaveAs(const Arguments& arguments)
 {
     SaveAs(arguments.At(0).Text(), FormatArgument(arguments));
     return {};
 }
 
-Value DocumentObject::DoSaveCopyAs(const Arguments& arguments)
+Variant DocumentObject::DoSaveCopyAs(const Arguments& arguments)
 {
     CheckOpen();
     m_document.SaveCopyAs(arguments.At(0).Text(), Format(FormatArgument(arguments)), Fault());
     return {};
 }
 
-Value DocumentObject::DoSaveCopyAsItIs(const Arguments& arguments)
+Variant DocumentObject::DoSaveCopyAsItIs(const Arguments& arguments)
 {
     CheckOpen();
-    if (arguments.Count() != 1) throw AutomationError{DISP_E_BADPARAMCOUNT, L"Wrong number of arguments."};
+    if (arguments.Count() != 1) throw Error{DISP_E_BADPARAMCOUNT, {}, L"Wrong number of arguments."};
     WriteCopy(arguments.At(0).Text());
     return {};
 }
 
-Value DocumentObject::DoClose(const Arguments&)
+Variant DocumentObject::DoClose(const Arguments&)
 {
     CheckOpen();
     m_session.Close(*this);
     return {};
 }
 
-Value DocumentObject::DoCloseSaving(const Arguments& arguments)
+Variant DocumentObject::DoCloseSaving(const Arguments& arguments)
 {
     CheckOpen();
     if (arguments.Has(0) && arguments.At(0).Number() == -1) Save();
@@ -213,18 +213,18 @@ Value DocumentObject::DoCloseSaving(const Arguments& arguments)
     return {};
 }
 
-Value DocumentObject::DoDisplay(const Arguments&)
+Variant DocumentObject::DoDisplay(const Arguments&)
 {
     CheckOpen();
     m_session.Display(*this);
     return {};
 }
 
-Value DocumentObject::Field(const char* name, const Arguments& arguments)
+Variant DocumentObject::Field(const char* name, const Arguments& arguments)
 {
     CheckOpen();
     CustomProperty& field = *std::ranges::find(m_document.BuiltIn(), name, &CustomProperty::name);
-    if (!arguments.IsPut()) return Value{Widen(field.value)};
+    if (!arguments.IsPut()) return Variant{Widen(field.value)};
     field.value = Narrow(arguments.At(0).Text());
     m_document.SetSaved(false);
     m_session.Changed();

@@ -40,38 +40,38 @@ public:
 
     // The answers of the member tables. Saved and ReadOnly are Booleans or, by the ...State ones, numbers of three
     // states.
-    Value GetApplication(const Arguments&);
-    Value GetName(const Arguments&);
-    Value GetFullName(const Arguments&);
-    Value GetPath(const Arguments&);
-    Value GetReadOnly(const Arguments&);
-    Value GetReadOnlyState(const Arguments&);
-    Value Saved(const Arguments& arguments);
-    Value SavedState(const Arguments& arguments);
-    Value Final(const Arguments& arguments);
-    Value GetHasVBProject(const Arguments&);
-    Value GetBuiltIn(const Arguments& arguments);
-    Value GetCustom(const Arguments& arguments);
-    Value GetWindows(const Arguments&);
-    Value GetWindow(const Arguments&);
-    Value DoSave(const Arguments&);
-    Value DoSaveAs(const Arguments& arguments);
-    Value DoSaveCopyAs(const Arguments& arguments);
-    Value DoSaveCopyAsItIs(const Arguments& arguments); // takes the name only
-    Value DoClose(const Arguments&);
-    Value DoCloseSaving(const Arguments& arguments); // saves first when asked to
-    Value DoDisplay(const Arguments&);
-    Value Subject(const Arguments& arguments) { return Field("Subject", arguments); }
-    Value Body(const Arguments& arguments) { return Field("Body", arguments); }
-    Value To(const Arguments& arguments) { return Field("To", arguments); }
-    Value Copy(const Arguments& arguments) { return Field("CC", arguments); }
+    Variant GetApplication(const Arguments&);
+    Variant GetName(const Arguments&);
+    Variant GetFullName(const Arguments&);
+    Variant GetPath(const Arguments&);
+    Variant GetReadOnly(const Arguments&);
+    Variant GetReadOnlyState(const Arguments&);
+    Variant Saved(const Arguments& arguments);
+    Variant SavedState(const Arguments& arguments);
+    Variant Final(const Arguments& arguments);
+    Variant GetHasVBProject(const Arguments&);
+    Variant GetBuiltIn(const Arguments& arguments);
+    Variant GetCustom(const Arguments& arguments);
+    Variant GetWindows(const Arguments&);
+    Variant GetWindow(const Arguments&);
+    Variant DoSave(const Arguments&);
+    Variant DoSaveAs(const Arguments& arguments);
+    Variant DoSaveCopyAs(const Arguments& arguments);
+    Variant DoSaveCopyAsItIs(const Arguments& arguments); // takes the name only
+    Variant DoClose(const Arguments&);
+    Variant DoCloseSaving(const Arguments& arguments); // saves first when asked to
+    Variant DoDisplay(const Arguments&);
+    Variant Subject(const Arguments& arguments) { return Field("Subject", arguments); }
+    Variant Body(const Arguments& arguments) { return Field("Body", arguments); }
+    Variant To(const Arguments& arguments) { return Field("To", arguments); }
+    Variant Copy(const Arguments& arguments) { return Field("CC", arguments); }
 
 private:
     void CheckOpen() const;
     [[nodiscard]] const SaveFormat& Format(std::optional<long> number) const;
     [[nodiscard]] SaveFault Fault() const;
     void PutSaved(const Arguments& arguments);
-    Value Field(const char* name, const Arguments& arguments);
+    Variant Field(const char* name, const Arguments& arguments);
 
     Session& m_session;
     Document m_document;

@@ -30,7 +30,7 @@ CustomProperty* FindProperty(std::vector<CustomProperty>& properties, const std:
 CustomProperty& ExistingProperty(std::vector<CustomProperty>& properties, const std::string& name)
 {
     if (CustomProperty* found = FindProperty(properties, name)) return *found;
-    throw AutomationError{E_INVALIDARG, L"There is no document property named " + Widen(name) + L"."};
+    throw Error{E_INVALIDARG, {}, L"There is no document property named " + Widen(name) + L"."};
 }
 
 void MarkChanged(DocumentObject& document)
@@ -59,31 +59,31 @@ std::span<const Member> DocumentPropertiesObject::Members() const
 
 std::vector<CustomProperty>& DocumentPropertiesObject::Properties() { return PropertiesOf(*m_document.Get(), m_set); }
 
-Value DocumentPropertiesObject::Item(const Arguments& arguments)
+Variant DocumentPropertiesObject::Item(const Arguments& arguments)
 {
-    const Value index = arguments.At(0);
+    const Variant index = arguments.At(0);
     const CustomProperty& property = index.Type() == VT_BSTR
                                          ? ExistingProperty(Properties(), Narrow(index.Text()))
                                          : Properties()[ItemPosition(index, Properties().size()) - 1];
-    return Value{MakeObject<DocumentPropertyObject>(m_document.Get(), m_set, property.name).Get()};
+    return Variant{MakeObject<DocumentPropertyObject>(m_document.Get(), m_set, property.name).Get()};
 }
 
-Value DocumentPropertiesObject::Count(const Arguments&) { return Value{static_cast<long>(Properties().size())}; }
+Variant DocumentPropertiesObject::Count(const Arguments&) { return Variant{static_cast<long>(Properties().size())}; }
 
-Value DocumentPropertiesObject::Add(const Arguments& arguments)
+Variant DocumentPropertiesObject::Add(const Arguments& arguments)
 {
     const std::string name = Narrow(arguments.At(0).Text());
-    if (m_set == PropertySet::BuiltIn) throw AutomationError{E_FAIL, L"A built-in property cannot be added."};
-    if (arguments.At(1).Boolean()) throw AutomationError{E_NOTIMPL, L"Linked properties are not offered."};
+    if (m_set == PropertySet::BuiltIn) throw Error{E_FAIL, {}, L"A built-in property cannot be added."};
+    if (arguments.At(1).Boolean()) throw Error{E_NOTIMPL, {}, L"Linked properties are not offered."};
     if (name.empty() || FindProperty(Properties(), name))
-        throw AutomationError{E_INVALIDARG, L"The property name is empty or exists already."};
+        throw Error{E_INVALIDARG, {}, L"The property name is empty or exists already."};
     m_document->File().CheckEditable();
     const long type = arguments.Has(2) ? arguments.At(2).Number() : 0;
-    if (type < 1 || type > 5) throw AutomationError{E_INVALIDARG, L"Unknown property type."};
+    if (type < 1 || type > 5) throw Error{E_INVALIDARG, {}, L"Unknown property type."};
 
     Properties().push_back(FromValue(name, static_cast<PropertyType>(type), arguments.At(3)));
     MarkChanged(*m_document.Get());
-    return Value{MakeObject<DocumentPropertyObject>(m_document.Get(), m_set, name).Get()};
+    return Variant{MakeObject<DocumentPropertyObject>(m_document.Get(), m_set, name).Get()};
 }
 
 DocumentPropertyObject::DocumentPropertyObject(DocumentObject* document, PropertySet set, std::string name)
@@ -108,10 +108,10 @@ CustomProperty& DocumentPropertyObject::Property()
     return ExistingProperty(PropertiesOf(*m_document.Get(), m_set), m_name);
 }
 
-Value DocumentPropertyObject::GetName(const Arguments&) { return Value{Widen(Property().name)}; }
-Value DocumentPropertyObject::GetType(const Arguments&) { return Value{static_cast<long>(Property().type)}; }
+Variant DocumentPropertyObject::GetName(const Arguments&) { return Variant{Widen(Property().name)}; }
+Variant DocumentPropertyObject::GetType(const Arguments&) { return Variant{static_cast<long>(Property().type)}; }
 
-Value DocumentPropertyObject::ValueOf(const Arguments& arguments)
+Variant DocumentPropertyObject::ValueOf(const Arguments& arguments)
 {
     CustomProperty& property = Property();
     if (!arguments.IsPut()) return ToValue(property);
@@ -121,9 +121,9 @@ Value DocumentPropertyObject::ValueOf(const Arguments& arguments)
     return {};
 }
 
-Value DocumentPropertyObject::Delete(const Arguments&)
+Variant DocumentPropertyObject::Delete(const Arguments&)
 {
-    if (m_set == PropertySet::BuiltIn) throw AutomationError{E_FAIL, L"A built-in property cannot be deleted."};
+    if (m_set == PropertySet::BuiltIn) throw Error{E_FAIL, {}, L"A built-in property cannot be deleted."};
     m_document->File().CheckEditable();
     auto& properties = PropertiesOf(*m_document.Get(), m_set);
     const std::string name = Property().name;

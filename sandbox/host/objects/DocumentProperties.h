@@ -22,11 +22,11 @@ public:
     [[nodiscard]] std::span<const Member> Members() const override;
 
     // By name, without regard to case, or by position.
-    Value Item(const Arguments& arguments);
+    Variant Item(const Arguments& arguments);
 
 private:
-    Value Count(const Arguments&);
-    Value Add(const Arguments& arguments);
+    Variant Count(const Arguments&);
+    Variant Add(const Arguments& arguments);
 
     [[nodiscard]] std::vector<CustomProperty>& Properties();
 
@@ -43,10 +43,10 @@ public:
     [[nodiscard]] std::span<const Member> Members() const override;
 
 private:
-    Value GetName(const Arguments&);
-    Value ValueOf(const Arguments& arguments);
-    Value GetType(const Arguments&);
-    Value Delete(const Arguments&);
+    Variant GetName(const Arguments&);
+    Variant ValueOf(const Arguments& arguments);
+    Variant GetType(const Arguments&);
+    Variant Delete(const Arguments&);
 
     [[nodiscard]] CustomProperty& Property();
 

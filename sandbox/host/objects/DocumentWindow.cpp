@@ -23,18 +23,18 @@ bool DocumentWindowObject::IsActive() const
     return m_number == 1 && m_document->Owner().Active() == m_document.Get();
 }
 
-Value DocumentWindowObject::GetCaption(const Arguments&)
+Variant DocumentWindowObject::GetCaption(const Arguments&)
 {
     const std::wstring name = m_document->File().Name();
-    return Value{m_document->WindowCount() > 1 ? name + L":" + std::to_wstring(m_number) : name};
+    return Variant{m_document->WindowCount() > 1 ? name + L":" + std::to_wstring(m_number) : name};
 }
 
-Value DocumentWindowObject::GetDocument(const Arguments&) { return Value{m_document.Get()}; }
-Value DocumentWindowObject::GetActive(const Arguments&) { return Value::OfBoolean(IsActive()); }
-Value DocumentWindowObject::GetActiveState(const Arguments&) { return Value::OfTriState(IsActive()); }
-Value DocumentWindowObject::GetCommandBars(const Arguments&) { return Value{&m_document->Owner().CommandBars()}; }
+Variant DocumentWindowObject::GetDocument(const Arguments&) { return Variant{m_document.Get()}; }
+Variant DocumentWindowObject::GetActive(const Arguments&) { return Variant{IsActive()}; }
+Variant DocumentWindowObject::GetActiveState(const Arguments&) { return TriState(IsActive()); }
+Variant DocumentWindowObject::GetCommandBars(const Arguments&) { return Variant{&m_document->Owner().CommandBars()}; }
 
-Value DocumentWindowObject::DoActivate(const Arguments&)
+Variant DocumentWindowObject::DoActivate(const Arguments&)
 {
     m_document->Owner().Activate(*m_document.Get());
     return {};

@@ -14,12 +14,12 @@ public:
     [[nodiscard]] std::span<const Member> Members() const override;
 
     // The answers of the member tables.
-    Value GetCaption(const Arguments&);
-    Value GetDocument(const Arguments&);
-    Value GetActive(const Arguments&);
-    Value GetActiveState(const Arguments&);
-    Value GetCommandBars(const Arguments&);
-    Value DoActivate(const Arguments&);
+    Variant GetCaption(const Arguments&);
+    Variant GetDocument(const Arguments&);
+    Variant GetActive(const Arguments&);
+    Variant GetActiveState(const Arguments&);
+    Variant GetCommandBars(const Arguments&);
+    Variant DoActivate(const Arguments&);
 
 private:
     [[nodiscard]] bool IsActive() const;

@@ -15,12 +15,11 @@ using D = DocumentObject;
 using W = DocumentWindowObject;
 
 // Asks the session first whether it takes the call now.
-template<auto Method, auto Check>
-Value Checked(ObjectCore& object, const Arguments& arguments)
+template<auto answer, auto check>
+Variant Checked(ObjectCore& object, const Arguments& arguments)
 {
-    using T = typename MethodTraits<decltype(Method)>::Class;
-    (static_cast<T&>(object).Owner().*Check)();
-    return Answer<Method>(object, arguments);
+    (AsAnswering<answer>(object).Owner().*check)();
+    return Answer<answer>(object, arguments);
 }
 
 // While a cell is edited most members fail, and in the busier kinds of editing even the command bars.

@@ -6,6 +6,9 @@
 namespace host
 {
 
+// A truth as a number of three states.
+[[nodiscard]] inline Variant TriState(bool value) { return value ? -1 : 0; }
+
 // One class of a host's object model.
 struct ClassTable
 {

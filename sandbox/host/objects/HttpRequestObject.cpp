@@ -1,10 +1,12 @@
 #include "objects/HttpRequestObject.h"
 
+#include <algorithm>
 #include <memory>
 
 #include <winhttp.h>
 
 #include "automation/Text.h"
+#include "platform/ByteArray.h"
 
 namespace host
 {
@@ -27,9 +29,9 @@ std::string BytesOf(const VARIANT& body)
 {
     if (body.vt == (VT_ARRAY | VT_UI1))
         return {static_cast<const char*>(body.parray->pvData), body.parray->rgsabound[0].cElements};
-    if (body.vt == VT_BSTR) return Narrow(Value{body}.Text());
+    if (body.vt == VT_BSTR) return Narrow(corvane::ViewOf(body.bstrVal));
     ComPtr<IXMLDOMDocument> document;
-    ComText markup;
+    Bstr markup;
     void** const place = reinterpret_cast<void**>(document.GetAddressOf());
     if (body.vt == VT_DISPATCH && SUCCEEDED(body.pdispVal->QueryInterface(kDocumentId, place)))
         document->get_xml(markup.Put());
@@ -56,7 +58,7 @@ std::string AnswerOf(HINTERNET request)
 
 } // namespace
 
-HttpRequestObject::HttpRequestObject() : AutomationObject{L"XMLHTTPRequest", kXmlHttpId} {}
+HttpRequestObject::HttpRequestObject() : AutomationObject{L"XMLHTTPRequest"} {}
 
 HRESULT HttpRequestObject::open(BSTR method, BSTR url, VARIANT, VARIANT, VARIANT)
 {
@@ -134,7 +136,7 @@ HRESULT HttpRequestObject::getResponseHeader(BSTR name, BSTR* value)
         const auto size = static_cast<int>(wanted.size());
         if (::CompareStringOrdinal(&m_answerHeaders[at], size, wanted.c_str(), size, TRUE) != CSTR_EQUAL) continue;
         const std::size_t from = at + wanted.size();
-        *value = ComText{m_answerHeaders.substr(from, m_answerHeaders.find(L"\r\n", from) - from)}.Detach();
+        *value = Bstr{m_answerHeaders.substr(from, m_answerHeaders.find(L"\r\n", from) - from)}.Detach();
         return S_OK;
     }
     *value = nullptr;
@@ -143,16 +145,15 @@ HRESULT HttpRequestObject::getResponseHeader(BSTR name, BSTR* value)
 
 HRESULT HttpRequestObject::get_responseText(BSTR* text)
 {
-    *text = ComText{Widen(m_answer)}.Detach();
+    *text = Bstr{Widen(m_answer)}.Detach();
     return S_OK;
 }
 
 HRESULT HttpRequestObject::get_responseBody(VARIANT* body)
 {
-    body->vt = VT_ARRAY | VT_UI1;
-    body->parray = ::SafeArrayCreateVector(VT_UI1, 0, static_cast<ULONG>(m_answer.size()));
-    if (!body->parray) return E_OUTOFMEMORY;
-    m_answer.copy(static_cast<char*>(body->parray->pvData), m_answer.size());
+    corvane::ByteArray bytes{m_answer.size()};
+    std::ranges::copy(std::as_bytes(std::span{m_answer}), bytes.Bytes().begin());
+    *body = bytes.Detach().Detach();
     return S_OK;
 }
 

@@ -1,3 +1,4 @@
+// An HTTP component of the host's own in the place of the system's.
 #pragma once
 
 #include <atomic>
@@ -8,12 +9,13 @@
 
 #include "automation/AutomationObject.h"
 
+__CRT_UUID_DECL(IXMLHTTPRequest, 0xED8C108D, 0x4349, 0x11D2, 0x91, 0xA4, 0x00, 0xC0, 0x4F, 0x79, 0x69, 0xE8)
+
 namespace host
 {
 
-// The platform's XMLHTTP class 3.0, and its interface.
+// The platform's XMLHTTP class 3.0.
 inline constexpr CLSID kXmlHttpClass{0xF5078F35, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
-inline constexpr IID kXmlHttpId{0xED8C108D, 0x4349, 0x11D2, {0x91, 0xA4, 0x00, 0xC0, 0x4F, 0x79, 0x69, 0xE8}};
 
 // An XMLHTTP object over WinHTTP, for one request. It stands in where Wine's own, which keeps every body that it sent,
 // would hide what an add-in keeps. Answers are text in UTF-8 or bytes; there are no documents and no events.

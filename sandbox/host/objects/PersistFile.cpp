@@ -19,7 +19,7 @@ STDMETHODIMP PersistFile::Save(LPCOLESTR path, BOOL remember)
     try {
         m_document.WriteCopy(path);
         return S_OK;
-    } catch (const AutomationError& error) {
+    } catch (const Error& error) {
         return error.Number();
     }
 }

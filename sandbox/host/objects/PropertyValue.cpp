@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <iterator>
 
-#include "automation/AutomationError.h"
+#include "automation/Errors.h"
 #include "automation/Text.h"
 
 namespace host
@@ -11,27 +11,27 @@ namespace host
 namespace
 {
 
-Value DateOf(const std::string& text)
+Variant DateOf(const std::string& text)
 {
     SYSTEMTIME time{};
     DATE date = 0;
     const int fields = std::sscanf(text.c_str(), "%hu-%hu-%huT%hu:%hu:%hu", &time.wYear, &time.wMonth, &time.wDay,
                                    &time.wHour, &time.wMinute, &time.wSecond);
-    if (fields < 3 || !::SystemTimeToVariantTime(&time, &date)) return Value{Widen(text)};
-    return Value::OfDate(date);
+    if (fields < 3 || !::SystemTimeToVariantTime(&time, &date)) return Variant{Widen(text)};
+    return Variant::OfDate(date);
 }
 
 std::string TextOfDate(DATE date)
 {
     SYSTEMTIME time{};
-    if (!::VariantTimeToSystemTime(date, &time)) throw AutomationError{DISP_E_TYPEMISMATCH, L"Type mismatch."};
+    if (!::VariantTimeToSystemTime(date, &time)) throw Error{DISP_E_TYPEMISMATCH, {}, L"Type mismatch."};
     char text[64];
     std::snprintf(text, std::size(text), "%04hu-%02hu-%02huT%02hu:%02hu:%02huZ", time.wYear, time.wMonth, time.wDay,
                   time.wHour, time.wMinute, time.wSecond);
     return text;
 }
 
-std::string PackageText(PropertyType type, const Value& value)
+std::string PackageText(PropertyType type, const Variant& value)
 {
     switch (type) {
     case PropertyType::Number:
@@ -41,24 +41,24 @@ std::string PackageText(PropertyType type, const Value& value)
     case PropertyType::Date:
         return TextOfDate(value.As(VT_DATE).Get().date);
     case PropertyType::Float:
-        return Narrow(value.As(VT_R8).Text());
+        return Narrow(value.As(VT_R8).As(VT_BSTR).Text());
     case PropertyType::Text:
         return Narrow(value.Text());
     }
-    throw AutomationError{E_INVALIDARG, L"Unknown property type."};
+    throw Error{E_INVALIDARG, {}, L"Unknown property type."};
 }
 
 } // namespace
 
-Value ToValue(const CustomProperty& property)
+Variant ToValue(const CustomProperty& property)
 {
-    const Value text{Widen(property.value)};
+    const Variant text{Widen(property.value)};
     try {
         switch (property.type) {
         case PropertyType::Number:
             return text.As(VT_I4);
         case PropertyType::Boolean:
-            return Value::OfBoolean(property.value == "true");
+            return Variant{property.value == "true"};
         case PropertyType::Date:
             return DateOf(property.value);
         case PropertyType::Float:
@@ -66,13 +66,13 @@ Value ToValue(const CustomProperty& property)
         case PropertyType::Text:
             break;
         }
-    } catch (const AutomationError&) {
+    } catch (const Error&) {
         // A file may hold a value that its type does not allow: its text is all there is to show.
     }
-    return text;
+    return Widen(property.value);
 }
 
-CustomProperty FromValue(std::string name, PropertyType type, const Value& value)
+CustomProperty FromValue(std::string name, PropertyType type, const Variant& value)
 {
     return {std::move(name), type, PackageText(type, value)};
 }

@@ -15,7 +15,7 @@ HRESULT GiveText(const std::wstring& text, BSTR* out)
 } // namespace
 
 RibbonUiObject::RibbonUiObject(std::function<void()> invalidate)
-    : AutomationObject{L"IRibbonUI", kRibbonUiId}, m_invalidate{std::move(invalidate)}
+    : AutomationObject{L"IRibbonUI"}, m_invalidate{std::move(invalidate)}
 {}
 
 std::span<const Member> RibbonUiObject::Members() const
@@ -33,7 +33,7 @@ std::span<const Member> RibbonUiObject::Members() const
     return kMembers;
 }
 
-Value RibbonUiObject::DoInvalidate(const Arguments&)
+Variant RibbonUiObject::DoInvalidate(const Arguments&)
 {
     if (m_invalidate) m_invalidate();
     return {};
@@ -52,8 +52,7 @@ STDMETHODIMP RibbonUiObject::ActivateTabMso(BSTR) { return Invalidate(); }
 STDMETHODIMP RibbonUiObject::ActivateTabQ(BSTR, BSTR) { return Invalidate(); }
 
 RibbonControlObject::RibbonControlObject(std::wstring id, std::wstring tag, ComPtr<IDispatch> context)
-    : AutomationObject{L"IRibbonControl", kRibbonControlId}, m_id{std::move(id)}, m_tag{std::move(tag)},
-      m_context{std::move(context)}
+    : AutomationObject{L"IRibbonControl"}, m_id{std::move(id)}, m_tag{std::move(tag)}, m_context{std::move(context)}
 {}
 
 std::span<const Member> RibbonControlObject::Members() const
@@ -66,9 +65,9 @@ std::span<const Member> RibbonControlObject::Members() const
     return kMembers;
 }
 
-Value RibbonControlObject::GetId(const Arguments&) { return Value{m_id}; }
-Value RibbonControlObject::GetContext(const Arguments&) { return Value{m_context.Get()}; }
-Value RibbonControlObject::GetTag(const Arguments&) { return Value{m_tag}; }
+Variant RibbonControlObject::GetId(const Arguments&) { return Variant{m_id}; }
+Variant RibbonControlObject::GetContext(const Arguments&) { return Variant{m_context.Get()}; }
+Variant RibbonControlObject::GetTag(const Arguments&) { return Variant{m_tag}; }
 
 STDMETHODIMP RibbonControlObject::get_Id(BSTR* id) { return GiveText(m_id, id); }
 STDMETHODIMP RibbonControlObject::get_Tag(BSTR* tag) { return GiveText(m_tag, tag); }

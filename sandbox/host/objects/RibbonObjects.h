@@ -27,7 +27,7 @@ public:
     STDMETHODIMP ActivateTabQ(BSTR id, BSTR space) override;
 
 private:
-    Value DoInvalidate(const Arguments&);
+    Variant DoInvalidate(const Arguments&);
 
     std::function<void()> m_invalidate;
 };
@@ -45,9 +45,9 @@ public:
     STDMETHODIMP get_Tag(BSTR* tag) override;
 
 private:
-    Value GetId(const Arguments&);
-    Value GetContext(const Arguments&);
-    Value GetTag(const Arguments&);
+    Variant GetId(const Arguments&);
+    Variant GetContext(const Arguments&);
+    Variant GetTag(const Arguments&);
 
     std::wstring m_id;
     std::wstring m_tag;

@@ -46,7 +46,7 @@ const EditingRow* EditingOf(const Options& options)
 
 [[noreturn]] void RefuseEditing(const EditingRow& row)
 {
-    throw AutomationError{static_cast<HRESULT>(row.number), L"The user is editing a cell."};
+    throw Error{static_cast<HRESULT>(row.number), {}, L"The user is editing a cell."};
 }
 
 bool SameText(const std::wstring& a, const std::wstring& b) { return ::lstrcmpiW(a.c_str(), b.c_str()) == 0; }
@@ -174,15 +174,15 @@ void Session::FireActivate()
 {
     Changed();
     if (!Model().events || Active() != Reachable()) return;
-    const Value document{Active()};
-    const Value shown{Active()->Window(1).Get()};
+    const Variant document{Active()};
+    const Variant shown{Active()->Window(1).Get()};
     VARIANT arguments[] = {document.Get(), shown.Get()};
     m_application->Events().Fire(Model().events->activate, arguments);
 }
 
 void Session::Fire(DISPID event, DocumentObject& document)
 {
-    const Value subject{&document};
+    const Variant subject{&document};
     VARIANT arguments[] = {subject.Get()};
     m_application->Events().Fire(event, arguments);
 }
@@ -205,7 +205,7 @@ bool Session::MayBeSaved(DocumentObject& document)
 {
     if (!Model().events) return true;
     VARIANT_BOOL cancel = VARIANT_FALSE;
-    const Value subject{&document};
+    const Variant subject{&document};
     VARIANT byReference{};
     byReference.vt = VT_BOOL | VT_BYREF;
     byReference.pboolVal = &cancel;

@@ -29,8 +29,8 @@ class DocumentObject;
 //     IDispatch* application = &session.Application();
 //
 // Settings are read when they matter: a document's when it is opened or made, save.fault at each save, editing at each
-// call; Set changes one in between. The host's README lists them. ObjectCore::Living tells what is still referred to
-// once Release has been called.
+// call; Set changes one in between. The host's README lists them. ObjectCore::StillReferenced tells what is still
+// referred to once Release has been called.
 class Session
 {
 public:
@@ -74,7 +74,7 @@ public:
     void CheckReady() const;
     void CheckAnswering() const;
 
-    // Runs a macro "name" or "document!name". Throws AutomationError when there is none or it fails.
+    // Runs a macro "name" or "document!name". Throws Error when there is none or it fails.
     void RunMacro(const std::wstring& name);
     [[nodiscard]] const std::vector<std::wstring>& MacrosRun() const { return m_macrosRun; }
 

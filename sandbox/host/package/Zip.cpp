@@ -16,7 +16,6 @@ namespace
 {
 
 // Record layouts of the zip format; all numbers are little-endian.
-constexpr std::string_view kStoredName = "mimetype"; // Open Document packages are told by it
 constexpr std::uint32_t kLocalHeader = 0x04034b50;
 constexpr std::uint32_t kCentralHeader = 0x02014b50;
 constexpr std::uint32_t kEndRecord = 0x06054b50;
@@ -165,7 +164,7 @@ std::string Zip::Write() const
     std::string directory;
     for (const ZipEntry& entry : m_entries) {
         const std::string deflated = Deflate(entry.data);
-        const bool smaller = entry.name != kStoredName && deflated.size() < entry.data.size();
+        const bool smaller = deflated.size() < entry.data.size();
         const std::string& packed = smaller ? deflated : entry.data;
         const std::string fields = CommonFields(entry, smaller ? kDeflated : kStored, packed.size());
 
