@@ -1,6 +1,6 @@
 #include "dialogs/frmSaveRelatedDoc.h"
 
-#include "forms/FormLists.h"
+#include "forms/FormList.h"
 #include "forms/Messages.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
@@ -59,12 +59,8 @@ bool frmSaveRelatedDoc::LoadNewDocument()
     SetText(txtAuthor, AuthorOfDocument());
     Check(chkPublish, AutomaticallySetPublishCheckbox);
     FillGroups();
-    const HWND combo = Control(cboGroup);
-    const auto count = static_cast<int>(::SendMessageW(combo, CB_GETCOUNT, 0, 0));
-    int chosen = 0;
-    while (chosen < count && ToLower(ComboEntry(combo, chosen)) != kDefaultGroup)
-        ++chosen;
-    ::SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(chosen < count ? chosen : 0), 0);
+    const auto chosen = Groups().Find([](const std::wstring& group) { return ToLower(group) == kDefaultGroup; });
+    Groups().Select(chosen.value_or(0));
     return true;
 }
 
@@ -85,25 +81,22 @@ bool frmSaveRelatedDoc::LoadExistingDocument()
     return true;
 }
 
+FormList frmSaveRelatedDoc::Groups() const noexcept { return FormList{Control(cboGroup)}; }
+
 void frmSaveRelatedDoc::FillGroups()
 {
-    const HWND combo = Control(cboGroup);
-    ::SendMessageW(combo, CB_RESETCONTENT, 0, 0);
+    Groups().Clear();
     const XmlDocument groups = QueryXml(ServerURL, Operations::kGetGroups, {ProjectID});
     for (const XmlNode& group : groups.Select(L"//fg:group"))
-        AddListEntry(combo, group.Text(L"name"));
+        Groups().Add(group.Text(L"name"));
 }
 
 void frmSaveRelatedDoc::SelectGroup(const std::wstring& group)
 {
-    const HWND combo = Control(cboGroup);
-    const auto count = static_cast<int>(::SendMessageW(combo, CB_GETCOUNT, 0, 0));
-    int index = 0;
-    while (index < count && ComboEntry(combo, index) != group)
-        ++index;
+    auto position = Groups().Find([&](const std::wstring& offered) { return offered == group; });
     // A category that the project does not offer stays the document's own.
-    if (index == count && !group.empty()) index = AddListEntry(combo, group);
-    ::SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    if (!position && !group.empty()) position = Groups().Add(group);
+    if (position) Groups().Select(*position);
 }
 
 std::wstring frmSaveRelatedDoc::AuthorOfDocument() const

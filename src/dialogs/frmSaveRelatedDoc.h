@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialogs/SaveDialog.h"
+#include "forms/FormList.h"
 #include "platform/XmlDocument.h"
 
 namespace corvane
@@ -30,6 +31,7 @@ private:
     // Fill the dialog from the server; false when the project is closed.
     [[nodiscard]] bool LoadNewDocument();
     [[nodiscard]] bool LoadExistingDocument();
+    [[nodiscard]] FormList Groups() const noexcept;
     void FillGroups();
     void SelectGroup(const std::wstring& group);
     [[nodiscard]] std::wstring AuthorOfDocument() const;

@@ -104,6 +104,10 @@ protected:
     void SelectAllOnCtrlA(int control) const noexcept;
     // Shows text in the status bar at once.
     void SetStatus(int statusBar, const std::wstring& text) const noexcept;
+    // How far a progress bar has come, of the 100 that it counts to unless told otherwise.
+    void SetProgress(int bar, int percent) const noexcept;
+    // The font stays the caller's, who keeps it as long as the control.
+    void SetFont(int control, HFONT font) const noexcept;
     // The hourglass over the form, or the usual pointer.
     void SetHourglass(bool on) noexcept;
     void StartTimer(UINT milliseconds) const noexcept;

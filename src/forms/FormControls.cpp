@@ -100,6 +100,16 @@ void Form::SetStatus(int statusBar, const std::wstring& text) const noexcept
     ::UpdateWindow(Control(statusBar));
 }
 
+void Form::SetProgress(int bar, int percent) const noexcept
+{
+    ::SendMessageW(Control(bar), PBM_SETPOS, static_cast<WPARAM>(percent), 0);
+}
+
+void Form::SetFont(int control, HFONT font) const noexcept
+{
+    ::SendMessageW(Control(control), WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+}
+
 void Form::SetHourglass(bool on) noexcept
 {
     m_hourglass = on;

@@ -3,7 +3,7 @@
 #include "forms/AccessibleName.h"
 #include "forms/FormCaption.h"
 #include "forms/FormLayout.h"
-#include "forms/FormLists.h"
+#include "forms/FormList.h"
 #include "forms/FormWindow.h"
 #include "forms/ShownBox.h"
 #include "forms/ShownText.h"
@@ -154,7 +154,7 @@ void FormTips::DrawEntry(const DRAWITEMSTRUCT& entry) const
     const bool isCut = DrawListEntry(entry);
     if ((entry.itemState & ODS_COMBOBOXEDIT) == 0) return;
     TakeBack(entry.hwndItem);
-    if (isCut) AddTip(entry.hwndItem, ComboEntry(entry.hwndItem, static_cast<int>(entry.itemID)));
+    if (isCut) AddTip(entry.hwndItem, FormList{entry.hwndItem}.Text(static_cast<int>(entry.itemID)));
 }
 
 void FormTips::AddTip(HWND control, std::wstring text) const noexcept

@@ -1,7 +1,7 @@
 #include "forms/FormWindow.h"
 
 #include "forms/FormLayout.h"
-#include "forms/FormLists.h"
+#include "forms/FormList.h"
 #include "forms/FormTemplate.h"
 #include "platform/ComObject.h"
 #include "platform/HResult.h"

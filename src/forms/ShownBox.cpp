@@ -27,7 +27,7 @@ void DrawShortened(HWND box)
     const auto brush = reinterpret_cast<HBRUSH>(::SendMessageW(
         ::GetParent(box), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(context), reinterpret_cast<LPARAM>(box)));
     ::FillRect(context, &room, brush);
-    const HGDIOBJ before = ::SelectObject(context, reinterpret_cast<HFONT>(::SendMessageW(box, WM_GETFONT, 0, 0)));
+    const HGDIOBJ before = ::SelectObject(context, FontOf(box));
     ::DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &room,
                 DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
     ::SelectObject(context, before);

@@ -3,9 +3,9 @@
 namespace corvane
 {
 
-TextRuler::TextRuler(HWND control) noexcept
-    : TextRuler{reinterpret_cast<HFONT>(::SendMessageW(control, WM_GETFONT, 0, 0))}
-{}
+HFONT FontOf(HWND control) noexcept { return reinterpret_cast<HFONT>(::SendMessageW(control, WM_GETFONT, 0, 0)); }
+
+TextRuler::TextRuler(HWND control) noexcept : TextRuler{FontOf(control)} {}
 
 TextRuler::TextRuler(HFONT font) noexcept : m_context{::CreateCompatibleDC(nullptr)}
 {

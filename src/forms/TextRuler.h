@@ -1,4 +1,4 @@
-// Sizes of texts on the screen.
+// Fonts of controls, and sizes of texts on the screen.
 #pragma once
 
 #include "platform/Owners.h"
@@ -7,6 +7,9 @@
 
 namespace corvane
 {
+
+// A control's font, which stays its own.
+[[nodiscard]] HFONT FontOf(HWND control) noexcept;
 
 // Measures texts in a font: a control's own, or one that outlives the ruler.
 class TextRuler

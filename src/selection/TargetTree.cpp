@@ -1,31 +1,12 @@
 #include "selection/TargetTree.h"
 
+#include "forms/PaintingOff.h"
 #include "support/Conversions.h"
 
 #include <windowsx.h>
 
 namespace corvane
 {
-
-namespace
-{
-
-// Keeps a control from painting itself until all is in it.
-class PaintingOff
-{
-public:
-    explicit PaintingOff(HWND control) noexcept : m_control{control} { Set(FALSE); }
-    PaintingOff(const PaintingOff&) = delete;
-    PaintingOff& operator=(const PaintingOff&) = delete;
-    ~PaintingOff() { Set(TRUE); }
-
-private:
-    void Set(BOOL paints) const noexcept { ::SendMessageW(m_control, WM_SETREDRAW, static_cast<WPARAM>(paints), 0); }
-
-    HWND m_control;
-};
-
-} // namespace
 
 TargetTree::TargetTree(HWND treeView, TreeMode mode, IconLoader loadIcons)
     : m_treeView{treeView}, m_kind{TreeKindOf(mode)}, m_loadIcons{std::move(loadIcons)}

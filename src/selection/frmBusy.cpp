@@ -3,8 +3,6 @@
 #include "platform/Procedure.h"
 #include "resources/resource.h"
 
-#include <commctrl.h>
-
 namespace corvane
 {
 namespace
@@ -16,16 +14,10 @@ constexpr int kStep = 5;
 
 frmBusy::frmBusy(SaveProcedures procedures) : Form{L"frmBusy", IDD_frmBusy}, m_procedures{std::move(procedures)} {}
 
-void frmBusy::Form_Load()
-{
-    ::SendMessageW(Control(ProgressBar1), PBM_SETRANGE32, 0, kFull);
-    ::SendMessageW(Control(ProgressBar1), PBM_SETPOS, 0, 0);
-}
-
 void frmBusy::Timer()
 {
     m_progress = m_progress < kFull ? m_progress + kStep : 0;
-    ::SendMessageW(Control(ProgressBar1), PBM_SETPOS, static_cast<WPARAM>(m_progress), 0);
+    SetProgress(ProgressBar1, m_progress);
 }
 
 void frmBusy::Form_Activate()

@@ -40,7 +40,6 @@ public:
 
 private:
     [[nodiscard]] std::span<const FormHandler> Handlers() const override { return {}; }
-    void Form_Load() override;
     void Form_Activate() override;
     void Timer() override;
     [[nodiscard]] bool IsPassing() const noexcept override { return true; }

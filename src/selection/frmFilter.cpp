@@ -1,6 +1,6 @@
 #include "selection/frmFilter.h"
 
-#include "forms/FormLists.h"
+#include "forms/FormList.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
 #include "support/Conversions.h"
@@ -21,19 +21,15 @@ std::span<const FormHandler> frmFilter::Handlers() const
     return kHandlers;
 }
 
-void frmFilter::AddClass(const std::wstring& name, std::int32_t classId)
-{
-    const int position = AddListEntry(Control(ClassList), name);
-    ::SendMessageW(Control(ClassList), LB_SETITEMDATA, static_cast<WPARAM>(position), classId);
-}
+FormList frmFilter::Classes() const noexcept { return FormList{Control(ClassList)}; }
 
 void frmFilter::FillClassList()
 {
-    AddClass(L"[All]", 0);
+    Classes().Add(L"[All]", 0);
     m_loadFailure = Catch([this] {
         const XmlDocument classes = QueryXml(Server, Operations::kGetClasses, {false, true});
         for (const XmlNode& row : classes.Select(L"//z:row"))
-            AddClass(row.Text(L"DisplayName"), ToLongSafe(row.Text(L"ClassID")));
+            Classes().Add(row.Text(L"DisplayName"), ToLongSafe(row.Text(L"ClassID")));
     });
 }
 
@@ -42,23 +38,14 @@ void frmFilter::Form_Load()
     FillClassList();
     SetText(SearchString, ProjectSearchName);
     // By position, not by id: a list in another order shows another class, a shorter one shows all.
-    const HWND list = Control(ClassList);
-    if (::SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(m_lastApplied.listPosition), 0) == LB_ERR)
-        ::SendMessageW(list, LB_SETCURSEL, 0, 0);
-}
-
-std::int16_t frmFilter::SelectedPosition() const noexcept
-{
-    const LRESULT position = ::SendMessageW(Control(ClassList), LB_GETCURSEL, 0, 0);
-    return static_cast<std::int16_t>(position == LB_ERR ? 0 : position);
+    if (!Classes().Select(m_lastApplied.listPosition)) Classes().Select(0);
 }
 
 void frmFilter::Apply()
 {
-    const std::int16_t position = SelectedPosition();
+    const auto position = static_cast<std::int16_t>(Classes().Selected().value_or(0));
     ProjectSearchName = Text(SearchString);
-    ClassID =
-        static_cast<std::int32_t>(::SendMessageW(Control(ClassList), LB_GETITEMDATA, static_cast<WPARAM>(position), 0));
+    ClassID = Classes().Number(position);
     const AppliedFilter filter{ProjectSearchName, ClassID, position};
     m_outcome = OutcomeOf(filter, m_lastApplied, false);
     m_lastApplied = filter;
@@ -70,7 +57,7 @@ void frmFilter::btnApplyFilter_Click() { Apply(); }
 void frmFilter::btnClearFilter_Click()
 {
     SetText(SearchString, L"");
-    ::SendMessageW(Control(ClassList), LB_SETCURSEL, 0, 0);
+    Classes().Select(0);
     Apply();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/Form.h"
+#include "forms/FormList.h"
 #include "platform/Error.h"
 #include "selection/FilterState.h"
 
@@ -36,9 +37,8 @@ private:
     void btnCancel_Click();
 
     void FillClassList();
-    void AddClass(const std::wstring& name, std::int32_t classId);
+    [[nodiscard]] FormList Classes() const noexcept;
     void Apply();
-    [[nodiscard]] std::int16_t SelectedPosition() const noexcept;
 
     AppliedFilter m_lastApplied;
     FilterOutcome m_outcome;

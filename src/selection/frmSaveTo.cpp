@@ -1,6 +1,6 @@
 #include "selection/frmSaveTo.h"
 
-#include "forms/FormLists.h"
+#include "forms/FormList.h"
 #include "forms/Messages.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
@@ -72,7 +72,7 @@ void frmSaveTo::FillServers()
 {
     const auto urls = m_servers->GetURLs();
     for (const std::wstring& url : urls) {
-        if (!url.empty()) AddListEntry(Control(cmbServerURL), url);
+        if (!url.empty()) FormList{Control(cmbServerURL)}.Add(url);
     }
     std::wstring text = ServerURL;
     if (text.empty() && !urls.empty()) text = urls.front();
@@ -103,10 +103,10 @@ void frmSaveTo::Form_Activate()
 
 void frmSaveTo::cmbServerURL_Click()
 {
-    const HWND combo = Control(cmbServerURL);
-    const auto index = static_cast<int>(::SendMessageW(combo, CB_GETCURSEL, 0, 0));
-    if (index == CB_ERR) return;
-    SetText(cmbServerURL, ComboEntry(combo, index));
+    const FormList servers{Control(cmbServerURL)};
+    const auto chosen = servers.Selected();
+    if (!chosen) return;
+    SetText(cmbServerURL, servers.Text(*chosen));
     // On the way through the list by keys nothing is chosen yet; Enter goes.
     for (const int key : {VK_UP, VK_DOWN, VK_PRIOR, VK_NEXT, VK_HOME, VK_END}) {
         if (::GetKeyState(key) < 0) return;

@@ -1,6 +1,7 @@
 #include "support/frmAbout.h"
 
 #include "Version.h"
+#include "forms/TextRuler.h"
 #include "resources/resource.h"
 #include "support/VersionText.h"
 
@@ -32,12 +33,11 @@ void frmAbout::Form_Load()
 void frmAbout::SetLabelFont()
 {
     LOGFONTW font{};
-    const auto current = reinterpret_cast<HFONT>(::SendMessageW(Control(lblVersion), WM_GETFONT, 0, 0));
-    ::GetObjectW(current, sizeof font, &font);
+    ::GetObjectW(FontOf(Control(lblVersion)), sizeof font, &font);
     ::lstrcpynW(font.lfFaceName, L"Verdana", LF_FACESIZE);
     m_labelFont = UniqueFont{::CreateFontIndirectW(&font)};
     for (const int label : {lblComponentName, lblVersion, lblRights, lblLegalNotice})
-        ::SendMessageW(Control(label), WM_SETFONT, reinterpret_cast<WPARAM>(m_labelFont.Get()), TRUE);
+        SetFont(label, m_labelFont.Get());
 }
 
 void frmAbout::cmkOK_Click() { Hide(); }
