@@ -168,7 +168,7 @@ void CAddInMenus::PickTarget(const SaveCommand& command)
     frmSaveTo tree;
     tree.DialogType = command.dialogType;
     tree.ServerURL = start.server;
-    tree.target = start;
+    tree.target = TargetIn(static_cast<TreeMode>(command.dialogType), start);
     tree.ShowModal();
     m_binding.server = tree.ServerURL;
     static_cast<Target&>(m_binding) = tree.target;
