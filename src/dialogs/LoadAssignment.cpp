@@ -32,7 +32,7 @@ SaveDialog::TargetState frmSaveAssignment::LoadTarget()
     m_facts = {};
     m_completionAllowed = true;
     Terms().ownerName.clear();
-    Terms().targetType = TargetTypeName(ProjectID, DeliverableID, ActivityID, Terms());
+    Terms().targetType = TargetTypeName(target, Terms());
     if (ProjectID >= 1)
         m_facts.isTeamMember = ToBooleanSafe(QueryText(ServerURL, Operations::kIsProjectTeamMember, {ProjectID}));
     ShowTypeCaptions();

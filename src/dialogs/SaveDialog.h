@@ -30,10 +30,10 @@ struct SaveDialogKind
     int templateId;
     TreeMode tree; // for Change
     HelpTopic helpTopic;
-    bool asksForUser;              // who it is, before the target is fetched
     SaveErrors errors;             // the server's refusals
     TypeCaptions captions;         // empty where the template's texts stay
     std::span<const int> controls; // out of use while a save runs, beside the buttons
+    bool asksForUser;              // whether the server is asked who the user is before the target is fetched
 };
 
 // A form that saves the host's active document as a new version of a target on the server. The derived dialog knows

@@ -94,11 +94,10 @@ const SaveErrors kAssignmentErrors{kAssignmentRows};
 const SaveErrors kGateDocumentErrors{kGateDocumentRows};
 const SaveErrors kRelatedDocumentErrors{kRelatedDocumentRows};
 
-std::wstring TargetTypeName(std::int32_t projectId, std::int32_t deliverableId, std::int32_t activityId,
-                            const UploadTerms& terms)
+std::wstring TargetTypeName(const Target& target, const UploadTerms& terms)
 {
-    if (projectId >= 1 && activityId > 0) return terms.activity;
-    if (projectId >= 1 && deliverableId > 0) return terms.deliverable;
+    if (target.projectId >= 1 && target.activityId > 0) return terms.activity;
+    if (target.projectId >= 1 && target.deliverableId > 0) return terms.deliverable;
     return terms.deliverable + L" or " + terms.activity;
 }
 

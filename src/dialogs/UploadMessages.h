@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialogs/UploadRules.h"
+#include "shared/Target.h"
 
 #include <cstdint>
 #include <optional>
@@ -28,8 +29,7 @@ struct UploadTerms
 };
 
 // The customer's word for a target: one of the two, or both joined by " or " while it is not known.
-[[nodiscard]] std::wstring TargetTypeName(std::int32_t projectId, std::int32_t deliverableId, std::int32_t activityId,
-                                          const UploadTerms& terms);
+[[nodiscard]] std::wstring TargetTypeName(const Target& target, const UploadTerms& terms);
 
 // What the user is told when the rules refuse a target, with the customer's words and the names put in.
 [[nodiscard]] std::wstring RefusalMessage(Refusal refusal, const UploadTerms& terms);

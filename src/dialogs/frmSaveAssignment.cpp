@@ -18,8 +18,14 @@ constexpr TypeCaptions kTypeCaptions{L"Save as Deliverable or Activity",
 } // namespace
 
 frmSaveAssignment::frmSaveAssignment() noexcept
-    : SaveDialog{{L"frmSaveAssignment", IDD_frmSaveAssignment, TreeMode::Assignment, HelpTopic::SaveAssignment, true,
-                  kAssignmentErrors, kTypeCaptions, kSaveControls}}
+    : SaveDialog{{.name = L"frmSaveAssignment",
+                  .templateId = IDD_frmSaveAssignment,
+                  .tree = TreeMode::Assignment,
+                  .helpTopic = HelpTopic::SaveAssignment,
+                  .errors = kAssignmentErrors,
+                  .captions = kTypeCaptions,
+                  .controls = kSaveControls,
+                  .asksForUser = true}}
 {}
 
 void frmSaveAssignment::ShowTerms()

@@ -18,8 +18,14 @@ constexpr std::int32_t kGateDocumentObject = 3; // object kind of the update rig
 } // namespace
 
 frmSaveGateDoc::frmSaveGateDoc() noexcept
-    : SaveDialog{{L"frmSaveGateDoc", IDD_frmSaveGateDoc, TreeMode::GateDocument, HelpTopic::SaveGateDocument, true,
-                  kGateDocumentErrors, kTypeCaptions, kSaveControls}}
+    : SaveDialog{{.name = L"frmSaveGateDoc",
+                  .templateId = IDD_frmSaveGateDoc,
+                  .tree = TreeMode::GateDocument,
+                  .helpTopic = HelpTopic::SaveGateDocument,
+                  .errors = kGateDocumentErrors,
+                  .captions = kTypeCaptions,
+                  .controls = kSaveControls,
+                  .asksForUser = true}}
 {}
 
 void frmSaveGateDoc::ShowTerms()

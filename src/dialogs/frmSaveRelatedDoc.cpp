@@ -24,14 +24,14 @@ std::wstring InLines(const std::wstring& text) { return ReplaceAll(ReplaceAll(te
 } // namespace
 
 frmSaveRelatedDoc::frmSaveRelatedDoc() noexcept
-    : SaveDialog{{L"frmSaveRelatedDoc",
-                  IDD_frmSaveRelatedDoc,
-                  TreeMode::RelatedDocument,
-                  HelpTopic::SaveRelatedDocument,
-                  false,
-                  kRelatedDocumentErrors,
-                  {},
-                  kSaveControls}}
+    : SaveDialog{{.name = L"frmSaveRelatedDoc",
+                  .templateId = IDD_frmSaveRelatedDoc,
+                  .tree = TreeMode::RelatedDocument,
+                  .helpTopic = HelpTopic::SaveRelatedDocument,
+                  .errors = kRelatedDocumentErrors,
+                  .captions = {},
+                  .controls = kSaveControls,
+                  .asksForUser = false}}
 {}
 
 SaveDialog::TargetState frmSaveRelatedDoc::LoadTarget()

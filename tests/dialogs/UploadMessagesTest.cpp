@@ -49,21 +49,19 @@ TEST(UploadMessages, KnowTheServersRefusalsByTheDialog)
 struct TypeCase
 {
     const char* name;
-    std::int32_t project;
-    std::int32_t deliverable;
-    std::int32_t activity;
+    Target target;
     const wchar_t* expected;
 };
 
 TEST(UploadMessages, NameTheTargetByWhatIsKnownOfIt)
 {
     constexpr TypeCase kTypes[] = {
-        {"Deliverable", 1, 3, 0, L"Work Item"},       {"Activity", 1, 0, 7, L"Task"},
-        {"ActivityOfADeliverable", 1, 3, 7, L"Task"}, {"NoTarget", 1, 0, 0, L"Work Item or Task"},
-        {"NoProject", 0, 3, 7, L"Work Item or Task"}, {"NegativeIds", 1, -3, -7, L"Work Item or Task"},
+        {"Deliverable", {1, 3, 0}, L"Work Item"},       {"Activity", {1, 0, 7}, L"Task"},
+        {"ActivityOfADeliverable", {1, 3, 7}, L"Task"}, {"NoTarget", {1, 0, 0}, L"Work Item or Task"},
+        {"NoProject", {0, 3, 7}, L"Work Item or Task"}, {"NegativeIds", {1, -3, -7}, L"Work Item or Task"},
     };
-    for (const auto& item : kTypes)
-        EXPECT_EQ(TargetTypeName(item.project, item.deliverable, item.activity, kTerms), item.expected) << item.name;
+    for (const auto& [name, target, expected] : kTypes)
+        EXPECT_EQ(TargetTypeName(target, kTerms), expected) << name;
 }
 
 } // namespace corvane

@@ -1,42 +1,28 @@
 #include "selection/TreeMode.h"
 
 #include <gtest/gtest.h>
-#include <tuple>
 
 namespace corvane
 {
-namespace
-{
 
-using Ids = std::tuple<std::int32_t, std::int32_t, std::int32_t, std::int32_t, std::int32_t>;
-
-Ids IdsIn(TreeMode mode)
-{
-    const auto& [project, deliverable, activity, related, gateDocument] = TargetIn(mode, {12, 45, 678, 907, 1201});
-    return {project, deliverable, activity, related, gateDocument};
-}
-
-} // namespace
+constexpr Target kAll{12, 45, 678, 907, 1201};
 
 TEST(TreeMode, TellsItsOwnIdsOfATarget)
 {
-    EXPECT_EQ(IdsIn(TreeMode::Assignment), (Ids{12, 45, 678, 0, 0}));
-    EXPECT_EQ(IdsIn(TreeMode::RelatedDocument), (Ids{12, 0, 0, 907, 0}));
-    EXPECT_EQ(IdsIn(TreeMode::GateDocument), (Ids{12, 0, 0, 0, 1201}));
+    const auto& [project, deliverable, activity, related, gateDocument] = TargetIn(TreeMode::Assignment, kAll);
+    EXPECT_TRUE(project == 12 && deliverable == 45 && activity == 678 && related == 0 && gateDocument == 0);
+    const Target gate = TargetIn(TreeMode::GateDocument, kAll);
+    EXPECT_TRUE(gate.projectId == 12 && gate.deliverableId == 0 && gate.activityId == 0 && gate.gateDocumentId == 1201);
 }
 
 TEST(TreeMode, KnowsATargetByWhatIsPickedAndOneThatMayBeNewAlsoByItsProject)
 {
-    const Target target{12, 45, 678, 907, 1201};
-    const auto isSame = [&](TreeMode mode, const Target& other) { return IsSameTarget(mode, target, other); };
-    EXPECT_TRUE(isSame(TreeMode::Assignment, {0, 45, 678, 0, 0}));
-    EXPECT_FALSE(isSame(TreeMode::Assignment, {12, 46, 678, 907, 1201}));
-    EXPECT_FALSE(isSame(TreeMode::Assignment, {12, 45, 0, 907, 1201}));
-    EXPECT_TRUE(isSame(TreeMode::GateDocument, {0, 0, 0, 0, 1201}));
-    EXPECT_FALSE(isSame(TreeMode::GateDocument, {12, 45, 678, 907, 0}));
-    EXPECT_TRUE(isSame(TreeMode::RelatedDocument, {12, 0, 0, 907, 0}));
-    EXPECT_FALSE(isSame(TreeMode::RelatedDocument, {13, 45, 678, 907, 1201}));
-    EXPECT_FALSE(isSame(TreeMode::RelatedDocument, {12, 45, 678, 0, 1201}));
+    EXPECT_TRUE(IsSameTarget(TreeMode::Assignment, kAll, {0, 45, 678}));
+    EXPECT_FALSE(IsSameTarget(TreeMode::Assignment, kAll, {12, 46, 678}));
+    EXPECT_FALSE(IsSameTarget(TreeMode::Assignment, kAll, {12, 45, 0}));
+    EXPECT_FALSE(IsSameTarget(TreeMode::GateDocument, kAll, {12, 45, 678, 907, 0}));
+    EXPECT_TRUE(IsSameTarget(TreeMode::RelatedDocument, kAll, {12, 0, 0, 907}));
+    EXPECT_FALSE(IsSameTarget(TreeMode::RelatedDocument, kAll, {13, 0, 0, 907}));
 }
 
 } // namespace corvane
