@@ -42,7 +42,7 @@ Answer ErrorAnswer(const ServiceError& error)
 {
     pugi::xml_document document;
     AppendElement(
-        document, "error",
+        document.root(), "error",
         {{"number", std::to_string(error.Number())}, {"source", error.Source()}, {"description", error.what()}});
     return XmlAnswer(document);
 }
@@ -50,7 +50,7 @@ Answer ErrorAnswer(const ServiceError& error)
 Answer RowsetAnswer(const std::vector<Row>& rows)
 {
     pugi::xml_document document;
-    const auto root = AppendElement(document, "xml",
+    const auto root = AppendElement(document.root(), "xml",
                                     {{"xmlns:s", "uuid:BDC6E3F0-6DA3-11d1-A2A3-00AA00C14882"},
                                      {"xmlns:rs", "urn:schemas-microsoft-com:rowset"},
                                      {"xmlns:z", "#RowsetSchema"}});

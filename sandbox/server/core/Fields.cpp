@@ -1,7 +1,7 @@
 #include "core/Fields.h"
 
 #include "core/ServiceError.h"
-#include "core/Utf8.h"
+#include "core/Text.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,6 +1,6 @@
 #include "core/Http.h"
 
-#include "core/Utf8.h"
+#include "core/Text.h"
 
 #include <algorithm>
 
@@ -100,7 +100,7 @@ std::string FormatHead(const Answer& answer, std::size_t contentLength)
     std::string head = "HTTP/1.1 " + std::to_string(answer.status) + ' ' + std::string{Reason(answer.status)} + "\r\n";
     head += "Content-Type: " + answer.contentType + "\r\n";
     for (const auto& [name, value] : answer.headers)
-        head += name + ": " + value + "\r\n";
+        head.append(name).append(": ").append(value).append("\r\n");
     head += "Cache-Control: no-store\r\n";
     return head + "Content-Length: " + std::to_string(contentLength) + "\r\nConnection: close\r\n\r\n";
 }

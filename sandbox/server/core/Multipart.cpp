@@ -1,6 +1,6 @@
 #include "core/Multipart.h"
 
-#include "core/Utf8.h"
+#include "core/Text.h"
 
 namespace server
 {

@@ -49,7 +49,7 @@ void AddText(pugi::xml_node parent, const std::string& text)
 // A page without content, and the element for it.
 pugi::xml_node StartPage(pugi::xml_document& page, const std::string& title)
 {
-    const auto html = AppendElement(page, "html", {{"lang", "en"}});
+    const auto html = AppendElement(page.root(), "html", {{"lang", "en"}});
     const auto head = AppendElement(html, "head", {});
     AppendElement(head, "meta", {{"charset", "utf-8"}});
     AppendElement(head, "meta", {{"name", "viewport"}, {"content", "width=device-width, initial-scale=1"}});

@@ -96,7 +96,7 @@ Answer GetVersionsOfActivity(Service& service, const Parameters& parameters)
 {
     const auto& versions = service.Require(TargetKind::Activity, parameters.Number(1)).activity->versions;
     pugi::xml_document document;
-    auto root = AppendElement(document, "prj:versions", {{"xmlns:prj", "urn:halvex-com:krx:project:1"}});
+    auto root = AppendElement(document.root(), "prj:versions", {{"xmlns:prj", "urn:halvex-com:krx:project:1"}});
     for (auto version = versions.rbegin(); version != versions.rend(); ++version)
         AppendElement(root, "prj:version",
                       {{"vtype", version == versions.rbegin() ? "latest" : "previous"},
@@ -159,7 +159,7 @@ Answer GetGroups(Service& service, const Parameters& parameters)
 {
     const auto& project = service.RequireProject(parameters.Number(1));
     pugi::xml_document document;
-    auto root = AppendElement(document, "fg:groups", {{"xmlns:fg", "urn:halvex-com:krx:filtergroups:1"}});
+    auto root = AppendElement(document.root(), "fg:groups", {{"xmlns:fg", "urn:halvex-com:krx:filtergroups:1"}});
     for (const auto& group : project.groups)
         AppendElement(root, "fg:group", {{"name", group}});
     return XmlAnswer(document);

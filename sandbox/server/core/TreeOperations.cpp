@@ -1,5 +1,5 @@
 #include "core/Operations.h"
-#include "core/Utf8.h"
+#include "core/Text.h"
 
 #include <algorithm>
 
@@ -75,7 +75,7 @@ Answer Tree(Service& service, const Parameters& parameters)
 {
     const int classId = parameters.Number(1);
     pugi::xml_document document;
-    auto root = AppendElement(document, "projects", {});
+    auto root = AppendElement(document.root(), "projects", {});
     for (const auto& project : service.Shown().projects) {
         if (!PassesFilter(project, classId, parameters.Text(2))) continue;
         const auto node =

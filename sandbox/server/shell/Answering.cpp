@@ -35,10 +35,12 @@ std::string CutAnswer(const Answer& answer, Drop drop)
 
 Response Answering::RespondTo(const Request& request)
 {
-    auto fault = NextFault(request);
-    const auto answer = AnswerTo(request, fault);
-    m_log.Write(request, fault.drop == Drop::BeforeAnswer ? 0 : answer.status);
-    return {.bytes = CutAnswer(answer, fault.drop), .fault = std::move(fault)};
+    Response response{.bytes = {}, .fault = NextFault(request)};
+    const auto drop = response.fault.drop;
+    const auto answer = AnswerTo(request, response.fault);
+    m_log.Write(request, drop == Drop::BeforeAnswer ? 0 : answer.status);
+    response.bytes = CutAnswer(answer, drop);
+    return response;
 }
 
 Fault Answering::NextFault(const Request& request)

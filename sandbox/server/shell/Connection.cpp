@@ -1,6 +1,6 @@
 #include "shell/Connection.h"
 
-#include "core/Utf8.h"
+#include "core/Text.h"
 
 #include <asio/buffer.hpp>
 #include <asio/read.hpp>
@@ -18,7 +18,7 @@ namespace
 
 using ErrorCode = std::error_code;
 
-constexpr std::size_t kLongestHead = 64 * 1024;
+constexpr std::size_t kLongestHead = std::size_t{64} * 1024;
 constexpr std::size_t kLongestBody = std::size_t{1} << 30;
 constexpr int kLook = 20; // milliseconds between looks at the faults file while an answer is held back
 

@@ -1,6 +1,6 @@
 #include "shell/RequestLog.h"
 
-#include "core/Utf8.h"
+#include "core/Text.h"
 
 #include <array>
 #include <chrono>

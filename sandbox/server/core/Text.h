@@ -1,4 +1,4 @@
-// Text in UTF-8: made of bytes that may mean Latin-1, and searched without regard to letter case.
+// Text from bytes that may mean Latin-1, and its comparison without regard to letter case.
 #pragma once
 
 #include <string>

@@ -1,4 +1,6 @@
-#include "core/Utf8.h"
+#include "core/Text.h"
+
+#include "platform/Utf8.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -63,20 +65,13 @@ std::size_t SequenceLength(std::string_view bytes)
     return length;
 }
 
-void AppendLatin1(std::string& text, char c)
-{
-    const auto byte = static_cast<std::uint8_t>(c);
-    if (byte >= 0x80) text += static_cast<char>(0xC0 | (byte >> 6));
-    text += static_cast<char>(byte < 0x80 ? byte : 0x80 | (byte & 0x3F));
-}
-
 } // namespace
 
 std::string Latin1ToUtf8(std::string_view bytes)
 {
     std::string text;
     for (const char c : bytes)
-        AppendLatin1(text, c);
+        corvane::AppendUtf8(text, static_cast<std::uint8_t>(c));
     return text;
 }
 
@@ -88,7 +83,7 @@ std::string ToUtf8(std::string_view bytes)
         if (length > 0)
             text += bytes.substr(0, length);
         else
-            AppendLatin1(text, bytes.front());
+            corvane::AppendUtf8(text, Byte(bytes, 0));
         bytes.remove_prefix(std::max<std::size_t>(length, 1));
     }
     return text;
