@@ -60,7 +60,7 @@ void AddInUnderTest::Load(const std::wstring& library)
 {
     m_library.emplace(library);
     *m_addIn.GetAddressOf() = m_library->Create<::IDTExtensibility2>(CLSID_Connect);
-    if (!m_addIn) throw std::runtime_error{"the library offers no add-in"};
+    if (m_addIn == nullptr) throw std::runtime_error{"the library offers no add-in"};
     const host::ComPtr<host::ComAddInObject> entry =
         host::MakeObject<host::ComAddInObject>(L"CorvaneMSOfficePowerPoint.Connect", L"");
     m_addIn->OnConnection(&m_session.Application(), kStartUp, entry.Get(), nullptr);

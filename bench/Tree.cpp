@@ -82,20 +82,7 @@ private:
 class TreeWindow
 {
 public:
-    TreeWindow()
-    {
-        WNDCLASSW windowClass{};
-        windowClass.lpfnWndProc = &Handle;
-        windowClass.lpszClassName = L"Bench";
-        ::RegisterClassW(&windowClass);
-        m_window = ::CreateWindowW(L"Bench", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 500, 400, nullptr, nullptr,
-                                   nullptr, nullptr);
-        m_tree =
-            ::CreateWindowW(WC_TREEVIEWW, L"",
-                            WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_SHOWSELALWAYS,
-                            0, 0, 460, 250, m_window, nullptr, nullptr, nullptr);
-        corvane::PumpPending();
-    }
+    TreeWindow() : m_window{MakeWindow()}, m_tree{MakeTree(m_window)} { corvane::PumpPending(); }
     ~TreeWindow() { ::DestroyWindow(m_window); }
     TreeWindow(const TreeWindow&) = delete;
     TreeWindow& operator=(const TreeWindow&) = delete;
@@ -105,6 +92,23 @@ public:
     [[nodiscard]] static double LongestGap() { return s_longest; }
 
 private:
+    static HWND MakeWindow()
+    {
+        WNDCLASSW windowClass{};
+        windowClass.lpfnWndProc = &Handle;
+        windowClass.lpszClassName = L"Bench";
+        ::RegisterClassW(&windowClass);
+        return ::CreateWindowW(L"Bench", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 500, 400, nullptr, nullptr,
+                               nullptr, nullptr);
+    }
+
+    static HWND MakeTree(HWND window)
+    {
+        constexpr DWORD kStyle =
+            WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_SHOWSELALWAYS;
+        return ::CreateWindowW(WC_TREEVIEWW, L"", kStyle, 0, 0, 460, 250, window, nullptr, nullptr, nullptr);
+    }
+
     static LRESULT CALLBACK Handle(HWND window, UINT message, WPARAM word, LPARAM data)
     {
         if (message == kBeat) {
