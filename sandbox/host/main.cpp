@@ -10,7 +10,7 @@
 #include <ole2.h>
 #include <shellapi.h>
 
-#include "app/Host.h"
+#include "app/HostStage.h"
 #include "automation/Text.h"
 #include "base/Console.h"
 #include "documents/Files.h"
@@ -69,13 +69,18 @@ private:
     std::abort();
 }
 
-void PlayToTheEnd(Player& player, Host& host, EndSignal& ended)
+std::size_t PlayToTheEnd(Host& host, EndSignal& ended)
 {
     ::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    const bool passed = player.Play();
+    HostStage stage{host};
+    const Options& options = host.CurrentSession().Settings();
+    const corvane::player::Outcome outcome = corvane::player::Play(stage, options.playFile, options.settings);
     ::CoUninitialize();
-    if (!passed) EndAtOnce(host);
-    if (ended.WaitFor(kEndPatience)) return;
+    if (!outcome.failure.empty()) {
+        PrintError(outcome.failure);
+        EndAtOnce(host);
+    }
+    if (ended.WaitFor(kEndPatience)) return outcome.steps;
     PrintError(L"the host did not end in 30 s after the last step");
     EndAtOnce(host);
 }
@@ -84,9 +89,9 @@ int RunForPerson(Host& host) { return host.RunMessages() ? kSuccess : kFailure; 
 
 int RunScenario(Host& host, const std::wstring& path)
 {
-    Player player{host, path};
+    std::size_t steps = 0;
     EndSignal ended;
-    std::thread thread{[&] { PlayToTheEnd(player, host, ended); }};
+    std::thread thread{[&] { steps = PlayToTheEnd(host, ended); }};
     const bool clean = host.RunMessages();
     ended.Set();
     thread.join();
@@ -95,7 +100,7 @@ int RunScenario(Host& host, const std::wstring& path)
         return kFailure;
     }
     if (!clean) return kFailure;
-    Print(L"scenario passed: " + FileName(path) + L" (" + std::to_wstring(player.StepCount()) + L" steps, " +
+    Print(L"scenario passed: " + FileName(path) + L" (" + std::to_wstring(steps) + L" steps, " +
           std::to_wstring(CHAR_BIT * sizeof(void*)) + L"-bit)");
     return kSuccess;
 }

@@ -1,13 +1,14 @@
 #include <algorithm>
-#include <stdexcept>
 
-#include "automation/Text.h"
-#include "objects/CommandBars.h"
-#include "objects/DocumentObject.h"
-#include "player/Player.h"
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "player/Run.h"
 #include "player/Screen.h"
+#include "player/Steps.h"
 
-namespace host
+namespace corvane::player
 {
 namespace
 {
@@ -16,14 +17,6 @@ std::wstring Quoted(const std::optional<std::wstring>& text)
 {
     return text ? L"\"" + *text + L"\"" : L"a window that does not answer";
 }
-
-struct StateName
-{
-    std::string_view name;
-    bool (*holds)(HWND form, HWND control, HWND focus);
-};
-
-bool IsChecked(HWND control) { return Ask(control, BM_GETCHECK).value_or(BST_INDETERMINATE) == BST_CHECKED; }
 
 // Whether all of the control is in what its form shows of itself.
 bool IsInView(HWND form, HWND control)
@@ -41,7 +34,7 @@ bool IsInView(HWND form, HWND control)
 bool IsLocked(HWND form)
 {
     if (!::IsWindowVisible(form)) return false;
-    for (HWND child = ::GetWindow(form, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+    for (HWND child = ::GetWindow(form, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
         const LONG_PTR style = ::GetWindowLongPtrW(child, GWL_STYLE);
         const bool shows = IsClass(child, WC_EDITW) && (style & ES_READONLY) != 0;
         if ((style & WS_TABSTOP) != 0 && !shows && ::IsWindowVisible(child) && ::IsWindowEnabled(child)) return false;
@@ -49,150 +42,139 @@ bool IsLocked(HWND form)
     return true;
 }
 
-constexpr StateName kStates[] = {
-    {"enabled", [](HWND, HWND control, HWND) { return ::IsWindowEnabled(control) != FALSE; }},
-    {"disabled", [](HWND, HWND control, HWND) { return ::IsWindowEnabled(control) == FALSE; }},
-    {"visible", [](HWND, HWND control, HWND) { return ::IsWindowVisible(control) != FALSE; }},
-    {"hidden", [](HWND, HWND control, HWND) { return ::IsWindowVisible(control) == FALSE; }},
-    {"checked", [](HWND, HWND control, HWND) { return IsChecked(control); }},
-    {"unchecked", [](HWND, HWND control, HWND) { return !IsChecked(control); }},
-    {"focused",
-     [](HWND, HWND control, HWND focus) { return focus && (focus == control || ::IsChild(control, focus)); }},
-    {"locked", [](HWND form, HWND, HWND) { return IsLocked(form); }},
-    {"inview", [](HWND form, HWND control, HWND) { return IsInView(form, control); }},
-    {"default", [](HWND form, HWND control, HWND) { return IsDefaultButton(form, control); }},
-    {"notdefault", [](HWND form, HWND control, HWND) { return !IsDefaultButton(form, control); }},
+struct StateRow
+{
+    std::wstring_view name;
+    bool (*holds)(const Run& run, HWND control);
 };
 
-// True for the first word, false for the second; any other is a slip of the scenario.
-bool OneOf(const std::string& word, std::string_view yes, std::string_view no)
+constexpr StateRow kStates[] = {
+    {L"enabled", [](const Run&, HWND control) { return ::IsWindowEnabled(control) != FALSE; }},
+    {L"disabled", [](const Run&, HWND control) { return ::IsWindowEnabled(control) == FALSE; }},
+    {L"visible", [](const Run&, HWND control) { return ::IsWindowVisible(control) != FALSE; }},
+    {L"hidden", [](const Run&, HWND control) { return ::IsWindowVisible(control) == FALSE; }},
+    {L"checked", [](const Run&, HWND control) { return IsChecked(control); }},
+    {L"unchecked", [](const Run&, HWND control) { return !IsChecked(control); }},
+    {L"focused", [](const Run& run, HWND control) { return run.HasFocus(control); }},
+    {L"locked", [](const Run& run, HWND) { return IsLocked(run.Form()); }},
+    {L"inview", [](const Run& run, HWND control) { return IsInView(run.Form(), control); }},
+    {L"default", [](const Run& run, HWND control) { return IsDefaultButton(run.Form(), control); }},
+    {L"notdefault", [](const Run& run, HWND control) { return !IsDefaultButton(run.Form(), control); }},
+};
+
+void ExpectState(Run& run, const std::wstring& name, const std::wstring& state)
 {
-    if (word != yes && word != no) throw std::runtime_error{"no state is named " + word};
-    return word == yes;
-}
-
-// The captions of a menu's entries as lines; nullopt when there is no such menu. The path is that of a menu, as "File".
-std::optional<std::wstring> MenuEntries(CommandBarObject& bar, const std::string& path)
-{
-    CommandBarObject* menu = &bar;
-    for (const std::string& name : SplitTreePath(path)) {
-        const auto& entries = menu->Entries();
-        const auto found = std::ranges::find_if(
-            entries, [&](const auto& entry) { return entry->Menu() && WithoutMark(entry->Caption()) == Widen(name); });
-        if (found == entries.end()) return std::nullopt;
-        menu = (*found)->Menu();
-    }
-    std::wstring captions;
-    for (const auto& entry : menu->Entries())
-        captions += (captions.empty() ? L"" : L"\r\n") + entry->Caption();
-    return captions;
-}
-
-} // namespace
-
-Player::Finding Player::StateFinding(const std::string& control, const std::string& state)
-{
-    const HWND window = Control(control);
-    if (!window) return L"no " + Widen(control) + L" in " + m_form;
-    for (const StateName& row : kStates) {
-        if (row.name != state) continue;
-        return row.holds(Form(), window, FocusOf(m_host.Queue().ThreadId())) ? Finding{} : L"it is not " + Widen(state);
-    }
-    throw std::runtime_error{"no state is named " + state};
-}
-
-void Player::Expect(const Step& step)
-{
-    const std::string what = step.At(0);
-    if (what == "addin") return ExpectAddIn(step);
-    if (what == "host") return ExpectHost(step);
-    if (what == "document") return ExpectDocument(step);
-    if (what == "command") return ExpectCommand(step);
-    if (what == "icon") return ExpectIcon(step);
-    if (what == "menu") return ExpectMenu(step);
-    if (what == "closebox") return ExpectCloseBox(step);
-    if (what == "hourglass") return ExpectHourglass(step);
-    if (!step.words[1].quoted) return WaitFor([&] { return StateFinding(what, step.At(1)); });
-
-    const std::wstring wanted = Widen(step.Lines(1));
-    WaitFor([&]() -> Finding {
-        const HWND window = what == "caption" ? Form() : Control(what);
-        if (!window) return L"no " + Widen(what) + L" in " + m_form;
-        const auto text = what == "caption" ? WindowText(window) : ControlText(window);
-        return text == wanted ? Finding{} : L"it is " + Quoted(text);
+    const auto row = std::ranges::find(kStates, state, &StateRow::name);
+    if (row == std::end(kStates)) Fail(L"no state is named " + state);
+    run.WaitFor([&] {
+        const HWND control = run.Control(name);
+        if (control == nullptr) return L"no " + name + L" in " + run.FormName();
+        return Unless(row->holds(run, control), L"it is not " + state);
     });
 }
 
-void Player::ExpectCommand(const Step& step)
+// A control in a state, by one word, or with a text, by quoted ones.
+void ExpectControl(Stage&, Run& run, const Step& step)
 {
-    const bool wanted = OneOf(step.At(2), "present", "absent");
-    WaitFor([&] {
-        bool there = false;
-        OnUi([&] { there = m_host.HasCommand(step.At(1)); });
-        return there == wanted ? Finding{} : std::wstring{there ? L"it is there" : L"it is not there"};
+    const std::wstring name = step.At(0);
+    if (!step.words[1].quoted) return ExpectState(run, name, step.At(1));
+    run.WaitFor([&]() -> Finding {
+        const HWND control = run.Control(name);
+        if (control == nullptr) return L"no " + name + L" in " + run.FormName();
+        const auto text = ControlText(control);
+        return Unless(text == step.Lines(1), L"it is " + Quoted(text));
     });
 }
 
-void Player::ExpectMenu(const Step& step)
+void ExpectCaption(Stage&, Run& run, const Step& step)
 {
-    WaitFor([&, wanted = Widen(step.Lines(2))] {
-        std::optional<std::wstring> entries;
-        OnUi([&] { entries = MenuEntries(m_host.Documents().CommandBars().MenuBar(), step.At(1)); });
-        return entries == wanted ? Finding{}
-               : entries         ? L"it holds " + Quoted(entries)
-                                 : Finding{L"there is no such menu"};
+    run.WaitFor([&]() -> Finding {
+        const HWND form = run.Form();
+        if (form == nullptr) return L"no caption in " + run.FormName();
+        const auto text = WindowText(form);
+        return Unless(text == step.Lines(0), L"it is " + Quoted(text));
     });
 }
 
-void Player::ExpectCloseBox(const Step& step)
+// Waits until what can be so or not is as the step's word says; any word but these two is a slip of the scenario.
+void ExpectEither(Run& run, const std::wstring& word, std::wstring_view yes, std::wstring_view no,
+                  const std::function<bool()>& isSo)
 {
-    const bool wanted = OneOf(step.At(1), "enabled", "disabled");
-    WaitFor([&] {
-        const UINT state = ::GetMenuState(::GetSystemMenu(Form(), FALSE), SC_CLOSE, MF_BYCOMMAND);
-        const bool enabled = state != static_cast<UINT>(-1) && !(state & (MF_GRAYED | MF_DISABLED));
-        return enabled == wanted ? Finding{} : Finding{L"it is not " + Widen(step.At(1))};
+    if (word != yes && word != no) Fail(L"no state is named " + word);
+    run.WaitFor([&] { return Unless(isSo() == (word == yes), L"it is not " + word); });
+}
+
+void ExpectCommand(Stage& stage, Run& run, const Step& step)
+{
+    ExpectEither(run, step.At(1), L"present", L"absent",
+                 [&] { return run.OnUi([&] { return stage.HasCommand(step.At(0)); }); });
+}
+
+void ExpectCloseBox(Stage&, Run& run, const Step& step)
+{
+    ExpectEither(run, step.At(0), L"enabled", L"disabled", [&] {
+        const UINT state = ::GetMenuState(::GetSystemMenu(run.Form(), FALSE), SC_CLOSE, MF_BYCOMMAND);
+        return state != static_cast<UINT>(-1) && (state & (MF_GRAYED | MF_DISABLED)) == 0;
     });
 }
 
-void Player::ExpectHourglass(const Step& step)
+void ExpectHourglass(Stage&, Run& run, const Step& step)
 {
-    const bool wanted = OneOf(step.At(1), "shown", "hidden");
-    WaitFor([&] {
-        bool shown = false;
-        OnUi([&] {
-            ::SendMessageW(Form(), WM_SETCURSOR, reinterpret_cast<WPARAM>(Form()), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
-            shown = ::GetCursor() == ::LoadCursorW(nullptr, IDC_WAIT);
+    ExpectEither(run, step.At(0), L"shown", L"hidden", [&] {
+        return run.OnUi([form = run.Form()] {
+            ::SendMessageW(form, WM_SETCURSOR, reinterpret_cast<WPARAM>(form), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+            return ::GetCursor() == ::LoadCursorW(nullptr, IDC_WAIT);
         });
-        return shown == wanted ? Finding{} : Finding{L"it is not " + Widen(step.At(1))};
     });
 }
 
-void Player::ExpectDocument(const Step& step)
+void ExpectMenu(Stage& stage, Run& run, const Step& step)
 {
-    WaitFor([&, wanted = Widen(step.At(1))] {
-        std::wstring name = L"no presentation";
-        OnUi([&] {
-            if (DocumentObject* active = m_host.Documents().Active()) name = active->File().Name();
-        });
-        return name == wanted ? Finding{} : L"it is " + name;
+    run.WaitFor([&, path = SplitTreePath(step.At(0))] {
+        const auto entries = run.OnUi([&] { return stage.MenuEntries(path); });
+        if (!entries) return Finding{L"there is no such menu"};
+        return Unless(*entries == step.Lines(1), L"it holds " + Quoted(entries));
+    });
+}
+
+void ExpectDocument(Stage& stage, Run& run, const Step& step)
+{
+    run.WaitFor([&] {
+        const auto name = run.OnUi([&] { return stage.ActiveName(); });
+        return Unless(name == step.At(0), L"it is " + name.value_or(L"no presentation"));
+    });
+}
+
+void ExpectHost(Stage& stage, Run& run, const Step& step)
+{
+    if (step.At(0) != L"focused") Fail(L"the host can be expected to be focused");
+    run.WaitFor([&, window = stage.Window()] {
+        const bool isFocused = ::GetAncestor(run.FocusedWindow(), GA_ROOT) == window;
+        return Unless(isFocused && ::GetForegroundWindow() == window, L"another window has the keyboard");
     });
 }
 
 // A failed add-in is a fault that ends a scenario, unless its first step on the add-in expects it.
-void Player::ExpectAddIn(const Step& step)
+void ExpectAddIn(Stage& stage, Run& run, const Step& step)
 {
-    m_faultsExpected = step.At(1) == "failed";
-    WaitUntilLoaded();
-    std::string state = "absent";
-    OnUi([&] {
-        for (const auto& addIn : m_host.AddIns()) {
-            if (addIn->State() == AddInState::Connected) state = "loaded";
-            if (addIn->State() == AddInState::Failed) state = "failed";
-        }
-    });
-    if (state != step.At(1)) throw std::runtime_error{"the add-in is " + state};
-    static_cast<void>(m_host.TakeFaults()); // they are what was expected
-    m_faultsExpected = false;
+    run.faultsExpected = step.At(0) == L"failed";
+    run.AwaitReady();
+    const std::wstring state = run.OnUi([&] { return stage.AddInState(); });
+    if (state != step.At(0)) Fail(L"the add-in is " + state);
+    static_cast<void>(stage.TakeFaults()); // they are what was expected
+    run.faultsExpected = false;
 }
 
-} // namespace host
+constexpr StepRow kSteps[] = {
+    {"expect", 2, kAny, &ExpectControl},          {"expect caption", 1, kAny, &ExpectCaption},
+    {"expect command", 2, 2, &ExpectCommand},     {"expect closebox", 1, 1, &ExpectCloseBox},
+    {"expect hourglass", 1, 1, &ExpectHourglass}, {"expect menu", 2, kAny, &ExpectMenu},
+    {"expect document", 1, 1, &ExpectDocument},   {"expect host", 1, 1, &ExpectHost},
+    {"expect addin", 1, 1, &ExpectAddIn},
+};
+
+} // namespace
+
+std::span<const StepRow> Expectations() { return kSteps; }
+
+} // namespace corvane::player

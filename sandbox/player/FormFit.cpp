@@ -5,12 +5,12 @@
 
 #include <commctrl.h>
 
-#include "automation/Text.h"
+#include "platform/Owners.h"
 #include "player/ControlNames.h"
 #include "player/Screen.h"
 #include "player/Tooltip.h"
 
-namespace host
+namespace corvane::player
 {
 namespace
 {
@@ -32,12 +32,12 @@ bool IsFrame(const Item& item) { return Is(item, WC_BUTTONW) && (item.style & BS
 std::vector<Item> ShownItems(HWND form)
 {
     std::vector<Item> items;
-    for (HWND child = ::GetWindow(form, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+    for (HWND child = ::GetWindow(form, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
         if (!::IsWindowVisible(child)) continue;
         RECT place{};
         ::GetWindowRect(child, &place);
         ::MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&place), 2);
-        items.push_back({child, Widen(ControlNameOf(::GetDlgCtrlID(child))), ControlText(child).value_or(L""),
+        items.push_back({child, ControlNameOf(::GetDlgCtrlID(child)), ControlText(child).value_or(L""),
                          static_cast<DWORD>(::GetWindowLongPtrW(child, GWL_STYLE)), place});
     }
     return items;
@@ -46,13 +46,10 @@ std::vector<Item> ShownItems(HWND form)
 // The size of a text in the control's own font.
 SIZE Measure(const Item& item, const std::wstring& text, UINT format, LONG width)
 {
-    const HDC context = ::GetDC(item.window);
-    const auto font = reinterpret_cast<HFONT>(Ask(item.window, WM_GETFONT).value_or(0));
-    const HGDIOBJ before = ::SelectObject(context, font);
+    const WindowContext context{item.window};
+    const Selected font{context.Get(), reinterpret_cast<HFONT>(Ask(item.window, WM_GETFONT).value_or(0))};
     RECT place{0, 0, width, 0};
-    ::DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &place, DT_CALCRECT | format);
-    ::SelectObject(context, before);
-    ::ReleaseDC(item.window, context);
+    ::DrawTextW(context.Get(), text.c_str(), static_cast<int>(text.size()), &place, DT_CALCRECT | format);
     return {place.right, place.bottom};
 }
 
@@ -107,11 +104,11 @@ bool EndsInDots(const Item& item)
 {
     const SIZE dots = Measure(item, L"...", DT_SINGLELINE, 0);
     const RECT line = LineOf(item, dots.cy);
-    const HDC context = ::GetDC(item.window);
-    const COLORREF paper = ::GetPixel(context, line.right - 1, line.top);
+    const WindowContext context{item.window};
+    const COLORREF paper = ::GetPixel(context.Get(), line.right - 1, line.top);
     const auto hasInk = [&](LONG column, LONG bottom) {
         for (LONG row = line.top; row < bottom; ++row)
-            if (::GetPixel(context, column, row) != paper) return true;
+            if (::GetPixel(context.Get(), column, row) != paper) return true;
         return false;
     };
     LONG end = line.right;
@@ -120,14 +117,7 @@ bool EndsInDots(const Item& item)
     bool isLow = end > line.left;
     for (LONG column = end - dots.cx * 2 / 3; column < end; ++column)
         isLow = isLow && !hasInk(column, line.top + dots.cy / 2);
-    ::ReleaseDC(item.window, context);
     return isLow;
-}
-
-std::wstring WithoutMarks(std::wstring text)
-{
-    std::erase(text, L'&');
-    return text;
 }
 
 // Of a text that has room: one that ends in an ellipsis is the beginning of another, which the tooltip has.
@@ -163,14 +153,11 @@ std::wstring CaptionProblem(HWND form)
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof metrics;
     ::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-    const HDC context = ::GetDC(form);
-    const HFONT font = ::CreateFontIndirectW(&metrics.lfCaptionFont);
-    const HGDIOBJ before = ::SelectObject(context, font);
+    const WindowContext context{form};
+    const UniqueFont font{::CreateFontIndirectW(&metrics.lfCaptionFont)};
+    const Selected selected{context.Get(), font.Get()};
     SIZE size{};
-    ::GetTextExtentPoint32W(context, caption.c_str(), static_cast<int>(caption.size()), &size);
-    ::SelectObject(context, before);
-    ::DeleteObject(font);
-    ::ReleaseDC(form, context);
+    ::GetTextExtentPoint32W(context.Get(), caption.c_str(), static_cast<int>(caption.size()), &size);
     RECT client{};
     ::GetClientRect(form, &client);
     if (size.cx > client.right - ::GetSystemMetrics(SM_CXSIZE)) return L"cuts \"" + caption + L"\" off";
@@ -237,4 +224,4 @@ std::wstring FitProblem(HWND form)
     return ScreenProblem(form);
 }
 
-} // namespace host
+} // namespace corvane::player

@@ -1,10 +1,11 @@
+// Whether a form's layout fits.
 #pragma once
 
 #include <string>
 
 #include <windows.h>
 
-namespace host
+namespace corvane::player
 {
 
 // What a user would see wrong in a form's layout: a text cut off (an ellipsis counts only where a tooltip carries the
@@ -12,4 +13,4 @@ namespace host
 // when all is well. What is scrolled out of view counts as inside.
 [[nodiscard]] std::wstring FitProblem(HWND form);
 
-} // namespace host
+} // namespace corvane::player

@@ -4,18 +4,21 @@
 #include <map>
 #include <optional>
 
-#include <commctrl.h>
-#include <oleauto.h>
+#include <windows.h>
 
-#include "automation/Text.h"
+#include <commctrl.h>
+#include <oleacc.h>
+
+#include "platform/Owners.h"
 #include "player/ControlNames.h"
 #include "player/Screen.h"
-#include "ui/NamedAccessible.h"
 
-namespace host
+namespace corvane::player
 {
 namespace
 {
+
+constexpr IID kAccessibleId{0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
 
 bool HasStyle(HWND window, DWORD style) { return (::GetWindowLongPtrW(window, GWL_STYLE) & style) != 0; }
 
@@ -45,20 +48,17 @@ std::wstring SpokenName(HWND control)
         return {};
     VARIANT self{};
     self.vt = VT_I4;
-    BSTR answer = nullptr;
-    if (accessible->get_accName(self, &answer) != S_OK) return {};
-    const std::wstring name = answer ? answer : L"";
-    ::SysFreeString(answer);
-    return WithoutPairs(name);
+    Bstr name;
+    return accessible->get_accName(self, name.Put()) == S_OK ? WithoutPairs(name.Text()) : std::wstring{};
 }
 
 std::wstring ReadingProblem(HWND form)
 {
     std::map<wchar_t, std::wstring> owners;
     std::wstring nameless;
-    for (HWND child = ::GetWindow(form, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+    for (HWND child = ::GetWindow(form, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
         if (!::IsWindowVisible(child)) continue;
-        const std::wstring name = Widen(ControlNameOf(::GetDlgCtrlID(child)));
+        const std::wstring name = ControlNameOf(::GetDlgCtrlID(child));
         if (HasStyle(child, WS_TABSTOP) && SpokenName(child).empty()) nameless = name;
         if (!IsClass(child, WC_STATICW) && !IsClass(child, WC_BUTTONW)) continue;
         const auto key = AccessKeyOf(WindowText(child).value_or(L""));
@@ -69,4 +69,4 @@ std::wstring ReadingProblem(HWND form)
     return nameless.empty() ? L"" : nameless + L" has no name for screen readers";
 }
 
-} // namespace host
+} // namespace corvane::player

@@ -1,13 +1,12 @@
+// Whether a form can be read and used without sight or mouse. For the user interface's thread.
 #pragma once
 
 #include <string>
 
 #include <windows.h>
 
-namespace host
+namespace corvane::player
 {
-
-// Both are for the user-interface thread.
 
 // The name that a screen reader gets for the control.
 [[nodiscard]] std::wstring SpokenName(HWND control);
@@ -16,4 +15,4 @@ namespace host
 // name. Empty when all is well.
 [[nodiscard]] std::wstring ReadingProblem(HWND form);
 
-} // namespace host
+} // namespace corvane::player

@@ -1,17 +1,14 @@
 #include <algorithm>
 #include <cstdlib>
-#include <stdexcept>
 
-#include "automation/Text.h"
 #include "player/FormFit.h"
 #include "player/FormReading.h"
-#include "player/MessageBox.h"
-#include "player/Player.h"
+#include "player/Run.h"
 #include "player/Screen.h"
+#include "player/Steps.h"
 #include "player/Tooltip.h"
-#include "ui/MainWindow.h"
 
-namespace host
+namespace corvane::player
 {
 namespace
 {
@@ -38,92 +35,77 @@ std::wstring PlaceProblem(HWND window, HWND owner)
     return isMiddle ? L"" : L"it is not in the middle of its owner";
 }
 
-} // namespace
-
-void Player::LayoutFits(const Step& step)
+void LayoutFits(Stage&, Run& run, const Step& step)
 {
-    WaitFor([name = Widen(step.At(0))] {
+    run.WaitFor([name = step.At(0)] {
         const HWND form = FindForm(name);
-        return form ? FitProblem(form) : L"no window " + name;
+        return form == nullptr ? L"no window " + name : FitProblem(form);
     });
 }
 
-void Player::Readable(const Step& step)
+void Readable(Stage&, Run& run, const Step& step)
 {
-    WaitFor([&, name = Widen(step.At(0))] {
-        Finding problem = L"no window " + name;
-        OnUi([&] {
-            if (const HWND form = FindForm(name)) problem = ReadingProblem(form);
-        });
-        return problem;
+    run.WaitFor([&, name = step.At(0)] {
+        const HWND form = FindForm(name);
+        return form == nullptr ? L"no window " + name : run.OnUi([=] { return ReadingProblem(form); });
     });
 }
 
-void Player::Spoken(const Step& step)
+void Spoken(Stage&, Run& run, const Step& step)
 {
-    WaitFor([&, wanted = Widen(step.At(1))]() -> Finding {
-        const HWND control = Control(step.At(0));
-        if (!control) return L"no such control in " + m_form;
-        std::wstring name;
-        OnUi([&] { name = SpokenName(control); });
-        return name == wanted ? Finding{} : L"its name is \"" + name + L"\"";
+    run.WaitFor([&]() -> Finding {
+        const HWND control = run.Control(step.At(0));
+        if (control == nullptr) return L"no such control in " + run.FormName();
+        const std::wstring name = run.OnUi([=] { return SpokenName(control); });
+        return Unless(name == step.At(1), L"its name is \"" + name + L"\"");
     });
 }
 
 // The title bar is the form's. Wine may tell of a move once more after the next one, and its tooltips then wait for the
 // mouse to come again: as a hand would, it leaves the form and returns.
-void Player::Hover(const Step& step)
+void Hover(Stage&, Run& run, const Step& step)
 {
     constexpr int kLooks = 12; // for something over a second
-    const HWND form = Form();
-    const HWND control = step.At(0) == "caption" ? form : Control(step.At(0));
-    if (!control) throw std::runtime_error{"no " + step.At(0) + " is there"};
+    const HWND form = run.Form();
+    const HWND control = step.At(0) == L"caption" ? form : run.Control(step.At(0));
+    if (control == nullptr) Fail(L"no " + step.At(0) + L" is there");
+    const auto finding = [&] {
+        const std::wstring tip = ShownTip(form);
+        return Unless(tip == step.At(1), L"the tooltip is \"" + tip + L"\"");
+    };
     if (step.At(1).empty()) {
         PointAt(form, control);
         ::Sleep(2 * ::GetDoubleClickTime()); // a tooltip comes after a double click's time
-        const std::wstring tip = ShownTip(form);
-        if (!tip.empty()) throw Error{E_FAIL, {}, L"the tooltip is \"" + tip + L"\""};
+        if (const Finding shown = finding(); !shown.empty()) Fail(shown);
         return;
     }
-    WaitFor([&, wanted = Widen(step.At(1)), look = 0]() mutable {
+    run.WaitFor([&, look = 0]() mutable {
         if (look % kLooks == 0) PointAt(form, control);
         if (++look % kLooks == 0) ::SetCursorPos(0, 0);
-        const std::wstring tip = ShownTip(form);
-        return tip == wanted ? Finding{} : L"the tooltip is \"" + tip + L"\"";
+        return finding();
     });
 }
 
-// "host", "message", or a form's name.
-HWND Player::NamedWindow(const std::string& name)
+void Over(Stage&, Run& run, const Step& step)
 {
-    if (name == "host") return m_host.Window().Handle();
-    if (name != "message") return FindForm(Widen(name));
-    const auto boxes = MessageBoxes();
-    return boxes.empty() ? nullptr : boxes.front();
-}
-
-void Player::Over(const Step& step)
-{
-    WaitFor([&]() -> Finding {
-        const HWND window = NamedWindow(step.At(0));
-        const HWND owner = NamedWindow(step.At(1));
-        if (!window || !owner) return L"no window " + Widen(step.At(window ? 1 : 0));
+    run.WaitFor([&]() -> Finding {
+        const HWND window = run.NamedWindow(step.At(0));
+        const HWND owner = run.NamedWindow(step.At(1));
+        if (window == nullptr || owner == nullptr) return L"no window " + step.At(window == nullptr ? 0 : 1);
         if (::GetWindow(window, GW_OWNER) != owner) return L"it belongs to another window";
         if (::IsWindowEnabled(owner)) return L"its owner is not disabled";
         if (::GetForegroundWindow() != window) return L"it is not in the foreground";
-        return step.At(0) == "message" ? Finding{} : PlaceProblem(window, owner);
+        return step.At(0) == L"message" ? Finding{} : PlaceProblem(window, owner);
     });
 }
 
-void Player::ExpectHost(const Step& step)
-{
-    if (step.At(1) != "focused") throw std::runtime_error{"the host can be expected to be focused"};
-    WaitFor([&] {
-        const HWND window = m_host.Window().Handle();
-        const HWND focus = FocusOf(m_host.Queue().ThreadId());
-        const bool isFocused = focus && ::GetAncestor(focus, GA_ROOT) == window && ::GetForegroundWindow() == window;
-        return isFocused ? Finding{} : Finding{L"another window has the keyboard"};
-    });
-}
+constexpr StepRow kSteps[] = {
+    {"fits", 1, 1, &LayoutFits}, {"readable", 1, 1, &Readable}, {"spoken", 2, 2, &Spoken},
+    {"hover", 2, 2, &Hover},     {"over", 2, 2, &Over},
+};
 
-} // namespace host
+} // namespace
+
+std::span<const StepRow> InspectionSteps() { return kSteps; }
+
+} // namespace corvane::player

@@ -1,10 +1,11 @@
 #include "player/Keys.h"
 
 #include <algorithm>
-#include <cctype>
-#include <stdexcept>
+#include <cwctype>
 
-namespace host
+#include "player/Run.h"
+
+namespace corvane::player
 {
 namespace
 {
@@ -13,23 +14,22 @@ constexpr UINT kKeyF1 = 0x004D; // WM_KEYF1, which no header names
 
 struct NamedKey
 {
-    std::string_view name;
+    std::wstring_view name;
     WORD key;
 };
 
 constexpr NamedKey kNamedKeys[] = {
-    {"Enter", VK_RETURN},  {"Esc", VK_ESCAPE}, {"Tab", VK_TAB},   {"Space", VK_SPACE}, {"Backspace", VK_BACK},
-    {"Delete", VK_DELETE}, {"Up", VK_UP},      {"Down", VK_DOWN}, {"Left", VK_LEFT},   {"Right", VK_RIGHT},
-    {"Home", VK_HOME},     {"End", VK_END},    {"F1", VK_F1},     {"F4", VK_F4},       {"F5", VK_F5},
+    {L"Enter", VK_RETURN},  {L"Esc", VK_ESCAPE}, {L"Tab", VK_TAB},   {L"Space", VK_SPACE}, {L"Backspace", VK_BACK},
+    {L"Delete", VK_DELETE}, {L"Up", VK_UP},      {L"Down", VK_DOWN}, {L"Left", VK_LEFT},   {L"Right", VK_RIGHT},
+    {L"Home", VK_HOME},     {L"End", VK_END},    {L"F1", VK_F1},     {L"F4", VK_F4},       {L"F5", VK_F5},
 };
 
-WORD KeyNamed(const std::string& name)
+WORD KeyNamed(const std::wstring& name)
 {
     const auto found = std::ranges::find(kNamedKeys, name, &NamedKey::name);
     if (found != std::end(kNamedKeys)) return found->key;
-    if (name.size() == 1 && std::isalnum(static_cast<unsigned char>(name[0])))
-        return static_cast<WORD>(std::toupper(static_cast<unsigned char>(name[0])));
-    throw std::runtime_error{"no key is named " + name};
+    if (name.size() == 1 && name[0] < 0x80 && std::iswalnum(name[0])) return static_cast<WORD>(std::towupper(name[0]));
+    Fail(L"no key is named " + name);
 }
 
 void HoldKeys(const KeyStroke& stroke, bool down)
@@ -60,21 +60,21 @@ LPARAM KeyBits(WORD key, bool alt, bool up)
 
 } // namespace
 
-KeyStroke ParseKey(const std::string& name)
+KeyStroke ParseKey(const std::wstring& name)
 {
     KeyStroke stroke;
-    std::string rest = name;
-    for (std::size_t plus = rest.find('+'); plus != std::string::npos && plus + 1 < rest.size(); plus = rest.find('+'))
-    {
-        const std::string held = rest.substr(0, plus);
-        if (held == "Ctrl")
+    std::wstring rest = name;
+    for (std::size_t plus = rest.find(L'+'); plus != std::wstring::npos && plus + 1 < rest.size();
+         plus = rest.find(L'+')) {
+        const std::wstring held = rest.substr(0, plus);
+        if (held == L"Ctrl")
             stroke.control = true;
-        else if (held == "Alt")
+        else if (held == L"Alt")
             stroke.alt = true;
-        else if (held == "Shift")
+        else if (held == L"Shift")
             stroke.shift = true;
         else
-            throw std::runtime_error{"no key to hold is named " + held};
+            Fail(L"no key to hold is named " + held);
         rest.erase(0, plus + 1);
     }
     stroke.key = KeyNamed(rest);
@@ -99,4 +99,4 @@ void PressKey(const UiQueue& queue, const KeyStroke& stroke)
     });
 }
 
-} // namespace host
+} // namespace corvane::player

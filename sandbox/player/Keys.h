@@ -1,12 +1,13 @@
+// Keys as a user presses them.
 #pragma once
 
 #include <string>
 
 #include <windows.h>
 
-#include "app/UiQueue.h"
+#include "player/UiQueue.h"
 
-namespace host
+namespace corvane::player
 {
 
 // A key with the keys held down meanwhile, as "Ctrl+A", "Alt+S", "Shift+Tab", "F1".
@@ -18,11 +19,11 @@ struct KeyStroke
     bool shift = false;
 };
 
-// Throws std::runtime_error when the name is unknown.
-[[nodiscard]] KeyStroke ParseKey(const std::string& name);
+// Throws Error when the name is unknown.
+[[nodiscard]] KeyStroke ParseKey(const std::wstring& name);
 
 // Presses and releases the key in the window that has the focus, as key messages that pass through the message loop and
 // its dialog handling. The held keys show in the thread's key state while the messages are handled.
 void PressKey(const UiQueue& queue, const KeyStroke& stroke);
 
-} // namespace host
+} // namespace corvane::player

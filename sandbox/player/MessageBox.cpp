@@ -4,10 +4,9 @@
 
 #include <commctrl.h>
 
-#include "automation/Text.h"
 #include "player/Screen.h"
 
-namespace host
+namespace corvane::player
 {
 namespace
 {
@@ -17,14 +16,14 @@ constexpr wchar_t kMessageBoxClass[] = L"#32770";
 struct IconName
 {
     LPCWSTR resource;
-    const char* name;
+    const wchar_t* name;
 };
 
 const IconName kIcons[] = {
-    {IDI_HAND, "critical"},
-    {IDI_QUESTION, "question"},
-    {IDI_EXCLAMATION, "exclamation"},
-    {IDI_ASTERISK, "information"},
+    {IDI_HAND, L"critical"},
+    {IDI_QUESTION, L"question"},
+    {IDI_EXCLAMATION, L"exclamation"},
+    {IDI_ASTERISK, L"information"},
 };
 
 bool IsIconControl(HWND control)
@@ -33,7 +32,7 @@ bool IsIconControl(HWND control)
 }
 
 // An icon of the system is loaded once: its handle tells it.
-std::optional<std::string> NameOf(HICON icon)
+std::optional<std::wstring> NameOf(HICON icon)
 {
     for (const IconName& row : kIcons)
         if (::LoadIconW(nullptr, row.resource) == icon) return row.name;
@@ -61,18 +60,18 @@ HWND ButtonWithCaption(HWND box, const std::wstring& caption)
 {
     for (HWND child : ChildrenOf(box))
         if (IsClass(child, WC_BUTTONW) &&
-            ::lstrcmpiW(WithoutMark(WindowText(child).value_or(L"")).c_str(), caption.c_str()) == 0)
+            ::lstrcmpiW(WithoutMarks(WindowText(child).value_or(L"")).c_str(), caption.c_str()) == 0)
             return child;
     return nullptr;
 }
 
-std::optional<std::string> MessageIcon(HWND box)
+std::optional<std::wstring> MessageIcon(HWND box)
 {
     const auto children = ChildrenOf(box);
     const auto control = std::ranges::find_if(children, IsIconControl);
     const auto icon = control == children.end() ? std::optional<LRESULT>{0} : Ask(*control, STM_GETICON);
     if (!icon) return std::nullopt;
-    return *icon == 0 ? "none" : NameOf(reinterpret_cast<HICON>(*icon));
+    return *icon == 0 ? L"none" : NameOf(reinterpret_cast<HICON>(*icon));
 }
 
-} // namespace host
+} // namespace corvane::player

@@ -1,3 +1,4 @@
+// The message boxes on the screen, read as Screen.h says.
 #pragma once
 
 #include <optional>
@@ -6,10 +7,10 @@
 
 #include <windows.h>
 
-namespace host
+namespace corvane::player
 {
 
-// The message boxes on the screen, the topmost first, read as Screen.h says.
+// The topmost first.
 [[nodiscard]] std::vector<HWND> MessageBoxes();
 
 // The box's text as it was given to it, blanks and line breaks included.
@@ -17,6 +18,6 @@ namespace host
 [[nodiscard]] HWND ButtonWithCaption(HWND box, const std::wstring& caption);
 
 // The box's icon: critical, question, exclamation, information or none; nullopt for a picture that is none of these.
-[[nodiscard]] std::optional<std::string> MessageIcon(HWND box);
+[[nodiscard]] std::optional<std::wstring> MessageIcon(HWND box);
 
-} // namespace host
+} // namespace corvane::player

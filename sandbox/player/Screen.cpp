@@ -4,11 +4,10 @@
 
 #include <commctrl.h>
 
-#include "automation/Text.h"
 #include "player/ControlNames.h"
 #include "player/Tree.h"
 
-namespace host
+namespace corvane::player
 {
 namespace
 {
@@ -50,15 +49,10 @@ std::optional<std::wstring> ListEntry(HWND list)
     return Answer(list, LB_GETTEXT, static_cast<WPARAM>(*chosen));
 }
 
-std::optional<std::wstring> StatusText(HWND bar)
-{
-    return Answer(bar, SB_GETTEXTW, 0); // a part holds 65535 letters at most
-}
-
 std::wstring DescribeControl(HWND control)
 {
     const auto text = ControlText(control);
-    std::wstring line = L"    " + Widen(ControlNameOf(::GetDlgCtrlID(control))) + L" " + ClassOf(control) + L" \"" +
+    std::wstring line = L"    " + ControlNameOf(::GetDlgCtrlID(control)) + L" " + ClassOf(control) + L" \"" +
                         text.value_or(L"(does not answer)") + L"\"";
     if (!::IsWindowEnabled(control)) line += L" disabled";
     return line + L"\n";
@@ -123,7 +117,8 @@ std::optional<std::wstring> WindowText(HWND window) { return Answer(window, WM_G
 std::optional<std::wstring> ControlText(HWND control)
 {
     if (IsClass(control, WC_LISTBOXW)) return ListEntry(control);
-    if (IsClass(control, STATUSCLASSNAMEW)) return StatusText(control);
+    if (IsClass(control, STATUSCLASSNAMEW))
+        return Answer(control, SB_GETTEXTW, 0); // a part holds 65535 letters at most
     if (IsClass(control, WC_TREEVIEWW)) return ChosenPath(control);
     if (IsClass(control, PROGRESS_CLASSW)) {
         const auto position = Ask(control, PBM_GETPOS);
@@ -131,6 +126,14 @@ std::optional<std::wstring> ControlText(HWND control)
     }
     return WindowText(control);
 }
+
+std::wstring WithoutMarks(std::wstring caption)
+{
+    std::erase(caption, L'&');
+    return caption;
+}
+
+bool IsChecked(HWND box) { return Ask(box, BM_GETCHECK).value_or(BST_INDETERMINATE) == BST_CHECKED; }
 
 bool IsDefaultButton(HWND form, HWND button)
 {
@@ -159,4 +162,4 @@ std::wstring DescribeScreen()
     return report;
 }
 
-} // namespace host
+} // namespace corvane::player

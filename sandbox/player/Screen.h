@@ -1,3 +1,5 @@
+// What is on the screen, read from another thread by messages that give up when a window does not answer. Each
+// function returns at once with what can be known; nullopt stands for a window that does not answer.
 #pragma once
 
 #include <optional>
@@ -6,11 +8,8 @@
 
 #include <windows.h>
 
-namespace host
+namespace corvane::player
 {
-
-// What is on the screen, read from another thread by messages that give up when a window does not answer.
-// Each function returns at once with what can be known; nullopt stands for a window that does not answer.
 
 // The visible top-level windows of this process, the topmost first.
 [[nodiscard]] std::vector<HWND> VisibleWindows();
@@ -30,6 +29,9 @@ namespace host
 // part of a status bar, the position of a progress bar.
 [[nodiscard]] std::optional<std::wstring> ControlText(HWND control);
 
+[[nodiscard]] std::wstring WithoutMarks(std::wstring caption); // without any "&"
+
+[[nodiscard]] bool IsChecked(HWND box);
 [[nodiscard]] bool IsDefaultButton(HWND form, HWND button);
 [[nodiscard]] HWND FocusOf(DWORD threadId);
 
@@ -44,4 +46,4 @@ namespace host
 constexpr std::size_t kAnswerLength = 65536;
 [[nodiscard]] wchar_t* AnswerBuffer();
 
-} // namespace host
+} // namespace corvane::player

@@ -6,16 +6,16 @@
 #include <windows.h>
 
 #include <wincodec.h>
-#include <wrl/client.h>
 
-#include "automation/Errors.h"
+#include "platform/Owners.h"
+#include "player/Run.h"
 
-namespace host
+namespace corvane::player
 {
 namespace
 {
 
-using Microsoft::WRL::ComPtr;
+constexpr wchar_t kNotWritten[] = L"The picture cannot be written.";
 
 struct Pixels
 {
@@ -24,94 +24,72 @@ struct Pixels
     std::vector<BYTE> bytes; // 32 bits a pixel, the top line first
 };
 
+void Require(HRESULT result, const std::wstring& otherwise = kNotWritten)
+{
+    if (FAILED(result)) Fail(otherwise);
+}
+
 RECT PlaceOf(HWND window)
 {
     RECT place = {0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN)};
-    if (window && !::GetWindowRect(window, &place)) throw Error{E_FAIL, {}, L"The window is gone."};
+    if (window != nullptr && !::GetWindowRect(window, &place)) Fail(L"The window is gone.");
     return place;
 }
 
-// The screen's device context with a bitmap of the size of a part, released together.
-class ScreenCopy
+Pixels PixelsOfScreen(const RECT& part)
 {
-public:
-    explicit ScreenCopy(const RECT& part)
-        : m_screen{::GetDC(nullptr)}, m_memory{::CreateCompatibleDC(m_screen)}, m_left{part.left}, m_top{part.top},
-          m_width{part.right - part.left}, m_height{part.bottom - part.top}, m_bitmap{::CreateCompatibleBitmap(
-                                                                                 m_screen, m_width, m_height)}
-    {}
-    ScreenCopy(const ScreenCopy&) = delete;
-    ScreenCopy& operator=(const ScreenCopy&) = delete;
-    ~ScreenCopy()
+    const int width = part.right - part.left;
+    const int height = part.bottom - part.top;
+    const WindowContext screen;
+    const UniqueDeviceContext memory{::CreateCompatibleDC(screen.Get())};
+    const UniqueBitmap bitmap{::CreateCompatibleBitmap(screen.Get(), width, height)};
+    BOOL copied = FALSE;
     {
-        ::DeleteObject(m_bitmap);
-        ::DeleteDC(m_memory);
-        ::ReleaseDC(nullptr, m_screen);
+        const Selected selected{memory.Get(), bitmap.Get()};
+        copied = ::BitBlt(memory.Get(), 0, 0, width, height, screen.Get(), part.left, part.top, SRCCOPY);
     }
-
-    [[nodiscard]] Pixels Take()
-    {
-        const HGDIOBJ before = ::SelectObject(m_memory, m_bitmap);
-        const BOOL copied = ::BitBlt(m_memory, 0, 0, m_width, m_height, m_screen, m_left, m_top, SRCCOPY);
-        ::SelectObject(m_memory, before);
-        BITMAPINFO info{};
-        info.bmiHeader.biSize = sizeof info.bmiHeader;
-        info.bmiHeader.biWidth = m_width;
-        info.bmiHeader.biHeight = -m_height;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        Pixels pixels{static_cast<UINT>(m_width), static_cast<UINT>(m_height), {}};
-        pixels.bytes.resize(std::size_t{4} * pixels.width * pixels.height);
-        const int lines = ::GetDIBits(m_memory, m_bitmap, 0, pixels.height, pixels.bytes.data(), &info, DIB_RGB_COLORS);
-        if (!copied || lines != m_height) throw Error{E_FAIL, {}, L"The screen cannot be read."};
-        return pixels;
-    }
-
-private:
-    HDC m_screen;
-    HDC m_memory;
-    int m_left;
-    int m_top;
-    int m_width;
-    int m_height;
-    HBITMAP m_bitmap;
-};
+    BITMAPINFO info{};
+    info.bmiHeader = {sizeof info.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    Pixels pixels{static_cast<UINT>(width), static_cast<UINT>(height), {}};
+    pixels.bytes.resize(std::size_t{4} * pixels.width * pixels.height);
+    const int lines =
+        ::GetDIBits(memory.Get(), bitmap.Get(), 0, pixels.height, pixels.bytes.data(), &info, DIB_RGB_COLORS);
+    if (!copied || lines != height) Fail(L"The screen cannot be read.");
+    for (std::size_t i = 3; i < pixels.bytes.size(); i += 4)
+        pixels.bytes[i] = 0xff; // the screen has no transparency
+    return pixels;
+}
 
 void Encode(IWICImagingFactory& factory, IWICStream& stream, Pixels& pixels)
 {
-    constexpr wchar_t kFailed[] = L"The picture cannot be written.";
     ComPtr<IWICBitmapEncoder> encoder;
     ComPtr<IWICBitmapFrameEncode> frame;
-    ThrowIfFailed(factory.CreateEncoder(GUID_ContainerFormatPng, nullptr, encoder.GetAddressOf()), kFailed);
-    ThrowIfFailed(encoder->Initialize(&stream, WICBitmapEncoderNoCache), kFailed);
-    ThrowIfFailed(encoder->CreateNewFrame(frame.GetAddressOf(), nullptr), kFailed);
-    ThrowIfFailed(frame->Initialize(nullptr), kFailed);
-    ThrowIfFailed(frame->SetSize(pixels.width, pixels.height), kFailed);
+    Require(factory.CreateEncoder(GUID_ContainerFormatPng, nullptr, encoder.GetAddressOf()));
+    Require(encoder->Initialize(&stream, WICBitmapEncoderNoCache));
+    Require(encoder->CreateNewFrame(frame.GetAddressOf(), nullptr));
+    Require(frame->Initialize(nullptr));
+    Require(frame->SetSize(pixels.width, pixels.height));
     WICPixelFormatGUID format = GUID_WICPixelFormat32bppBGRA;
-    ThrowIfFailed(frame->SetPixelFormat(&format), kFailed);
-    ThrowIfFailed(frame->WritePixels(pixels.height, 4 * pixels.width, static_cast<UINT>(pixels.bytes.size()),
-                                     pixels.bytes.data()),
-                  kFailed);
-    ThrowIfFailed(frame->Commit(), kFailed);
-    ThrowIfFailed(encoder->Commit(), kFailed);
+    Require(frame->SetPixelFormat(&format));
+    const auto size = static_cast<UINT>(pixels.bytes.size());
+    Require(frame->WritePixels(pixels.height, 4 * pixels.width, size, pixels.bytes.data()));
+    Require(frame->Commit());
+    Require(encoder->Commit());
 }
 
 } // namespace
 
 void SaveScreenshot(const std::wstring& path, HWND window)
 {
-    Pixels pixels = ScreenCopy{PlaceOf(window)}.Take();
-    for (std::size_t i = 3; i < pixels.bytes.size(); i += 4)
-        pixels.bytes[i] = 0xff; // the screen has no transparency
+    Pixels pixels = PixelsOfScreen(PlaceOf(window));
     ComPtr<IWICImagingFactory> factory;
     ComPtr<IWICStream> stream;
-    ThrowIfFailed(::CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
-                                     reinterpret_cast<void**>(factory.GetAddressOf())),
-                  L"The imaging component is missing.");
-    ThrowIfFailed(factory->CreateStream(stream.GetAddressOf()), L"The picture cannot be written.");
-    ThrowIfFailed(stream->InitializeFromFilename(path.c_str(), GENERIC_WRITE),
-                  (L"The picture cannot be written to " + path).c_str());
+    Require(::CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
+                               reinterpret_cast<void**>(factory.GetAddressOf())),
+            L"The imaging component is missing.");
+    Require(factory->CreateStream(stream.GetAddressOf()));
+    Require(stream->InitializeFromFilename(path.c_str(), GENERIC_WRITE), L"The picture cannot be written to " + path);
     Encode(*factory.Get(), *stream.Get(), pixels);
 }
 
-} // namespace host
+} // namespace corvane::player

@@ -1,35 +1,19 @@
 #include "player/Script.h"
 
 #include <algorithm>
-#include <cctype>
-#include <cstdlib>
+#include <cwchar>
 
-namespace host
+#include "platform/Utf8.h"
+
+namespace corvane::player
 {
 namespace
 {
 
 constexpr std::string_view kBlanks = " \t\r\n";
-constexpr std::size_t kAny = 1000;
 
-struct VerbRule
-{
-    std::string_view verb;
-    std::size_t least;
-    std::size_t most;
-};
-
-constexpr VerbRule kVerbs[] = {
-    {"new", 0, 0},        {"open", 1, 1},     {"saveas", 1, 2},    {"save", 0, 0},        {"activate", 1, 1},
-    {"close", 0, 0},      {"quit", 0, 0},     {"command", 1, 1},   {"controller", 1, 1},  {"window", 1, 1},
-    {"closed", 1, 1},     {"type", 2, kAny},  {"press", 1, 2},     {"select", 2, 2},      {"choose", 2, 2},
-    {"check", 2, 2},      {"key", 1, kAny},   {"expect", 2, kAny}, {"message", 1, kAny},  {"no", 1, 2},
-    {"property", 2, 2},   {"shot", 1, 2},     {"show", 1, 1},      {"ran", 1, 1},         {"repainted", 1, 1},
-    {"disconnect", 0, 0}, {"file", 2, 2},     {"fits", 1, 1},      {"letter", 1, 1},      {"mail", 2, kAny},
-    {"over", 2, 2},       {"readable", 1, 1}, {"set", 2, 2},       {"spoken", 2, 2},      {"exit", 0, 0},
-    {"usage", 0, 1},      {"repeat", 1, 1},   {"end", 0, 0},       {"doubleclick", 1, 2}, {"registry", 3, 3},
-    {"faults", 1, 1},     {"hover", 2, 2},    {"pick", 1, 2},      {"tab", 1, kAny},
-};
+constexpr StepRow kRepeat{"repeat", 1, 1, nullptr};
+constexpr StepRow kEnd{"end", 0, 0, nullptr};
 
 std::string_view Trim(std::string_view text)
 {
@@ -38,27 +22,29 @@ std::string_view Trim(std::string_view text)
     return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-// Splits one line into words and puts the settings into them.
+// Splits one line into words, puts the settings into them and finds out which step it is.
 class LineReader
 {
 public:
-    LineReader(int line, std::string_view source, const Settings& settings)
-        : m_line{line}, m_source{source}, m_settings{settings}
+    LineReader(int line, std::string_view source, const Settings& settings, std::span<const StepRow> rows)
+        : m_line{line}, m_source{source}, m_settings{settings}, m_rows{rows}
     {}
 
     Step Read()
     {
-        Step step{m_line, std::string{m_source}, {}, {}};
         while (SkipBlanks())
-            step.words.push_back(ReadWord());
-        step.verb = step.words.front().text;
-        step.words.erase(step.words.begin());
-        CheckVerb(step);
+            ReadWord();
+        Step step{m_line, FromUtf8(m_source), FindRow(), {}};
+        for (const auto& [text, quoted] : m_words)
+            step.words.push_back({FromUtf8(text), quoted});
         return step;
     }
 
 private:
-    [[noreturn]] void Fail(const std::string& what) const { throw ScriptError{m_line, std::string{m_source}, what}; }
+    [[noreturn]] void Fail(const std::string& what) const
+    {
+        throw ScriptError{m_line, FromUtf8(m_source), FromUtf8(what)};
+    }
 
     bool SkipBlanks()
     {
@@ -66,13 +52,15 @@ private:
         return m_at < m_source.size() && m_source[m_at] != '#';
     }
 
-    Word ReadWord()
+    void ReadWord()
     {
-        if (m_source[m_at] == '"') return {Replace(Quoted()), true};
+        if (m_source[m_at] == '"') {
+            m_words.emplace_back(Replace(Quoted()), true);
+            return;
+        }
         const std::size_t end = std::min(m_source.find_first_of(kBlanks, m_at), m_source.size());
-        const std::string_view word = m_source.substr(m_at, end - m_at);
+        m_words.emplace_back(Replace(m_source.substr(m_at, end - m_at)), false);
         m_at = end;
-        return {Replace(std::string{word}), false};
     }
 
     // A quoted text; two quotes in it stand for one.
@@ -101,27 +89,41 @@ private:
             const std::string_view name = text.substr(at + 2, end - at - 2);
             const auto setting = m_settings.find(name);
             if (setting == m_settings.end()) Fail("no setting is named " + std::string{name});
-            out += std::string{text.substr(0, at)} + setting->second;
+            out.append(text.substr(0, at)).append(setting->second);
             text.remove_prefix(end + 1);
         }
-        return out + std::string{text};
+        return out.append(text);
     }
 
-    void CheckVerb(const Step& step) const
+    [[nodiscard]] const StepRow* RowNamed(std::string_view name) const
     {
-        const auto rule = std::ranges::find(kVerbs, step.verb, &VerbRule::verb);
-        if (rule == std::end(kVerbs)) Fail("no step is named " + step.verb);
-        if (step.words.size() < rule->least) Fail("the step " + step.verb + " lacks a word");
-        if (step.words.size() > rule->most) Fail("the step " + step.verb + " has a word too many");
+        for (const StepRow* own : {&kRepeat, &kEnd})
+            if (own->name == name) return own;
+        const auto found = std::ranges::find(m_rows, name, &StepRow::name);
+        return found == m_rows.end() ? nullptr : &*found;
+    }
+
+    // Takes the step's name off the words.
+    const StepRow* FindRow()
+    {
+        const std::string verb = m_words.front().first;
+        const bool hasSecond = m_words.size() > 1 && !m_words[1].second;
+        const StepRow* row = hasSecond ? RowNamed(verb + " " + m_words[1].first) : nullptr;
+        m_words.erase(m_words.begin(), m_words.begin() + (row == nullptr ? 1 : 2));
+        if (row == nullptr) row = RowNamed(verb);
+        if (row == nullptr) Fail("no step is named " + verb);
+        if (m_words.size() < row->least) Fail("the step " + std::string{row->name} + " lacks a word");
+        if (m_words.size() > row->most) Fail("the step " + std::string{row->name} + " has a word too many");
+        return row;
     }
 
     int m_line;
     std::string_view m_source;
     const Settings& m_settings;
+    std::span<const StepRow> m_rows;
+    std::vector<std::pair<std::string, bool>> m_words; // with whether it was quoted
     std::size_t m_at = 0;
 };
-
-char Lower(char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); }
 
 // Puts the steps between "repeat N" and "end" in place of these lines, N times.
 std::vector<Step> Unrolled(const std::vector<Step>& steps)
@@ -130,13 +132,13 @@ std::vector<Step> Unrolled(const std::vector<Step>& steps)
     std::size_t begin = 0;
     int times = 0;
     for (const Step& step : steps) {
-        if (step.verb == "repeat") {
-            if (times != 0) throw ScriptError{step.line, step.source, "a repeat within another"};
+        if (step.row == &kRepeat) {
+            if (times != 0) throw ScriptError{step.line, step.source, L"a repeat within another"};
             begin = all.size();
-            times = std::atoi(step.At(0).c_str());
-            if (times < 1) throw ScriptError{step.line, step.source, "a repeat needs a number"};
-        } else if (step.verb == "end") {
-            if (times == 0) throw ScriptError{step.line, step.source, "an end without a repeat"};
+            times = static_cast<int>(std::wcstol(step.At(0).c_str(), nullptr, 10));
+            if (times < 1) throw ScriptError{step.line, step.source, L"a repeat needs a number"};
+        } else if (step.row == &kEnd) {
+            if (times == 0) throw ScriptError{step.line, step.source, L"an end without a repeat"};
             const std::vector<Step> block{all.begin() + static_cast<std::ptrdiff_t>(begin), all.end()};
             for (; times > 1; --times)
                 all.insert(all.end(), block.begin(), block.end());
@@ -145,23 +147,23 @@ std::vector<Step> Unrolled(const std::vector<Step>& steps)
             all.push_back(step);
         }
     }
-    if (times != 0) throw ScriptError{steps.back().line, steps.back().source, "a repeat without an end"};
+    if (times != 0) throw ScriptError{steps.back().line, steps.back().source, L"a repeat without an end"};
     return all;
 }
 
 } // namespace
 
-std::string Step::At(std::size_t index) const { return index < words.size() ? words[index].text : std::string{}; }
+std::wstring Step::At(std::size_t index) const { return index < words.size() ? words[index].text : std::wstring{}; }
 
-std::string Step::Lines(std::size_t first) const
+std::wstring Step::Lines(std::size_t first) const
 {
-    std::string text;
+    std::wstring text;
     for (std::size_t i = first; i < words.size(); ++i)
-        text += (i == first ? "" : "\r\n") + words[i].text;
+        text += (i == first ? L"" : L"\r\n") + words[i].text;
     return text;
 }
 
-std::vector<Step> ParseScript(std::string_view text, const Settings& settings)
+std::vector<Step> ParseScript(std::string_view text, const Settings& settings, std::span<const StepRow> rows)
 {
     if (text.starts_with("\xef\xbb\xbf")) text.remove_prefix(3);
     std::vector<Step> steps;
@@ -169,18 +171,18 @@ std::vector<Step> ParseScript(std::string_view text, const Settings& settings)
         const std::size_t end = std::min(text.find('\n'), text.size());
         const std::string_view source = Trim(text.substr(0, end));
         text.remove_prefix(std::min(end + 1, text.size()));
-        if (!source.empty() && source.front() != '#') steps.push_back(LineReader{line, source, settings}.Read());
+        if (!source.empty() && source.front() != '#') steps.push_back(LineReader{line, source, settings, rows}.Read());
     }
     return Unrolled(steps);
 }
 
-std::vector<std::string> SplitTreePath(std::string_view path)
+std::vector<std::wstring> SplitTreePath(std::wstring_view path)
 {
-    std::vector<std::string> names(1);
+    std::vector<std::wstring> names(1);
     for (std::size_t i = 0; i < path.size(); ++i) {
-        if (path[i] == '\\' && path.substr(i + 1).starts_with('/'))
+        if (path[i] == L'\\' && path.substr(i + 1).starts_with(L'/'))
             names.back() += path[++i];
-        else if (path[i] == '/')
+        else if (path[i] == L'/')
             names.emplace_back();
         else
             names.back() += path[i];
@@ -188,29 +190,17 @@ std::vector<std::string> SplitTreePath(std::string_view path)
     return names;
 }
 
-std::string LineBreaksAsBlanks(std::string_view text)
+std::wstring LineBreaksAsBlanks(std::wstring_view text)
 {
-    constexpr std::string_view kBreaks = "\r\n";
-    std::string out;
+    constexpr std::wstring_view kBreaks = L"\r\n";
+    std::wstring out;
     bool inBreak = false;
-    for (const char c : text) {
-        const bool isBreak = kBreaks.find(c) != std::string_view::npos;
-        if (!isBreak || !inBreak) out += isBreak ? ' ' : c;
+    for (const wchar_t c : text) {
+        const bool isBreak = kBreaks.find(c) != std::wstring_view::npos;
+        if (!isBreak || !inBreak) out += isBreak ? L' ' : c;
         inBreak = isBreak;
     }
     return out;
 }
 
-bool MatchesPattern(std::string_view text, std::string_view pattern)
-{
-    if (pattern.empty()) return text.empty();
-    if (pattern.front() == '*') {
-        for (std::size_t skipped = 0; skipped <= text.size(); ++skipped)
-            if (MatchesPattern(text.substr(skipped), pattern.substr(1))) return true;
-        return false;
-    }
-    if (text.empty() || (pattern.front() != '?' && Lower(pattern.front()) != Lower(text.front()))) return false;
-    return MatchesPattern(text.substr(1), pattern.substr(1));
-}
-
-} // namespace host
+} // namespace corvane::player

@@ -1,64 +1,78 @@
+// A scenario's text, read into steps.
 #pragma once
 
 #include <map>
-#include <stdexcept>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace host
+#include "platform/Error.h"
+
+namespace corvane::player
 {
+
+class Run;
+class Stage;
+struct Step;
+
+// One kind of step: its name, which is a verb or a verb with its first word; how many words follow; what it does.
+struct StepRow
+{
+    std::string_view name;
+    std::size_t least;
+    std::size_t most;
+    void (*perform)(Stage& stage, Run& run, const Step& step);
+};
+
+constexpr std::size_t kAny = 1000; // words
 
 struct Word
 {
-    std::string text;
+    std::wstring text;
     bool quoted = false;
 };
 
-// One step of a scenario: its verb and what follows, with the settings put in.
+// One line of a scenario: which step it is and the words behind the step's name, with the settings put in.
 struct Step
 {
-    int line = 0;
-    std::string source; // the line as written, without blanks around it
-    std::string verb;
+    int line = 0;        // 1 for the first
+    std::wstring source; // as written, without blanks around it
+    const StepRow* row = nullptr;
     std::vector<Word> words;
 
     // The word at this position, or an empty text.
-    [[nodiscard]] std::string At(std::size_t index) const;
+    [[nodiscard]] std::wstring At(std::size_t index) const;
 
     // The words from this position on, as the lines of one text.
-    [[nodiscard]] std::string Lines(std::size_t first) const;
+    [[nodiscard]] std::wstring Lines(std::size_t first) const;
 };
 
-// A line that is no step. The line number is 1 for the first line.
-class ScriptError : public std::runtime_error
+// A line that is no step.
+class ScriptError : public Error
 {
 public:
-    ScriptError(int line, std::string source, const std::string& what)
-        : std::runtime_error{what}, m_line{line}, m_source{std::move(source)}
+    ScriptError(int line, std::wstring source, std::wstring what)
+        : Error{0, std::move(source), std::move(what)}, m_line{line}
     {}
 
     [[nodiscard]] int Line() const { return m_line; }
-    [[nodiscard]] const std::string& Source() const { return m_source; }
 
 private:
     int m_line;
-    std::string m_source;
 };
 
-using Settings = std::map<std::string, std::string, std::less<>>;
+using Settings = std::map<std::string, std::string, std::less<>>; // in UTF-8, as scenarios are
 
-// Reads a scenario in UTF-8. Every line is checked for a known verb and its number of words, so that a slip in the last
-// line shows before the first one runs. Throws ScriptError.
-[[nodiscard]] std::vector<Step> ParseScript(std::string_view text, const Settings& settings);
+// Reads a scenario that is made of these steps; the rows must live on. Every line is checked for its number of words,
+// so that a slip in the last line shows before the first one runs. Throws ScriptError, whose source is the line.
+[[nodiscard]] std::vector<Step> ParseScript(std::string_view text, const Settings& settings,
+                                            std::span<const StepRow> rows);
 
 // The names of a tree path: "A/B" is A, B; "\/" is a slash inside a name.
-[[nodiscard]] std::vector<std::string> SplitTreePath(std::string_view path);
+[[nodiscard]] std::vector<std::wstring> SplitTreePath(std::wstring_view path);
 
 // The text with every run of line breaks as one blank; its own blanks stay as they are.
-[[nodiscard]] std::string LineBreaksAsBlanks(std::string_view text);
+[[nodiscard]] std::wstring LineBreaksAsBlanks(std::wstring_view text);
 
-// Whether the text matches a pattern of "*" and "?", without regard to the case of ASCII letters.
-[[nodiscard]] bool MatchesPattern(std::string_view text, std::string_view pattern);
-
-} // namespace host
+} // namespace corvane::player

@@ -4,7 +4,7 @@
 
 #include "player/Screen.h"
 
-namespace host
+namespace corvane::player
 {
 namespace
 {
@@ -52,4 +52,4 @@ void PointAt(HWND form, HWND control)
     ::SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
 }
 
-} // namespace host
+} // namespace corvane::player

@@ -1,10 +1,11 @@
+// The tooltips of a form.
 #pragma once
 
 #include <string>
 
 #include <windows.h>
 
-namespace host
+namespace corvane::player
 {
 
 // The tooltip that a form has for a control, or, where the control is the form itself, for its title bar; empty without
@@ -17,4 +18,4 @@ namespace host
 // Puts the mouse over the middle of a control, or of the form's title bar.
 void PointAt(HWND form, HWND control);
 
-} // namespace host
+} // namespace corvane::player

@@ -2,7 +2,7 @@
 
 #include "player/Screen.h"
 
-namespace host
+namespace corvane::player
 {
 namespace
 {
@@ -29,10 +29,21 @@ std::wstring Escaped(const std::wstring& text)
 
 HTREEITEM FirstNode(HWND tree, HTREEITEM parent)
 {
-    return parent ? NextNode(tree, TVGN_CHILD, parent) : NextNode(tree, TVGN_ROOT, nullptr);
+    return parent != nullptr ? NextNode(tree, TVGN_CHILD, parent) : NextNode(tree, TVGN_ROOT, nullptr);
 }
 
 } // namespace
+
+bool IsExpanded(HWND tree, HTREEITEM node)
+{
+    static TVITEMW item; // lives on: see Ask
+    item = {};
+    item.mask = TVIF_STATE | TVIF_HANDLE;
+    item.hItem = node;
+    item.stateMask = TVIS_EXPANDED;
+    if (!Ask(tree, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item)).value_or(FALSE)) return true;
+    return (item.state & TVIS_EXPANDED) != 0;
+}
 
 HTREEITEM NextNode(HWND tree, UINT relation, HTREEITEM node)
 {
@@ -45,7 +56,7 @@ std::optional<std::wstring> ChosenPath(HWND tree)
     const auto chosen = Ask(tree, TVM_GETNEXTITEM, TVGN_CARET);
     if (!chosen) return std::nullopt;
     std::wstring path;
-    for (auto node = reinterpret_cast<HTREEITEM>(*chosen); node; node = NextNode(tree, TVGN_PARENT, node)) {
+    for (auto node = reinterpret_cast<HTREEITEM>(*chosen); node != nullptr; node = NextNode(tree, TVGN_PARENT, node)) {
         const auto text = NodeText(tree, node);
         if (!text) return std::nullopt;
         path = Escaped(*text) + (path.empty() ? L"" : L"/") + path;
@@ -55,7 +66,7 @@ std::optional<std::wstring> ChosenPath(HWND tree)
 
 HTREEITEM FindNode(HWND tree, HTREEITEM parent, const std::wstring& text)
 {
-    for (HTREEITEM node = FirstNode(tree, parent); node; node = NextNode(tree, TVGN_NEXT, node))
+    for (HTREEITEM node = FirstNode(tree, parent); node != nullptr; node = NextNode(tree, TVGN_NEXT, node))
         if (NodeText(tree, node) == text) return node;
     return nullptr;
 }
@@ -63,9 +74,9 @@ HTREEITEM FindNode(HWND tree, HTREEITEM parent, const std::wstring& text)
 std::vector<std::wstring> NodeTexts(HWND tree, HTREEITEM parent)
 {
     std::vector<std::wstring> texts;
-    for (HTREEITEM node = FirstNode(tree, parent); node; node = NextNode(tree, TVGN_NEXT, node))
+    for (HTREEITEM node = FirstNode(tree, parent); node != nullptr; node = NextNode(tree, TVGN_NEXT, node))
         texts.push_back(NodeText(tree, node).value_or(L"?"));
     return texts;
 }
 
-} // namespace host
+} // namespace corvane::player

@@ -1,3 +1,4 @@
+// A tree control, read as Screen.h says.
 #pragma once
 
 #include <optional>
@@ -8,7 +9,7 @@
 
 #include <commctrl.h>
 
-namespace host
+namespace corvane::player
 {
 
 // The texts of the chosen node and its parents, joined by "/" from the top; empty when none is chosen.
@@ -20,6 +21,7 @@ namespace host
 // The texts of a node's children, for a report.
 [[nodiscard]] std::vector<std::wstring> NodeTexts(HWND tree, HTREEITEM parent);
 
+[[nodiscard]] bool IsExpanded(HWND tree, HTREEITEM node); // or does not answer
 [[nodiscard]] HTREEITEM NextNode(HWND tree, UINT relation, HTREEITEM node);
 
-} // namespace host
+} // namespace corvane::player

@@ -5,7 +5,7 @@
 #include <cstring>
 #include <psapi.h>
 
-namespace host
+namespace corvane::player
 {
 namespace
 {
@@ -40,7 +40,7 @@ std::size_t GdiObjects()
     const auto processBlock = reinterpret_cast<const char*(WINAPI*)()>(
         reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "RtlGetCurrentPeb")));
     const char* table = nullptr;
-    if (processBlock) std::memcpy(&table, processBlock() + kTableOffset, sizeof table);
+    if (processBlock != nullptr) std::memcpy(&table, processBlock() + kTableOffset, sizeof table);
     std::size_t count = 0;
     for (std::size_t at = 0; table != nullptr && at < kEntries; ++at)
         count += table[at * kEntrySize + kTypeOffset] != 0 ? 1 : 0;
@@ -88,4 +88,4 @@ bool IsLevel(const Usage& before, const Usage& now)
            now.gdi <= before.gdi + kMore && now.windows <= before.windows;
 }
 
-} // namespace host
+} // namespace corvane::player

@@ -1,12 +1,12 @@
+// What this process holds of the system.
 #pragma once
 
 #include <cstddef>
 #include <string>
 
-namespace host
+namespace corvane::player
 {
 
-// What this process holds of the system.
 struct Usage
 {
     std::size_t kilobytes = 0; // of memory that no other process shares
@@ -23,4 +23,4 @@ struct Usage
 // Whether what is held now has not grown beyond what a cache or a thread of the system explains.
 [[nodiscard]] bool IsLevel(const Usage& before, const Usage& now);
 
-} // namespace host
+} // namespace corvane::player

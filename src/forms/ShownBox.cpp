@@ -27,10 +27,9 @@ void DrawShortened(HWND box)
     const auto brush = reinterpret_cast<HBRUSH>(::SendMessageW(
         ::GetParent(box), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(context), reinterpret_cast<LPARAM>(box)));
     ::FillRect(context, &room, brush);
-    const HGDIOBJ before = ::SelectObject(context, FontOf(box));
+    const Selected font{context, FontOf(box)};
     ::DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &room,
                 DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
-    ::SelectObject(context, before);
 }
 
 LRESULT CALLBACK EllipsisProcedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) noexcept

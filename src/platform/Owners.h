@@ -77,6 +77,8 @@ struct DeviceContextTraits
 using UniqueFile = Unique<FileTraits>;
 using UniqueRegistryKey = Unique<RegistryKeyTraits>;
 using UniqueFont = Unique<GdiTraits<HFONT>>;
+using UniqueBrush = Unique<GdiTraits<HBRUSH>>;
+using UniquePen = Unique<GdiTraits<HPEN>>;
 using UniqueBitmap = Unique<GdiTraits<HBITMAP>>;
 using UniqueDeviceContext = Unique<DeviceContextTraits>;
 
@@ -94,6 +96,20 @@ public:
 private:
     HWND m_window;
     HDC m_context;
+};
+
+// An object that is selected into a device context for as long as this lives.
+class Selected
+{
+public:
+    Selected(HDC context, HGDIOBJ object) noexcept : m_context{context}, m_before{::SelectObject(context, object)} {}
+    Selected(const Selected&) = delete;
+    Selected& operator=(const Selected&) = delete;
+    ~Selected() { ::SelectObject(m_context, m_before); }
+
+private:
+    HDC m_context;
+    HGDIOBJ m_before;
 };
 
 // Owns a BSTR. Put() is for out-parameters; Detach() gives the text to a callee that frees it.

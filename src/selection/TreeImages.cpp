@@ -23,22 +23,6 @@ constexpr int kOwnCount = static_cast<int>(std::size(kOwnPictures));
 
 int ScaledSize() noexcept { return ::MulDiv(kPictureSize, ScreenDotsPerInch(), USER_DEFAULT_SCREEN_DPI); }
 
-// Selects a bitmap into a context for as long as it lives.
-class SelectedBitmap
-{
-public:
-    SelectedBitmap(HDC context, HBITMAP bitmap) noexcept
-        : m_context{context}, m_previous{::SelectObject(context, bitmap)}
-    {}
-    SelectedBitmap(const SelectedBitmap&) = delete;
-    SelectedBitmap& operator=(const SelectedBitmap&) = delete;
-    ~SelectedBitmap() { ::SelectObject(m_context, m_previous); }
-
-private:
-    HDC m_context;
-    HGDIOBJ m_previous;
-};
-
 // A square bitmap of the screen's kind.
 UniqueBitmap ScreenBitmap(int size) noexcept
 {
@@ -87,7 +71,7 @@ int TreeImages::Add(IPicture& picture)
     const UniqueBitmap bitmap = ScreenBitmap(m_size);
     {
         const UniqueDeviceContext context{::CreateCompatibleDC(nullptr)};
-        const SelectedBitmap selected{context.Get(), bitmap.Get()};
+        const Selected selected{context.Get(), bitmap.Get()};
         const RECT all{0, 0, m_size, m_size};
         ::FillRect(context.Get(), &all, ::GetSysColorBrush(COLOR_WINDOW));
         // The picture's own coordinates run upwards.

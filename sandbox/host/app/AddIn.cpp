@@ -120,21 +120,21 @@ void AddIn::ReadRibbonXml()
     const std::wstring& folder = m_session.Settings().outFolder;
     if (!folder.empty()) WriteWholeFile(folder + L"\\customUI.xml", text);
     if (text.empty()) return Print(m_entry.progId + L" hands over no ribbon");
-    m_ribbon = ReadRibbon(text, m_session.Settings().MajorVersion());
+    m_ribbon = ShownRibbon{ReadRibbon(text, m_session.Settings().MajorVersion())};
 
     m_ribbonUi = MakeObject<RibbonUiObject>([this] {
         ReadDynamicStates();
         m_session.Changed();
     });
-    if (!m_ribbon->onLoad.empty()) Callback(m_ribbon->onLoad, m_ribbonUi.Get());
+    if (!m_ribbon->ribbon.onLoad.empty()) Callback(m_ribbon->ribbon.onLoad, m_ribbonUi.Get());
     ReadDynamicStates();
 }
 
 void AddIn::ReadDynamicStates()
 {
-    m_dynamic.clear();
     if (!m_ribbon) return;
-    for (const auto* part : {&m_ribbon->tabs, &m_ribbon->officeMenu, &m_ribbon->backstage})
+    m_ribbon->answers.clear();
+    for (const auto* part : {&m_ribbon->ribbon.tabs, &m_ribbon->ribbon.officeMenu, &m_ribbon->ribbon.backstage})
         ReadDynamic(*part);
 }
 
@@ -150,14 +150,8 @@ void AddIn::ReadDynamic(const std::vector<RibbonControl>& controls)
         if (const Variant label = ask("getLabel"); !label.IsMissing()) state.label = label.Text();
         if (const Variant enabled = ask("getEnabled"); !enabled.IsMissing()) state.enabled = enabled.Boolean();
         if (const Variant visible = ask("getVisible"); !visible.IsMissing()) state.visible = visible.Boolean();
-        if (state.label || state.enabled || state.visible) m_dynamic[control.id] = state;
+        if (state.label || state.enabled || state.visible) m_ribbon->answers[control.id] = state;
     }
-}
-
-const DynamicState* AddIn::Dynamic(const std::string& id) const
-{
-    const auto found = m_dynamic.find(id);
-    return found == m_dynamic.end() ? nullptr : &found->second;
 }
 
 ComPtr<RibbonControlObject> AddIn::ControlObject(const RibbonControl& control) const
@@ -198,7 +192,6 @@ void AddIn::Disconnect()
     if (m_ribbonUi) m_ribbonUi->Disconnect();
     m_registration->SetConnected(false);
     m_registration->DropOffered();
-    m_dynamic.clear();
     m_ribbon.reset();
     m_ribbonUi.Reset();
     m_callbacks.Reset();

@@ -1,8 +1,8 @@
+// An add-in that the host loads.
 #pragma once
 
 #include <chrono>
 #include <functional>
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,7 +12,7 @@
 #include "base/HostFacts.h"
 #include "objects/ComAddIn.h"
 #include "objects/RibbonObjects.h"
-#include "ribbon/Ribbon.h"
+#include "ribbon/ShownRibbon.h"
 
 namespace host
 {
@@ -32,14 +32,6 @@ struct AddInEntry
 
 // The add-ins that the registry lists for this host; the user's entry counts before the machine's.
 [[nodiscard]] std::vector<AddInEntry> RegisteredAddIns(const HostFacts& facts);
-
-// What the add-in's callbacks answered for one control whose XML names them.
-struct DynamicState
-{
-    std::optional<std::wstring> label;
-    std::optional<bool> enabled;
-    std::optional<bool> visible;
-};
 
 enum class AddInState
 {
@@ -64,8 +56,7 @@ public:
 
     [[nodiscard]] AddInState State() const { return m_state; }
     [[nodiscard]] const AddInEntry& Entry() const { return m_entry; }
-    [[nodiscard]] const Ribbon* Contribution() const { return m_ribbon ? &*m_ribbon : nullptr; }
-    [[nodiscard]] const DynamicState* Dynamic(const std::string& id) const;
+    [[nodiscard]] const ShownRibbon* Ribbon() const { return m_ribbon ? &*m_ribbon : nullptr; } // null: it has none
 
     // Calls the control's onAction. Throws Error when the callback is missing or fails.
     void Press(const RibbonControl& control);
@@ -91,8 +82,7 @@ private:
     ComPtr<IDTExtensibility2> m_extensibility;
     ComPtr<IDispatch> m_callbacks;
     ComPtr<RibbonUiObject> m_ribbonUi;
-    std::optional<Ribbon> m_ribbon;
-    std::map<std::string, DynamicState> m_dynamic;
+    std::optional<ShownRibbon> m_ribbon;
 };
 
 } // namespace host

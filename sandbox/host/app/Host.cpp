@@ -1,14 +1,12 @@
 #include "app/Host.h"
 
+#include <algorithm>
+
 #include <commdlg.h>
 
 #include "automation/Text.h"
 #include "base/Console.h"
-#include "objects/CommandBars.h"
-#include "objects/DocumentObject.h"
 #include "platform/LateBound.h"
-#include "ui/MailWindow.h"
-#include "ui/MainWindow.h"
 
 namespace host
 {
@@ -36,14 +34,14 @@ std::wstring AskForPath(HWND owner, const HostFacts& facts, bool toSave, const s
 } // namespace
 
 Host::Host(Options options)
-    : m_session{std::move(options)}, m_companions{std::make_unique<Companions>(m_session.Settings())}
+    : m_session{std::move(options)}, m_programs{std::make_unique<OtherPrograms>(m_session.Settings())}
 {
     m_window = std::make_unique<MainWindow>(*this);
     m_session.window = m_window->Handle();
     m_session.onChanged = [this] { m_window->Refresh(); };
     m_annotations.emplace(m_window->Handle());
     m_mail = std::make_unique<MailWindow>(m_window->Handle());
-    m_companions->OnMail([this](const MailFields& mail) { m_mail->Show(mail); });
+    m_programs->OnMail([this](const MailFields& mail) { m_mail->Show(mail); });
 }
 
 Host::~Host() = default;
@@ -75,12 +73,12 @@ bool Host::RunMessages()
         ::DispatchMessageW(&message);
     }
     m_session.onChanged = nullptr;
-    m_companions->OnMail(nullptr);
+    m_programs->OnMail(nullptr);
     m_mail.reset();
     m_annotations.reset();
     m_window.reset();
     m_addIns.clear();
-    m_companions.reset();
+    m_programs.reset();
     m_session.Release();
     m_classes.UnloadUnused(); // what was running when the add-ins were disconnected
     const std::wstring living = ObjectCore::StillReferenced();
@@ -96,22 +94,29 @@ void Host::Quit()
     ::PostQuitMessage(0);
 }
 
-bool Host::HasCommand(const std::string& name) const
+std::vector<const ShownRibbon*> Host::Ribbons() const
 {
+    std::vector<const ShownRibbon*> ribbons;
     for (const auto& addIn : m_addIns)
-        if (addIn->Contribution() && addIn->Contribution()->Find(name)) return true;
-    auto& bars = const_cast<Session&>(m_session).CommandBars();
-    return m_session.Settings().Edition() == Edition::Menus && bars.MenuBar().FindTag(Widen(name));
+        if (addIn->Ribbon() != nullptr) ribbons.push_back(addIn->Ribbon());
+    return ribbons;
+}
+
+bool Host::HasCommand(const std::string& name)
+{
+    const auto has = [&](const ShownRibbon* shown) { return shown->ribbon.Find(name) != nullptr; };
+    if (std::ranges::any_of(Ribbons(), has)) return true;
+    return Edition() == host::Edition::Menus && MenuBar().FindTag(Widen(name)) != nullptr;
 }
 
 void Host::Press(const std::string& name)
 {
     Guarded([&] {
         for (const auto& addIn : m_addIns) {
-            const RibbonControl* control = addIn->Contribution() ? addIn->Contribution()->Find(name) : nullptr;
-            if (control) return addIn->Press(RibbonControl{*control});
+            const RibbonControl* control = addIn->Ribbon() == nullptr ? nullptr : addIn->Ribbon()->ribbon.Find(name);
+            if (control != nullptr) return addIn->Press(RibbonControl{*control});
         }
-        if (BarControlObject* entry = m_session.CommandBars().MenuBar().FindTag(Widen(name))) entry->Press();
+        if (BarControlObject* entry = MenuBar().FindTag(Widen(name))) entry->Press();
     });
 }
 

@@ -1,3 +1,4 @@
+// The host as a whole.
 #pragma once
 
 #include <atomic>
@@ -8,34 +9,24 @@
 #include <vector>
 
 #include "app/AddIn.h"
-#include "app/Companions.h"
-#include "app/UiQueue.h"
+#include "app/OtherPrograms.h"
 #include "objects/Session.h"
+#include "player/UiQueue.h"
 #include "ui/Annotations.h"
+#include "ui/MailWindow.h"
+#include "ui/MainWindow.h"
 
 namespace host
 {
 
-class MailWindow;
-class MainWindow;
-
-// What the host's own menus and buttons do.
-enum class HostCommand
-{
-    New,
-    Open,
-    Save,
-    SaveAs,
-    Close,
-    Exit,
-};
-
 // The whole host: the session, its add-ins and its window. Everything but Queue() and TakeFaults() belongs to the
 // user-interface thread.
-class Host
+class Host final : public Desk
 {
 public:
     explicit Host(Options options);
+    Host(const Host&) = delete;
+    Host& operator=(const Host&) = delete;
     ~Host();
 
     void Show();
@@ -45,21 +36,25 @@ public:
     [[nodiscard]] bool RunMessages();
     void Quit();
 
-    [[nodiscard]] Session& Documents() { return m_session; }
-    [[nodiscard]] UiQueue& Queue() { return m_queue; }
+    [[nodiscard]] Session& CurrentSession() { return m_session; }
+    [[nodiscard]] const corvane::player::UiQueue& Queue() const { return m_queue; }
     [[nodiscard]] MainWindow& Window() { return *m_window; }
     [[nodiscard]] const std::vector<std::unique_ptr<AddIn>>& AddIns() const { return m_addIns; }
-    [[nodiscard]] const MailFields* LastMail() const { return m_companions->LastMail(); }
+    [[nodiscard]] const MailFields* LastMail() const { return m_programs->LastMail(); }
     [[nodiscard]] bool IsLoaded() const { return m_loaded; }
-    [[nodiscard]] const HostFacts& Facts() const { return m_session.Facts(); }
-    [[nodiscard]] host::Edition Edition() const { return m_session.Settings().Edition(); }
+
+    [[nodiscard]] const HostFacts& Facts() const override { return m_session.Facts(); }
+    [[nodiscard]] host::Edition Edition() const override { return m_session.Settings().Edition(); }
+    [[nodiscard]] DocumentObject* ActiveDocument() const override { return m_session.Active(); }
+    [[nodiscard]] CommandBarObject& MenuBar() override { return m_session.CommandBars().MenuBar(); }
+    [[nodiscard]] std::vector<const ShownRibbon*> Ribbons() const override;
 
     // The command is a ribbon control's id or, on command bars, an entry's tag.
-    [[nodiscard]] bool HasCommand(const std::string& name) const;
+    [[nodiscard]] bool HasCommand(const std::string& name);
 
-    // Presses it as a user does; returns when its modal windows are closed. Failures become faults.
-    void Press(const std::string& name);
-    void Perform(HostCommand command);
+    // Failures become faults.
+    void Press(const std::string& name) override;
+    void Perform(HostCommand command) override;
 
     // Creates the add-in's public controller and calls one of its methods, as a macro would.
     void CallController(const std::wstring& method);
@@ -73,7 +68,7 @@ public:
     // Takes back what the host wrote into the registry; for an end that runs no destructors. Any thread.
     void RemoveTraces()
     {
-        if (m_companions) m_companions->RemoveTraces();
+        if (m_programs) m_programs->RemoveTraces();
     }
 
 private:
@@ -82,8 +77,8 @@ private:
     void OpenWithDialog();
 
     Session m_session;
-    UiQueue m_queue;
-    std::unique_ptr<Companions> m_companions;
+    corvane::player::UiQueue m_queue;
+    std::unique_ptr<OtherPrograms> m_programs;
     ClassLoader m_classes;
     std::vector<std::unique_ptr<AddIn>> m_addIns;
     std::unique_ptr<MainWindow> m_window;

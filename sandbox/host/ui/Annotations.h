@@ -1,3 +1,4 @@
+// Names of windows for screen readers, where the system keeps none.
 #pragma once
 
 #include <optional>

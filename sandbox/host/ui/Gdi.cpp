@@ -3,20 +3,18 @@
 namespace host
 {
 
-PaintBuffer::PaintBuffer(HWND window) : m_window{window}, m_screen{::BeginPaint(window, &m_paint)}
+PaintBuffer::PaintBuffer(HWND window)
+    : m_window{window}, m_screen{::BeginPaint(window, &m_paint)}, m_memory{::CreateCompatibleDC(m_screen)}
 {
     ::GetClientRect(window, &m_area);
-    m_memory = ::CreateCompatibleDC(m_screen);
-    m_bitmap = ::CreateCompatibleBitmap(m_screen, m_area.right, m_area.bottom);
-    m_before = ::SelectObject(m_memory, m_bitmap);
+    m_bitmap = corvane::UniqueBitmap{::CreateCompatibleBitmap(m_screen, m_area.right, m_area.bottom)};
+    m_before = ::SelectObject(m_memory.Get(), m_bitmap.Get());
 }
 
 PaintBuffer::~PaintBuffer()
 {
-    ::BitBlt(m_screen, 0, 0, m_area.right, m_area.bottom, m_memory, 0, 0, SRCCOPY);
-    ::SelectObject(m_memory, m_before);
-    ::DeleteObject(m_bitmap);
-    ::DeleteDC(m_memory);
+    ::BitBlt(m_screen, 0, 0, m_area.right, m_area.bottom, m_memory.Get(), 0, 0, SRCCOPY);
+    ::SelectObject(m_memory.Get(), m_before);
     ::EndPaint(m_window, &m_paint);
 }
 

@@ -1,3 +1,4 @@
+// The window of a mail item.
 #pragma once
 
 #include "objects/Companions.h"

@@ -4,7 +4,6 @@
 
 #include <windowsx.h>
 
-#include "objects/DocumentObject.h"
 #include "ui/SlideArea.h"
 
 namespace host
@@ -14,8 +13,9 @@ namespace
 
 constexpr wchar_t kClassName[] = L"CorvaneHostWindow";
 constexpr WORD kIconId = 1;
+constexpr UINT kOpenFileMenu = WM_APP + 1;
 
-std::wstring ProductName(const Host& host) { return std::wstring{host.Facts().product} + L" (stand-in)"; }
+std::wstring ProductName(const Desk& desk) { return std::wstring{desk.Facts().product} + L" (stand-in)"; }
 
 void RegisterWindowClass(WNDPROC procedure)
 {
@@ -32,13 +32,13 @@ void RegisterWindowClass(WNDPROC procedure)
 
 } // namespace
 
-MainWindow::MainWindow(Host& host) : m_host{host}, m_menus{host}
+MainWindow::MainWindow(Desk& desk) : m_desk{desk}, m_menus{desk}
 {
     RegisterWindowClass(WindowProc);
     RECT work{};
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
     const int margin = m_theme.Scale(16);
-    ::CreateWindowExW(0, kClassName, ProductName(host).c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
+    ::CreateWindowExW(0, kClassName, ProductName(desk).c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
                       work.left + margin, work.top + margin, work.right - work.left - 2 * margin,
                       work.bottom - work.top - 2 * margin, nullptr, nullptr, ::GetModuleHandleW(nullptr), this);
 }
@@ -57,18 +57,18 @@ void MainWindow::Show()
 
 void MainWindow::Refresh()
 {
-    DocumentObject* active = m_host.Documents().Active();
-    const std::wstring product = ProductName(m_host);
+    DocumentObject* active = m_desk.ActiveDocument();
+    const std::wstring product = ProductName(m_desk);
     const std::wstring title = active ? active->File().Name() + L" - " + product : product;
     ::SetWindowTextW(m_window, title.c_str());
-    if (m_host.Edition() == Edition::Menus) RebuildMenuBar();
+    if (m_desk.Edition() == Edition::Menus) RebuildMenuBar();
     Layout();
 }
 
 void MainWindow::Layout()
 {
     m_hovered = nullptr;
-    m_scene = BuildScene(m_host, m_view, m_theme, m_size);
+    m_scene = BuildScene(m_desk, m_view, m_theme, m_size);
     ::InvalidateRect(m_window, nullptr, FALSE);
 }
 
@@ -77,17 +77,16 @@ void MainWindow::RebuildMenuBar()
     const HMENU before = ::GetMenu(m_window);
     const HMENU bar = ::CreateMenu(); // the window owns it from here on
     m_menus.Clear();
-    m_menus.FillFromBar(bar, m_host.Documents().CommandBars().MenuBar());
+    m_menus.FillFromBar(bar, m_desk.MenuBar());
     ::SetMenu(m_window, bar);
     if (before) ::DestroyMenu(before);
 }
 
 bool MainWindow::ShowByLabel(const std::wstring& label, std::vector<RibbonControl> Ribbon::*part, bool backstage)
 {
-    for (const auto& addIn : m_host.AddIns()) {
-        if (!addIn->Contribution()) continue;
-        for (const RibbonControl& page : addIn->Contribution()->*part) {
-            if (ShownLabel(*addIn, page) != label) continue;
+    for (const ShownRibbon* shown : m_desk.Ribbons()) {
+        for (const RibbonControl& page : shown->ribbon.*part) {
+            if (shown->Label(page) != label) continue;
             m_view.backstage = backstage;
             (backstage ? m_view.backstagePage : m_view.tab) = page.id;
             Layout();
@@ -104,10 +103,10 @@ bool MainWindow::ShowPage(const std::wstring& page)
         return true;
     }
     if (page == L"File") {
-        if (m_host.Edition() == Edition::Backstage)
+        if (m_desk.Edition() == Edition::Backstage)
             OpenBackstage({});
         else
-            m_host.Queue().Post([this] { OpenFileMenu(); }); // it returns when the menu closes
+            ::PostMessageW(m_window, kOpenFileMenu, 0, 0); // it returns when the menu closes
         return true;
     }
     if (page == L"Home") {
@@ -130,16 +129,16 @@ void MainWindow::OpenBackstage(const std::string& page)
 {
     m_view.backstage = true;
     m_view.backstagePage = page;
-    for (const auto& addIn : m_host.AddIns())
-        if (m_view.backstagePage.empty() && addIn->Contribution() && !addIn->Contribution()->backstage.empty())
-            m_view.backstagePage = addIn->Contribution()->backstage.front().id;
+    for (const ShownRibbon* shown : m_desk.Ribbons())
+        if (m_view.backstagePage.empty() && !shown->ribbon.backstage.empty())
+            m_view.backstagePage = shown->ribbon.backstage.front().id;
     Layout();
 }
 
 void MainWindow::Paint()
 {
     const PaintBuffer buffer{m_window};
-    if (!m_scene.backstage) PaintSlideArea(buffer.Dc(), m_scene.content, m_theme, m_host.Documents().Active());
+    if (!m_scene.backstage) PaintSlideArea(buffer.Dc(), m_scene.content, m_theme, m_desk.ActiveDocument());
     PaintScene(buffer.Dc(), m_scene, m_theme, m_size, m_hovered);
 }
 
@@ -185,19 +184,19 @@ void MainWindow::Press(const SceneItem& pressed)
     }
     CloseBackstage();
     if (item.command)
-        m_host.Perform(*item.command);
+        m_desk.Perform(*item.command);
     else
-        m_host.Press(item.id);
+        m_desk.Press(item.id);
 }
 
 void MainWindow::OpenRibbonMenu(const SceneItem& item)
 {
-    for (const auto& addIn : m_host.AddIns()) {
-        const RibbonControl* control = addIn->Contribution() ? addIn->Contribution()->Find(item.id) : nullptr;
-        if (!control) continue;
+    for (const ShownRibbon* shown : m_desk.Ribbons()) {
+        const RibbonControl* control = shown->ribbon.Find(item.id);
+        if (control == nullptr) continue;
         const Menu menu;
         m_menus.Clear();
-        m_menus.FillFromRibbon(menu.Get(), *addIn, control->children);
+        m_menus.FillFromRibbon(menu.Get(), *shown, control->children);
         return TrackMenu(menu.Get(), item.box);
     }
 }
@@ -206,12 +205,12 @@ void MainWindow::OpenRibbonMenu(const SceneItem& item)
 void MainWindow::OpenFileMenu()
 {
     const Menu menu;
-    if (m_host.Edition() != Edition::Menus) {
+    if (m_desk.Edition() != Edition::Menus) {
         m_menus.Clear();
         m_menus.FillOfficeMenu(menu.Get());
         return TrackMenu(menu.Get(), m_scene.items.front().box);
     }
-    m_menus.FillFromBar(menu.Get(), *m_host.Documents().CommandBars().MenuBar().Entries().front()->Menu());
+    m_menus.FillFromBar(menu.Get(), *m_desk.MenuBar().Entries().front()->Menu());
     TrackMenu(menu.Get(), {});
 }
 
@@ -247,8 +246,11 @@ LRESULT MainWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_COMMAND:
         m_menus.Perform(LOWORD(wParam));
         return 0;
+    case kOpenFileMenu:
+        OpenFileMenu();
+        return 0;
     case WM_CLOSE:
-        m_host.Perform(HostCommand::Exit);
+        m_desk.Perform(HostCommand::Exit);
         return 0;
     case WM_NCDESTROY:
         m_window = nullptr;

@@ -1,3 +1,4 @@
+// The host's window.
 #pragma once
 
 #include <string>
@@ -12,7 +13,7 @@ namespace host
 class MainWindow
 {
 public:
-    explicit MainWindow(Host& host);
+    explicit MainWindow(Desk& desk);
     MainWindow(const MainWindow&) = delete;
     MainWindow& operator=(const MainWindow&) = delete;
     ~MainWindow();
@@ -44,7 +45,7 @@ private:
     [[nodiscard]] const SceneItem* ItemAt(POINT at) const;
     [[nodiscard]] bool ShowByLabel(const std::wstring& label, std::vector<RibbonControl> Ribbon::*part, bool backstage);
 
-    Host& m_host;
+    Desk& m_desk;
     Theme m_theme;
     HWND m_window = nullptr;
     SIZE m_size{};

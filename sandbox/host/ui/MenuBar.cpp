@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "automation/Text.h"
-#include "ui/Scene.h"
+#include "platform/Utf8.h"
 
 namespace host
 {
@@ -31,7 +30,7 @@ void MenuBuilder::FillFromBar(HMENU menu, CommandBarObject& bar)
 {
     for (const auto& entry : bar.Entries()) {
         if (!entry->IsVisible()) continue;
-        if (CommandBarObject* below = entry->Menu()) {
+        if (CommandBarObject* below = entry->Menu(); below != nullptr) {
             const HMENU popup = ::CreatePopupMenu(); // the menu it is put into owns it
             FillFromBar(popup, *below);
             AppendPopup(menu, popup, entry->Caption());
@@ -44,25 +43,25 @@ void MenuBuilder::FillFromBar(HMENU menu, CommandBarObject& bar)
 std::function<void()> MenuBuilder::ActionOf(BarControlObject& entry)
 {
     const auto own = std::ranges::find(kOwnEntries, entry.Id(), &OwnEntry::barId);
-    if (own != std::end(kOwnEntries)) return [this, command = own->command] { m_host.Perform(command); };
+    if (own != std::end(kOwnEntries)) return [this, command = own->command] { m_desk.Perform(command); };
     if (entry.Tag().empty()) return nullptr;
-    return [this, tag = Narrow(entry.Tag())] { m_host.Press(tag); };
+    return [this, tag = corvane::ToUtf8(entry.Tag())] { m_desk.Press(tag); };
 }
 
-void MenuBuilder::FillFromRibbon(HMENU menu, const AddIn& addIn, const std::vector<RibbonControl>& controls)
+void MenuBuilder::FillFromRibbon(HMENU menu, const ShownRibbon& shown, const std::vector<RibbonControl>& controls)
 {
     for (const RibbonControl& control : controls) {
-        if (!IsShown(addIn, control)) continue;
+        if (!shown.IsShown(control)) continue;
         // A label's own access key marks are gone; what is left is plain text.
-        std::wstring label = ShownLabel(addIn, control);
+        std::wstring label = shown.Label(control);
         for (std::size_t at = label.find(L'&'); at != std::wstring::npos; at = label.find(L'&', at + 2))
             label.insert(at, 1, L'&');
         if (control.kind == "menu") {
             const HMENU popup = ::CreatePopupMenu();
-            FillFromRibbon(popup, addIn, control.children);
+            FillFromRibbon(popup, shown, control.children);
             AppendPopup(menu, popup, label);
         } else {
-            Append(menu, label, IsEnabled(addIn, control), [this, id = control.id] { m_host.Press(id); });
+            Append(menu, label, shown.IsEnabled(control), [this, id = control.id] { m_desk.Press(id); });
         }
     }
 }
@@ -70,10 +69,10 @@ void MenuBuilder::FillFromRibbon(HMENU menu, const AddIn& addIn, const std::vect
 void MenuBuilder::FillOfficeMenu(HMENU menu)
 {
     for (const OwnEntry& own : kOwnEntries) {
-        Append(menu, own.label, true, [this, command = own.command] { m_host.Perform(command); });
+        Append(menu, own.label, true, [this, command = own.command] { m_desk.Perform(command); });
         if (own.command != HostCommand::SaveAs) continue;
-        for (const auto& addIn : m_host.AddIns())
-            if (addIn->Contribution()) FillFromRibbon(menu, *addIn, addIn->Contribution()->officeMenu);
+        for (const ShownRibbon* shown : m_desk.Ribbons())
+            FillFromRibbon(menu, *shown, shown->ribbon.officeMenu);
     }
 }
 

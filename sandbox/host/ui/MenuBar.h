@@ -1,11 +1,11 @@
+// Menus of the host's window.
 #pragma once
 
 #include <functional>
 #include <string>
 #include <vector>
 
-#include "app/Host.h"
-#include "objects/CommandBars.h"
+#include "ui/Desk.h"
 #include "ui/Gdi.h"
 
 namespace host
@@ -15,13 +15,13 @@ namespace host
 class MenuBuilder
 {
 public:
-    explicit MenuBuilder(Host& host) : m_host{host} {}
+    explicit MenuBuilder(Desk& desk) : m_desk{desk} {}
 
     // The menus of the command bar model; for version 11 and earlier.
     void FillFromBar(HMENU menu, CommandBarObject& bar);
 
     // The children of a ribbon menu.
-    void FillFromRibbon(HMENU menu, const AddIn& addIn, const std::vector<RibbonControl>& controls);
+    void FillFromRibbon(HMENU menu, const ShownRibbon& shown, const std::vector<RibbonControl>& controls);
 
     // The Office button's menu: the host's commands with the add-ins' entries after "Save As".
     void FillOfficeMenu(HMENU menu);
@@ -36,7 +36,7 @@ private:
     void AppendPopup(HMENU menu, HMENU popup, const std::wstring& label);
     [[nodiscard]] std::function<void()> ActionOf(BarControlObject& entry);
 
-    Host& m_host;
+    Desk& m_desk;
     std::vector<std::function<void()>> m_actions;
 };
 

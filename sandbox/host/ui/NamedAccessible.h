@@ -1,3 +1,4 @@
+// The accessible object of a named window.
 #pragma once
 
 #include <string>

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cwctype>
 
-#include "automation/Text.h"
+#include "platform/Utf8.h"
 
 namespace host
 {
@@ -28,9 +28,9 @@ constexpr OwnCommand kOwnCommands[] = {
     {L"Close", "FileClose", HostCommand::Close},
 };
 
-std::wstring GroupLabel(const Host& host)
+std::wstring GroupLabel(const Desk& desk)
 {
-    std::wstring label = host.Facts().noun;
+    std::wstring label = desk.Facts().noun;
     label.front() = static_cast<wchar_t>(std::towupper(label.front()));
     return label;
 }
@@ -39,8 +39,8 @@ std::wstring GroupLabel(const Host& host)
 class Layout
 {
 public:
-    Layout(const Host& host, const ViewState& view, const Theme& theme, SIZE size)
-        : m_host{host}, m_view{view}, m_theme{theme}, m_size{size}
+    Layout(const Desk& desk, const ViewState& view, const Theme& theme, SIZE size)
+        : m_desk{desk}, m_view{view}, m_theme{theme}, m_size{size}
     {}
 
     Scene Build(Edition edition)
@@ -71,11 +71,9 @@ private:
     template<class Visit>
     void ForEachControl(std::vector<RibbonControl> Ribbon::*part, Visit visit)
     {
-        for (const auto& addIn : m_host.AddIns()) {
-            if (!addIn->Contribution()) continue;
-            for (const RibbonControl& control : addIn->Contribution()->*part)
-                if (IsShown(*addIn, control)) visit(*addIn, control);
-        }
+        for (const ShownRibbon* shown : m_desk.Ribbons())
+            for (const RibbonControl& control : shown->ribbon.*part)
+                if (shown->IsShown(control)) visit(*shown, control);
     }
 
     void AddTab(ItemKind kind, const std::wstring& label, const std::string& id, bool chosen)
@@ -96,8 +94,8 @@ private:
             m_x = Px(kStripHeight + 12);
         }
         AddTab(ItemKind::Tab, L"Home", {}, m_view.tab.empty());
-        ForEachControl(&Ribbon::tabs, [&](const AddIn& addIn, const RibbonControl& tab) {
-            AddTab(ItemKind::Tab, ShownLabel(addIn, tab), tab.id, m_view.tab == tab.id);
+        ForEachControl(&Ribbon::tabs, [&](const ShownRibbon& shown, const RibbonControl& tab) {
+            AddTab(ItemKind::Tab, shown.Label(tab), tab.id, m_view.tab == tab.id);
         });
         m_scene.content.top = Px(kStripHeight + kPanelHeight);
     }
@@ -127,29 +125,29 @@ private:
                            .label = own.label,
                            .picture = own.picture,
                            .command = own.command});
-            return CloseGroup(left, GroupLabel(m_host));
+            return CloseGroup(left, GroupLabel(m_desk));
         }
-        ForEachControl(&Ribbon::tabs, [&](const AddIn& addIn, const RibbonControl& tab) {
+        ForEachControl(&Ribbon::tabs, [&](const ShownRibbon& shown, const RibbonControl& tab) {
             if (tab.id != m_view.tab) return;
             for (const RibbonControl& group : tab.children)
-                if (IsShown(addIn, group)) BuildGroup(addIn, group);
+                if (shown.IsShown(group)) BuildGroup(shown, group);
         });
     }
 
-    void BuildGroup(const AddIn& addIn, const RibbonControl& group)
+    void BuildGroup(const ShownRibbon& shown, const RibbonControl& group)
     {
         const int left = m_x;
         m_x += Px(4);
         for (const RibbonControl& control : group.children) {
-            if (!IsShown(addIn, control)) continue;
+            if (!shown.IsShown(control)) continue;
             const bool menu = control.kind == "menu";
             AddButton({.kind = menu ? ItemKind::MenuButton : ItemKind::LargeButton,
-                       .label = ShownLabel(addIn, control),
+                       .label = shown.Label(control),
                        .picture = control.Attribute("imageMso"),
                        .id = control.id,
-                       .enabled = IsEnabled(addIn, control)});
+                       .enabled = shown.IsEnabled(control)});
         }
-        CloseGroup(left, ShownLabel(addIn, group));
+        CloseGroup(left, shown.Label(group));
     }
 
     void AddNavigation(SceneItem item)
@@ -165,11 +163,11 @@ private:
         m_y = Px(68);
         for (const OwnCommand& own : kOwnCommands) {
             if (own.command == HostCommand::Close)
-                ForEachControl(&Ribbon::backstage, [&](const AddIn& addIn, const RibbonControl& page) {
+                ForEachControl(&Ribbon::backstage, [&](const ShownRibbon& shown, const RibbonControl& page) {
                     AddNavigation({.kind = ItemKind::BackstagePage,
-                                   .label = ShownLabel(addIn, page),
+                                   .label = shown.Label(page),
                                    .id = page.id,
-                                   .enabled = IsEnabled(addIn, page),
+                                   .enabled = shown.IsEnabled(page),
                                    .chosen = page.id == m_view.backstagePage});
                 });
             AddNavigation({.kind = ItemKind::BackstageCommand, .label = own.label, .command = own.command});
@@ -181,37 +179,37 @@ private:
     {
         m_y = Px(36);
         const int left = m_scene.content.left + Px(40);
-        ForEachControl(&Ribbon::backstage, [&](const AddIn& addIn, const RibbonControl& page) {
+        ForEachControl(&Ribbon::backstage, [&](const ShownRibbon& shown, const RibbonControl& page) {
             if (page.id != m_view.backstagePage) return;
-            m_scene.groups.push_back({{left, m_y, m_size.cx, m_y + Px(44)}, ShownLabel(addIn, page)});
+            m_scene.groups.push_back({{left, m_y, m_size.cx, m_y + Px(44)}, shown.Label(page)});
             m_y += Px(60);
             for (const RibbonControl& child : page.children)
-                AddTasksBelow(addIn, child, left);
+                AddTasksBelow(shown, child, left);
         });
     }
 
-    void AddTasksBelow(const AddIn& addIn, const RibbonControl& parent, int left)
+    void AddTasksBelow(const ShownRibbon& shown, const RibbonControl& parent, int left)
     {
-        if (!IsShown(addIn, parent)) return;
+        if (!shown.IsShown(parent)) return;
         if (parent.kind == "category") {
-            m_scene.groups.push_back({{left, m_y, m_size.cx - Px(40), m_y + Px(24)}, ShownLabel(addIn, parent)});
+            m_scene.groups.push_back({{left, m_y, m_size.cx - Px(40), m_y + Px(24)}, shown.Label(parent)});
             m_y += Px(34);
         }
         if (parent.kind == "task" || parent.kind == "button") {
             Add({.kind = ItemKind::Task,
-                 .label = ShownLabel(addIn, parent),
-                 .note = Widen(parent.Attribute("description")),
+                 .label = shown.Label(parent),
+                 .note = corvane::FromUtf8(parent.Attribute("description")),
                  .picture = parent.Attribute("imageMso"),
                  .id = parent.id,
-                 .enabled = IsEnabled(addIn, parent)},
+                 .enabled = shown.IsEnabled(parent)},
                 {left, m_y, left + Px(380), m_y + Px(52)});
             m_y += Px(58);
         }
         for (const RibbonControl& child : parent.children)
-            AddTasksBelow(addIn, child, left);
+            AddTasksBelow(shown, child, left);
     }
 
-    const Host& m_host;
+    const Desk& m_desk;
     const ViewState& m_view;
     const Theme& m_theme;
     SIZE m_size;
@@ -222,27 +220,9 @@ private:
 
 } // namespace
 
-std::wstring ShownLabel(const AddIn& addIn, const RibbonControl& control)
+Scene BuildScene(const Desk& desk, const ViewState& view, const Theme& theme, SIZE size)
 {
-    const DynamicState* dynamic = addIn.Dynamic(control.id);
-    return dynamic && dynamic->label ? *dynamic->label : Widen(control.Label());
-}
-
-bool IsShown(const AddIn& addIn, const RibbonControl& control)
-{
-    const DynamicState* dynamic = addIn.Dynamic(control.id);
-    return dynamic && dynamic->visible ? *dynamic->visible : !control.IsFalse("visible");
-}
-
-bool IsEnabled(const AddIn& addIn, const RibbonControl& control)
-{
-    const DynamicState* dynamic = addIn.Dynamic(control.id);
-    return dynamic && dynamic->enabled ? *dynamic->enabled : !control.IsFalse("enabled");
-}
-
-Scene BuildScene(const Host& host, const ViewState& view, const Theme& theme, SIZE size)
-{
-    return Layout{host, view, theme, size}.Build(host.Edition());
+    return Layout{desk, view, theme, size}.Build(desk.Edition());
 }
 
 } // namespace host

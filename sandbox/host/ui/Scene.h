@@ -1,10 +1,11 @@
+// The ribbon and the Backstage as they lie in the window.
 #pragma once
 
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "app/Host.h"
+#include "ui/Desk.h"
 #include "ui/Theme.h"
 
 namespace host
@@ -62,13 +63,8 @@ struct ViewState
 };
 
 // Lays out the window's ribbon or Backstage for a client area of this size.
-[[nodiscard]] Scene BuildScene(const Host& host, const ViewState& view, const Theme& theme, SIZE size);
+[[nodiscard]] Scene BuildScene(const Desk& desk, const ViewState& view, const Theme& theme, SIZE size);
 
 void PaintScene(HDC dc, const Scene& scene, const Theme& theme, SIZE size, const SceneItem* hovered);
-
-// The label to show now: an add-in's callback may have answered another one than its XML gives.
-[[nodiscard]] std::wstring ShownLabel(const AddIn& addIn, const RibbonControl& control);
-[[nodiscard]] bool IsShown(const AddIn& addIn, const RibbonControl& control);
-[[nodiscard]] bool IsEnabled(const AddIn& addIn, const RibbonControl& control);
 
 } // namespace host

@@ -89,7 +89,7 @@ private:
 
     void OfficeButton(const SceneItem& item)
     {
-        const Brush brush{::CreateSolidBrush(IsHot(item) ? kAccentDark : kAccent)};
+        const UniqueBrush brush{::CreateSolidBrush(IsHot(item) ? kAccentDark : kAccent)};
         const Selected withBrush{m_dc, brush.Get()};
         const Selected withPen{m_dc, ::GetStockObject(NULL_PEN)};
         ::Ellipse(m_dc, item.box.left, item.box.top, item.box.right, item.box.bottom);
@@ -118,7 +118,7 @@ private:
 
     void DropArrow(int middle, int top, COLORREF color)
     {
-        const Brush brush{::CreateSolidBrush(color)};
+        const UniqueBrush brush{::CreateSolidBrush(color)};
         const Selected withBrush{m_dc, brush.Get()};
         const Selected withPen{m_dc, ::GetStockObject(NULL_PEN)};
         const POINT arrow[] = {{middle - Px(5), top}, {middle + Px(5), top}, {middle, top + Px(5)}};
@@ -127,7 +127,7 @@ private:
 
     void BackArrow(const SceneItem& item)
     {
-        const Pen pen{::CreatePen(PS_SOLID, Px(2), kLight)};
+        const UniquePen pen{::CreatePen(PS_SOLID, Px(2), kLight)};
         const Selected withPen{m_dc, pen.Get()};
         const Selected withBrush{m_dc, ::GetStockObject(NULL_BRUSH)};
         const RECT& box = item.box;

@@ -1,3 +1,4 @@
+// The part of the window that shows the active document.
 #pragma once
 
 #include "objects/DocumentObject.h"

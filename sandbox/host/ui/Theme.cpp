@@ -7,12 +7,12 @@ namespace host
 namespace
 {
 
-Font MakeFont(LOGFONTW shape, int percent, LONG weight)
+UniqueFont MakeFont(LOGFONTW shape, int percent, LONG weight)
 {
     shape.lfHeight = ::MulDiv(shape.lfHeight, percent, 100);
     shape.lfWeight = weight;
     shape.lfQuality = CLEARTYPE_QUALITY;
-    return Font{::CreateFontIndirectW(&shape)};
+    return UniqueFont{::CreateFontIndirectW(&shape)};
 }
 
 LOGFONTW MessageFont()
@@ -57,13 +57,13 @@ void DrawLetter(HDC dc, const RECT& box, const wchar_t* letter, COLORREF color)
     ::Ellipse(dc, box.left, box.top, box.right, box.bottom);
     LOGFONTW shape = MessageFont();
     shape.lfHeight = -(box.bottom - box.top) * 6 / 10;
-    const Font font = MakeFont(shape, 100, FW_BOLD);
+    const UniqueFont font = MakeFont(shape, 100, FW_BOLD);
     Write(dc, box, letter, font.Get(), color, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
 
 } // namespace
 
-Theme::Theme() : m_dpi{::GetDeviceCaps(ScreenDc{}.Get(), LOGPIXELSX)}
+Theme::Theme() : m_dpi{::GetDeviceCaps(WindowContext{}.Get(), LOGPIXELSX)}
 {
     const LOGFONTW shape = MessageFont();
     m_normal = MakeFont(shape, 100, FW_NORMAL);
@@ -75,7 +75,7 @@ Theme::Theme() : m_dpi{::GetDeviceCaps(ScreenDc{}.Get(), LOGPIXELSX)}
 
 SIZE Theme::Measure(const std::wstring& text, HFONT font) const
 {
-    const ScreenDc screen;
+    const WindowContext screen;
     const Selected selected{screen.Get(), font};
     SIZE size{};
     ::GetTextExtentPoint32W(screen.Get(), text.c_str(), static_cast<int>(text.size()), &size);
@@ -84,13 +84,13 @@ SIZE Theme::Measure(const std::wstring& text, HFONT font) const
 
 void Fill(HDC dc, const RECT& box, COLORREF color)
 {
-    const Brush brush{::CreateSolidBrush(color)};
+    const UniqueBrush brush{::CreateSolidBrush(color)};
     ::FillRect(dc, &box, brush.Get());
 }
 
 void Frame(HDC dc, const RECT& box, COLORREF color)
 {
-    const Brush brush{::CreateSolidBrush(color)};
+    const UniqueBrush brush{::CreateSolidBrush(color)};
     ::FrameRect(dc, &box, brush.Get());
 }
 
@@ -107,7 +107,7 @@ void DrawPicture(HDC dc, const RECT& box, const std::string& name, COLORREF colo
 {
     const int w = box.right - box.left;
     const int h = box.bottom - box.top;
-    const Pen pen{::CreatePen(PS_SOLID, std::max(1, w / 16), color)};
+    const UniquePen pen{::CreatePen(PS_SOLID, std::max(1, w / 16), color)};
     const Selected withPen{dc, pen.Get()};
     const Selected withBrush{dc, ::GetStockObject(WHITE_BRUSH)};
     if (name == "Help" || name == "FunctionsLogicalInsertGallery") return DrawLetter(dc, box, L"?", color);

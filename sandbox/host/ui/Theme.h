@@ -1,3 +1,4 @@
+// The window's colours, fonts and strokes.
 #pragma once
 
 #include <string>
@@ -38,11 +39,11 @@ public:
 
 private:
     int m_dpi;
-    Font m_normal;
-    Font m_bold;
-    Font m_heading;
-    Font m_slideTitle;
-    Font m_thumbnail;
+    UniqueFont m_normal;
+    UniqueFont m_bold;
+    UniqueFont m_heading;
+    UniqueFont m_slideTitle;
+    UniqueFont m_thumbnail;
 };
 
 void Fill(HDC dc, const RECT& box, COLORREF color);

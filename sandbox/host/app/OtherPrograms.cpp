@@ -1,4 +1,4 @@
-#include "app/Companions.h"
+#include "app/OtherPrograms.h"
 
 #include <stdexcept>
 
@@ -88,7 +88,7 @@ void MailLinkCommand::RemoveTraces() const
     }
 }
 
-Companions::Companions(const Options& options)
+OtherPrograms::OtherPrograms(const Options& options)
 {
     const std::string login = options.Setting("sibling.login");
     if (login == "true" || login == "false")
@@ -103,7 +103,7 @@ Companions::Companions(const Options& options)
         OfferOutlook(outlook->mood, outlook->running);
 }
 
-void Companions::OfferOutlook(MailMood mood, bool running)
+void OtherPrograms::OfferOutlook(MailMood mood, bool running)
 {
     m_outlook = MakeObject<OutlookObject>(mood);
     // The running one is to be found, not created: a second one could not open the mail store.
@@ -115,22 +115,22 @@ void Companions::OfferOutlook(MailMood mood, bool running)
                       L"The running mail program cannot be offered.");
 }
 
-Companions::~Companions()
+OtherPrograms::~OtherPrograms()
 {
     if (m_running) ::RevokeActiveObject(m_running, nullptr);
 }
 
-const MailFields* Companions::LastMail() const
+const MailFields* OtherPrograms::LastMail() const
 {
     return m_outlook && !m_outlook->Displayed().empty() ? &m_outlook->Displayed().back() : nullptr;
 }
 
-void Companions::OnMail(std::function<void(const MailFields&)> show)
+void OtherPrograms::OnMail(std::function<void(const MailFields&)> show)
 {
     if (m_outlook) m_outlook->onDisplay = std::move(show);
 }
 
-void Companions::RemoveTraces() const
+void OtherPrograms::RemoveTraces() const
 {
     if (m_login) m_login->RemoveTraces();
     if (m_outlookClass) m_outlookClass->RemoveTraces();

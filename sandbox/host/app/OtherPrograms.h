@@ -1,3 +1,4 @@
+// The programs beside the host that an add-in may talk to.
 #pragma once
 
 #include <optional>
@@ -39,13 +40,13 @@ private:
 // What an add-in may talk to beside the host, offered as far as the settings ask for it: "sibling.login" true or false
 // for the sibling add-in's login object, "outlook" for the mail program and its mood, "mail.client" for the program
 // that opens mail links, "http" own for the host's own HTTP component.
-class Companions
+class OtherPrograms
 {
 public:
-    explicit Companions(const Options& options);
-    Companions(const Companions&) = delete;
-    Companions& operator=(const Companions&) = delete;
-    ~Companions();
+    explicit OtherPrograms(const Options& options);
+    OtherPrograms(const OtherPrograms&) = delete;
+    OtherPrograms& operator=(const OtherPrograms&) = delete;
+    ~OtherPrograms();
 
     // The last mail item that was displayed, or null.
     [[nodiscard]] const MailFields* LastMail() const;

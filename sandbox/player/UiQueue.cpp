@@ -1,10 +1,10 @@
-#include "app/UiQueue.h"
+#include "player/UiQueue.h"
 
 #include <exception>
 #include <future>
 #include <memory>
 
-namespace host
+namespace corvane::player
 {
 namespace
 {
@@ -55,4 +55,4 @@ LRESULT CALLBACK UiQueue::WindowProc(HWND window, UINT message, WPARAM wParam, L
     return 0;
 }
 
-} // namespace host
+} // namespace corvane::player

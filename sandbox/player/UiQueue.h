@@ -1,3 +1,4 @@
+// Work for the user interface's thread.
 #pragma once
 
 #include <chrono>
@@ -5,7 +6,7 @@
 
 #include <windows.h>
 
-namespace host
+namespace corvane::player
 {
 
 // Work for the user-interface thread from other threads. It arrives as a posted message, so a modal loop of an add-in
@@ -33,4 +34,4 @@ private:
     DWORD m_threadId;
 };
 
-} // namespace host
+} // namespace corvane::player
