@@ -73,10 +73,10 @@ void Click(Run& run, HWND button)
 
 void Press(Stage&, Run& run, const Step& step)
 {
-    const bool closes = step.words.size() > 1;
-    if (closes && step.At(1) != L"closes") Fail(L"a pressed control closes the form or nothing");
+    const std::wstring then = step.At(1);
     Click(run, run.UsableControl(step.At(0)));
-    if (closes) run.AwaitClosed(run.FormName());
+    if (then == L"closes") return run.AwaitClosed(run.FormName());
+    if (!then.empty()) run.Address(then);
 }
 
 void Check(Stage&, Run& run, const Step& step)

@@ -66,6 +66,7 @@ void Command(Stage& stage, Run& run, const Step& step)
     const std::wstring name = step.At(0);
     run.WaitFor([&] { return Unless(run.OnUi([&] { return stage.HasCommand(name); }), L"no control " + name); });
     run.BeginOnUi([&stage, name] { stage.Press(name); });
+    if (step.words.size() > 1) run.Address(step.At(1));
 }
 
 void Controller(Stage& stage, Run& run, const Step& step)
@@ -124,7 +125,7 @@ constexpr StepRow kSteps[] = {
     {"quit", 0, 0, &Quit},
     {"exit", 0, 0, &Exit},
     {"disconnect", 0, 0, &Disconnect},
-    {"command", 1, 1, &Command},
+    {"command", 1, 2, &Command},
     {"controller", 1, 1, &Controller},
     {"show", 1, 1, &Show},
     {"property", 2, 2, &Property},

@@ -10,11 +10,12 @@ namespace corvane::player
 namespace
 {
 
-// The text that a message step wants, or a part of it, and the button that it presses.
+// The text that a message step wants, or a part of it, the button that it presses and the form addressed then.
 struct WantedMessage
 {
     std::wstring text;
     std::wstring button;
+    std::wstring form;
     bool isWhole = false;
     bool isOneLine = true;
 };
@@ -25,12 +26,11 @@ WantedMessage WantedBy(const Step& step)
     WantedMessage wanted;
     wanted.isWhole = words.front().text == L"exactly" && !words.front().quoted;
     if (wanted.isWhole) words = words.subspan(1);
-    if (!words.empty() && !words.back().quoted) {
-        wanted.button = words.back().text;
-        words = words.first(words.size() - 1);
-    }
-    if (words.empty() || !std::ranges::all_of(words, &Word::quoted))
-        Fail(L"a message step takes quoted texts and one button");
+    const auto texts = static_cast<std::size_t>(std::ranges::find(words, false, &Word::quoted) - words.begin());
+    if (texts == 0 || words.size() > texts + 2) Fail(L"a message step takes quoted texts, one button and one form");
+    if (texts < words.size()) wanted.button = words[texts].text;
+    if (texts + 2 == words.size()) wanted.form = words.back().text;
+    words = words.first(texts);
     for (const Word& line : words)
         wanted.text += (&line == &words.front() ? L"" : L"\r\n") + line.text;
     wanted.isOneLine = words.size() == 1;
@@ -75,6 +75,7 @@ void Message(Stage&, Run& run, const Step& step)
     ::PostMessageW(button, BM_CLICK, 0, 0);
     run.WaitFor([&] { return Unless(!::IsWindow(found) || !::IsWindowVisible(found), L"the message stays"); });
     run.LeaveMessage();
+    if (!wanted.form.empty()) run.Address(wanted.form);
 }
 
 void NoMessage(Stage&, Run& run, const Step&)
