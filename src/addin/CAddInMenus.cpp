@@ -131,35 +131,32 @@ void CAddInMenus::RunSave(const SaveCommand& command, std::wstring_view caller) 
             busy.Unload();
         });
         const ProcedureScope scope{caller};
-        if (!failure) failure = Catch([&] { Save(command, busy); });
+        const HostDocument document{m_oApplication};
+        if (!failure) failure = Catch([&] { Save(command, document, busy); });
         if (failure) ReportError(*failure);
         busy.Unload();
-        SetExcelInteractive(m_oApplication, true);
+        document.SetInteractive(true);
     });
 }
 
-void CAddInMenus::Save(const SaveCommand& command, frmBusy& busy)
+void CAddInMenus::Save(const SaveCommand& command, const HostDocument& document, frmBusy& busy)
 {
-    if (!IsDocumentOpen(m_oApplication)) {
+    if (!document.IsOpen()) {
         ShowMessage(L"You must have a file open to save to " + CustomName(L"Corvane"), kStylePlain);
         return;
     }
-    busy.oOutlookInspector = OutlookInspectorOf(m_oApplication);
-    busy.sDocument = ActiveDocumentName(m_oApplication);
-    ReadBindingOfDocument();
-    if (!command.skipsTree(m_binding)) PickTarget(command);
+    m_binding = ReadBinding(document);
+    m_lDocumentKind = ClassifyBoundDocument(m_binding);
+    if (!command.skipsTree(m_binding)) {
+        PickTarget(command);
+        document.SetInteractive(false);
+    }
     if (!command.hasTarget(m_binding)) return;
     busy.lMethodType = command.methodType;
     busy.sServer = m_binding.server;
     busy.target = TargetIn(static_cast<TreeMode>(command.dialogType), m_binding);
-    busy.oApplication = m_oApplication;
+    busy.oDocument = document;
     busy.ShowModal();
-}
-
-void CAddInMenus::ReadBindingOfDocument()
-{
-    m_binding = ReadBinding(m_oApplication);
-    m_lDocumentKind = ClassifyBoundDocument(m_binding);
 }
 
 void CAddInMenus::PickTarget(const SaveCommand& command)
@@ -173,7 +170,6 @@ void CAddInMenus::PickTarget(const SaveCommand& command)
     m_binding.server = tree.ServerURL;
     static_cast<Target&>(m_binding) = tree.target;
     tree.Unload();
-    SetExcelInteractive(m_oApplication, false);
 }
 
 } // namespace corvane

@@ -53,9 +53,8 @@ public:
 private:
     [[nodiscard]] std::wstring RibbonXml(std::wstring_view procedure, RibbonTab tab) const noexcept;
     void RunSave(const SaveCommand& command, std::wstring_view caller) noexcept;
-    void Save(const SaveCommand& command, frmBusy& busy);
+    void Save(const SaveCommand& command, const HostDocument& document, frmBusy& busy);
     void PickTarget(const SaveCommand& command);
-    void ReadBindingOfDocument();
     void ShowHelp(std::wstring_view caller) const noexcept;
     void ShowAbout(std::wstring_view caller) const noexcept;
     [[nodiscard]] int HostVersion() const;

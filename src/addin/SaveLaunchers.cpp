@@ -23,9 +23,7 @@ void Prepare(SaveDialog& dialog, const frmBusy& busy)
         busy.sServer, Operations::kIsAutoSetPublishCheckbox, {std::wstring{L"AutomaticallySetPublishCheckbox"}}));
     dialog.ServerURL = busy.sServer;
     dialog.target = busy.target;
-    dialog.oApplication = busy.oApplication;
-    dialog.OutlookInspector = busy.oOutlookInspector;
-    dialog.Document = busy.sDocument;
+    dialog.Document = busy.oDocument;
 }
 
 template<class Dialog>

@@ -6,8 +6,6 @@
 #include "resources/resource.h"
 #include "selection/frmSaveTo.h"
 #include "shared/ClientEvents.h"
-#include "shared/DocumentProperties.h"
-#include "shared/HostDocument.h"
 #include "shared/MailClient.h"
 #include "support/CCustomNames.h"
 #include "support/Conversions.h"
@@ -44,7 +42,7 @@ void SaveDialog::Form_Load()
 {
     if (const auto failure = Catch([this] { LoadInputs(); })) ReportError(*failure);
     Form::UnloadNamed(L"frmBusy");
-    SetExcelInteractive(oApplication, true);
+    Document.SetInteractive(true);
 }
 
 void SaveDialog::LoadInputs()
@@ -64,7 +62,7 @@ void SaveDialog::LoadInputs()
         if (m_kind.asksForUser && !ServerURL.empty()) static_cast<void>(UserId());
     });
     // What needs no server is there all the same: Change may lead to another one when this one fails.
-    m_clientEvents = ClientEventsEnabled(oApplication);
+    m_clientEvents = ClientEventsEnabled(Document);
     Check(chkPublish, AutomaticallySetPublishCheckbox);
     m_mailClientIsOutlook = IsMailClientOutlook();
     Show(cmdSaveAndSend, m_mailClientIsOutlook);
@@ -136,14 +134,6 @@ SaveDialog::Entries SaveDialog::ReadEntries() const
             .category = Trim(Text(cboGroup)),
             .publish = IsChecked(chkPublish),
             .complete = IsChecked(chkComplete)};
-}
-
-void SaveDialog::BindDocument() const
-{
-    if (!CanCarryProperties(oApplication)) return;
-    RequireNotFinal(oApplication);
-    SetBindingProperties(oApplication, {target, ServerURL});
-    MarkDocumentChanged(oApplication);
 }
 
 void SaveDialog::ShowError(const Error& error) const

@@ -4,8 +4,8 @@
 #include "dialogs/UploadMessages.h"
 #include "forms/Form.h"
 #include "platform/Error.h"
-#include "platform/LateBound.h"
 #include "selection/TreeMode.h"
+#include "shared/HostDocument.h"
 #include "shared/NotificationTexts.h"
 #include "support/Help.h"
 
@@ -46,9 +46,7 @@ public:
     Target target;
     std::int32_t& ProjectID = target.projectId;
     bool AutomaticallySetPublishCheckbox = false;
-    LateBound oApplication;
-    LateBound OutlookInspector; // where the host is Outlook
-    std::wstring Document;      // what tells the document to be saved from the others (ActiveDocumentName)
+    HostDocument Document; // the one to be saved
 
 protected:
     // What the user had entered when the save began; texts are trimmed, and empty where the dialog has no such control.
@@ -106,10 +104,6 @@ protected:
     [[nodiscard]] TargetState Refuse(Refusal refusal) const;
     // Puts the customer's word for the target's type into the caption and the line above the buttons.
     void ShowTypeCaptions();
-    // False once the host's programs or its user have opened or activated another document than the dialog's.
-    [[nodiscard]] bool IsDocumentActive() const;
-    // Writes server and target into the document and makes the next save write them.
-    void BindDocument() const;
     // The user's id on the server.
     [[nodiscard]] std::int32_t UserId() const;
     // The facts that every notification of this dialog shares.

@@ -6,10 +6,8 @@
 #include "platform/Procedure.h"
 #include "resources/resource.h"
 #include "shared/ClientEvents.h"
-#include "shared/DocumentNames.h"
-#include "shared/HostDocument.h"
+#include "shared/DocumentUpload.h"
 #include "shared/NotificationMail.h"
-#include "webservice/Transfer.h"
 
 namespace corvane
 {
@@ -56,11 +54,9 @@ bool SaveDialog::Save()
     return saved;
 }
 
-bool SaveDialog::IsDocumentActive() const { return ActiveDocumentName(oApplication) == Document; }
-
 bool SaveDialog::RequireDocument() const
 {
-    if (IsDocumentActive()) return true;
+    if (Document.IsActive()) return true;
     ShowMessage(L"Another document is active now. Please activate the one that you want to save.", kStyleExclamation);
     return false;
 }
@@ -70,9 +66,8 @@ bool SaveDialog::UploadAndRecord()
     const ProcedureScope scope{L"SaveDialog.UploadAndRecord"};
     if (m_clientEvents) {
         const Flagged inMacro{m_inMacro};
-        RunBeforeSaveEvent(oApplication);
-        // It may have saved the document under another name.
-        if (!HasOpenDocument(oApplication, Document)) Document = ActiveDocumentName(oApplication);
+        RunBeforeSaveEvent(Document);
+        if (!Document.IsStillOpen()) Document.FollowActive(); // saved under another name
     }
     SetStatus(StatusBar1, L"Contacting the server...");
     SetControlsEnabled(false);
@@ -81,17 +76,11 @@ bool SaveDialog::UploadAndRecord()
     // waits.
     if (Window() != nullptr) m_entered = ReadEntries();
     if (!MaySave() || !RequireDocument()) return false;
-    BindDocument();
-    const std::wstring title = DocumentTitle(oApplication, OutlookInspector);
-    const SavedDocument file = HasTarget() ? SaveDocumentToDisk(oApplication, OutlookInspector) : SavedDocument{};
-    Document = ActiveDocumentName(oApplication); // a new one has got a file
-    const std::wstring uploadName = UploadNameOf(title, file.path);
-    ExecuteASPWSUploadFile(ServerURL, file.path, uploadName);
-
-    const std::wstring reply = HasTarget() ? Record(uploadName) : std::wstring{};
+    const UploadedDocument uploaded = UploadDocument(Document, {target, ServerURL}, HasTarget());
+    const std::wstring reply = HasTarget() ? Record(uploaded.name) : std::wstring{};
     if (ProcessSaveResult(reply) == L"CANCEL") return false;
     AfterRecord(reply);
-    if (m_clientEvents && IsDocumentActive()) RunAfterSaveEvent(oApplication);
+    if (m_clientEvents && Document.IsActive()) RunAfterSaveEvent(Document);
     SetStatus(StatusBar1, L"Save Complete");
     PumpFor(kCompletePause);
     return true;

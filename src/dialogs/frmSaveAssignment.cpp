@@ -47,8 +47,8 @@ std::wstring frmSaveAssignment::Record(const std::wstring& uploadName)
 {
     if (Entered().complete) m_facts.statusCode = kStatusCompleted;
     return QueryText(ServerURL, IsActivity() ? Operations::kUploadActivity : Operations::kUploadDeliverable,
-                     {oApplication.Text(L"Name"), ProjectID, IsActivity() ? ActivityID : DeliverableID, uploadName,
-                      Entered().author, Entered().comments, Entered().publish ? 1 : 0, m_facts.statusCode,
+                     {Document.Application().Text(L"Name"), ProjectID, IsActivity() ? ActivityID : DeliverableID,
+                      uploadName, Entered().author, Entered().comments, Entered().publish ? 1 : 0, m_facts.statusCode,
                       Entered().notes});
 }
 

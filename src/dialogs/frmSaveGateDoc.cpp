@@ -88,7 +88,7 @@ bool frmSaveGateDoc::MaySave()
 std::wstring frmSaveGateDoc::Record(const std::wstring& uploadName)
 {
     return QueryText(ServerURL, Operations::kUploadGateDocument,
-                     {oApplication.Text(L"Name"), ProjectID, GateDocumentID, uploadName, Entered().author,
+                     {Document.Application().Text(L"Name"), ProjectID, GateDocumentID, uploadName, Entered().author,
                       Entered().comments, Entered().publish ? 1 : 0, 0, m_statusComment});
 }
 

@@ -5,7 +5,7 @@
 #include "platform/Procedure.h"
 #include "resources/resource.h"
 #include "shared/DateText.h"
-#include "shared/HostDocument.h"
+#include "shared/DocumentProperties.h"
 #include "support/Conversions.h"
 #include "webservice/WebService.h"
 
@@ -53,9 +53,9 @@ bool frmSaveRelatedDoc::LoadNewDocument()
     const XmlNode project = FirstRow(answer);
     if (ToBooleanSafe(project.Text(L"Closed"))) return false;
     SetText(txtProject, project.Text(L"ProjectName"));
-    SetText(txtName, DocumentTitle(oApplication, OutlookInspector));
+    SetText(txtName, Document.Title());
     m_description.clear();
-    SetText(txtDescription, ItemBodyStart(oApplication, OutlookInspector));
+    SetText(txtDescription, Document.BodyStart());
     SetText(txtAuthor, AuthorOfDocument());
     Check(chkPublish, AutomaticallySetPublishCheckbox);
     FillGroups();
@@ -101,7 +101,7 @@ void frmSaveRelatedDoc::SelectGroup(const std::wstring& group)
 
 std::wstring frmSaveRelatedDoc::AuthorOfDocument() const
 {
-    std::wstring author = DocumentAuthor(oApplication);
+    std::wstring author = Document.Author();
     return author.empty() ? FirstRow(QueryXml(ServerURL, Operations::kGetUser, {})).Text(L"Name") : author;
 }
 
@@ -136,14 +136,14 @@ void frmSaveRelatedDoc::AfterRecord(const std::wstring& reply)
     if (!IsNew() || reply.empty()) return;
     // The file is to carry the id that the server gave the new document.
     RelatedDocID = ToLongSafe(reply);
-    if (!IsDocumentActive()) {
+    if (!Document.IsActive()) {
         ShowMessage(L"The document was saved. But another one is active now, so the number of the new related document "
                     L"was not written into it.",
                     kStyleExclamation);
         return;
     }
-    BindDocument();
-    static_cast<void>(SaveDocumentToDisk(oApplication, OutlookInspector));
+    BindDocument(Document, {target, ServerURL});
+    static_cast<void>(Document.SaveToDisk());
 }
 
 NotificationFacts frmSaveRelatedDoc::Notified() const

@@ -26,8 +26,7 @@ void frmBusy::Form_Activate()
     if (bWorking) return;
     bWorking = true;
     Reporting([this] { RunProcedure(); });
-    oApplication.Release();
-    oOutlookInspector.Release();
+    oDocument = {};
     Hide();
 }
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/Form.h"
-#include "platform/LateBound.h"
+#include "shared/HostDocument.h"
 #include "shared/Target.h"
 
 #include <array>
@@ -34,9 +34,7 @@ public:
     std::int32_t& lActivityID = target.activityId;
     std::int32_t& lRelatedDocID = target.relatedFileId;
     std::int32_t& lGateDocID = target.gateDocumentId;
-    std::wstring sDocument; // the document that the command was given for (ActiveDocumentName)
-    LateBound oApplication;
-    LateBound oOutlookInspector;
+    HostDocument oDocument; // the one that the command was given for
 
 private:
     [[nodiscard]] std::span<const FormHandler> Handlers() const override { return {}; }

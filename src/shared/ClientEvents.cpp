@@ -3,7 +3,8 @@
 #include "forms/Messages.h"
 #include "platform/Procedure.h"
 #include "shared/DocumentProperties.h"
-#include "shared/HostVersion.h"
+#include "shared/HostDocument.h"
+#include "shared/HostTraits.h"
 #include "shared/SaveReply.h"
 #include "support/CCustomNames.h"
 
@@ -12,37 +13,36 @@ namespace corvane
 namespace
 {
 
-void RunMacro(const LateBound& application, const std::wstring& macro) noexcept
+void RunMacro(const HostDocument& document, const std::wstring& macro) noexcept
 {
     Ignoring([&] {
-        const bool qualified = application.Text(L"Name") == kPowerPointName;
-        const std::wstring prefix =
-            qualified ? application.Object(L"ActivePresentation").Text(L"Name") + L"!" : std::wstring{};
-        application.Call(L"Run", prefix + macro);
+        const bool qualified = document.Traits() != nullptr && document.Traits()->namesDocumentOfMacro;
+        const std::wstring prefix = qualified ? document.Active().Text(L"Name") + L"!" : std::wstring{};
+        document.Application().Call(L"Run", prefix + macro);
     });
 }
 
 } // namespace
 
-bool ClientEventsEnabled(const LateBound& oApplication)
+bool ClientEventsEnabled(const HostDocument& document)
 {
     const ProcedureScope scope{L"SharedCode.ClientEventsEnabled"};
-    ClientEventFacts facts{std::nullopt, oApplication.Text(L"Name"), oApplication.Text(L"Version")};
-    if (CustomPropertyExists(oApplication, kDoEventsProperty))
-        facts.doEvents = GetCustomProperty(oApplication, kDoEventsProperty);
+    ClientEventFacts facts{std::nullopt, document.Traits(), document.Version()};
+    if (CustomPropertyExists(document, kDoEventsProperty))
+        facts.doEvents = GetCustomProperty(document, kDoEventsProperty);
     return WantsClientEvents(facts) && IsClientEventsSettingOn(CustomName(kClientEventsSetting));
 }
 
-void RunBeforeSaveEvent(const LateBound& oApplication) noexcept
+void RunBeforeSaveEvent(const HostDocument& document) noexcept
 {
     const ProcedureScope scope{L"SharedCode.RunBeforeSaveEvent"};
-    RunMacro(oApplication, L"KRXEvents.KRXBeforeSave");
+    RunMacro(document, L"KRXEvents.KRXBeforeSave");
 }
 
-void RunAfterSaveEvent(const LateBound& oApplication) noexcept
+void RunAfterSaveEvent(const HostDocument& document) noexcept
 {
     const ProcedureScope scope{L"SharedCode.RunAfterSaveEvent"};
-    RunMacro(oApplication, L"KRXEvents.KRXAfterSave");
+    RunMacro(document, L"KRXEvents.KRXAfterSave");
 }
 
 std::wstring ProcessSaveResult(const std::wstring& sResult)

@@ -2,7 +2,7 @@
 
 #include "platform/Procedure.h"
 #include "shared/HostDocument.h"
-#include "shared/HostVersion.h"
+#include "shared/HostTraits.h"
 #include "support/Conversions.h"
 
 #include <algorithm>
@@ -15,12 +15,7 @@ namespace corvane
 namespace
 {
 
-constexpr int kExcel2003 = 11;
-
-LateBound PropertiesOf(const LateBound& application)
-{
-    return ActiveDocument(application).Object(L"CustomDocumentProperties");
-}
+LateBound PropertiesOf(const HostDocument& document) { return document.Active().Object(L"CustomDocumentProperties"); }
 
 // The properties of a binding as they were: put back unless the whole binding is written.
 class BindingBackup
@@ -62,22 +57,22 @@ private:
 
 } // namespace
 
-std::wstring GetCustomProperty(const LateBound& oApplication, const std::wstring& sName)
+std::wstring GetCustomProperty(const HostDocument& document, const std::wstring& sName)
 {
     const ProcedureScope scope{L"SharedCode.GetCustomProperty"};
     std::wstring text;
-    Ignoring([&] { text = PropertiesOf(oApplication).Object(L"Item", sName).Text(L"Value"); });
+    Ignoring([&] { text = PropertiesOf(document).Object(L"Item", sName).Text(L"Value"); });
     return text;
 }
 
-bool CustomPropertyExists(const LateBound& oApplication, const std::wstring& sName)
+bool CustomPropertyExists(const HostDocument& document, const std::wstring& sName)
 {
     const ProcedureScope scope{L"SharedCode.CustomPropertyExists"};
-    return !Catch([&] { static_cast<void>(PropertiesOf(oApplication).Object(L"Item", sName).Text(L"Name")); });
+    return !Catch([&] { static_cast<void>(PropertiesOf(document).Object(L"Item", sName).Text(L"Name")); });
 }
 
 void SetCustomProperty(const LateBound& oProperties, const std::wstring& sName, const Variant& vValue,
-                       std::int32_t lType, const LateBound& oApplication)
+                       std::int32_t lType, const HostDocument& document)
 {
     const ProcedureScope scope{L"SharedCode.SetCustomProperty"};
     bool found = false;
@@ -89,36 +84,44 @@ void SetCustomProperty(const LateBound& oProperties, const std::wstring& sName, 
         found = true;
     }
     if (!found) oProperties.Call(L"Add", sName, false, lType, vValue.Copy());
-    if (oApplication.Text(L"Name") == kExcelName && MajorVersion(oApplication.Text(L"Version")) > kExcel2003)
-        ActiveDocument(oApplication).Put(L"Saved", false);
+    if (document.Traits() != nullptr && document.Version() >= document.Traits()->firstBlindToProperties)
+        document.MarkChanged();
 }
 
-void SetBindingProperties(const LateBound& oApplication, const DocumentBinding& binding)
+void SetBindingProperties(const HostDocument& document, const DocumentBinding& binding)
 {
     const ProcedureScope scope{L"SharedCode.SetBindingProperties"};
-    const LateBound properties = PropertiesOf(oApplication);
+    const LateBound properties = PropertiesOf(document);
     BindingBackup backup{properties};
-    SetCustomProperty(properties, kServerProperty, binding.server, kPropertyText, oApplication);
+    SetCustomProperty(properties, kServerProperty, binding.server, kPropertyText, document);
     for (const auto& [name, id] : kBindingProperties)
-        SetCustomProperty(properties, name, binding.*id, kPropertyNumber, oApplication);
+        SetCustomProperty(properties, name, binding.*id, kPropertyNumber, document);
     backup.Drop();
 }
 
-DocumentBinding ReadBinding(const LateBound& oApplication)
+void BindDocument(const HostDocument& document, const DocumentBinding& binding)
+{
+    if (!document.CanCarryProperties()) return;
+    document.RequireNotFinal();
+    SetBindingProperties(document, binding);
+    document.MarkChanged();
+}
+
+DocumentBinding ReadBinding(const HostDocument& document)
 {
     using Binding = DocumentBinding;
     Binding binding;
     const auto read = [&](std::int32_t Binding::*id) {
         const auto* property = std::ranges::find(kBindingProperties, id, &BindingProperty::id);
-        binding.*id = ToLongSafe(GetCustomProperty(oApplication, property->name));
+        binding.*id = ToLongSafe(GetCustomProperty(document, property->name));
     };
     // The interface's order, which is not that of writing.
     constexpr std::int32_t Binding::*kFirst[] = {&Binding::projectId,      &Binding::deliverableId,
                                                  &Binding::gateDocumentId, &Binding::activityId,
                                                  &Binding::relatedFileId,  &Binding::excelReportId};
-    binding.server = GetCustomProperty(oApplication, kServerProperty);
+    binding.server = GetCustomProperty(document, kServerProperty);
     std::ranges::for_each(kFirst, read);
-    binding.projectReport = ToBooleanSafe(GetCustomProperty(oApplication, kProjectReportProperty));
+    binding.projectReport = ToBooleanSafe(GetCustomProperty(document, kProjectReportProperty));
     read(&Binding::templateLibraryId);
     return binding;
 }

@@ -13,78 +13,10 @@ namespace
 
 constexpr std::int32_t kPermissionDenied = 70;
 
-using SaveType = std::optional<std::int32_t>;
-
-void SaveWordCopy(const LateBound& document, const std::wstring& path, SaveType /*type*/)
+Variant FormatArgument(const HostTraits& host, int version, std::wstring_view extension)
 {
-    // Word has no member for it; SaveAs would make the copy the user's document.
-    SavePersistedCopy(document, path);
-}
-
-void SaveExcelCopy(const LateBound& workbook, const std::wstring& path, SaveType /*type*/)
-{
-    workbook.Call(L"SaveCopyAs", path);
-}
-
-void SavePowerPointCopy(const LateBound& presentation, const std::wstring& path, SaveType type)
-{
-    presentation.Call(L"SaveCopyAs", path, type ? Variant{*type} : Variant::Missing());
-}
-
-void SaveOutlookCopy(const LateBound& item, const std::wstring& path, SaveType type)
-{
-    item.Call(L"SaveAs", path, type ? Variant{*type} : Variant::Missing());
-}
-
-// What the object models do differently.
-struct HostModel
-{
-    const wchar_t* host;
-    const wchar_t* activeDocument; // null for the host whose items are neither files nor carry properties
-    const wchar_t* documents;
-    const wchar_t* documentName;
-    void (*saveCopy)(const LateBound& document, const std::wstring& path, SaveType type);
-};
-
-constexpr HostModel kModels[] = {
-    {kWordName, L"ActiveDocument", L"Documents", L"Name", &SaveWordCopy},
-    {kExcelName, L"ActiveWorkbook", L"Workbooks", L"Name", &SaveExcelCopy},
-    {kPowerPointName, L"ActivePresentation", L"Presentations", L"Name", &SavePowerPointCopy},
-    {kOutlookName, nullptr, nullptr, L"Subject", &SaveOutlookCopy},
-};
-
-// An application as one of the four hosts.
-struct Host
-{
-    const HostTraits& traits;
-    const HostModel& model;
-    int version;
-
-    [[nodiscard]] SaveType TypeOf(std::wstring_view extension) const { return SaveTypeFor(traits, version, extension); }
-};
-
-std::optional<Host> HostOf(const LateBound& application)
-{
-    const std::wstring name = application.Text(L"Name");
-    const HostTraits* traits = FindHost(name);
-    for (const HostModel& model : kModels) {
-        if (traits != nullptr && name == model.host)
-            return Host{*traits, model, MajorVersion(application.Text(L"Version"))};
-    }
-    return std::nullopt;
-}
-
-// The document or item that a save is about; throws Error where there is none.
-LateBound SubjectOf(const LateBound& application, const LateBound& outlookInspector, const Host& host)
-{
-    if (host.model.activeDocument == nullptr) return outlookInspector.Object(L"CurrentItem");
-    return application.Object(host.model.activeDocument);
-}
-
-Host RequiredHost(const LateBound& application)
-{
-    if (const auto host = HostOf(application)) return *host;
-    throw ObjectNotSet(L"SharedCode.RequiredHost");
+    const auto type = SaveTypeFor(host, version, extension);
+    return type ? Variant{*type} : Variant::Missing();
 }
 
 DocumentPlace PlaceOf(const LateBound& document)
@@ -93,14 +25,6 @@ DocumentPlace PlaceOf(const LateBound& document)
     if (!place.path.empty() && !IsWebAddress(place.fullName) && FileExists(place.fullName))
         place.readOnly = place.readOnly || !MayWriteFile(place.fullName);
     return place;
-}
-
-std::wstring TitleOf(const Host& host, const LateBound& subject)
-{
-    const bool everSaved = host.model.activeDocument != nullptr && !subject.Text(L"Path").empty();
-    bool hasMacros = false;
-    Ignoring([&] { hasMacros = subject.Number(L"HasVBProject") != 0; }); // unknown up to version 11 and to items
-    return TitleOf(host.traits, host.version, subject.Text(host.model.documentName), everSaved, hasMacros);
 }
 
 std::wstring UnusedDocumentPath(const std::wstring& title)
@@ -116,91 +40,27 @@ std::wstring UnusedDocumentPath(const std::wstring& title)
                     L"). Please save the document to disk and then try again."};
 }
 
-SavedDocument SaveInDocuments(const Host& host, const LateBound& document)
+void SaveInPlace(const LateBound& document, const std::wstring& fullName)
 {
-    const std::wstring title = TitleOf(host, document);
-    std::wstring path = UnusedDocumentPath(title);
-    const SaveType type = host.TypeOf(ExtensionOf(title));
-    document.Call(L"SaveAs", path, type ? Variant{*type} : Variant::Missing());
-    return {std::move(path), std::nullopt};
-}
-
-SavedDocument SaveTemporaryCopy(const Host& host, const LateBound& subject)
-{
-    const std::wstring extension = ExtensionOf(TitleOf(host, subject));
-    TemporaryFile copy{extension.substr(1)};
-    host.model.saveCopy(subject, copy.Path(), host.TypeOf(extension));
-    std::wstring path = copy.Path();
-    return {std::move(path), std::move(copy)};
+    const auto before = LastWriteTime(fullName);
+    document.Call(L"Save");
+    // What else runs in the host may take a save back without an error.
+    if (document.Number(L"Saved") == 0 && LastWriteTime(fullName) == before)
+        throw Error{kPermissionDenied, L"SharedCode.SaveDocumentToDisk",
+                    L"The document was not written to disk. Please save it and then try again."};
 }
 
 } // namespace
 
-LateBound ActiveDocument(const LateBound& application)
-{
-    const auto host = HostOf(application);
-    if (!host || host->model.activeDocument == nullptr) return {};
-    return application.Object(host->model.activeDocument);
-}
-
-LateBound OutlookInspectorOf(const LateBound& application)
-{
-    if (application.Text(L"Name") != kOutlookName) return {};
-    return application.Object(L"ActiveInspector");
-}
-
-bool IsDocumentOpen(const LateBound& application)
-{
-    bool open = false;
-    Ignoring([&] { open = ActiveDocument(application) || OutlookInspectorOf(application); });
-    return open;
-}
-
-bool CanCarryProperties(const LateBound& application)
-{
-    bool carries = false;
-    Ignoring([&] { carries = static_cast<bool>(ActiveDocument(application)); });
-    return carries;
-}
-
-std::wstring ActiveDocumentName(const LateBound& application)
-{
-    std::wstring name;
-    Ignoring([&] { name = ActiveDocument(application).Text(L"FullName"); });
-    return name;
-}
-
-bool HasOpenDocument(const LateBound& application, const std::wstring& fullName)
-{
-    bool found = false;
-    Ignoring([&] {
-        const wchar_t* const collection = RequiredHost(application).model.documents;
-        if (collection == nullptr) return;
-        const LateBound documents = application.Object(collection);
-        for (std::int32_t left = documents.Number(L"Count"); left > 0 && !found; --left)
-            found = documents.Object(L"Item", left).Text(L"FullName") == fullName;
-    });
-    return found;
-}
-
-void RequireNotFinal(const LateBound& application)
-{
-    bool isFinal = false;
-    Ignoring([&] { isFinal = ActiveDocument(application).Number(L"Final") != 0; });
-    if (isFinal)
-        throw Error{
-            kPermissionDenied, L"SharedCode.RequireNotFinal",
-            L"The document is marked as final, so it cannot be changed. Please turn the mark off and then try again."};
-}
-
 bool IsEditing(const LateBound& application)
 {
-    if (application.Text(L"Name") != kExcelName) return false;
+    const HostTraits* const host = FindHost(application.Text(L"Name"));
+    if (host == nullptr || host->editingBar == nullptr) return false;
     bool editing = true; // a host that refuses the question is busy editing
     Ignoring([&] {
         constexpr std::int32_t kButtonType = 1;
         constexpr std::int32_t kFileNewId = 18;
-        const LateBound bar = application.Object(L"CommandBars").Object(L"Item", L"Worksheet Menu Bar");
+        const LateBound bar = application.Object(L"CommandBars").Object(L"Item", host->editingBar);
         const LateBound control =
             bar.Object(L"FindControl", kButtonType, kFileNewId, Variant::Missing(), Variant::Missing(), true);
         editing = control && control.Number(L"Enabled") == 0;
@@ -208,60 +68,147 @@ bool IsEditing(const LateBound& application)
     return editing;
 }
 
-std::wstring DocumentTitle(const LateBound& application, const LateBound& outlookInspector)
+HostDocument::HostDocument(LateBound application) noexcept : m_application{std::move(application)}
 {
-    const Host host = RequiredHost(application);
-    return TitleOf(host, SubjectOf(application, outlookInspector, host));
+    Ignoring([this] {
+        const HostTraits* const host = FindHost(m_application.Text(L"Name"));
+        m_version = MajorVersion(m_application.Text(L"Version"));
+        m_traits = host;
+        if (host != nullptr && host->inspector != nullptr) m_inspector = m_application.Object(host->inspector);
+    });
+    FollowActive();
 }
 
-std::wstring DocumentAuthor(const LateBound& application)
+bool HostDocument::IsOpen() const noexcept { return CanCarryProperties() || m_inspector; }
+
+bool HostDocument::CanCarryProperties() const noexcept
+{
+    bool carries = false;
+    Ignoring([&] { carries = static_cast<bool>(Active()); });
+    return carries;
+}
+
+LateBound HostDocument::Active() const
+{
+    if (m_traits == nullptr || m_traits->activeDocument == nullptr) return {};
+    return m_application.Object(m_traits->activeDocument);
+}
+
+std::wstring HostDocument::ActiveName() const noexcept
+{
+    std::wstring name;
+    Ignoring([&] { name = Active().Text(L"FullName"); });
+    return name;
+}
+
+bool HostDocument::IsStillOpen() const noexcept
+{
+    bool found = false;
+    Ignoring([&] {
+        if (Host().documents == nullptr) return;
+        const LateBound documents = m_application.Object(Host().documents);
+        for (std::int32_t left = documents.Number(L"Count"); left > 0 && !found; --left)
+            found = documents.Object(L"Item", left).Text(L"FullName") == m_fullName;
+    });
+    return found;
+}
+
+const HostTraits& HostDocument::Host() const
+{
+    if (m_traits == nullptr) throw ObjectNotSet(L"SharedCode.RequiredHost");
+    return *m_traits;
+}
+
+LateBound HostDocument::Subject() const
+{
+    if (Host().activeDocument == nullptr) return m_inspector.Object(L"CurrentItem");
+    return m_application.Object(Host().activeDocument);
+}
+
+std::wstring HostDocument::Title() const { return TitleOf(Subject()); }
+
+std::wstring HostDocument::TitleOf(const LateBound& subject) const
+{
+    const bool everSaved = Host().activeDocument != nullptr && !subject.Text(L"Path").empty();
+    bool hasMacros = false;
+    Ignoring([&] { hasMacros = subject.Number(L"HasVBProject") != 0; }); // unknown up to version 11 and to items
+    return corvane::TitleOf(Host(), m_version, subject.Text(Host().documentName), everSaved, hasMacros);
+}
+
+std::wstring HostDocument::Author() const noexcept
 {
     std::wstring author;
     Ignoring([&] {
-        const LateBound properties = ActiveDocument(application).Object(L"BuiltInDocumentProperties");
+        const LateBound properties = Active().Object(L"BuiltInDocumentProperties");
         author = properties.Object(L"Item", L"Author").Text(L"Value");
     });
     return author;
 }
 
-std::wstring ItemBodyStart(const LateBound& application, const LateBound& outlookInspector)
+std::wstring HostDocument::BodyStart() const
 {
     constexpr std::size_t kLength = 200;
-    if (application.Text(L"Name") != kOutlookName) return {};
-    return outlookInspector.Object(L"CurrentItem").Text(L"Body").substr(0, kLength);
+    if (m_traits == nullptr || m_traits->inspector == nullptr) return {};
+    return m_inspector.Object(L"CurrentItem").Text(L"Body").substr(0, kLength);
 }
 
-void MarkDocumentChanged(const LateBound& application) { ActiveDocument(application).Put(L"Saved", false); }
+void HostDocument::RequireNotFinal() const
+{
+    bool isFinal = false;
+    Ignoring([&] { isFinal = Active().Number(L"Final") != 0; });
+    if (isFinal)
+        throw Error{
+            kPermissionDenied, L"SharedCode.RequireNotFinal",
+            L"The document is marked as final, so it cannot be changed. Please turn the mark off and then try again."};
+}
 
-SavedDocument SaveDocumentToDisk(const LateBound& application, const LateBound& outlookInspector)
+void HostDocument::MarkChanged() const { Active().Put(L"Saved", false); }
+
+SavedDocument HostDocument::SaveToDisk() const
 {
     const ProcedureScope scope{L"SharedCode.SaveDocumentToDisk"};
-    const Host host = RequiredHost(application);
-    const LateBound subject = SubjectOf(application, outlookInspector, host);
-    if (host.model.activeDocument == nullptr) return SaveTemporaryCopy(host, subject);
+    const LateBound subject = Subject();
+    if (Host().activeDocument == nullptr) return SaveTemporaryCopy(subject);
     const DocumentPlace place = PlaceOf(subject);
     switch (PlanDiskSave(place)) {
     case DiskSave::InDocuments:
-        return SaveInDocuments(host, subject);
+        return SaveInDocuments(subject);
     case DiskSave::TemporaryCopy:
-        return SaveTemporaryCopy(host, subject);
+        return SaveTemporaryCopy(subject);
     case DiskSave::InPlace:
         break;
     }
-    const auto before = LastWriteTime(place.fullName);
-    subject.Call(L"Save");
-    // What else runs in the host may take a save back without an error.
-    if (subject.Number(L"Saved") == 0 && LastWriteTime(place.fullName) == before)
-        throw Error{kPermissionDenied, L"SharedCode.SaveDocumentToDisk",
-                    L"The document was not written to disk. Please save it and then try again."};
+    SaveInPlace(subject, place.fullName);
     return {place.fullName, std::nullopt};
 }
 
-void SetExcelInteractive(const LateBound& application, bool interactive) noexcept
+SavedDocument HostDocument::SaveInDocuments(const LateBound& document) const
 {
-    Ignoring([&] {
-        if (application.Text(L"Name") == kExcelName) application.Put(L"Interactive", interactive);
-    });
+    const std::wstring title = TitleOf(document);
+    std::wstring path = UnusedDocumentPath(title);
+    document.Call(L"SaveAs", path, FormatArgument(Host(), m_version, ExtensionOf(title)));
+    return {std::move(path), std::nullopt};
+}
+
+SavedDocument HostDocument::SaveTemporaryCopy(const LateBound& subject) const
+{
+    const std::wstring extension = ExtensionOf(TitleOf(subject));
+    TemporaryFile copy{extension.substr(1)};
+    std::wstring path = copy.Path();
+    const auto& [member, takesFormat] = Host().copy;
+    if (member == nullptr) // SaveAs would make the copy the user's document
+        SavePersistedCopy(subject, path);
+    else if (takesFormat)
+        subject.Call(member, path, FormatArgument(Host(), m_version, extension));
+    else
+        subject.Call(member, path);
+    return {std::move(path), std::move(copy)};
+}
+
+void HostDocument::SetInteractive(bool interactive) const noexcept
+{
+    if (m_traits != nullptr && m_traits->hasInteractive)
+        Ignoring([&] { m_application.Put(L"Interactive", interactive); });
 }
 
 } // namespace corvane

@@ -12,6 +12,7 @@ namespace
 {
 
 constexpr int kLastClassic = kFirstRibbonVersion - 1;
+constexpr int kWord2002 = 10;
 
 // WdSaveFormat
 constexpr SaveFormat kWordFormats[] = {
@@ -56,10 +57,42 @@ constexpr SaveFormat kPowerPointFormats[] = {
 constexpr SaveFormat kOutlookFormats[] = {{L".msg", 9}};
 
 constexpr HostTraits kHosts[] = {
-    {kWordName, L".doc", L".docx", L".docm", kWordFormats},
-    {kExcelName, L".xls", L".xlsx", L".xlsm", kExcelFormats},
-    {kPowerPointName, L".ppt", L".pptx", L".pptm", kPowerPointFormats},
-    {kOutlookName, L".msg", L".msg", L".msg", kOutlookFormats},
+    {.name = kWordName,
+     .classicExtension = L".doc",
+     .extension = L".docx",
+     .macroExtension = L".docm",
+     .formats = kWordFormats,
+     .activeDocument = L"ActiveDocument",
+     .documents = L"Documents",
+     .versionWithoutMacros = kWord2002},
+    {.name = kExcelName,
+     .classicExtension = L".xls",
+     .extension = L".xlsx",
+     .macroExtension = L".xlsm",
+     .formats = kExcelFormats,
+     .activeDocument = L"ActiveWorkbook",
+     .documents = L"Workbooks",
+     .copy = {L"SaveCopyAs"},
+     .editingBar = L"Worksheet Menu Bar",
+     .hasInteractive = true,
+     .firstBlindToProperties = kFirstRibbonVersion},
+    {.name = kPowerPointName,
+     .classicExtension = L".ppt",
+     .extension = L".pptx",
+     .macroExtension = L".pptm",
+     .formats = kPowerPointFormats,
+     .activeDocument = L"ActivePresentation",
+     .documents = L"Presentations",
+     .copy = {L"SaveCopyAs", true},
+     .namesDocumentOfMacro = true},
+    {.name = kOutlookName,
+     .classicExtension = L".msg",
+     .extension = L".msg",
+     .macroExtension = L".msg",
+     .formats = kOutlookFormats,
+     .inspector = L"ActiveInspector",
+     .documentName = L"Subject",
+     .copy = {L"SaveAs", true}},
 };
 
 bool Writes(const HostTraits& host, std::wstring_view extension)

@@ -1,7 +1,8 @@
-// What sets the hosts apart in names, extensions and file formats.
+// What sets the hosts apart: names, extensions, file formats and object models.
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <span>
 #include <string>
@@ -19,6 +20,14 @@ struct SaveFormat
     int lastVersion = 10000;
 };
 
+// The member by which a document writes a copy of itself; without a name there is none.
+struct CopyMember
+{
+    const wchar_t* name = nullptr;
+    bool takesFormat = false;
+};
+
+// One host. Members of object models that it does not have are null.
 struct HostTraits
 {
     const wchar_t* name;             // Application.Name
@@ -26,6 +35,19 @@ struct HostTraits
     const wchar_t* extension;        // from version 12 on,
     const wchar_t* macroExtension;   // and then of one with macros, which the other cannot hold
     std::span<const SaveFormat> formats;
+
+    const wchar_t* activeDocument = nullptr; // of the application; its items are else neither files nor carry
+                                             // properties,
+    const wchar_t* inspector = nullptr;      // and one of these shows the item
+    const wchar_t* documents = nullptr;
+    const wchar_t* documentName = L"Name";
+    CopyMember copy{};
+    const wchar_t* editingBar = nullptr; // whose New is out of use while a cell or an object is edited
+    bool hasInteractive = false;         // the host's user can be kept out
+    bool namesDocumentOfMacro = false;
+    int versionWithoutMacros = 0; // the one in which the macros around a save do not run
+    // From this version on a new property value alone does not count as a change.
+    int firstBlindToProperties = std::numeric_limits<int>::max();
 };
 
 // The host of an application's name; null for a program that is none of the four.

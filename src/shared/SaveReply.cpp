@@ -1,6 +1,6 @@
 #include "shared/SaveReply.h"
 
-#include "shared/HostVersion.h"
+#include "shared/HostTraits.h"
 #include "support/Conversions.h"
 
 namespace corvane
@@ -14,8 +14,6 @@ struct Prefix
     ReplyKind kind;
 };
 constexpr Prefix kPrefixes[] = {{L"CancelMessage:", ReplyKind::Cancelled}, {L"BrokenLinks:", ReplyKind::BrokenLinks}};
-
-constexpr int kWord2002 = 10;
 
 } // namespace
 
@@ -31,7 +29,7 @@ SaveReply ReadSaveReply(std::wstring_view answer)
 bool WantsClientEvents(const ClientEventFacts& facts)
 {
     if (facts.doEvents) return ToBooleanSafe(*facts.doEvents);
-    return facts.hostName != kWordName || MajorVersion(facts.hostVersion) != kWord2002;
+    return facts.host == nullptr || facts.hostVersion != facts.host->versionWithoutMacros;
 }
 
 } // namespace corvane

@@ -8,6 +8,8 @@
 namespace corvane
 {
 
+struct HostTraits;
+
 enum class ReplyKind
 {
     Nothing,
@@ -29,8 +31,8 @@ struct SaveReply
 struct ClientEventFacts
 {
     std::optional<std::wstring> doEvents; // the document's own switch, when it has one
-    std::wstring hostName;
-    std::wstring hostVersion;
+    const HostTraits* host = nullptr;     // null for none of the four
+    int hostVersion = 0;
 };
 
 // The decision before the server's switch is asked. Without a switch in the document only Word 2002 (10) stays out.

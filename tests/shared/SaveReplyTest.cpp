@@ -1,4 +1,5 @@
 #include "shared/SaveReply.h"
+#include "shared/HostTraits.h"
 #include "shared/HostVersion.h"
 
 #include <gtest/gtest.h>
@@ -56,7 +57,7 @@ TEST(ClientEvents, FollowTheDocumentsSwitchAndElseRunEverywhereButInWord2002)
         {"EmptySwitch", L"", kPowerPointName, L"16.0", false},
     };
     for (const auto& item : kCases) {
-        ClientEventFacts facts{std::nullopt, item.host, item.version};
+        ClientEventFacts facts{std::nullopt, FindHost(item.host), MajorVersion(item.version)};
         if (item.doEvents != nullptr) facts.doEvents = item.doEvents;
         EXPECT_EQ(WantsClientEvents(facts), item.expected) << item.name;
     }

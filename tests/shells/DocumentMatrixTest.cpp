@@ -8,10 +8,9 @@
 #include "platform/Procedure.h"
 #include "shared/DocumentNames.h"
 #include "shared/DocumentProperties.h"
-#include "shared/HostDocument.h"
+#include "shared/DocumentUpload.h"
 #include "shared/HostTraits.h"
 #include "shared/HostVersion.h"
-#include "webservice/Transfer.h"
 
 #include <cstdio>
 #include <gtest/gtest.h>
@@ -60,6 +59,7 @@ class Matrix : public host::test::HostTest
 protected:
     void Play(const HostRow& row, const wchar_t* version, const State& state);
     LateBound App() { return LateBound{ComPtr<IDispatch>{&session->Application()}}; }
+    HostDocument Active() { return HostDocument{App()}; }
     Result Save();
 
     Apartment m_apartment;
@@ -79,27 +79,17 @@ std::wstring ExtensionOfNew(const HostRow& row, const wchar_t* version, const St
     return DefaultExtension(*FindHost(row.name), MajorVersion(version), state.settings.contains("document.macros"));
 }
 
-// The steps of a save from the command to the upload, as the save dialogs take them.
+// What a save command makes of the document.
 Result Matrix::Save()
 {
+    if (IsEditing(App())) return {"editing", {}};
+    HostDocument document = Active();
+    if (!document.IsOpen()) return {"no document", {}};
     Result result;
-    const LateBound application = App();
-    if (IsEditing(application)) return {"editing", {}};
-    if (!IsDocumentOpen(application)) return {"no document", {}};
     const auto failure = Catch([&] {
-        const LateBound inspector = OutlookInspectorOf(application);
-        if (CanCarryProperties(application)) {
-            RequireNotFinal(application);
-            SetBindingProperties(application, kBinding);
-            MarkDocumentChanged(application);
-        }
-        const std::wstring title = DocumentTitle(application, inspector);
-        const SavedDocument file = SaveDocumentToDisk(application, inspector);
-        result.uploadName = UploadNameOf(title, file.path);
-        ExecuteASPWSUploadFile(L"http://h", file.path, result.uploadName);
-        const bool inDocuments = file.path.starts_with(DocumentsFolder());
-        result.outcome = file.copy ? "a copy" : inDocuments ? "in Documents" : "in place";
-        result.uploaded = true;
+        const UploadedDocument uploaded = UploadDocument(document, kBinding);
+        const bool inDocuments = uploaded.file.path.starts_with(DocumentsFolder());
+        result = {uploaded.file.copy ? "a copy" : inDocuments ? "in Documents" : "in place", uploaded.name, true};
     });
     if (failure) result.outcome = host::Narrow(failure->Description());
     return result;
@@ -108,7 +98,7 @@ Result Matrix::Save()
 std::wstring Matrix::FileOf(const State& state, const std::wstring& extension)
 {
     session->New();
-    const LateBound document = ActiveDocument(App());
+    const LateBound document = Active().Active();
     const bool isNamed = state.document == Document::File || state.document == Document::Shared;
     document.Call(L"SaveAs", folder.File(isNamed ? state.fileName + extension : L"x"));
     std::wstring path = document.Text(L"FullName");
@@ -137,11 +127,11 @@ void Matrix::OpenDocument(const HostRow& row, const wchar_t* version, const Stat
 
 void Matrix::ExpectBindingIsWholeOrAsItWas()
 {
-    const DocumentBinding binding = ReadBinding(App());
+    const DocumentBinding binding = ReadBinding(Active());
     EXPECT_TRUE(binding.server.empty() == (binding.projectId == 0) &&
                 (binding.projectId == 0) == (binding.deliverableId == 0));
     for (const auto& property : kBindingProperties)
-        EXPECT_EQ(CustomPropertyExists(App(), property.name), !binding.server.empty()) << property.name;
+        EXPECT_EQ(CustomPropertyExists(Active(), property.name), !binding.server.empty()) << property.name;
 }
 
 void Matrix::ExpectUploadCarriesTheBinding(const HostRow& row, const wchar_t* version, const Result& result)
@@ -155,8 +145,8 @@ void Matrix::ExpectUploadCarriesTheBinding(const HostRow& row, const wchar_t* ve
     if (row.bit == kOutlook) return;
     Start(row.option, version);
     session->Open(path, true);
-    EXPECT_EQ(ReadBinding(App()).server, kBinding.server);
-    EXPECT_EQ(ReadBinding(App()).deliverableId, kBinding.deliverableId);
+    EXPECT_EQ(ReadBinding(Active()).server, kBinding.server);
+    EXPECT_EQ(ReadBinding(Active()).deliverableId, kBinding.deliverableId);
     session.reset();
     ::DeleteFileW(path.c_str());
 }
@@ -170,7 +160,7 @@ void Matrix::Play(const HostRow& row, const wchar_t* version, const State& state
                 result.uploaded ? ", uploaded as " : "", host::Narrow(result.uploadName).c_str());
     EXPECT_NE(result.outcome.find(state.outcome), std::string::npos);
     EXPECT_EQ(result.uploaded, state.uploadName != nullptr);
-    if (row.bit != kOutlook && IsDocumentOpen(App())) ExpectBindingIsWholeOrAsItWas();
+    if (row.bit != kOutlook && Active().IsOpen()) ExpectBindingIsWholeOrAsItWas();
     if (!result.uploaded) return;
     std::wstring name = state.uploadName;
     if (name.ends_with(L'*')) name.replace(name.size() - 1, 1, ExtensionOfNew(row, version, state));
@@ -221,23 +211,23 @@ TEST_F(Matrix, LetsExcelAloneBeInteractiveOrNot)
 {
     Start("excel");
     for (const bool interactive : {false, true}) {
-        SetExcelInteractive(App(), interactive);
+        Active().SetInteractive(interactive);
         EXPECT_EQ(App().Number(L"Interactive") != 0, interactive);
     }
     Start("word");
-    SetExcelInteractive(App(), false); // no member, no error
+    Active().SetInteractive(false); // no member, no error
 }
 
 TEST_F(Matrix, TakesTheStartOfAMailsBodyAndNoAuthorFromIt)
 {
     Start("outlook", L"16.0", {{"mail.body", std::string(300, 'b')}});
     session->New();
-    EXPECT_EQ(ItemBodyStart(App(), OutlookInspectorOf(App())), std::wstring(200, L'b'));
-    EXPECT_EQ(DocumentAuthor(App()), L"");
+    EXPECT_EQ(Active().BodyStart(), std::wstring(200, L'b'));
+    EXPECT_EQ(Active().Author(), L"");
     Start("excel");
     session->New();
-    EXPECT_EQ(ItemBodyStart(App(), {}), L"");
-    EXPECT_EQ(DocumentAuthor(App()), L"Stand-in User");
+    EXPECT_EQ(Active().BodyStart(), L"");
+    EXPECT_EQ(Active().Author(), L"Stand-in User");
 }
 
 } // namespace

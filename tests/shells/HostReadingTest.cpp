@@ -57,7 +57,7 @@ TEST(Binding, IsReadInTheOrderOfTheInterface)
 {
     const Apartment apartment;
     const auto readings = host::MakeObject<Readings>();
-    const DocumentBinding binding = ReadBinding(LateBound{ComPtr<IDispatch>{readings.Get()}});
+    const DocumentBinding binding = ReadBinding(HostDocument{LateBound{ComPtr<IDispatch>{readings.Get()}}});
     EXPECT_EQ(readings->names, (std::vector<std::wstring>{
                                    L"KRX_SYS_Server", L"KRX_SYS_ProjectID", L"KRX_SYS_DeliverableID",
                                    L"KRX_SYS_GateDocumentID", L"KRX_SYS_ActivityID", L"KRX_SYS_RelatedFileID",
@@ -76,13 +76,13 @@ protected:
     {
         Start(hostName, version);
         session->New();
-        m_application = LateBound{ComPtr<IDispatch>{&session->Application()}};
-        ActiveDocument(m_application).Call(L"SaveAs", folder.File(L"a"));
-        return ActiveDocument(m_application);
+        m_document = HostDocument{LateBound{ComPtr<IDispatch>{&session->Application()}}};
+        m_document.Active().Call(L"SaveAs", folder.File(L"a"));
+        return m_document.Active();
     }
 
     Apartment m_apartment;
-    LateBound m_application;
+    HostDocument m_document;
 };
 
 TEST_F(Writing, OfABindingKeepsTypesAndPutsAllBackWhereOneValueIsRefused)
@@ -92,12 +92,12 @@ TEST_F(Writing, OfABindingKeepsTypesAndPutsAllBackWhereOneValueIsRefused)
     properties.Call(L"Add", L"KRX_SYS_ProjectID", false, kPropertyText, L"7");
     properties.Call(L"Add", L"KRX_SYS_GateDocumentID", false, kDate, 1);
     DocumentBinding binding{{.projectId = 12, .gateDocumentId = 1 << 30}, L"http://h"}; // beyond all dates
-    EXPECT_TRUE(Catch([&] { SetBindingProperties(m_application, binding); }));
-    EXPECT_EQ(GetCustomProperty(m_application, L"KRX_SYS_ProjectID"), L"7");
+    EXPECT_TRUE(Catch([&] { SetBindingProperties(m_document, binding); }));
+    EXPECT_EQ(GetCustomProperty(m_document, L"KRX_SYS_ProjectID"), L"7");
     EXPECT_EQ(properties.Number(L"Count"), 2);
     binding.gateDocumentId = 2;
-    SetBindingProperties(m_application, binding);
-    EXPECT_EQ(GetCustomProperty(m_application, L"KRX_SYS_ProjectID"), L"12");
+    SetBindingProperties(m_document, binding);
+    EXPECT_EQ(GetCustomProperty(m_document, L"KRX_SYS_ProjectID"), L"12");
     EXPECT_EQ(properties.Object(L"Item", L"KRX_SYS_ProjectID").Number(L"Type"), kPropertyText);
 }
 
@@ -105,7 +105,7 @@ TEST_F(Writing, CountsAsAChangeInExcelFromVersion12On)
 {
     const auto isSaved = [&](const char* hostName, const wchar_t* version) {
         const LateBound document = NewDocument(hostName, version);
-        SetBindingProperties(m_application, {});
+        SetBindingProperties(m_document, {});
         return document.Number(L"Saved") != 0;
     };
     EXPECT_FALSE(isSaved("excel", L"12.0"));
@@ -127,13 +127,13 @@ protected:
     {
         Start(hostName, version);
         session->New();
-        const LateBound application{ComPtr<IDispatch>{&session->Application()}};
+        const HostDocument document{LateBound{ComPtr<IDispatch>{&session->Application()}}};
         constexpr std::int32_t kText = 4;
         if (value != nullptr)
-            ActiveDocument(application)
+            document.Active()
                 .Object(L"CustomDocumentProperties")
                 .Call(L"Add", L"KRX_SYS_DoEvents", false, kText, value);
-        return ClientEventsEnabled(application);
+        return ClientEventsEnabled(document);
     }
 
     Apartment m_apartment;

@@ -165,7 +165,7 @@ TEST_F(Menus, KeepExcelFromItsUserWhileTheDialogRunsAfterTheTree)
     for (const bool fails : {false, true}) {
         Start("excel");
         session->New();
-        SetBindingProperties(App(), {{.projectId = 12}, L"http://h"});
+        SetBindingProperties(HostDocument{App()}, {{.projectId = 12}, L"http://h"});
         int dialogs = 0;
         CAddInMenus menus{{[&](frmBusy& busy) {
             ++dialogs;

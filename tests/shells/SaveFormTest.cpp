@@ -64,7 +64,7 @@ protected:
         dialog.ServerURL = L"http://h";
         dialog.ProjectID = 1;
         (target.isActivity ? dialog.ActivityID : dialog.DeliverableID) = 1;
-        dialog.oApplication = LateBound{ComPtr<IDispatch>{&session->Application()}};
+        dialog.Document = HostDocument{LateBound{ComPtr<IDispatch>{&session->Application()}}};
         dialog.Load();
     }
     static bool IsWaiting() { return ::GetCursor() == ::LoadCursorW(nullptr, IDC_WAIT); }
