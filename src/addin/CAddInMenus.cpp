@@ -10,6 +10,7 @@
 #include "shared/HostDocument.h"
 #include "shared/HostVersion.h"
 #include "support/CCustomNames.h"
+#include "support/CTraceLog.h"
 #include "support/Conversions.h"
 #include "support/Help.h"
 #include "support/frmAbout.h"
@@ -69,37 +70,33 @@ std::wstring CAddInMenus::GetOutlookRibbonXML() const noexcept
 
 void CAddInMenus::RibbonHandler2(const std::wstring& controlId) noexcept
 {
-    switch (RibbonCommandOf(controlId)) {
-    case RibbonCommand::None:
-        return;
-    case RibbonCommand::SaveAssignment:
-        return SaveAssignmentClickHelper(L"CAddInMenus.rbnSaveAsAssignment_Click");
-    case RibbonCommand::SaveRelatedDoc:
-        return SaveRelatedDocClickHelper(L"CAddInMenus.rbnSaveAsRelatedDoc_Click");
-    case RibbonCommand::SaveGateDoc:
-        return SaveGateDocClickHelper(L"CAddInMenus.rbnSaveAsGateDoc_Click");
-    case RibbonCommand::HelpTopics:
-        return ShowHelp(L"CAddInMenus.rbnHelpTopics_Click");
-    case RibbonCommand::HelpAbout:
-        return ShowAbout(L"CAddInMenus.rbnHelpAbout_Click");
-    }
+    if (const Command* const command = FindCommand(controlId)) Run(*command, command->ribbonClick);
 }
 
-void CAddInMenus::ShowHelp(std::wstring_view caller) const noexcept
+void CAddInMenus::Run(const Command& command, std::wstring_view caller) noexcept
 {
-    AtHostBoundary(caller, [this] {
+    if (command.save != nullptr) return RunSave(*command.save, caller);
+    AtHostBoundary(caller, [&] {
         SetHostWindow(WindowOf(m_oApplication));
-        ShowHelpContents();
-    });
-}
-
-void CAddInMenus::ShowAbout(std::wstring_view caller) const noexcept
-{
-    AtHostBoundary(caller, [this] {
-        SetHostWindow(WindowOf(m_oApplication));
+        if (command.kind == CommandKind::HelpTopics) return ShowHelpContents();
         frmAbout about;
         about.ShowModal();
     });
+}
+
+void CAddInMenus::CreateMenus(const LateBound& oCommandBar)
+{
+    const ProcedureScope scope{L"CAddInMenus.CreateMenus"};
+    TraceVariable(L"oCommandBar.Name", oCommandBar.Text(L"Name"));
+    DeleteMenus(oCommandBar); // what a crashed run left behind
+    m_barMenus.Create(oCommandBar, m_captions);
+}
+
+void CAddInMenus::DeleteMenus(const LateBound& oCommandBar) noexcept
+{
+    const ProcedureScope scope{L"CAddInMenus.DeleteMenus"};
+    Ignoring([&] { TraceVariable(L"oCommandBar.Name", oCommandBar.Text(L"Name")); });
+    m_barMenus.Delete(oCommandBar);
 }
 
 void CAddInMenus::InvalidateControls() const noexcept

@@ -1,27 +1,26 @@
 // The add-in's commands: what ribbon buttons, command-bar buttons and CController lead to.
 #pragma once
 
+#include "addin/CommandBarMenus.h"
+#include "addin/Commands.h"
 #include "addin/RibbonElement.h"
-#include "addin/SaveCommand.h"
-#include "addin/UICaptions.h"
-#include "platform/EventSubscription.h"
 #include "platform/LateBound.h"
 #include "selection/frmBusy.h"
 
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace corvane
 {
 
-struct MenuButton;
-
+// Makes the ribbon and the menus, and runs the commands that they lead to.
 class CAddInMenus
 {
 public:
     // The procedures that the busy window runs for the save commands.
     explicit CAddInMenus(SaveProcedures procedures) : m_procedures{std::move(procedures)} {}
+    CAddInMenus(const CAddInMenus&) = delete;
+    CAddInMenus& operator=(const CAddInMenus&) = delete;
 
     void SetApplication(LateBound application) { m_oApplication = std::move(application); }
     // The ribbon object that the host hands over; kept for InvalidateControls.
@@ -45,26 +44,21 @@ public:
     void CreateMenus(const LateBound& oCommandBar);
     void DeleteMenus(const LateBound& oCommandBar) noexcept;
 
-    // The save commands, under the trace name of what started them. Errors are reported.
-    void SaveAssignmentClickHelper(std::wstring_view caller) noexcept { RunSave(kSaveAssignment, caller); }
-    void SaveGateDocClickHelper(std::wstring_view caller) noexcept { RunSave(kSaveGateDoc, caller); }
-    void SaveRelatedDocClickHelper(std::wstring_view caller) noexcept { RunSave(kSaveRelatedDoc, caller); }
+    // Runs a command, under the trace name of what started it. Errors are reported.
+    void Run(const Command& command, std::wstring_view caller) noexcept;
 
 private:
     [[nodiscard]] std::wstring RibbonXml(std::wstring_view procedure, RibbonTab tab) const noexcept;
     void RunSave(const SaveCommand& command, std::wstring_view caller) noexcept;
     void Save(const SaveCommand& command, const HostDocument& document, frmBusy& busy);
     void PickTarget(const SaveCommand& command);
-    void ShowHelp(std::wstring_view caller) const noexcept;
-    void ShowAbout(std::wstring_view caller) const noexcept;
     [[nodiscard]] int HostVersion() const;
-    void SetUpButton(const LateBound& control, const MenuButton& button);
 
     LateBound m_oApplication;
     LateBound rbnRibbonUI;
     SaveProcedures m_procedures;
     UICaptions m_captions;
-    std::vector<EventSubscription> m_clicks; // of the command-bar buttons
+    CommandBarMenus m_barMenus{[this](const Command& command) { Run(command, command.barClick); }};
 
     // What the last command read from the active document.
     DocumentBinding m_binding;

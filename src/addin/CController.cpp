@@ -7,31 +7,23 @@
 namespace corvane
 {
 
-HRESULT CController::Start(const wchar_t* method, Command command) noexcept
+HRESULT CController::Start(CommandKind kind) noexcept
 {
-    const auto failure = Catch([&] { ((*AddInMenus()).*command)(L"Custom"); });
+    const Command& command = CommandOf(kind);
+    const auto failure = Catch([&] { AddInMenus()->Run(command, L"Custom"); });
     if (!failure) return S_OK;
     Ignoring([&] {
         ::SetCursor(::LoadCursorW(nullptr, IDC_ARROW));
-        ShowMessage(std::wstring{L"CController"} + method + L"\r\n" + failure->Description(), kStylePlain,
+        ShowMessage(std::wstring{L"CController."} + command.method + L"\r\n" + failure->Description(), kStylePlain,
                     L"CorvaneMSOffice");
     });
     return S_OK;
 }
 
-STDMETHODIMP CController::SaveAsAssignement() noexcept
-{
-    return Start(L".SaveAsAssignement", &CAddInMenus::SaveAssignmentClickHelper);
-}
+STDMETHODIMP CController::SaveAsAssignement() noexcept { return Start(CommandKind::SaveAssignment); }
 
-STDMETHODIMP CController::SaveGateDoc() noexcept
-{
-    return Start(L".SaveGateDoc", &CAddInMenus::SaveGateDocClickHelper);
-}
+STDMETHODIMP CController::SaveGateDoc() noexcept { return Start(CommandKind::SaveGateDoc); }
 
-STDMETHODIMP CController::SaveRelatedDoc() noexcept
-{
-    return Start(L".SaveRelatedDoc", &CAddInMenus::SaveRelatedDocClickHelper);
-}
+STDMETHODIMP CController::SaveRelatedDoc() noexcept { return Start(CommandKind::SaveRelatedDoc); }
 
 } // namespace corvane

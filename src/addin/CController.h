@@ -2,12 +2,11 @@
 #pragma once
 
 #include "addin.h"
+#include "addin/Commands.h"
 #include "platform/ComObject.h"
 
 namespace corvane
 {
-
-class CAddInMenus;
 
 // Starts a command of the connected add-in; when there is none it says so in a message of its own.
 class CController final : public ComObject<CController, Dispatched<_CController>>
@@ -18,8 +17,7 @@ public:
     STDMETHODIMP SaveRelatedDoc() noexcept override;
 
 private:
-    using Command = void (CAddInMenus::*)(std::wstring_view caller) noexcept;
-    static HRESULT Start(const wchar_t* method, Command command) noexcept;
+    static HRESULT Start(CommandKind kind) noexcept;
 };
 
 } // namespace corvane

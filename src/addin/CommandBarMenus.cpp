@@ -1,22 +1,10 @@
-// The add-in's entries in the menus of hosts without a ribbon.
-#include "addin/CAddInMenus.h"
+#include "addin/CommandBarMenus.h"
 
 #include "platform/Procedure.h"
-#include "support/CTraceLog.h"
 #include "support/Conversions.h"
 
 namespace corvane
 {
-
-// One of the add-in's buttons: its tag, and the command that its click runs under a trace name.
-struct MenuButton
-{
-    const wchar_t* tag;
-    std::wstring caption;
-    const wchar_t* caller;
-    void (*run)(CAddInMenus& menus, std::wstring_view caller);
-};
-
 namespace
 {
 
@@ -33,8 +21,6 @@ constexpr std::int32_t kButtonCaption = 1; // msoButtonCaption
 constexpr std::int32_t kAnyId = 1;
 
 constexpr const wchar_t* kSavePopupTag = L"KRXSaveToCorvane";
-constexpr const wchar_t* kHelpTag = L"KRXMSOHelp";
-constexpr const wchar_t* kAboutTag = L"KRXAboutMSO";
 
 // _CommandBarButtonEvents and its Click.
 constexpr IID kButtonEvents = {0x000C0351, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
@@ -101,63 +87,54 @@ void Present(const LateBound& control)
 
 } // namespace
 
-void CAddInMenus::SetUpButton(const LateBound& control, const MenuButton& button)
+void CommandBarMenus::SetUpButton(const LateBound& control, const Command& command, const UICaptions& captions)
 {
-    m_clicks.emplace_back(control.Get(), kButtonEvents,
-                          [this, caller = button.caller, run = button.run](DISPID member, const DISPPARAMS&) {
-                              if (member == kClick) run(*this, caller);
-                          });
+    m_clicks.emplace_back(control.Get(), kButtonEvents, [this, &command](DISPID member, const DISPPARAMS&) {
+        if (member == kClick) m_clicked(command);
+    });
     Present(control);
     control.Put(L"Style", kButtonCaption);
-    control.Put(L"Caption", EscapeAmpersands(button.caption));
-    control.Put(L"Tag", button.tag);
+    control.Put(L"Caption", EscapeAmpersands(command.menuText.In(captions)));
+    control.Put(L"Tag", command.tag);
 }
 
-void CAddInMenus::CreateMenus(const LateBound& oCommandBar)
+void CommandBarMenus::Create(const LateBound& bar, const UICaptions& captions)
 {
-    const ProcedureScope scope{L"CAddInMenus.CreateMenus"};
-    TraceVariable(L"oCommandBar.Name", oCommandBar.Text(L"Name"));
-    DeleteMenus(oCommandBar); // what a crashed run left behind
+    AddSaves(bar, captions);
+    AddHelp(bar, captions);
+}
 
-    const LateBound file = MenuControls(oCommandBar, kFileMenu, kStrictly);
-    const std::int32_t savePosition = PositionBehind(file, kSaveAs, file.Number(L"Count"));
-    const LateBound popup{file.Call(L"Add", kControlPopup, kAnyId, kSavePopupTag, savePosition, true).Object()};
+void CommandBarMenus::AddSaves(const LateBound& bar, const UICaptions& captions)
+{
+    const LateBound file = MenuControls(bar, kFileMenu, kStrictly);
+    const std::int32_t position = PositionBehind(file, kSaveAs, file.Number(L"Count"));
+    const LateBound popup{file.Call(L"Add", kControlPopup, kAnyId, kSavePopupTag, position, true).Object()};
     Present(popup);
     popup.Put(L"Tag", kSavePopupTag);
-    popup.Put(L"Caption", EscapeAmpersands(m_captions.saveToCorvane));
-
+    popup.Put(L"Caption", EscapeAmpersands(captions.saveToCorvane));
     const LateBound saves = popup.Object(L"Controls");
-    const MenuButton buttons[] = {
-        {L"KRXSaveAssignement", m_captions.saveAsDelivActMenu, L"CAddInMenus.cbrSaveAsAssignment_Click",
-         [](CAddInMenus& menus, std::wstring_view caller) { menus.SaveAssignmentClickHelper(caller); }},
-        {L"KRXSaveRelatedDoc", L"Save as Related Document...", L"CAddInMenus.cbrSaveAsRelatedDoc_Click",
-         [](CAddInMenus& menus, std::wstring_view caller) { menus.SaveRelatedDocClickHelper(caller); }},
-        {L"KRXSaveGateDoc", m_captions.saveAsGateDocMenu, L"CAddInMenus.cbrSaveAsGateDoc_Click",
-         [](CAddInMenus& menus, std::wstring_view caller) { menus.SaveGateDocClickHelper(caller); }},
-    };
-    for (const MenuButton& button : buttons)
-        SetUpButton(LateBound{saves.Call(L"Add", kControlButton).Object()}, button);
-
-    const LateBound help = MenuControls(oCommandBar, kHelpMenu, kStrictly);
-    const auto addToHelp = [&](const wchar_t* tag, Variant before) {
-        return LateBound{help.Call(L"Add", kControlButton, Variant::Missing(), tag, std::move(before), true).Object()};
-    };
-    SetUpButton(addToHelp(kHelpTag, PositionBehind(help, kHelpAnchor, kDefaultHelpPosition)),
-                {kHelpTag, L"Corvane for MS Office Help", L"CAddInMenus.cbrHelpTopics_Click",
-                 [](CAddInMenus& menus, std::wstring_view caller) { menus.ShowHelp(caller); }});
-    SetUpButton(addToHelp(kAboutTag, Variant::Missing()),
-                {kAboutTag, L"About Corvane for MS Office", L"CAddInMenus.cbrHelpAbout_Click",
-                 [](CAddInMenus& menus, std::wstring_view caller) { menus.ShowAbout(caller); }});
+    for (const Command& command : SaveCommands())
+        SetUpButton(LateBound{saves.Call(L"Add", kControlButton).Object()}, command, captions);
 }
 
-void CAddInMenus::DeleteMenus(const LateBound& oCommandBar) noexcept
+void CommandBarMenus::AddHelp(const LateBound& bar, const UICaptions& captions)
 {
-    const ProcedureScope scope{L"CAddInMenus.DeleteMenus"};
-    Ignoring([&] { TraceVariable(L"oCommandBar.Name", oCommandBar.Text(L"Name")); });
+    const LateBound help = MenuControls(bar, kHelpMenu, kStrictly);
+    // The first goes behind the host's own help, the others to the end.
+    Variant before = PositionBehind(help, kHelpAnchor, kDefaultHelpPosition);
+    for (const Command& command : HelpCommands()) {
+        const Variant added = help.Call(L"Add", kControlButton, Variant::Missing(), command.tag,
+                                        std::exchange(before, Variant::Missing()), true);
+        SetUpButton(LateBound{added.Object()}, command, captions);
+    }
+}
+
+void CommandBarMenus::Delete(const LateBound& bar) noexcept
+{
     m_clicks.clear();
-    RemoveTag(oCommandBar, kFileMenu, kSavePopupTag);
-    RemoveTag(oCommandBar, kHelpMenu, kHelpTag);
-    RemoveTag(oCommandBar, kHelpMenu, kAboutTag);
+    RemoveTag(bar, kFileMenu, kSavePopupTag);
+    for (const Command& command : HelpCommands())
+        RemoveTag(bar, kHelpMenu, command.tag);
 }
 
 } // namespace corvane

@@ -1,5 +1,6 @@
 #include "addin/RibbonElement.h"
 
+#include "addin/Commands.h"
 #include "shared/HostVersion.h"
 #include "support/Conversions.h"
 
@@ -23,23 +24,12 @@ void FillOfficeMenu(RibbonElement& ribbon, const UICaptions& captions)
                                              {L"visible", L"true"},
                                              {L"enabled", L"true"},
                                              {L"itemSize", L"large"}});
-    const struct
-    {
-        const wchar_t* id;
-        std::wstring label;
-        const wchar_t* image;
-        std::wstring description;
-    } kCommands[] = {
-        {L"DelivAct", captions.saveAsDelivActMenu, L"MasterDocument", captions.delivActTip},
-        {L"Related", L"Save as Related Document...", L"ReviewCompareMenu", captions.relatedTip},
-        {L"GateDoc", captions.saveAsGateDocMenu, L"MasterDocument", captions.gateDocTip},
-    };
     RibbonButton button;
-    for (const auto& [id, label, image, description] : kCommands) {
-        button.id = id;
-        button.label = Esc(label);
-        button.imageMso = image;
-        button.description = description;
+    for (const Command& command : SaveCommands()) {
+        button.id = command.controlId;
+        button.label = Esc(command.menuText.In(captions));
+        button.imageMso = command.image;
+        button.description = command.tip.In(captions);
         button.onAction = kHandler;
         AddButton(menu, button);
     }
@@ -55,16 +45,12 @@ void FillBackstage(RibbonElement& root, const UICaptions& captions)
             .Add(L"firstColumn")
             .Add(L"taskGroup", {{L"id", L"TaskGroupSaveToCorvane"}, {L"label", L" "}})
             .Add(L"category", {{L"id", L"CategorySaveToCorvane"}, {L"label", captions.saveToCorvaneTip}});
-    const auto addTask = [&category](const wchar_t* id, const std::wstring& label, const wchar_t* image) {
-        category.Add(L"task", {{L"id", id},
-                               {L"label", label},
-                               {L"imageMso", image},
+    for (const Command& command : SaveCommands())
+        category.Add(L"task", {{L"id", command.controlId},
+                               {L"label", command.ribbonText.In(captions)},
+                               {L"imageMso", command.image},
                                {L"onAction", kHandler},
                                {L"isDefinitive", L"true"}});
-    };
-    addTask(L"DelivAct", captions.saveAsDelivActLabel, L"MasterDocument");
-    addTask(L"Related", L"Save as Related Document", L"ReviewCompareMenu");
-    addTask(L"GateDoc", captions.saveAsGateDocLabel, L"MasterDocument");
 }
 
 void FillHelpTab(RibbonElement& tabs, const UICaptions& captions, RibbonTab kind)
@@ -82,19 +68,15 @@ void FillHelpTab(RibbonElement& tabs, const UICaptions& captions, RibbonTab kind
                                               {L"imageMso", L"FunctionsLogicalInsertGallery"},
                                               {L"size", L"large"}});
     RibbonButton button;
-    const auto addButton = [&](const wchar_t* buttonId, const std::wstring& label, const wchar_t* image,
-                               const wchar_t* screentip, const std::wstring& supertip) {
-        button.id = buttonId;
-        button.label = Esc(label);
-        button.imageMso = image;
-        button.screentip = Esc(screentip);
-        button.supertip = supertip;
+    for (const Command& command : HelpCommands()) {
+        button.id = command.controlId;
+        button.label = Esc(command.ribbonText.In(captions));
+        button.imageMso = command.image;
+        button.screentip = Esc(command.screentip);
+        button.supertip = command.tip.In(captions);
         button.onAction = kHandler;
         AddButton(menu, button);
-    };
-    addButton(L"CorvaneOfficeHelp", captions.helpTopicsLabel, L"Help", L"MS Office Add-in Help",
-              captions.helpTopicsTip);
-    addButton(L"AboutCorvaneOffice", captions.aboutLabel, L"Info", L"About MS Office Add-in", captions.aboutTip);
+    }
 }
 
 } // namespace

@@ -35,29 +35,10 @@ DocumentBinding ServerOnly(const DocumentBinding& binding)
     return start;
 }
 
-struct ControlRow
-{
-    std::wstring_view id;
-    RibbonCommand command;
-};
-constexpr ControlRow kControls[] = {
-    {L"DelivAct", RibbonCommand::SaveAssignment},      {L"Related", RibbonCommand::SaveRelatedDoc},
-    {L"GateDoc", RibbonCommand::SaveGateDoc},          {L"CorvaneOfficeHelp", RibbonCommand::HelpTopics},
-    {L"AboutCorvaneOffice", RibbonCommand::HelpAbout},
-};
-
 } // namespace
 
 const SaveCommand kSaveAssignment{0, 0, &NamesAssignment, &NamesAssignment, &AsItIs};
 const SaveCommand kSaveGateDoc{2, 1, &NamesGateDocument, &NamesGateDocument, &AsItIs};
 const SaveCommand kSaveRelatedDoc{1, 2, &NamesRelatedDocument, &NamesRelatedTarget, &ServerOnly};
-
-RibbonCommand RibbonCommandOf(std::wstring_view controlId) noexcept
-{
-    for (const auto& [id, command] : kControls) {
-        if (id == controlId) return command;
-    }
-    return RibbonCommand::None;
-}
 
 } // namespace corvane

@@ -4,7 +4,6 @@
 #include "shared/DocumentBinding.h"
 
 #include <cstdint>
-#include <string_view>
 
 namespace corvane
 {
@@ -25,17 +24,5 @@ struct SaveCommand
 extern const SaveCommand kSaveAssignment;
 extern const SaveCommand kSaveGateDoc;
 extern const SaveCommand kSaveRelatedDoc;
-
-// The commands by the ids of their ribbon controls, compared exactly.
-enum class RibbonCommand
-{
-    None,
-    SaveAssignment,
-    SaveRelatedDoc,
-    SaveGateDoc,
-    HelpTopics,
-    HelpAbout
-};
-[[nodiscard]] RibbonCommand RibbonCommandOf(std::wstring_view controlId) noexcept;
 
 } // namespace corvane

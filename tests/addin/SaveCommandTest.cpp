@@ -1,4 +1,4 @@
-#include "addin/SaveCommand.h"
+#include "addin/Commands.h"
 
 #include <gtest/gtest.h>
 
@@ -68,11 +68,16 @@ TEST(SaveCommand, StartsTheTreeAtTheBoundTargetExceptForARelatedDocument)
     EXPECT_EQ(related.relatedFileId, 0);
 }
 
-TEST(RibbonCommand, IsFoundByTheExactIdOfItsControl)
+TEST(Commands, AreFoundByTheExactIdsOfTheirRibbonControls)
 {
-    EXPECT_EQ(RibbonCommandOf(L"DelivAct"), RibbonCommand::SaveAssignment);
+    for (const auto commands : {SaveCommands(), HelpCommands()}) {
+        for (const Command& command : commands) {
+            EXPECT_EQ(FindCommand(command.controlId), &command);
+            EXPECT_EQ(&CommandOf(command.kind), &command);
+        }
+    }
     for (const auto* id : {L"delivact", L"DelivAct ", L"SaveToCorvane", L""})
-        EXPECT_EQ(RibbonCommandOf(id), RibbonCommand::None) << testing::PrintToString(id);
+        EXPECT_EQ(FindCommand(id), nullptr) << testing::PrintToString(id);
 }
 
 } // namespace corvane
