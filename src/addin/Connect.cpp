@@ -5,6 +5,7 @@
 #include "addin/UICaptions.h"
 #include "forms/Messages.h"
 #include "platform/HResult.h"
+#include "platform/OwnerlessRequests.h"
 #include "platform/Procedure.h"
 #include "shared/HostVersion.h"
 #include "support/CCustomNames.h"
@@ -120,7 +121,7 @@ STDMETHODIMP Connect::OnDisconnection(LONG /*RemoveMode*/, SAFEARRAY** /*custom*
     g_oAddInMenus.reset();
     m_events = EventSubscription{};
     m_oPowerPointApp.Release();
-    HttpRequest::AbortOwnerless();
+    AbortOwnerless();
     CloseHelp();
     SetHostWindow(nullptr);
     return S_OK;

@@ -3,6 +3,7 @@
 #include "platform/Error.h"
 #include "platform/HResult.h"
 #include "platform/MessageLoop.h"
+#include "platform/OwnerlessRequests.h"
 #include "platform/Procedure.h"
 #include "platform/SystemLibrary.h"
 #include "platform/XmlDocument.h"
@@ -12,7 +13,6 @@
 #include <cwchar>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 namespace corvane
 {
@@ -30,43 +30,11 @@ constexpr CLSID kRequestClasses[] = {
     {0x88D96A0A, 0xF192, 0x11D4, {0xA6, 0x5F, 0x00, 0x40, 0x96, 0x32, 0x51, 0xE5}},
 };
 
-// The requests that go on without their owners, oldest first. Never destroyed: at the end of a process without a
-// disconnection their component may already be gone.
-std::vector<ComPtr<IXMLHTTPRequest>>& Ownerless()
-{
-    static auto* const requests = new std::vector<ComPtr<IXMLHTTPRequest>>;
-    return *requests;
-}
-
 long StateOf(IXMLHTTPRequest& request)
 {
     long state = 0;
     Check(request.get_readyState(&state), kWaitSource);
     return state;
-}
-
-// How many may go on. Each holds one of the few connections that the system allows to a server, and a failed one may
-// never come to an end. But Wine gives the connection of an aborted request to the next one, which then reads the late
-// answer of the other.
-std::size_t MostOwnerless() noexcept
-{
-    static const bool isWine = ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-    return isWine ? 256 : 0;
-}
-
-// Lets go of those that have come to an end, and ends the oldest where there are too many.
-void TidyOwnerless()
-{
-    auto& requests = Ownerless();
-    std::erase_if(requests, [](const auto& request) {
-        long state = kComplete;
-        request->get_readyState(&state);
-        return state == kComplete;
-    });
-    while (requests.size() > MostOwnerless()) {
-        requests.front()->abort();
-        requests.erase(requests.begin());
-    }
 }
 
 // The system keeps answers and gives them again to a later GET of the same address, as a browser's; every question to
@@ -111,18 +79,7 @@ HttpRequest& HttpRequest::operator=(HttpRequest other) noexcept
 
 HttpRequest::~HttpRequest()
 {
-    if (!m_underWay) return;
-    Ignoring([this] {
-        Ownerless().push_back(m_request);
-        TidyOwnerless();
-    });
-}
-
-void HttpRequest::AbortOwnerless() noexcept
-{
-    for (const auto& request : Ownerless())
-        request->abort();
-    Ownerless().clear();
+    if (m_underWay) LetGoOf(std::move(m_request));
 }
 
 void HttpRequest::Open(const wchar_t* method, const std::wstring& url)

@@ -24,11 +24,8 @@ public:
     HttpRequest();
     HttpRequest(HttpRequest&& other) noexcept;
     HttpRequest& operator=(HttpRequest other) noexcept;
-    // A request still under way is aborted; under Wine, which cannot bear that, it goes on without its owner.
+    // A request still under way is let go of (OwnerlessRequests.h).
     ~HttpRequest();
-
-    // Ends the requests that go on without their owners.
-    static void AbortOwnerless() noexcept;
 
     // Opens the request asynchronously, without user name and password.
     void Open(const wchar_t* method, const std::wstring& url);

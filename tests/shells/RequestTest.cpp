@@ -7,6 +7,7 @@
 #include "platform/Files.h"
 #include "platform/LateBound.h"
 #include "platform/MessageLoop.h"
+#include "platform/OwnerlessRequests.h"
 #include "platform/Procedure.h"
 #include "webservice/AnswerRules.h"
 #include "webservice/Exchange.h"
@@ -46,7 +47,7 @@ protected:
     ~Request() override
     {
         SetRequestTimeout(0s);
-        HttpRequest::AbortOwnerless();
+        AbortOwnerless();
         EXPECT_EQ(m_transport.references, 0U);
     }
 
@@ -214,7 +215,7 @@ TEST_F(Request, OnlySoManyGoOnAndNoneBeyondTheDisconnection)
         ExpectSendError();
     EXPECT_EQ(m_transport.references, 256U);
     EXPECT_EQ(m_transport.aborted, 4);
-    HttpRequest::AbortOwnerless();
+    AbortOwnerless();
     EXPECT_EQ(m_transport.aborted, 260);
 }
 
