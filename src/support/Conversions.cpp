@@ -112,14 +112,18 @@ std::optional<double> NumberIn(std::wstring_view text)
     return negative ? -value : value;
 }
 
+std::optional<std::int32_t> NearestLong(double number) noexcept
+{
+    const double rounded = std::nearbyint(number); // halves to even in the default rounding mode
+    if (!(rounded >= std::numeric_limits<std::int32_t>::min() && rounded <= std::numeric_limits<std::int32_t>::max()))
+        return std::nullopt;
+    return static_cast<std::int32_t>(rounded);
+}
+
 std::int32_t ToLongSafe(std::wstring_view text)
 {
     const auto number = NumberIn(text);
-    if (!number) return 0;
-    const double rounded = std::nearbyint(*number); // halves to even in the default rounding mode
-    if (!(rounded >= std::numeric_limits<std::int32_t>::min() && rounded <= std::numeric_limits<std::int32_t>::max()))
-        return 0;
-    return static_cast<std::int32_t>(rounded);
+    return number ? NearestLong(*number).value_or(0) : 0;
 }
 
 bool ToBooleanSafe(std::wstring_view text)

@@ -13,7 +13,10 @@ namespace corvane
 // (&H) or octal (&O) form; nothing when the text is no number.
 [[nodiscard]] std::optional<double> NumberIn(std::wstring_view text);
 
-// A 32-bit integer, halves rounded to even; 0 for anything that is not one.
+// The 32-bit integer next to a number, halves rounded to even; nothing where it is out of range.
+[[nodiscard]] std::optional<std::int32_t> NearestLong(double number) noexcept;
+
+// The same of a text; 0 for anything that is not one.
 [[nodiscard]] std::int32_t ToLongSafe(std::wstring_view text);
 
 // True for "true" in any letter case and for a number other than 0; false for everything else.

@@ -35,7 +35,8 @@ std::wstring TraceTabs(std::int32_t level)
 
 std::wstring TraceLine(const LocalTime& time, std::int32_t level, std::int32_t extraIndent, std::wstring_view text)
 {
-    return SortableTime(time) + L"\t" + TraceTabs(std::max(extraIndent, 0) - 1) + TraceTabs(level) + std::wstring{text};
+    const std::wstring extra(static_cast<std::size_t>(std::max(extraIndent, 0)), L'\t');
+    return SortableTime(time) + L"\t" + extra + TraceTabs(level) + std::wstring{text};
 }
 
 std::wstring TraceErrorBlock(std::int32_t number, std::wstring_view description, std::wstring_view source)

@@ -3,12 +3,12 @@
 #include "support/Conversions.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace corvane
 {
 namespace
 {
+
 constexpr long kOk = 200;
 constexpr long kForbidden = 403;
 constexpr long kErrorDocumentStatus = 509;
@@ -16,25 +16,46 @@ constexpr long kErrorDocumentStatus = 509;
 constexpr long kOperationUnreachable[] = {401, 404, 424};
 constexpr long kBinaryUnreachable[] = {401, 404};
 constexpr long kUploadUnreachable[] = {404};
+
+// What keeps a text from being an integer, if anything does.
+std::optional<Error> IntegerFailure(std::wstring_view text, const wchar_t* source)
+{
+    const auto number = NumberIn(text);
+    if (!number) return Error{kErrorTypeMismatch, source, L"Type mismatch"};
+    if (!NearestLong(*number)) return Error{kErrorOverflow, source, L"Overflow"};
+    return std::nullopt;
+}
+
 } // namespace
 
 // The two forms "ASPWebService" and "ASPWebservice" are the interface's.
-const ServiceProcedure kOperationCall{
-    kOperationUnreachable, true, true, false, L"ExecuteASPWebService", L"ExecuteASPWebservice", L"ExecuteASPWebService",
-    &UnableToContact};
-const ServiceProcedure kAccessLogCall{
-    kOperationUnreachable, true, true, false, L"UpdateUserLog", L"UpdateUserLog", L"UpdateUserLog", &UnableToContact};
-const ServiceProcedure kBinaryCall{kBinaryUnreachable,
-                                   true,
-                                   true,
-                                   true,
-                                   L"ExecuteASPWebserviceBinary",
-                                   L"ExecuteASPWebserviceBinary",
-                                   L"ExecuteASPWebServiceBinary",
-                                   &UnableToContact};
-const ServiceProcedure kUploadCall{
-    kUploadUnreachable,        false,           false, false, L"ExecuteASPWSUploadFile", L"ExecuteASPWSUploadFile",
-    L"ExecuteASPWSUploadFile", &UnableToConnect};
+const ServiceProcedure kOperationCall{.unreachable = kOperationUnreachable,
+                                      .secureChannel = true,
+                                      .documentStatus = true,
+                                      .source = L"ExecuteASPWebService",
+                                      .invalidUrlSource = L"ExecuteASPWebservice",
+                                      .tooOldSource = L"ExecuteASPWebService",
+                                      .unreachableText = &UnableToContact};
+const ServiceProcedure kAccessLogCall{.unreachable = kOperationUnreachable,
+                                      .secureChannel = true,
+                                      .documentStatus = true,
+                                      .source = L"UpdateUserLog",
+                                      .invalidUrlSource = L"UpdateUserLog",
+                                      .tooOldSource = L"UpdateUserLog",
+                                      .unreachableText = &UnableToContact};
+const ServiceProcedure kBinaryCall{.unreachable = kBinaryUnreachable,
+                                   .secureChannel = true,
+                                   .documentStatus = true,
+                                   .strictNumber = true,
+                                   .source = L"ExecuteASPWebserviceBinary",
+                                   .invalidUrlSource = L"ExecuteASPWebserviceBinary",
+                                   .tooOldSource = L"ExecuteASPWebServiceBinary",
+                                   .unreachableText = &UnableToContact};
+const ServiceProcedure kUploadCall{.unreachable = kUploadUnreachable,
+                                   .source = L"ExecuteASPWSUploadFile",
+                                   .invalidUrlSource = L"ExecuteASPWSUploadFile",
+                                   .tooOldSource = L"ExecuteASPWSUploadFile",
+                                   .unreachableText = &UnableToConnect};
 
 bool IsErrorDocument(std::wstring_view text)
 {
@@ -92,17 +113,16 @@ Error NullError(const wchar_t* source) { return {kErrorInvalidUseOfNull, source,
 
 Error DocumentError(const ErrorDocument& document, const ServiceProcedure& procedure)
 {
-    const std::int32_t number = ToLongSafe(document.number);
-    const auto asItStands = NumberIn(document.number);
-    if (procedure.strictNumber && !asItStands) return {kErrorTypeMismatch, procedure.source, L"Type mismatch"};
-    if (procedure.strictNumber && number == 0 && std::abs(*asItStands) > 1)
-        return {kErrorOverflow, procedure.source, L"Overflow"};
+    if (procedure.strictNumber) {
+        if (const auto failure = IntegerFailure(document.number, procedure.source)) return *failure;
+    }
+    const std::int32_t number = procedure.strictNumber ? ToLongSafe(document.number) : ToErrorNumber(document.number);
     if (number == kServerTooOld)
         return {kTransportError, procedure.tooOldSource,
                 L"This Corvane for MS Office add-in must be used with a server where Corvane 8.0 or higher has been "
                 L"installed."};
     if (!document.source || !document.description) return NullError(procedure.source);
-    return {procedure.strictNumber ? number : ToErrorNumber(document.number), *document.source, *document.description};
+    return {number, *document.source, *document.description};
 }
 
 Error OpenError(bool invalidUrl, const ServiceProcedure& procedure)

@@ -45,9 +45,9 @@ enum class AnswerMeaning
 struct ServiceProcedure
 {
     std::span<const long> unreachable; // statuses that count as "no such server"
-    bool secureChannel;                // 403 has its own text
-    bool documentStatus;               // 509 stands for an error document whatever the text
-    bool strictNumber;                 // an error document's number must be an integer, and is used as it is
+    bool secureChannel = false;        // 403 has its own text
+    bool documentStatus = false;       // 509 stands for an error document whatever the text
+    bool strictNumber = false;         // an error document's number must be an integer, and is used as it is
     const wchar_t* source;
     const wchar_t* invalidUrlSource;
     const wchar_t* tooOldSource;
