@@ -176,7 +176,7 @@ std::string Zip::Write() const
         directory += entry.name;
 
         AppendNumber(out, kLocalHeader, 4);
-        out += fields + entry.name + packed;
+        out.append(fields).append(entry.name).append(packed);
     }
     const std::size_t directoryAt = out.size();
     out += directory;

@@ -19,6 +19,8 @@ constexpr std::size_t kLongestDescription = 4096;
 
 [[noreturn]] void Refuse(const std::string& why) { throw std::runtime_error{"the ribbon XML is not valid: " + why}; }
 
+std::string Quoted(const std::string& text) { return '"' + text + '"'; }
+
 // The attributes that elements have in common.
 enum Attributes : unsigned
 {
@@ -187,10 +189,10 @@ private:
             const auto known = std::ranges::find(kAttributes, name, &AttributeRule::name);
             if (known == std::end(kAttributes) || (known->group & rule.attributes) == 0)
                 Refuse(where + " has no place there");
-            if (!IsValue(value, known->value)) Refuse(where + " may not be \"" + value + '"');
+            if (!IsValue(value, known->value)) Refuse(where + " may not be " + Quoted(value));
             if (name != "id" && name != "idQ") continue;
             ++ids;
-            if (!m_ids.insert(value).second) Refuse("the id \"" + value + "\" is given twice");
+            if (!m_ids.insert(value).second) Refuse("the id " + Quoted(value) + " is given twice");
         }
         if (ids != ((rule.attributes & kControl) != 0 ? 1 : 0)) Refuse(std::string{rule.path} + " has no id, or two");
     }
@@ -242,7 +244,7 @@ void CheckRibbon(const XmlElement& root, int hostVersion)
     const std::string space = root.Attribute(prefix.empty() ? "xmlns" : "xmlns:" + std::string{prefix});
     const bool known =
         space == kNamespace2007 || (EditionOf(hostVersion) >= Edition::Backstage && space == kNamespace2010);
-    if (!known) Refuse("the namespace \"" + space + "\" is not known to this version");
+    if (!known) Refuse("the namespace " + Quoted(space) + " is not known to this version");
     Checker{space}.Check(root, "");
 }
 
