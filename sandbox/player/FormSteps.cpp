@@ -169,7 +169,8 @@ void Choose(Stage&, Run& run, const Step& step)
     });
     run.Focus(list);
     ::PostMessageW(list, combo ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(index), 0);
-    Notify(list, combo ? CBN_SELCHANGE : LBN_SELCHANGE);
+    static_assert(CBN_SELCHANGE == LBN_SELCHANGE);
+    Notify(list, LBN_SELCHANGE);
     run.Settle();
 }
 

@@ -59,7 +59,7 @@ std::optional<std::wstring> ChosenPath(HWND tree)
     for (auto node = reinterpret_cast<HTREEITEM>(*chosen); node != nullptr; node = NextNode(tree, TVGN_PARENT, node)) {
         const auto text = NodeText(tree, node);
         if (!text) return std::nullopt;
-        path = Escaped(*text) + (path.empty() ? L"" : L"/") + path;
+        path.insert(0, Escaped(*text) + (path.empty() ? L"" : L"/"));
     }
     return path;
 }

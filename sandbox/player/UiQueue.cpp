@@ -30,7 +30,7 @@ UiQueue::~UiQueue() { ::DestroyWindow(m_window); }
 void UiQueue::Post(std::function<void()> work) const
 {
     auto owned = std::make_unique<std::function<void()>>(std::move(work));
-    if (::PostMessageW(m_window, kWork, 0, reinterpret_cast<LPARAM>(owned.get()))) owned.release();
+    if (::PostMessageW(m_window, kWork, 0, reinterpret_cast<LPARAM>(owned.get()))) (void)owned.release();
 }
 
 bool UiQueue::Run(std::function<void()> work, std::chrono::milliseconds patience) const

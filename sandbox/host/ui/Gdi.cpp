@@ -3,13 +3,24 @@
 namespace host
 {
 
-PaintBuffer::PaintBuffer(HWND window)
-    : m_window{window}, m_screen{::BeginPaint(window, &m_paint)}, m_memory{::CreateCompatibleDC(m_screen)}
+namespace
 {
-    ::GetClientRect(window, &m_area);
-    m_bitmap = corvane::UniqueBitmap{::CreateCompatibleBitmap(m_screen, m_area.right, m_area.bottom)};
-    m_before = ::SelectObject(m_memory.Get(), m_bitmap.Get());
+
+RECT AreaOf(HWND window)
+{
+    RECT area{};
+    ::GetClientRect(window, &area);
+    return area;
 }
+
+} // namespace
+
+PaintBuffer::PaintBuffer(HWND window)
+    : m_window{window}, m_area{AreaOf(window)}, m_screen{::BeginPaint(window, &m_paint)}, m_memory{::CreateCompatibleDC(
+                                                                                              m_screen)},
+      m_bitmap{::CreateCompatibleBitmap(m_screen, m_area.right, m_area.bottom)}, m_before{::SelectObject(
+                                                                                     m_memory.Get(), m_bitmap.Get())}
+{}
 
 PaintBuffer::~PaintBuffer()
 {

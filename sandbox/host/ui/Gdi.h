@@ -41,7 +41,7 @@ public:
 private:
     HWND m_window;
     PAINTSTRUCT m_paint{};
-    RECT m_area{};
+    RECT m_area;
     HDC m_screen;
     corvane::UniqueDeviceContext m_memory;
     corvane::UniqueBitmap m_bitmap;
