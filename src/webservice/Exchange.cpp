@@ -1,6 +1,5 @@
 #include "webservice/Exchange.h"
 
-#include "platform/Procedure.h"
 #include "platform/XmlDocument.h"
 
 namespace corvane
@@ -33,20 +32,8 @@ std::optional<std::chrono::milliseconds> RequestLimit(std::size_t bytes) noexcep
     return g_timeout + std::chrono::seconds{bytes / kBytesPerSecond};
 }
 
-void OpenRequest(const ServiceProcedure& procedure, const std::function<void()>& open)
+std::wstring JudgeAnswer(const HttpRequest& request, const ServiceProcedure& procedure, const std::wstring& server)
 {
-    if (const auto failure = Catch(open)) throw OpenError(failure->Number() == E_FAIL, procedure);
-}
-
-std::wstring Exchange(HttpRequest& request, const ServiceProcedure& procedure, const std::wstring& server,
-                      std::optional<std::chrono::milliseconds> limit, const std::function<void()>& send)
-{
-    const auto failure = Catch([&] {
-        send();
-        request.Wait(limit);
-    });
-    if (failure) throw SendError(server, procedure);
-
     std::wstring text = request.Text();
     const AnswerMeaning meaning = MeaningOf(request.Status(), IsErrorDocument(text), procedure);
     if (meaning == AnswerMeaning::Success) return text;

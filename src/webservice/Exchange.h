@@ -2,10 +2,10 @@
 #pragma once
 
 #include "platform/HttpRequest.h"
+#include "platform/Procedure.h"
 #include "webservice/AnswerRules.h"
 
 #include <chrono>
-#include <functional>
 #include <optional>
 #include <string>
 
@@ -19,11 +19,27 @@ void SetRequestTimeout(std::chrono::milliseconds timeout) noexcept;
 [[nodiscard]] std::optional<std::chrono::milliseconds> RequestLimit(std::size_t bytes = 0) noexcept;
 
 // Opens the request by the given steps; any failure of them becomes the procedure's open error.
-void OpenRequest(const ServiceProcedure& procedure, const std::function<void()>& open);
+template<class Open>
+void OpenRequest(const ServiceProcedure& procedure, Open&& open)
+{
+    if (const auto failure = Catch(open)) throw OpenError(failure->Number() == E_FAIL, procedure);
+}
 
-// Sends the request by the given step and waits for its answer; any failure becomes the procedure's send error. Then
-// returns the answer's text when the answer is a success, else throws the Error that it stands for.
+// The text of the answer where it is a success; else throws the Error that the answer stands for.
+std::wstring JudgeAnswer(const HttpRequest& request, const ServiceProcedure& procedure, const std::wstring& server);
+
+// Sends the request by the given step, waits for its answer and judges it; any failure until then becomes the
+// procedure's send error.
+template<class Send>
 std::wstring Exchange(HttpRequest& request, const ServiceProcedure& procedure, const std::wstring& server,
-                      std::optional<std::chrono::milliseconds> limit, const std::function<void()>& send);
+                      std::optional<std::chrono::milliseconds> limit, Send&& send)
+{
+    const auto failure = Catch([&] {
+        send();
+        request.Wait(limit);
+    });
+    if (failure) throw SendError(server, procedure);
+    return JudgeAnswer(request, procedure, server);
+}
 
 } // namespace corvane
