@@ -107,10 +107,8 @@ void CAddInMenus::InvalidateControls() const noexcept
     });
 }
 
-void CAddInMenus::RunSave(const SaveCommand& command, std::wstring_view caller) noexcept
+bool CAddInMenus::RefusesWhileEditing() const noexcept
 {
-    const LibraryInUse inUse;
-    const std::shared_ptr<CAddInMenus> alive = g_oAddInMenus;
     bool editing = false;
     Reporting([&] {
         SetHostWindow(WindowOf(m_oApplication));
@@ -119,7 +117,14 @@ void CAddInMenus::RunSave(const SaveCommand& command, std::wstring_view caller) 
             ShowMessage(L"You are currently editing a cell or object. Please finish editing before saving to Corvane.",
                         kStylePlain, L"Save to Corvane");
     });
-    if (editing) return;
+    return editing;
+}
+
+void CAddInMenus::RunSave(const SaveCommand& command, std::wstring_view caller) noexcept
+{
+    const LibraryInUse inUse;
+    const std::shared_ptr<CAddInMenus> alive = g_oAddInMenus;
+    if (RefusesWhileEditing()) return;
     Reporting([&] {
         frmBusy busy{m_procedures};
         // Loaded once before it is needed, so that it comes up at once.
@@ -144,25 +149,24 @@ void CAddInMenus::Save(const SaveCommand& command, const HostDocument& document,
     }
     m_binding = ReadBinding(document);
     m_lDocumentKind = ClassifyBoundDocument(m_binding);
-    if (!command.skipsTree(m_binding)) {
+    if (!SkipsTree(command, m_binding)) {
         PickTarget(command);
         document.SetInteractive(false);
     }
-    if (!command.hasTarget(m_binding)) return;
+    if (!HasTarget(command, m_binding)) return;
     busy.lMethodType = command.methodType;
     busy.sServer = m_binding.server;
-    busy.target = TargetIn(static_cast<TreeMode>(command.dialogType), m_binding);
+    busy.target = TargetIn(command.tree, m_binding);
     busy.oDocument = document;
     busy.ShowModal();
 }
 
 void CAddInMenus::PickTarget(const SaveCommand& command)
 {
-    const DocumentBinding start = command.startOf(m_binding);
     frmSaveTo tree;
-    tree.DialogType = command.dialogType;
-    tree.ServerURL = start.server;
-    tree.target = TargetIn(static_cast<TreeMode>(command.dialogType), start);
+    tree.DialogType = static_cast<std::int32_t>(command.tree);
+    tree.ServerURL = m_binding.server;
+    tree.target = StartOf(command, m_binding);
     tree.ShowModal();
     m_binding.server = tree.ServerURL;
     static_cast<Target&>(m_binding) = tree.target;

@@ -49,6 +49,8 @@ public:
 
 private:
     [[nodiscard]] std::wstring RibbonXml(std::wstring_view procedure, RibbonTab tab) const noexcept;
+    // Tells the user where a cell or an object is edited; then true.
+    [[nodiscard]] bool RefusesWhileEditing() const noexcept;
     void RunSave(const SaveCommand& command, std::wstring_view caller) noexcept;
     void Save(const SaveCommand& command, const HostDocument& document, frmBusy& busy);
     void PickTarget(const SaveCommand& command);

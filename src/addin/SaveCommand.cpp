@@ -5,40 +5,34 @@ namespace corvane
 namespace
 {
 
-bool NamesAssignment(const DocumentBinding& binding) noexcept
+bool Names(TreeMode tree, const Target& target) noexcept
 {
-    return !binding.server.empty() && (binding.deliverableId > 0 || binding.activityId > 0);
-}
-
-bool NamesGateDocument(const DocumentBinding& binding) noexcept
-{
-    return !binding.server.empty() && binding.gateDocumentId > 0;
-}
-
-// A related document's id counts as set when it is not 0, whatever its sign.
-bool NamesRelatedDocument(const DocumentBinding& binding) noexcept
-{
-    return !binding.server.empty() && binding.relatedFileId != 0;
-}
-
-bool NamesRelatedTarget(const DocumentBinding& binding) noexcept
-{
-    return !binding.server.empty() && (binding.relatedFileId != 0 || binding.projectId != 0);
-}
-
-DocumentBinding AsItIs(const DocumentBinding& binding) { return binding; }
-
-DocumentBinding ServerOnly(const DocumentBinding& binding)
-{
-    DocumentBinding start;
-    start.server = binding.server;
-    return start;
+    switch (tree) {
+    case TreeMode::Assignment:
+        return target.deliverableId > 0 || target.activityId > 0;
+    case TreeMode::GateDocument:
+        return target.gateDocumentId > 0;
+    case TreeMode::RelatedDocument:
+        return target.relatedFileId != 0; // whatever its sign
+    }
+    return false;
 }
 
 } // namespace
 
-const SaveCommand kSaveAssignment{0, 0, &NamesAssignment, &NamesAssignment, &AsItIs};
-const SaveCommand kSaveGateDoc{2, 1, &NamesGateDocument, &NamesGateDocument, &AsItIs};
-const SaveCommand kSaveRelatedDoc{1, 2, &NamesRelatedDocument, &NamesRelatedTarget, &ServerOnly};
+bool SkipsTree(const SaveCommand& command, const DocumentBinding& binding) noexcept
+{
+    return !binding.server.empty() && Names(command.tree, binding);
+}
+
+bool HasTarget(const SaveCommand& command, const DocumentBinding& binding) noexcept
+{
+    return SkipsTree(command, binding) || (command.makesTargets && !binding.server.empty() && binding.projectId != 0);
+}
+
+Target StartOf(const SaveCommand& command, const DocumentBinding& binding) noexcept
+{
+    return command.makesTargets ? Target{} : TargetIn(command.tree, binding);
+}
 
 } // namespace corvane

@@ -1,6 +1,7 @@
 // The three save commands: what each one asks of a document's binding.
 #pragma once
 
+#include "selection/TreeMode.h"
 #include "shared/DocumentBinding.h"
 
 #include <cstdint>
@@ -8,21 +9,26 @@
 namespace corvane
 {
 
-// A save command by its numbers: DialogType of the tree and lMethodType of the busy window.
+// A save command by its tree and by lMethodType of the busy window.
 struct SaveCommand
 {
-    std::int32_t dialogType;
+    TreeMode tree;
     std::int32_t methodType;
-    // Whether the binding already names a target, so that the tree is skipped.
-    bool (*skipsTree)(const DocumentBinding& binding) noexcept;
-    // Whether a target is there to open the save dialog with.
-    bool (*hasTarget)(const DocumentBinding& binding) noexcept;
-    // What of the binding the tree starts from; a related document always starts without project and document.
-    DocumentBinding (*startOf)(const DocumentBinding& binding);
+    // It can make a new target: a project alone is enough for it, and its tree always starts without target.
+    bool makesTargets = false;
 };
 
-extern const SaveCommand kSaveAssignment;
-extern const SaveCommand kSaveGateDoc;
-extern const SaveCommand kSaveRelatedDoc;
+inline constexpr SaveCommand kSaveAssignment{TreeMode::Assignment, 0};
+inline constexpr SaveCommand kSaveGateDoc{TreeMode::GateDocument, 1};
+inline constexpr SaveCommand kSaveRelatedDoc{TreeMode::RelatedDocument, 2, true};
+
+// Whether the binding already names a target, so that the tree is skipped.
+[[nodiscard]] bool SkipsTree(const SaveCommand& command, const DocumentBinding& binding) noexcept;
+
+// Whether a target is there to open the save dialog with.
+[[nodiscard]] bool HasTarget(const SaveCommand& command, const DocumentBinding& binding) noexcept;
+
+// The target that the tree starts at.
+[[nodiscard]] Target StartOf(const SaveCommand& command, const DocumentBinding& binding) noexcept;
 
 } // namespace corvane

@@ -44,28 +44,24 @@ TEST(SaveCommand, LooksForItsOwnIdsInTheBinding)
         SCOPED_TRACE(item.name);
         DocumentBinding binding;
         binding.*item.id = item.value;
-        EXPECT_FALSE(item.command.skipsTree(binding)) << "without a server";
-        EXPECT_FALSE(item.command.hasTarget(binding)) << "without a server";
+        EXPECT_FALSE(SkipsTree(item.command, binding)) << "without a server";
+        EXPECT_FALSE(HasTarget(item.command, binding)) << "without a server";
         binding.server = L"http://host";
-        EXPECT_EQ(item.command.skipsTree(binding), item.skipsTree);
-        EXPECT_EQ(item.command.hasTarget(binding), item.hasTarget);
+        EXPECT_EQ(SkipsTree(item.command, binding), item.skipsTree);
+        EXPECT_EQ(HasTarget(item.command, binding), item.hasTarget);
     }
 }
 
 TEST(SaveCommand, StartsTheTreeAtTheBoundTargetExceptForARelatedDocument)
 {
-    const DocumentBinding assignment = kSaveAssignment.startOf(FullBinding());
-    EXPECT_EQ(assignment.server, L"http://host");
+    const Target assignment = StartOf(kSaveAssignment, FullBinding());
     EXPECT_EQ(assignment.projectId, 12);
     EXPECT_EQ(assignment.deliverableId, 45);
     EXPECT_EQ(assignment.activityId, 678);
-    EXPECT_EQ(kSaveGateDoc.startOf(FullBinding()).projectId, 12);
-    EXPECT_EQ(kSaveGateDoc.startOf(FullBinding()).gateDocumentId, 9);
-
-    const DocumentBinding related = kSaveRelatedDoc.startOf(FullBinding());
-    EXPECT_EQ(related.server, L"http://host");
-    EXPECT_EQ(related.projectId, 0);
-    EXPECT_EQ(related.relatedFileId, 0);
+    EXPECT_EQ(StartOf(kSaveGateDoc, FullBinding()).projectId, 12);
+    EXPECT_EQ(StartOf(kSaveGateDoc, FullBinding()).gateDocumentId, 9);
+    EXPECT_EQ(StartOf(kSaveRelatedDoc, FullBinding()).projectId, 0);
+    EXPECT_EQ(StartOf(kSaveRelatedDoc, FullBinding()).relatedFileId, 0);
 }
 
 TEST(Commands, AreFoundByTheExactIdsOfTheirRibbonControls)
