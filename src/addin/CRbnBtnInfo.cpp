@@ -5,13 +5,6 @@
 namespace corvane
 {
 
-HRESULT CRbnBtnInfo::Get(const std::wstring& text, BSTR* value) noexcept
-{
-    if (value == nullptr) return E_POINTER;
-    *value = nullptr;
-    return Catch([&] { *value = Bstr{text}.Detach(); }) ? E_OUTOFMEMORY : S_OK;
-}
-
 HRESULT CRbnBtnInfo::Put(std::wstring& text, BSTR value) noexcept
 {
     return Catch([&] { text = ViewOf(value); }) ? E_OUTOFMEMORY : S_OK;

@@ -5,6 +5,7 @@
 #include "addin/UICaptions.h"
 #include "forms/Messages.h"
 #include "platform/HResult.h"
+#include "platform/HandOut.h"
 #include "platform/OwnerlessRequests.h"
 #include "platform/Procedure.h"
 #include "shared/HostVersion.h"
@@ -40,13 +41,6 @@ std::vector<CustomNameRow> FetchCustomNames(const std::wstring& server, const st
 void TraceProperty(const wchar_t* label, const LateBound& object, const wchar_t* name)
 {
     TraceVariable(label, object.Text(name));
-}
-
-HRESULT EmptyText(BSTR* text) noexcept
-{
-    if (text == nullptr) return E_POINTER;
-    *text = ::SysAllocString(L"");
-    return *text == nullptr ? E_OUTOFMEMORY : S_OK;
 }
 
 // An object argument of an event, by its position from the last.
@@ -139,7 +133,7 @@ STDMETHODIMP Connect::GetCustomUI(BSTR /*RibbonID*/, BSTR* RibbonXml) noexcept
     *RibbonXml = nullptr;
     AtHostBoundary(L"Connect.IRibbonExtensibility_GetCustomUI",
                    [&] { *RibbonXml = Bstr{AddInMenus()->GetOfficeRibbonXML()}.Detach(); });
-    return *RibbonXml == nullptr ? EmptyText(RibbonXml) : S_OK;
+    return *RibbonXml == nullptr ? HandOut({}, RibbonXml) : S_OK;
 }
 
 STDMETHODIMP Connect::RibbonHandler(IDispatch* control) noexcept
@@ -159,11 +153,11 @@ STDMETHODIMP Connect::GetEnabled(IDispatch* /*control*/, VARIANT_BOOL* enabled) 
     return S_OK;
 }
 
-STDMETHODIMP Connect::GetLabel(IDispatch* /*control*/, BSTR* label) noexcept { return EmptyText(label); }
+STDMETHODIMP Connect::GetLabel(IDispatch* /*control*/, BSTR* label) noexcept { return HandOut({}, label); }
 
-STDMETHODIMP Connect::GetScreentip(IDispatch* /*control*/, BSTR* screentip) noexcept { return EmptyText(screentip); }
+STDMETHODIMP Connect::GetScreentip(IDispatch* /*control*/, BSTR* screentip) noexcept { return HandOut({}, screentip); }
 
-STDMETHODIMP Connect::GetSupertip(IDispatch* /*control*/, BSTR* supertip) noexcept { return EmptyText(supertip); }
+STDMETHODIMP Connect::GetSupertip(IDispatch* /*control*/, BSTR* supertip) noexcept { return HandOut({}, supertip); }
 
 STDMETHODIMP Connect::onLoad(IDispatch* ribbon, VARIANT* result) noexcept
 {

@@ -1,5 +1,6 @@
 #include "addin/TraceLogObject.h"
 
+#include "platform/HandOut.h"
 #include "platform/Procedure.h"
 #include "platform/Variant.h"
 
@@ -29,9 +30,9 @@ STDMETHODIMP TraceLogObject::WriteEventEnd(BSTR Procedure) noexcept
 
 STDMETHODIMP TraceLogObject::GetTabs(BSTR* Tabs) noexcept
 {
-    if (Tabs == nullptr) return E_POINTER;
-    *Tabs = nullptr;
-    return Catch([&] { *Tabs = Bstr{m_log.GetTabs()}.Detach(); }) ? E_OUTOFMEMORY : S_OK;
+    HRESULT result = E_OUTOFMEMORY;
+    Ignoring([&] { result = HandOut(m_log.GetTabs(), Tabs); });
+    return result;
 }
 
 STDMETHODIMP TraceLogObject::WriteVariable(BSTR Name, VARIANT Value) noexcept

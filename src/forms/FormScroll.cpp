@@ -71,7 +71,7 @@ void ScrollTo(HWND form, int bar, int position) noexcept
                      SW_SCROLLCHILDREN | SW_INVALIDATE | SW_ERASE);
 }
 
-int Asked(const SCROLLINFO& state, WORD request) noexcept
+int PositionFor(const SCROLLINFO& state, WORD request) noexcept
 {
     const int page = static_cast<int>(state.nPage);
     switch (request) {
@@ -165,12 +165,12 @@ bool FormScroll::OnMessage(HWND form, UINT message, WPARAM wParam) const noexcep
     if (m_whole == Extent{}) return false;
     if (message == WM_MOUSEWHEEL) {
         const bool up = static_cast<short>(HIWORD(wParam)) > 0;
-        ScrollTo(form, SB_VERT, Asked(StateOf(form, SB_VERT), up ? SB_LINEUP : SB_LINEDOWN));
+        ScrollTo(form, SB_VERT, PositionFor(StateOf(form, SB_VERT), up ? SB_LINEUP : SB_LINEDOWN));
         return true;
     }
     if (message != WM_HSCROLL && message != WM_VSCROLL) return false;
     const int bar = message == WM_HSCROLL ? SB_HORZ : SB_VERT;
-    ScrollTo(form, bar, Asked(StateOf(form, bar), LOWORD(wParam)));
+    ScrollTo(form, bar, PositionFor(StateOf(form, bar), LOWORD(wParam)));
     return true;
 }
 
