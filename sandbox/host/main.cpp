@@ -11,8 +11,8 @@
 #include <shellapi.h>
 
 #include "app/HostStage.h"
-#include "automation/Text.h"
 #include "base/Console.h"
+#include "base/Text.h"
 #include "documents/Files.h"
 #include "player/Player.h"
 

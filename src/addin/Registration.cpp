@@ -38,19 +38,12 @@ const PublicClass kPublicClasses[] = {
     {L"CRbnBtnInfo", CLSID_CRbnBtnInfo, &Create<CRbnBtnInfo>},
 };
 
-std::wstring TextOfGuid(const GUID& guid)
-{
-    std::array<wchar_t, 39> text{};
-    ::StringFromGUID2(guid, text.data(), static_cast<int>(text.size()));
-    return text.data();
-}
-
 std::wstring ProgId(const PublicClass& entry) { return std::wstring{kProject} + entry.name; }
 std::wstring ProgIdKey(const PublicClass& entry) { return kClasses + ProgId(entry); }
-std::wstring ClassKey(const PublicClass& entry) { return std::wstring{kClasses} + L"CLSID\\" + TextOfGuid(entry.id); }
+std::wstring ClassKey(const PublicClass& entry) { return std::wstring{kClasses} + L"CLSID\\" + GuidText(entry.id); }
 std::wstring TypeLibraryKey()
 {
-    return std::wstring{kClasses} + L"TypeLib\\" + TextOfGuid(LIBID_CorvaneMSOfficePowerPoint);
+    return std::wstring{kClasses} + L"TypeLib\\" + GuidText(LIBID_CorvaneMSOfficePowerPoint);
 }
 std::wstring TypeLibraryVersionKey()
 {
@@ -67,9 +60,9 @@ void RegisterClass(const PublicClass& entry, const std::wstring& library)
     Registry::WriteText(key + L"\\InprocServer32", L"", library);
     Registry::WriteText(key + L"\\InprocServer32", L"ThreadingModel", L"Apartment");
     Registry::WriteText(key + L"\\ProgID", L"", ProgId(entry));
-    Registry::WriteText(key + L"\\TypeLib", L"", TextOfGuid(LIBID_CorvaneMSOfficePowerPoint));
+    Registry::WriteText(key + L"\\TypeLib", L"", GuidText(LIBID_CorvaneMSOfficePowerPoint));
     Registry::WriteText(ProgIdKey(entry), L"", ProgId(entry));
-    Registry::WriteText(ProgIdKey(entry) + L"\\CLSID", L"", TextOfGuid(entry.id));
+    Registry::WriteText(ProgIdKey(entry) + L"\\CLSID", L"", GuidText(entry.id));
 }
 
 void RegisterTypeLibrary(const std::wstring& library)

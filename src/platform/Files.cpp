@@ -56,9 +56,7 @@ std::wstring NewGuidText()
 {
     GUID guid{};
     Check(::CoCreateGuid(&guid), L"NewGuidText");
-    std::array<wchar_t, 39> text{};
-    ::StringFromGUID2(guid, text.data(), static_cast<int>(text.size()));
-    return std::wstring{text.data() + 1, 36};
+    return GuidText(guid).substr(1, 36);
 }
 
 bool FileExists(const std::wstring& path) noexcept

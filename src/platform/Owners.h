@@ -142,6 +142,9 @@ private:
     BSTR m_text = nullptr;
 };
 
+// The text of an id, in braces.
+[[nodiscard]] std::wstring GuidText(REFGUID id);
+
 // The text of a BSTR that somebody else owns; null reads as empty.
 [[nodiscard]] std::wstring_view ViewOf(BSTR text) noexcept;
 

@@ -12,12 +12,18 @@ namespace corvane::Registry
 namespace
 {
 
+HKEY RootOf(Hive hive) noexcept
+{
+    if (hive == Hive::Classes) return HKEY_CLASSES_ROOT;
+    return hive == Hive::User ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE;
+}
+
 UniqueRegistryKey OpenKey(const std::wstring& key, Place place) noexcept
 {
     constexpr REGSAM kViews[] = {0, KEY_WOW64_32KEY, KEY_WOW64_64KEY};
     UniqueRegistryKey opened;
-    ::RegOpenKeyExW(place.hive == Hive::User ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE, key.c_str(), 0,
-                    KEY_READ | kViews[static_cast<std::size_t>(place.view)], opened.Put());
+    ::RegOpenKeyExW(RootOf(place.hive), key.c_str(), 0, KEY_READ | kViews[static_cast<std::size_t>(place.view)],
+                    opened.Put());
     return opened;
 }
 
@@ -37,18 +43,18 @@ std::vector<std::wstring> Names(const UniqueRegistryKey& key, Enumeration enumer
     return names;
 }
 
-UniqueRegistryKey OpenOrCreate(const std::wstring& key)
+UniqueRegistryKey OpenOrCreate(const std::wstring& key, Hive hive = Hive::User)
 {
     UniqueRegistryKey opened;
-    const LSTATUS status = ::RegCreateKeyExW(HKEY_CURRENT_USER, key.c_str(), 0, nullptr, 0, KEY_READ | KEY_WRITE,
-                                             nullptr, opened.Put(), nullptr);
+    const LSTATUS status = ::RegCreateKeyExW(RootOf(hive), key.c_str(), 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr,
+                                             opened.Put(), nullptr);
     Check(HRESULT_FROM_WIN32(static_cast<unsigned long>(status)), L"Registry.OpenOrCreate");
     return opened;
 }
 
-void Write(const std::wstring& key, const std::wstring& name, DWORD type, const void* data, std::size_t size)
+void Write(const UniqueRegistryKey& key, const std::wstring& name, DWORD type, const void* data, std::size_t size)
 {
-    const LSTATUS status = ::RegSetValueExW(OpenOrCreate(key).Get(), name.empty() ? nullptr : name.c_str(), 0, type,
+    const LSTATUS status = ::RegSetValueExW(key.Get(), name.empty() ? nullptr : name.c_str(), 0, type,
                                             static_cast<const BYTE*>(data), static_cast<DWORD>(size));
     Check(HRESULT_FROM_WIN32(static_cast<unsigned long>(status)), L"Registry.Write");
 }
@@ -109,16 +115,21 @@ std::vector<std::byte> ReadBytes(const std::wstring& key, const std::wstring& na
     return bytes;
 }
 
-void WriteText(const std::wstring& key, const std::wstring& name, const std::wstring& text)
+void WriteText(const std::wstring& key, const std::wstring& name, const std::wstring& text, Hive hive)
 {
-    Write(key, name, REG_SZ, text.c_str(), (text.size() + 1) * sizeof(wchar_t));
+    Write(OpenOrCreate(key, hive), name, REG_SZ, text.c_str(), (text.size() + 1) * sizeof(wchar_t));
 }
 
 void WriteNumber(const std::wstring& key, const std::wstring& name, std::int32_t number)
 {
-    Write(key, name, REG_DWORD, &number, sizeof number);
+    Write(OpenOrCreate(key), name, REG_DWORD, &number, sizeof number);
 }
 
-void DeleteTree(const std::wstring& key) noexcept { ::SHDeleteKeyW(HKEY_CURRENT_USER, key.c_str()); }
+void DeleteTree(const std::wstring& key, Hive hive) noexcept { ::SHDeleteKeyW(RootOf(hive), key.c_str()); }
+
+void DeleteValue(const std::wstring& key, const std::wstring& name, Hive hive) noexcept
+{
+    ::RegDeleteKeyValueW(RootOf(hive), key.c_str(), name.c_str());
+}
 
 } // namespace corvane::Registry

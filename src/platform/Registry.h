@@ -1,4 +1,4 @@
-// The registry, value by value. Written is only the user's (HKEY_CURRENT_USER).
+// The registry, value by value. Written is the user's part (HKEY_CURRENT_USER) where no other is named.
 #pragma once
 
 #include <cstddef>
@@ -14,6 +14,7 @@ enum class Hive
 {
     User,
     Machine,
+    Classes, // what the user's and the machine's classes are together
 };
 
 // Windows keeps some keys (Software of the machine, Software\Classes\CLSID of both) once for each bitness.
@@ -49,10 +50,11 @@ void CreateKey(const std::wstring& key);
 [[nodiscard]] std::vector<std::byte> ReadBytes(const std::wstring& key, const std::wstring& name, Place place = {});
 
 // Write into a key, which is created when missing; an empty name is the key's default value. Both throw Error.
-void WriteText(const std::wstring& key, const std::wstring& name, const std::wstring& text);
+void WriteText(const std::wstring& key, const std::wstring& name, const std::wstring& text, Hive hive = Hive::User);
 void WriteNumber(const std::wstring& key, const std::wstring& name, std::int32_t number);
 
-// Removes a key with everything under it; a missing key is no error.
-void DeleteTree(const std::wstring& key) noexcept;
+// Remove a key with everything under it, or a value; what is missing is no error.
+void DeleteTree(const std::wstring& key, Hive hive = Hive::User) noexcept;
+void DeleteValue(const std::wstring& key, const std::wstring& name, Hive hive = Hive::User) noexcept;
 
 } // namespace corvane::Registry

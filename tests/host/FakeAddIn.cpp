@@ -7,6 +7,7 @@
 #include "FakeForm.h"
 #include "automation/EventSource.h"
 #include "automation/OfficeInterfaces.h"
+#include "platform/ClassFactory.h"
 #include "platform/LateBound.h"
 
 namespace host::test
@@ -146,29 +147,16 @@ private:
     long m_closes = 0;
 };
 
-struct Factory final : IClassFactory
-{
-    STDMETHODIMP QueryInterface(REFIID id, void** object) override
-    {
-        *object = id == IID_IUnknown || id == IID_IClassFactory ? this : nullptr;
-        return *object ? S_OK : E_NOINTERFACE;
-    }
-    STDMETHODIMP_(ULONG) AddRef() override { return 2; }
-    STDMETHODIMP_(ULONG) Release() override { return 1; }
-    STDMETHODIMP CreateInstance(IUnknown*, REFIID id, void** object) override
-    {
-        return MakeObject<FakeAddIn>()->QueryInterface(id, object);
-    }
-    STDMETHODIMP LockServer(BOOL) override { return S_OK; }
-};
+HRESULT Create(REFIID id, void** object) { return MakeObject<FakeAddIn>()->QueryInterface(id, object); }
 
 } // namespace
 } // namespace host::test
 
 STDAPI DllGetClassObject(REFCLSID classId, REFIID id, void** object)
 {
-    static host::test::Factory factory;
-    return classId == host::test::kClassId ? factory.QueryInterface(id, object) : CLASS_E_CLASSNOTAVAILABLE;
+    if (classId != host::test::kClassId) return CLASS_E_CLASSNOTAVAILABLE;
+    using Factory = corvane::ClassFactory<decltype(&host::test::Create)>;
+    return corvane::MakeObject<Factory>(&host::test::Create)->QueryInterface(id, object);
 }
 
 STDAPI DllCanUnloadNow() { return corvane::Library::IsIdle() ? S_OK : S_FALSE; }

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "TemporaryFolder.h"
-#include "automation/Text.h"
+#include "base/Text.h"
 #include "objects/Application.h"
 #include "objects/Session.h"
 #include "platform/LateBound.h"

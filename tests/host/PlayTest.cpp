@@ -7,14 +7,16 @@
 
 #include "FakeAddIn.h"
 #include "TemporaryFolder.h"
-#include "automation/Text.h"
-#include "base/Registry.h"
+#include "base/Text.h"
 #include "documents/Files.h"
+#include "platform/Registry.h"
 
 namespace host
 {
 namespace
 {
+
+namespace Registry = corvane::Registry;
 
 constexpr wchar_t kAddInKey[] = L"Software\\Microsoft\\Office\\PowerPoint\\Addins\\";
 constexpr wchar_t kClasses[] = L"Software\\Classes\\";
@@ -43,34 +45,30 @@ protected:
     PlayTest()
     {
         const std::wstring classKey = std::wstring{kClasses} + L"CLSID\\" + test::kFakeClass;
-        auto server = RegistryKey::Create(HKEY_CURRENT_USER, classKey + L"\\InprocServer32");
-        server.SetText(nullptr, OwnFolder() + L"\\" + WIDE_FAKE_ADDIN);
-        server.SetText(L"ThreadingModel", L"Apartment");
-        RegistryKey::Create(HKEY_CURRENT_USER, std::wstring{kClasses} + test::kFakeProgId + L"\\CLSID")
-            .SetText(nullptr, test::kFakeClass);
-        RegistryKey::Create(HKEY_CURRENT_USER, std::wstring{kAddInKey} + test::kFakeProgId)
-            .SetNumber(L"LoadBehavior", 3);
+        Registry::WriteText(classKey + L"\\InprocServer32", {}, OwnFolder() + L"\\" + WIDE_FAKE_ADDIN);
+        Registry::WriteText(classKey + L"\\InprocServer32", L"ThreadingModel", L"Apartment");
+        Registry::WriteText(std::wstring{kClasses} + test::kFakeProgId + L"\\CLSID", {}, test::kFakeClass);
+        Registry::WriteNumber(std::wstring{kAddInKey} + test::kFakeProgId, L"LoadBehavior", 3);
     }
     ~PlayTest() override
     {
         for (const wchar_t* name : {L"FAKE_FAIL", L"FAKE_LEAK"})
             ::SetEnvironmentVariableW(name, nullptr);
-        ::RegDeleteTreeW(HKEY_CURRENT_USER, (std::wstring{kAddInKey} + test::kFakeProgId).c_str());
-        ::RegDeleteTreeW(HKEY_CURRENT_USER, (std::wstring{kClasses} + test::kFakeProgId).c_str());
-        ::RegDeleteTreeW(HKEY_CURRENT_USER, (std::wstring{kClasses} + L"CLSID\\" + test::kFakeClass).c_str());
+        Registry::DeleteTree(std::wstring{kAddInKey} + test::kFakeProgId);
+        Registry::DeleteTree(std::wstring{kClasses} + test::kFakeProgId);
+        Registry::DeleteTree(std::wstring{kClasses} + L"CLSID\\" + test::kFakeClass);
     }
 
-    [[nodiscard]] static DWORD LoadBehavior()
+    [[nodiscard]] static std::int32_t LoadBehavior()
     {
-        return RegistryKey::Open(HKEY_CURRENT_USER, std::wstring{kAddInKey} + test::kFakeProgId)
-            .Number(L"LoadBehavior");
+        return Registry::ReadNumber(std::wstring{kAddInKey} + test::kFakeProgId, L"LoadBehavior").value_or(0);
     }
 
     Outcome Play(const std::string& script, const std::wstring& arguments = {})
     {
         WriteWholeFile(folder.File(L"play.txt"), script);
         SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
-        FileHandle log{::CreateFileW(folder.File(L"log.txt").c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+        UniqueFile log{::CreateFileW(folder.File(L"log.txt").c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
                                      &inherited, CREATE_ALWAYS, 0, nullptr)};
         std::wstring line = L"\"" HOST_PROGRAM L"\" --play \"" + folder.File(L"play.txt") + L"\" --set \"FOLDER=" +
                             folder.Path() + L"\" --set macro.Fake.BeforeSave=ok " + arguments;
@@ -82,12 +80,12 @@ protected:
         PROCESS_INFORMATION process{};
         EXPECT_TRUE(
             ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &process));
-        const FileHandle handle{process.hProcess};
-        const FileHandle thread{process.hThread};
+        const UniqueFile handle{process.hProcess};
+        const UniqueFile thread{process.hThread};
         Outcome outcome;
         EXPECT_EQ(::WaitForSingleObject(process.hProcess, 90000), WAIT_OBJECT_0);
         ::GetExitCodeProcess(process.hProcess, &outcome.status);
-        log = FileHandle{};
+        log = UniqueFile{};
         outcome.output = ReadWholeFile(folder.File(L"log.txt"));
         return outcome;
     }
@@ -231,7 +229,7 @@ TEST_F(PlayTest, SwitchesOffAnAddInThatDoesNotLoad)
 {
     ::SetEnvironmentVariableW(L"FAKE_FAIL", L"1");
     ExpectFailed(Play("new\nquit\n"), "OnConnection failed");
-    EXPECT_EQ(LoadBehavior(), 2u);
+    EXPECT_EQ(LoadBehavior(), 2);
     ExpectPassed(Play("expect addin absent\nquit\n"));
 }
 
@@ -250,7 +248,7 @@ TEST_F(PlayTest, LoadsTheAddInsOfTheHostThatItIs)
 {
     for (const std::wstring host : {L"word", L"excel", L"outlook"}) {
         const std::wstring key = L"Software\\Microsoft\\Office\\" + host + L"\\Addins\\" + test::kFakeProgId;
-        RegistryKey::Create(HKEY_CURRENT_USER, key).SetNumber(L"LoadBehavior", 3);
+        Registry::WriteNumber(key, L"LoadBehavior", 3);
         ExpectPassed(Play("new\nset author Bo\ncommand Hello\nmessage \"0 activations\" No\n", L"--host " + host));
         ::RegDeleteTreeW(HKEY_CURRENT_USER, key.c_str());
     }

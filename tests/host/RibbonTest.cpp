@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include "base/Text.h"
+
 namespace host
 {
 namespace
@@ -99,8 +101,8 @@ TEST(RibbonTest, OldNamespaceWithOfficeMenuSuitsEveryRibbonHost)
 
 TEST(RibbonTest, LabelsLoseTheirAccessKeyMarks)
 {
-    EXPECT_EQ(PlainLabel("&Save && Send"), "Save & Send");
-    EXPECT_EQ(PlainLabel("trailing&"), "trailing");
+    EXPECT_EQ(WithoutMark(L"&Save && Send"), L"Save & Send");
+    EXPECT_EQ(WithoutMark(L"trailing&"), L"trailing");
 }
 
 } // namespace

@@ -34,15 +34,8 @@ public:
     [[nodiscard]] std::span<const host::Member> Members() const override
     {
         static constexpr host::Member kMembers[] = {
-            {1, L"Invalidate", host::kMethod, host::Answer<&CountingRibbon::Invalidate>}};
+            {1, L"Invalidate", host::kMethod, host::Answer<[](CountingRibbon& ribbon) { ++ribbon.invalidated; }>}};
         return kMembers;
-    }
-
-private:
-    Variant Invalidate(const host::Arguments&)
-    {
-        ++invalidated;
-        return {};
     }
 };
 
@@ -99,10 +92,7 @@ protected:
     void ActivateWindowOfNothing()
     {
         constexpr DISPID kWindowActivate = 2009;
-        const Variant nothing{static_cast<IDispatch*>(nullptr)};
-        const Variant window{session->Active()->Window(1).Get()};
-        VARIANT arguments[] = {nothing.Get(), window.Get()};
-        session->Application().Events().Fire(kWindowActivate, arguments);
+        session->Application().Events().Fire(kWindowActivate, {nullptr, session->Active()->Window(1).Get()});
     }
     // The names of the trace files.
     [[nodiscard]] std::vector<std::wstring> TraceFiles() const

@@ -31,26 +31,22 @@ public:
     {
         using host::Answer;
         static constexpr host::Member kMembers[] = {
-            {1, L"Name", host::kGet, Answer<&Readings::Name>},
-            {2, L"Version", host::kGet, Answer<&Readings::Version>},
-            {3, L"ActivePresentation", host::kGet, Answer<&Readings::Itself>},
-            {4, L"CustomDocumentProperties", host::kGet, Answer<&Readings::Itself>},
+            {1, L"Name", host::kGet, Answer<[](Readings&) { return L"Microsoft PowerPoint"; }>},
+            {2, L"Version", host::kGet, Answer<[](Readings&) { return L"16.0"; }>},
+            {3, L"ActivePresentation", host::kGet, Answer<[](Readings& own) { return &own; }>},
+            {4, L"CustomDocumentProperties", host::kGet, Answer<[](Readings& own) { return &own; }>},
             {5, L"Item", host::kEither, Answer<&Readings::Item>},
-            {6, L"Value", host::kGet, Answer<&Readings::Number>},
+            {6, L"Value", host::kGet, Answer<[](Readings& own) { return static_cast<long>(own.names.size()); }>},
         };
         return kMembers;
     }
 
 private:
-    Variant Name(const host::Arguments&) { return L"Microsoft PowerPoint"; }
-    Variant Version(const host::Arguments&) { return L"16.0"; }
-    Variant Itself(const host::Arguments&) { return Variant{this}; }
-    Variant Item(const host::Arguments& arguments)
+    Readings* Item(const host::Arguments& arguments)
     {
         names.push_back(arguments.At(0).Text());
-        return Variant{this};
+        return this;
     }
-    Variant Number(const host::Arguments&) { return static_cast<long>(names.size()); }
 };
 
 TEST(Binding, IsReadInTheOrderOfTheInterface)

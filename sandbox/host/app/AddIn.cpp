@@ -1,12 +1,12 @@
 #include "app/AddIn.h"
 
-#include "automation/Text.h"
 #include "base/Console.h"
-#include "base/Registry.h"
+#include "base/Text.h"
 #include "documents/Files.h"
 #include "objects/Application.h"
 #include "objects/Session.h"
 #include "platform/LateBound.h"
+#include "platform/Registry.h"
 
 #include <ranges>
 
@@ -15,7 +15,9 @@ namespace host
 namespace
 {
 
-constexpr DWORD kFailedLoadBehavior = 2;
+namespace Registry = corvane::Registry;
+
+constexpr std::int32_t kFailedLoadBehavior = 2;
 constexpr LONG kHostShutdown = 0;
 constexpr long kConnectAtStart = 1;
 
@@ -51,14 +53,15 @@ private:
 std::vector<AddInEntry> RegisteredAddIns(const HostFacts& facts)
 {
     std::map<std::wstring, AddInEntry> entries;
-    for (HKEY hive : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
-        const RegistryKey addIns = RegistryKey::Open(hive, AddInsKey(facts));
-        for (const std::wstring& name : addIns.Children()) {
-            const RegistryKey key = RegistryKey::Open(addIns.Get(), name);
-            entries.try_emplace(name, AddInEntry{name, key.Text(L"FriendlyName"), key.Text(L"Description"),
-                                                 key.Number(L"LoadBehavior")});
+    for (const Registry::Hive hive : {Registry::Hive::User, Registry::Hive::Machine})
+        for (const std::wstring& name : Registry::KeyNames(AddInsKey(facts), {hive})) {
+            const std::wstring key = AddInsKey(facts) + L"\\" + name;
+            const auto text = [&](const wchar_t* value) {
+                return Registry::ReadText(key, value, {hive}).value_or(L"");
+            };
+            const auto behavior = Registry::ReadNumber(key, L"LoadBehavior", {hive}).value_or(0);
+            entries.try_emplace(name, AddInEntry{name, text(L"FriendlyName"), text(L"Description"), behavior});
         }
-    }
     const auto values = std::views::values(entries);
     return {values.begin(), values.end()};
 }
@@ -208,8 +211,8 @@ void AddIn::Fail(const std::wstring& why)
         m_registration->SetConnected(false);
         m_callbacks.Reset();
         m_extensibility.Reset();
-        RegistryKey::Create(HKEY_CURRENT_USER, AddInsKey(m_session.Facts()) + L"\\" + m_entry.progId)
-            .SetNumber(L"LoadBehavior", kFailedLoadBehavior);
+        const std::wstring key = AddInsKey(m_session.Facts()) + L"\\" + m_entry.progId;
+        corvane::Ignoring([&] { Registry::WriteNumber(key, L"LoadBehavior", kFailedLoadBehavior); });
         PrintError(L"the add-in could not be loaded: " + text);
     }
     if (onFault) onFault(text);

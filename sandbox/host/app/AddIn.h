@@ -25,7 +25,7 @@ struct AddInEntry
     std::wstring progId;
     std::wstring friendlyName;
     std::wstring description;
-    DWORD loadBehavior = 0;
+    std::int32_t loadBehavior = 0;
 
     [[nodiscard]] bool LoadsAtStart() const { return (loadBehavior & 3) == 3; }
 };

@@ -4,8 +4,8 @@
 
 #include <commdlg.h>
 
-#include "automation/Text.h"
 #include "base/Console.h"
+#include "base/Text.h"
 #include "platform/LateBound.h"
 
 namespace host

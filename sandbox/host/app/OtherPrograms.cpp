@@ -2,7 +2,6 @@
 
 #include <stdexcept>
 
-#include "base/Registry.h"
 #include "objects/HttpRequestObject.h"
 
 namespace host
@@ -10,11 +9,16 @@ namespace host
 namespace
 {
 
+using corvane::Registry::Hive;
+using corvane::Registry::ReadText;
+using corvane::Registry::WriteText;
+
 constexpr CLSID kLoginClass{0x5E0C1A7B, 0x3B0E, 0x4C57, {0x9A, 0x41, 0x6D, 0x2F, 0x70, 0xB3, 0x8C, 0x15}};
 constexpr CLSID kOutlookClass{0x7D1F92C4, 0x58A3, 0x4B0D, {0x8E, 0x26, 0x11, 0xC5, 0x9F, 0x3A, 0x60, 0xB2}};
 constexpr wchar_t kLoginProgId[] = L"CorvaneMSOfficeExcel.CLogin";
 constexpr wchar_t kOutlookProgId[] = L"Outlook.Application";
 constexpr wchar_t kMailLinkKey[] = L"mailto\\shell\\open\\command";
+constexpr wchar_t kMailLinkClass[] = L"Software\\Classes\\mailto\\shell\\open\\command";
 
 struct OutlookSetting
 {
@@ -40,8 +44,6 @@ constexpr MailClientSetting kMailClientSettings[] = {
     {"other", LR"("C:\Program Files\Post Office\post.exe" -compose "%1")"},
 };
 
-std::wstring ClassesKey(const wchar_t* key) { return std::wstring{L"Software\\Classes\\"} + key; }
-
 // The row of a setting; null when the setting is not given. Throws on a value that has no row.
 template<class Row, std::size_t size>
 const Row* RowOf(const Row (&rows)[size], const Options& options, const char* name)
@@ -57,35 +59,19 @@ const Row* RowOf(const Row (&rows)[size], const Options& options, const char* na
 
 MailLinkCommand::MailLinkCommand(const std::wstring& command)
 {
-    const auto shown = [] { return RegistryKey::Open(HKEY_CLASSES_ROOT, kMailLinkKey).Text(nullptr); };
-    if (shown() != command) Write(HKEY_CURRENT_USER, command);
     // A merged view that leaves out the user's classes shows the machine's.
-    if (shown() != command) Write(HKEY_LOCAL_MACHINE, command);
-}
-
-void MailLinkCommand::Write(HKEY root, const std::wstring& command)
-{
-    RegistryKey key = RegistryKey::Create(root, ClassesKey(kMailLinkKey));
-    Before before{root, REG_NONE, {}};
-    DWORD size = 0;
-    if (::RegQueryValueExW(key.Get(), nullptr, nullptr, &before.type, nullptr, &size) == ERROR_SUCCESS) {
-        before.value.resize(size);
-        ::RegQueryValueExW(key.Get(), nullptr, nullptr, nullptr, before.value.data(), &size);
-    }
-    m_before.push_back(std::move(before));
-    key.SetText(nullptr, command);
+    for (const Hive hive : {Hive::User, Hive::Machine})
+        if (ReadText(kMailLinkKey, {}, {Hive::Classes}) != command) {
+            m_before.push_back({hive, ReadText(kMailLinkClass, {}, {hive})});
+            corvane::Ignoring([&] { WriteText(kMailLinkClass, {}, command, hive); });
+        }
 }
 
 void MailLinkCommand::RemoveTraces() const
 {
-    for (const Before& before : m_before) {
-        const RegistryKey key = RegistryKey::Create(before.root, ClassesKey(kMailLinkKey));
-        if (before.value.empty())
-            ::RegDeleteValueW(key.Get(), nullptr);
-        else
-            ::RegSetValueExW(key.Get(), nullptr, 0, before.type, before.value.data(),
-                             static_cast<DWORD>(before.value.size()));
-    }
+    for (const Before& before : m_before)
+        before.command ? corvane::Ignoring([&] { WriteText(kMailLinkClass, {}, *before.command, before.hive); })
+                       : corvane::Registry::DeleteValue(kMailLinkClass, {}, before.hive);
 }
 
 OtherPrograms::OtherPrograms(const Options& options)

@@ -27,12 +27,9 @@ public:
 private:
     struct Before
     {
-        HKEY root;
-        DWORD type;
-        std::vector<BYTE> value; // empty: there was none
+        corvane::Registry::Hive hive;
+        std::optional<std::wstring> command; // nothing where there was none
     };
-
-    void Write(HKEY root, const std::wstring& command);
 
     std::vector<Before> m_before;
 };

@@ -4,7 +4,7 @@
 #include <map>
 #include <new>
 
-#include "automation/Text.h"
+#include "base/Text.h"
 
 namespace host
 {
@@ -21,12 +21,6 @@ std::map<std::wstring, int>& Ledger()
 {
     static std::map<std::wstring, int> ledger;
     return ledger;
-}
-
-bool SameName(std::wstring_view a, std::wstring_view b)
-{
-    return ::CompareStringOrdinal(a.data(), static_cast<int>(a.size()), b.data(), static_cast<int>(b.size()), TRUE) ==
-           CSTR_EQUAL;
 }
 
 HRESULT Report(EXCEPINFO* exception, HRESULT number, const std::wstring& description)
@@ -65,7 +59,7 @@ HRESULT ObjectCore::FindNames(LPOLESTR* names, UINT count, DISPID* ids) const no
     if (names == nullptr || ids == nullptr || count == 0) return E_INVALIDARG;
     std::fill(ids, ids + count, DISPID_UNKNOWN);
     const auto members = Members();
-    const auto found = std::ranges::find_if(members, [&](const Member& m) { return SameName(m.name, names[0]); });
+    const auto found = std::ranges::find_if(members, [&](const Member& m) { return SameText(m.name, names[0]); });
     if (found == members.end()) return DISP_E_UNKNOWNNAME;
     ids[0] = found->id;
     return count == 1 ? S_OK : DISP_E_UNKNOWNNAME; // named arguments are not offered

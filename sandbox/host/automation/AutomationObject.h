@@ -126,6 +126,20 @@ private:
     IID m_ownId;
 };
 
+// A property that programs read and write: its value, or nothing once it is written.
+template<class Value>
+Variant ReadOrWrite(const Arguments& arguments, Value& value)
+{
+    if (!arguments.IsPut()) return value;
+    if constexpr (std::is_same_v<Value, std::wstring>)
+        value = arguments.At(0).Text();
+    else if constexpr (std::is_same_v<Value, bool>)
+        value = arguments.At(0).Boolean();
+    else
+        value = arguments.At(0).Number();
+    return {};
+}
+
 // The class whose method answers, or whose objects a function answers for.
 template<class>
 struct Answering;

@@ -1,7 +1,7 @@
 // What host objects report to their callers: the platform's errors in the words of the host.
 #pragma once
 
-#include "automation/Text.h"
+#include "base/Text.h"
 #include "platform/Error.h"
 
 #include <windows.h>

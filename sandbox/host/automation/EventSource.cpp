@@ -1,15 +1,35 @@
 #include "automation/EventSource.h"
 
-#include <algorithm>
-
 #include <olectl.h>
+
+#include <algorithm>
+#include <vector>
 
 namespace host
 {
 
-void EventSource::Fire(DISPID event, std::span<VARIANT> arguments)
+void EventSource::Fire(DISPID event, std::initializer_list<IDispatch*> objects)
 {
-    std::vector<VARIANT> reversed(arguments.rbegin(), arguments.rend()); // borrowed: the caller keeps the references
+    const std::vector<Variant> held(objects.begin(), objects.end());
+    std::vector<VARIANT> reversed(held.size());
+    std::transform(held.rbegin(), held.rend(), reversed.begin(), [](const Variant& one) { return one.Get(); });
+    Call(event, reversed);
+}
+
+bool EventSource::FireCancellable(DISPID event, IDispatch& object)
+{
+    VARIANT_BOOL cancel = VARIANT_FALSE;
+    const Variant held{&object};
+    VARIANT byReference{};
+    byReference.vt = VT_BOOL | VT_BYREF;
+    byReference.pboolVal = &cancel;
+    VARIANT reversed[] = {byReference, held.Get()};
+    Call(event, reversed);
+    return cancel != VARIANT_FALSE;
+}
+
+void EventSource::Call(DISPID event, std::span<VARIANT> reversed)
+{
     const auto sinks = m_sinks; // a sink may unadvise itself or others while it is called
     for (const auto& [cookie, sink] : sinks) {
         if (!m_sinks.contains(cookie)) continue;
@@ -20,7 +40,7 @@ void EventSource::Fire(DISPID event, std::span<VARIANT> arguments)
 
 STDMETHODIMP EventSource::QueryInterface(REFIID id, void** object)
 {
-    if (!object) return E_POINTER;
+    if (object == nullptr) return E_POINTER;
     if (id != IID_IConnectionPoint) return m_owner.QueryInterface(id, object);
     *object = static_cast<IConnectionPoint*>(this);
     AddRef();
@@ -29,13 +49,13 @@ STDMETHODIMP EventSource::QueryInterface(REFIID id, void** object)
 
 STDMETHODIMP EventSource::EnumConnectionPoints(IEnumConnectionPoints** points)
 {
-    if (points) *points = nullptr;
+    if (points != nullptr) *points = nullptr;
     return E_NOTIMPL;
 }
 
 STDMETHODIMP EventSource::FindConnectionPoint(REFIID id, IConnectionPoint** point)
 {
-    if (!point) return E_POINTER;
+    if (point == nullptr) return E_POINTER;
     *point = nullptr;
     if (id != m_events) return CONNECT_E_NOCONNECTION;
     *point = this;
@@ -45,14 +65,14 @@ STDMETHODIMP EventSource::FindConnectionPoint(REFIID id, IConnectionPoint** poin
 
 STDMETHODIMP EventSource::GetConnectionInterface(IID* id)
 {
-    if (!id) return E_POINTER;
+    if (id == nullptr) return E_POINTER;
     *id = m_events;
     return S_OK;
 }
 
 STDMETHODIMP EventSource::GetConnectionPointContainer(IConnectionPointContainer** container)
 {
-    if (!container) return E_POINTER;
+    if (container == nullptr) return E_POINTER;
     *container = this;
     AddRef();
     return S_OK;
@@ -60,7 +80,7 @@ STDMETHODIMP EventSource::GetConnectionPointContainer(IConnectionPointContainer*
 
 STDMETHODIMP EventSource::Advise(IUnknown* sink, DWORD* cookie)
 {
-    if (!sink || !cookie) return E_POINTER;
+    if (sink == nullptr || cookie == nullptr) return E_POINTER;
     ComPtr<IDispatch> events;
     if (FAILED(sink->QueryInterface(m_events, reinterpret_cast<void**>(events.GetAddressOf()))) &&
         FAILED(sink->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(events.GetAddressOf()))))
@@ -70,11 +90,11 @@ STDMETHODIMP EventSource::Advise(IUnknown* sink, DWORD* cookie)
     return S_OK;
 }
 
-STDMETHODIMP EventSource::Unadvise(DWORD cookie) { return m_sinks.erase(cookie) ? S_OK : CONNECT_E_NOCONNECTION; }
+STDMETHODIMP EventSource::Unadvise(DWORD cookie) { return m_sinks.erase(cookie) != 0 ? S_OK : CONNECT_E_NOCONNECTION; }
 
 STDMETHODIMP EventSource::EnumConnections(IEnumConnections** connections)
 {
-    if (connections) *connections = nullptr;
+    if (connections != nullptr) *connections = nullptr;
     return E_NOTIMPL;
 }
 

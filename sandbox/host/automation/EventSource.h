@@ -1,12 +1,13 @@
+// The events of host objects.
 #pragma once
 
-#include <map>
-#include <span>
-#include <vector>
+#include "automation/AutomationObject.h"
 
 #include <ocidl.h>
 
-#include "automation/AutomationObject.h"
+#include <initializer_list>
+#include <map>
+#include <span>
 
 namespace host
 {
@@ -18,11 +19,13 @@ class EventSource final : public IConnectionPointContainer, public IConnectionPo
 public:
     EventSource(IUnknown& owner, REFIID events) : m_owner{owner}, m_events{events} {}
 
-    // Calls every sink. The arguments are given in the order in which they are written.
-    void Fire(DISPID event, std::span<VARIANT> arguments);
+    // Calls every sink with these objects, in the order in which they are written.
+    void Fire(DISPID event, std::initializer_list<IDispatch*> objects);
+
+    // Calls every sink with the object and, by reference, whether to cancel. True when they leave it so.
+    bool FireCancellable(DISPID event, IDispatch& object);
 
     [[nodiscard]] bool HasSinks() const { return !m_sinks.empty(); }
-    void DropSinks() { m_sinks.clear(); }
 
     STDMETHODIMP QueryInterface(REFIID id, void** object) override;
     STDMETHODIMP_(ULONG) AddRef() override { return m_owner.AddRef(); }
@@ -38,6 +41,8 @@ public:
     STDMETHODIMP EnumConnections(IEnumConnections** connections) override;
 
 private:
+    void Call(DISPID event, std::span<VARIANT> reversed);
+
     IUnknown& m_owner;
     IID m_events;
     std::map<DWORD, ComPtr<IDispatch>> m_sinks;

@@ -1,10 +1,12 @@
+// Classes of other programs that the host stands in for.
 #pragma once
-
-#include <functional>
-#include <string>
 
 #include "automation/AutomationObject.h"
 #include "automation/ClassObject.h"
+#include "platform/Registry.h"
+
+#include <functional>
+#include <string>
 
 namespace host
 {
@@ -18,16 +20,13 @@ public:
     OfferedClass(REFCLSID classId, std::wstring progId, std::function<ComPtr<IDispatch>()> create);
     OfferedClass(const OfferedClass&) = delete;
     OfferedClass& operator=(const OfferedClass&) = delete;
-    ~OfferedClass();
+    ~OfferedClass() { RemoveTraces(); }
 
     // Removes the registry entries alone.
     void RemoveTraces() const;
 
 private:
-    void WriteKey(HKEY root) const;
-    void RemoveKey(HKEY root) const;
-
-    CLSID m_classId;
+    std::wstring m_id;
     std::wstring m_key;
     ClassObject m_class;
 };

@@ -5,7 +5,7 @@
 
 #include <windows.h>
 
-#include "automation/Text.h"
+#include "base/Text.h"
 
 namespace host
 {

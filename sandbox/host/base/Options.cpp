@@ -3,7 +3,7 @@
 #include <cwchar>
 #include <stdexcept>
 
-#include "automation/Text.h"
+#include "base/Text.h"
 
 namespace host
 {

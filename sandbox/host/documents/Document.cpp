@@ -3,11 +3,12 @@
 #include <algorithm>
 #include <span>
 
-#include "automation/Text.h"
+#include "base/Text.h"
 #include "documents/CompoundFile.h"
 #include "documents/MessageFile.h"
 #include "documents/Refusal.h"
 #include "documents/Storage.h"
+#include "platform/Procedure.h"
 
 namespace host
 {
@@ -61,13 +62,12 @@ Document Document::Open(HostVersion host, const std::wstring& path, bool readOnl
 {
     Document document{host};
     const std::wstring full = FullPath(path);
-    bool storage = false;
+    std::string bytes;
+    if (const auto failure = corvane::Catch([&] { bytes = ReadWholeFile(full); }))
+        Refuse(host.kind, RefusalOf(*failure), full);
+    const bool storage = IsStorage(bytes);
     try {
-        const std::string bytes = ReadWholeFile(full);
-        storage = IsStorage(bytes);
         document.Read(bytes, storage);
-    } catch (const FileError& error) {
-        Refuse(host.kind, RefusalOfSystemError(error.Code()), full);
     } catch (const std::exception& error) {
         Refuse(host.kind, Refusal::NotRead, full + L": " + ReasonOf(error));
     }
@@ -82,7 +82,7 @@ void Document::Save(SaveFault fault)
     if (m_readOnly) Refuse(m_host.kind, Refusal::ReadOnly, m_fullName);
     CheckEditable();
     if (fault == SaveFault::Refused || (m_saved && FactsOf(m_host.kind).savesOnlyChanges)) return;
-    m_hold = FileHandle{};
+    m_hold = UniqueFile{};
     Write(m_file, *m_format, fault);
     if (fault != SaveFault::Growing) m_hold = HoldOpenDocument(m_file, m_readOnly); // its completion still has to write
     m_saved = true;
@@ -91,13 +91,13 @@ void Document::Save(SaveFault fault)
 void Document::SaveAs(const std::wstring& path, const SaveFormat& format, SaveFault fault)
 {
     const std::wstring full = CheckedPath(path, format);
-    m_hold = FileHandle{};
+    m_hold = UniqueFile{};
     Write(full, format, fault);
     m_format = &format;
     m_readOnly = false;
     m_saved = true;
     TakeFile(full);
-    if (fault == SaveFault::Growing) m_hold = FileHandle{};
+    if (fault == SaveFault::Growing) m_hold = UniqueFile{};
 }
 
 void Document::SaveCopyAs(const std::wstring& path, const SaveFormat& format, SaveFault fault)
@@ -114,13 +114,12 @@ void Document::CopyTo(const std::wstring& path, const SaveFormat& format, SaveFa
 // Leaves the document's own file held as it was when the other cannot be written.
 void Document::Write(const std::wstring& path, const SaveFormat& format, SaveFault fault)
 {
-    m_spoil = FileHandle{};
-    try {
-        m_spoil = WriteDocumentFile(path, Bytes(format), fault);
-    } catch (const FileError& error) {
-        if (HasFile() && !m_hold.IsOpen()) m_hold = HoldOpenDocument(m_file, m_readOnly);
-        Refuse(m_host.kind, RefusalOfSystemError(error.Code()), path);
-    }
+    m_spoil = UniqueFile{};
+    const std::string bytes = Bytes(format);
+    const auto failure = corvane::Catch([&] { m_spoil = WriteDocumentFile(path, bytes, fault); });
+    if (!failure) return;
+    if (HasFile() && !m_hold) m_hold = HoldOpenDocument(m_file, m_readOnly);
+    Refuse(m_host.kind, RefusalOf(*failure), path);
 }
 
 std::wstring Document::CheckedPath(const std::wstring& path, const SaveFormat& format) const

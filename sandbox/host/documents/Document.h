@@ -1,3 +1,4 @@
+// A document and its file.
 #pragma once
 
 #include <optional>
@@ -82,8 +83,8 @@ private:
     const SaveFormat* m_format = nullptr;
     std::optional<OfficePackage> m_package; // none for other formats
     DocumentContents m_contents;
-    FileHandle m_hold;  // on its own file
-    FileHandle m_spoil; // on what it wrote last
+    UniqueFile m_hold;  // on its own file
+    UniqueFile m_spoil; // on what it wrote last
 };
 
 } // namespace host

@@ -5,16 +5,20 @@
 #include <cwctype>
 #include <thread>
 
+#include "automation/Errors.h"
 #include "base/Console.h"
+#include "platform/HResult.h"
+#include "platform/LongPath.h"
 
 namespace host
 {
 namespace
 {
 
+using corvane::AsLongPath;
+
 constexpr std::chrono::milliseconds kGrowthTime{2500};
 constexpr std::chrono::milliseconds kSlowTime{3000};
-constexpr std::size_t kUsualPath = 248; // what a folder's path may have; a file's may have a few letters more
 
 struct FaultRow
 {
@@ -37,48 +41,36 @@ constexpr FaultRow kFaults[] = {
     {SaveFault::Held, "held", ERROR_SUCCESS},
 };
 
-std::wstring SystemReason(DWORD error)
+[[noreturn]] void Fail(DWORD code, const std::wstring& path)
 {
-    wchar_t text[512] = L"";
-    const DWORD length = ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error, 0,
-                                          text, static_cast<DWORD>(std::size(text)), nullptr);
-    std::wstring reason{text, length};
-    while (!reason.empty() && std::iswspace(reason.back()))
-        reason.pop_back();
-    return reason.empty() ? L"error " + std::to_wstring(error) : reason;
+    const HRESULT result = HRESULT_FROM_WIN32(code);
+    throw Error{result, {}, path + L": " + corvane::MessageOf(result)};
 }
 
-[[noreturn]] void Fail(const std::wstring& path) { throw FileError{::GetLastError(), path}; }
-
-// The system takes longer paths in this form only.
-std::wstring SystemPath(const std::wstring& path)
+UniqueFile OpenFile(const std::wstring& path, DWORD access, DWORD sharing, DWORD disposition = OPEN_EXISTING)
 {
-    if (path.size() < kUsualPath || path.starts_with(L"\\\\?\\")) return path;
-    return path.starts_with(L"\\\\") ? L"\\\\?\\UNC" + path.substr(1) : L"\\\\?\\" + path;
+    const HANDLE file = ::CreateFileW(AsLongPath(path).c_str(), access, sharing, nullptr, disposition, 0, nullptr);
+    return UniqueFile{file == INVALID_HANDLE_VALUE ? nullptr : file};
 }
 
-FileHandle OpenFile(const std::wstring& path, DWORD access, DWORD sharing, DWORD disposition = OPEN_EXISTING)
+bool WriteAll(const UniqueFile& file, std::string_view bytes)
 {
-    return FileHandle{::CreateFileW(SystemPath(path).c_str(), access, sharing, nullptr, disposition, 0, nullptr)};
+    DWORD written = 0;
+    return file &&
+           ::WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) != FALSE &&
+           written == bytes.size();
 }
 
 void CompleteLater(std::wstring path, std::string bytes)
 {
     std::thread{[path = std::move(path), bytes = std::move(bytes)] {
         std::this_thread::sleep_for(kGrowthTime);
-        const FileHandle file = OpenFile(path, GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
-        DWORD written = 0;
-        if (!file.IsOpen() ||
-            !::WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr))
-            PrintError(L"the growing file could not be completed: " + path);
+        const auto file = OpenFile(path, GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
+        if (!WriteAll(file, bytes)) PrintError(L"the growing file could not be completed: " + path);
     }}.detach();
 }
 
 } // namespace
-
-FileError::FileError(DWORD code, const std::wstring& path)
-    : Error{E_FAIL, {}, path + L": " + SystemReason(code)}, m_code{code}
-{}
 
 SaveFault SaveFaultNamed(std::string_view name)
 {
@@ -88,40 +80,37 @@ SaveFault SaveFaultNamed(std::string_view name)
 
 std::string ReadWholeFile(const std::wstring& path)
 {
-    const FileHandle file = OpenFile(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE);
+    const UniqueFile file = OpenFile(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE);
     LARGE_INTEGER size{};
-    if (!file.IsOpen() || !::GetFileSizeEx(file.Get(), &size)) Fail(path);
+    if (!file || !::GetFileSizeEx(file.Get(), &size)) Fail(::GetLastError(), path);
     std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
     DWORD read = 0;
-    if (!::ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr)) Fail(path);
+    if (!::ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr))
+        Fail(::GetLastError(), path);
     bytes.resize(read);
     return bytes;
 }
 
 void WriteWholeFile(const std::wstring& path, std::string_view bytes)
 {
-    const FileHandle file = OpenFile(path, GENERIC_WRITE, 0, CREATE_ALWAYS);
-    DWORD written = 0;
-    if (!file.IsOpen() || !::WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) ||
-        written != bytes.size())
-        Fail(path);
+    if (!WriteAll(OpenFile(path, GENERIC_WRITE, 0, CREATE_ALWAYS), bytes)) Fail(::GetLastError(), path);
 }
 
-FileHandle WriteDocumentFile(const std::wstring& path, const std::string& bytes, SaveFault fault)
+UniqueFile WriteDocumentFile(const std::wstring& path, const std::string& bytes, SaveFault fault)
 {
     const auto row = std::ranges::find(kFaults, fault, &FaultRow::fault);
-    if (row != std::end(kFaults) && row->error != ERROR_SUCCESS) throw FileError{row->error, path};
+    if (row != std::end(kFaults) && row->error != ERROR_SUCCESS) Fail(row->error, path);
     if (fault == SaveFault::Slow) std::this_thread::sleep_for(kSlowTime);
     const std::size_t zeros = fault == SaveFault::Zeros     ? bytes.size()
                               : fault == SaveFault::Growing ? bytes.size() / 2
                                                             : 0;
     WriteWholeFile(path, zeros != 0 || fault == SaveFault::Empty ? std::string(zeros, '\0') : bytes);
     if (fault == SaveFault::Growing) CompleteLater(path, bytes);
-    if (fault == SaveFault::Gone) ::DeleteFileW(SystemPath(path).c_str());
-    return fault == SaveFault::Held ? OpenFile(path, GENERIC_READ, 0) : FileHandle{};
+    if (fault == SaveFault::Gone) ::DeleteFileW(AsLongPath(path).c_str());
+    return fault == SaveFault::Held ? OpenFile(path, GENERIC_READ, 0) : UniqueFile{};
 }
 
-FileHandle HoldOpenDocument(const std::wstring& path, bool readOnly)
+UniqueFile HoldOpenDocument(const std::wstring& path, bool readOnly)
 {
     const DWORD access = readOnly ? GENERIC_READ : GENERIC_READ | GENERIC_WRITE;
     const DWORD sharing = readOnly ? FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE : FILE_SHARE_READ;
@@ -130,7 +119,7 @@ FileHandle HoldOpenDocument(const std::wstring& path, bool readOnly)
 
 bool IsWriteProtected(const std::wstring& path)
 {
-    const DWORD attributes = ::GetFileAttributesW(SystemPath(path).c_str());
+    const DWORD attributes = ::GetFileAttributesW(AsLongPath(path).c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
 }
 

@@ -1,39 +1,15 @@
+// Files of documents: how they are read, written, spoilt and held open, and the parts of their paths.
 #pragma once
+
+#include "platform/Owners.h"
 
 #include <string>
 #include <string_view>
-#include <utility>
-
-#include <windows.h>
-
-#include "automation/Errors.h"
 
 namespace host
 {
 
-// Owns a file handle.
-class FileHandle
-{
-public:
-    FileHandle() = default;
-    explicit FileHandle(HANDLE handle) : m_handle{handle} {}
-    FileHandle(FileHandle&& other) noexcept : m_handle{std::exchange(other.m_handle, INVALID_HANDLE_VALUE)} {}
-    FileHandle& operator=(FileHandle other) noexcept
-    {
-        std::swap(m_handle, other.m_handle);
-        return *this;
-    }
-    ~FileHandle()
-    {
-        if (IsOpen()) ::CloseHandle(m_handle);
-    }
-
-    [[nodiscard]] HANDLE Get() const { return m_handle; }
-    [[nodiscard]] bool IsOpen() const { return m_handle != INVALID_HANDLE_VALUE; }
-
-private:
-    HANDLE m_handle = INVALID_HANDLE_VALUE;
-};
+using corvane::UniqueFile;
 
 // How a written file is spoilt, to show what an add-in makes of it.
 enum class SaveFault
@@ -52,29 +28,18 @@ enum class SaveFault
     Held,    // right after the save another program opens it for itself alone
 };
 
-// A file that the system would not open, read or write.
-class FileError : public Error
-{
-public:
-    FileError(DWORD code, const std::wstring& path);
-
-    [[nodiscard]] DWORD Code() const noexcept { return m_code; }
-
-private:
-    DWORD m_code;
-};
-
 [[nodiscard]] SaveFault SaveFaultNamed(std::string_view name);
 
-// These throw FileError with the path and the system's reason. Paths may be longer than the system's usual limit.
+// These throw Error with the path and the system's reason, its number the system's code as an HRESULT. Paths may be
+// longer than the system's usual limit.
 [[nodiscard]] std::string ReadWholeFile(const std::wstring& path);
 void WriteWholeFile(const std::wstring& path, std::string_view bytes);
 
 // What is returned keeps others from the file where the fault asks for it; else it is not open.
-FileHandle WriteDocumentFile(const std::wstring& path, const std::string& bytes, SaveFault fault);
+UniqueFile WriteDocumentFile(const std::wstring& path, const std::string& bytes, SaveFault fault);
 
 // Holds the file as the real host holds the document that it shows: others may read it, but not write to it.
-[[nodiscard]] FileHandle HoldOpenDocument(const std::wstring& path, bool readOnly);
+[[nodiscard]] UniqueFile HoldOpenDocument(const std::wstring& path, bool readOnly);
 
 [[nodiscard]] bool IsWriteProtected(const std::wstring& path);
 

@@ -3,9 +3,10 @@
 #include <cwchar>
 #include <iterator>
 
-#include "automation/Text.h"
+#include "base/Text.h"
 #include "documents/Storage.h"
 #include "package/Bytes.h"
+#include "platform/CodePage.h"
 
 namespace host
 {
@@ -53,7 +54,7 @@ public:
     void Add(std::uint32_t tag, const std::string& value)
     {
         const bool unicode = m_type == kUnicodeText;
-        const std::string bytes = unicode ? WideBytes(Widen(value)) : ToCodePage(Widen(value));
+        const std::string bytes = unicode ? WideBytes(Widen(value)) : corvane::ToCodePage(Widen(value));
         AddRow(tag << 16 | m_type, static_cast<std::uint32_t>(bytes.size() + (unicode ? 2 : 1)), 0);
         m_streams.push_back({StreamOf(tag, m_type), bytes});
     }
@@ -79,7 +80,7 @@ private:
 std::wstring FieldText(const std::vector<StorageStream>& streams, std::uint32_t tag)
 {
     const std::string wide = StreamNamed(streams, StreamOf(tag, kUnicodeText));
-    if (wide.empty()) return FromCodePage(StreamNamed(streams, StreamOf(tag, kAnsiText)));
+    if (wide.empty()) return corvane::FromCodePage(StreamNamed(streams, StreamOf(tag, kAnsiText)));
     return {reinterpret_cast<const wchar_t*>(wide.data()), wide.size() / sizeof(wchar_t)};
 }
 

@@ -100,9 +100,9 @@ void Refuse(HostKind host, Refusal refusal, const std::wstring& subject)
     throw Error{row == std::end(kNumbers) ? UsualNumber(host) : row->number, {}, text};
 }
 
-Refusal RefusalOfSystemError(DWORD error)
+Refusal RefusalOf(const Error& failure)
 {
-    switch (error) {
+    switch (HRESULT_CODE(failure.Number())) {
     case ERROR_SHARING_VIOLATION:
     case ERROR_LOCK_VIOLATION:
         return Refusal::Locked;

@@ -1,3 +1,4 @@
+// What hosts refuse to do, each in its own numbers.
 #pragma once
 
 #include <string>
@@ -32,7 +33,7 @@ enum class Refusal
 // is about.
 [[noreturn]] void Refuse(HostKind host, Refusal refusal, const std::wstring& subject = {});
 
-// What the system's error for a file means to a host that saves or opens it.
-[[nodiscard]] Refusal RefusalOfSystemError(DWORD error);
+// What a file that could not be read or written means to a host.
+[[nodiscard]] Refusal RefusalOf(const Error& failure);
 
 } // namespace host

@@ -1,3 +1,4 @@
+// The host's application object and its collection of documents.
 #pragma once
 
 #include "automation/EventSource.h"
@@ -5,8 +6,6 @@
 
 namespace host
 {
-
-class Session;
 
 // The host's application object with its events.
 class ApplicationObject final : public AutomationObject<IDispatch>
@@ -21,28 +20,26 @@ public:
 
     // The answers of the member tables. Where there is no active document or window some hosts fail, others give
     // Nothing.
-    Variant GetName(const Arguments&);
-    Variant GetVersion(const Arguments&);
-    Variant GetBuild(const Arguments&);
-    Variant GetBuildNumber(const Arguments&);
-    Variant GetWindowHandle(const Arguments&);
-    Variant GetDocuments(const Arguments&);
-    Variant GetWindows(const Arguments&);
-    Variant GetActiveWindow(const Arguments&);
-    Variant GetActiveWindowOrNothing(const Arguments&);
-    Variant GetActiveDocument(const Arguments&);
-    Variant GetActiveDocumentOrNothing(const Arguments&);
-    Variant GetCommandBars(const Arguments&);
-    Variant GetComAddIns(const Arguments&);
-    Variant Run(const Arguments& arguments);
-    Variant Activate(const Arguments&);
+    const wchar_t* Name() const { return m_session.Facts().name; }
+    std::wstring Version() const;
+    std::wstring Build() const;
+    long BuildNumber() const;
+    long WindowHandle() const;
+    ComPtr<IDispatch> Documents();
+    ComPtr<IDispatch> Windows();
+    ComPtr<IDispatch> ActiveWindow() { return ActiveDocument()->Window(1); }
+    ComPtr<IDispatch> ActiveWindowOrNothing();
+    DocumentObject* ActiveDocument();
+    DocumentObject* ActiveDocumentOrNothing() { return m_session.Reachable(); }
+    ComPtr<IDispatch> CommandBars();
+    ComPtr<IDispatch> ComAddIns();
+    void Run(const Arguments& arguments) { m_session.RunMacro(arguments.At(0).Text()); }
+    void Activate() { ::SetForegroundWindow(m_session.window); }
     Variant Interactive(const Arguments& arguments);
-    Variant GetReady(const Arguments&);
-    Variant CreateItem(const Arguments& arguments);
+    bool Ready() const { return !m_session.IsEditing(); }
+    ComPtr<DocumentObject> CreateItem(const Arguments& arguments);
 
 private:
-    [[nodiscard]] DocumentObject& ActiveOrFail();
-
     Session& m_session;
     EventSource m_events;
     bool m_interactive = true;
@@ -58,17 +55,17 @@ public:
     [[nodiscard]] Session& Owner() { return m_session; }
 
     // The answers of the member tables. Open takes the path first and, at this index, whether it is for reading only.
-    Variant Item(const Arguments& arguments);
-    Variant Count(const Arguments&);
-    Variant Add(const Arguments&);
+    DocumentObject* Item(const Arguments& arguments) const;
+    long Count() const { return static_cast<long>(Reachable().size()); }
+    DocumentObject* Add() { return &m_session.New(); }
     template<std::size_t readOnlyIndex>
-    Variant Open(const Arguments& arguments)
+    DocumentObject* Open(const Arguments& arguments)
     {
-        return OpenFile(arguments, arguments.Has(readOnlyIndex) && arguments.At(readOnlyIndex).Number() != 0);
+        const bool readOnly = arguments.Has(readOnlyIndex) && arguments.At(readOnlyIndex).Number() != 0;
+        return &m_session.Open(arguments.At(0).Text(), readOnly);
     }
 
 private:
-    Variant OpenFile(const Arguments& arguments, bool readOnly);
     [[nodiscard]] std::vector<DocumentObject*> Reachable() const;
 
     Session& m_session;

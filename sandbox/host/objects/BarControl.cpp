@@ -1,6 +1,5 @@
-#include "objects/CommandBars.h"
-
 #include "automation/OfficeInterfaces.h"
+#include "objects/CommandBars.h"
 
 namespace host
 {
@@ -20,26 +19,42 @@ BarControlObject::BarControlObject(long type, long id, std::wstring caption, Com
 
 BarControlObject::~BarControlObject() = default;
 
+template<auto value>
+Variant BarControlObject::Property(const Arguments& arguments, const wchar_t* name)
+{
+    Variant answer = ReadOrWrite(arguments, this->*value);
+    if (arguments.IsPut()) m_history.append(L", ").append(name).append(L" ").append(arguments.At(0).Text());
+    return answer;
+}
+
 std::span<const Member> BarControlObject::Members() const
 {
     using C = BarControlObject;
+    using A = const Arguments&;
     static constexpr Member kMembers[] = {
-        {0, L"Caption", kGetPut, Answer<&C::CaptionProperty>},
-        {1, L"BeginGroup", kGetPut, Answer<&C::BeginGroup>},
-        {2, L"Controls", kGet, Answer<&C::GetControls>},
-        {3, L"CommandBar", kGet, Answer<&C::GetCommandBar>},
-        {4, L"Delete", kMethod, Answer<&C::DoDelete>},
-        {5, L"Enabled", kGetPut, Answer<&C::Enabled>},
-        {6, L"Execute", kMethod, Answer<&C::DoExecute>},
-        {7, L"Id", kGet, Answer<&C::GetId>},
-        {8, L"Index", kGet, Answer<&C::GetIndex>},
-        {9, L"Parameter", kGetPut, Answer<&C::Parameter>},
-        {10, L"Parent", kGet, Answer<&C::GetParent>},
-        {11, L"Style", kGetPut, Answer<&C::Style>},
-        {12, L"Tag", kGetPut, Answer<&C::TagProperty>},
-        {13, L"TooltipText", kGetPut, Answer<&C::TooltipText>},
-        {14, L"Type", kGet, Answer<&C::GetType>},
-        {15, L"Visible", kGetPut, Answer<&C::Visible>},
+        {0, L"Caption", kGetPut,
+         Answer<[](C& own, A value) { return own.Property<&C::m_caption>(value, L"Caption"); }>},
+        {1, L"BeginGroup", kGetPut,
+         Answer<[](C& own, A value) { return own.Property<&C::m_beginGroup>(value, L"BeginGroup"); }>},
+        {2, L"Controls", kGet, Answer<[](C& own) { return own.MenuOrFail().Controls(); }>},
+        {3, L"CommandBar", kGet, Answer<[](C& own) { return &own.MenuOrFail(); }>},
+        {4, L"Delete", kMethod, Answer<&C::Delete>},
+        {5, L"Enabled", kGetPut,
+         Answer<[](C& own, A value) { return own.Property<&C::m_enabled>(value, L"Enabled"); }>},
+        {6, L"Execute", kMethod, Answer<&C::Press>},
+        {7, L"Id", kGet, Answer<[](C& own) { return own.CheckTells(L"id"), own.m_id; }>},
+        {8, L"Index", kGet, Answer<&C::Index>},
+        {9, L"Parameter", kGetPut,
+         Answer<[](C& own, A value) { return own.Property<&C::m_parameter>(value, L"Parameter"); }>},
+        {10, L"Parent", kGet, Answer<[](C& own) { return own.m_parent; }>},
+        {11, L"Style", kGetPut, Answer<[](C& own, A value) { return own.Property<&C::m_style>(value, L"Style"); }>},
+        {12, L"Tag", kGetPut,
+         Answer<[](C& own, A value) { return own.CheckTells(L"tag"), own.Property<&C::m_tag>(value, L"Tag"); }>},
+        {13, L"TooltipText", kGetPut,
+         Answer<[](C& own, A value) { return own.Property<&C::m_tip>(value, L"TooltipText"); }>},
+        {14, L"Type", kGet, Answer<&C::Type>},
+        {15, L"Visible", kGetPut,
+         Answer<[](C& own, A value) { return own.Property<&C::m_visible>(value, L"Visible"); }>},
     };
     return kMembers;
 }
@@ -52,119 +67,46 @@ void* BarControlObject::Interface(REFIID id)
     return own ? static_cast<IDispatch*>(this) : nullptr;
 }
 
-void BarControlObject::Press()
-{
-    const ComPtr<BarControlObject> alive{this};
-    VARIANT_BOOL cancel = VARIANT_FALSE;
-    const Variant self{this};
-    VARIANT byReference{};
-    byReference.vt = VT_BOOL | VT_BYREF;
-    byReference.pboolVal = &cancel;
-    VARIANT arguments[] = {self.Get(), byReference};
-    m_clicks.Fire(kClick, arguments);
-}
+void BarControlObject::Press() { m_clicks.FireCancellable(kClick, *this); }
 
 void BarControlObject::Detach()
 {
     m_parent = nullptr;
-    if (!m_menu) return;
+    if (m_menu == nullptr) return;
     const auto entries = m_menu->Entries();
     for (const auto& entry : entries)
         m_menu->Remove(*entry.Get());
 }
 
+void BarControlObject::CheckTells(const wchar_t* what) const
+{
+    if (m_id == kUntoldId) throw Error{E_FAIL, {}, std::wstring{L"The control does not tell its "} + what + L"."};
+}
+
 CommandBarObject& BarControlObject::MenuOrFail()
 {
-    if (!m_menu) throw Error{DISP_E_MEMBERNOTFOUND, {}, L"A button has no controls."};
+    if (m_menu == nullptr) throw Error{DISP_E_MEMBERNOTFOUND, {}, L"A button has no controls."};
     return *m_menu.Get();
 }
 
 void BarControlObject::NoteAdded(const Arguments& arguments)
 {
+    if (arguments.Has(2)) m_parameter = arguments.At(2).Text();
     m_history = L"Add";
-    for (UINT index = 0; index < 5; ++index)
+    for (std::size_t index = 0; index < 5; ++index)
         m_history += L" " + (arguments.Has(index) ? arguments.At(index).Text() : L"-");
 }
 
-Variant BarControlObject::Note(const wchar_t* property, const Variant& value)
+long BarControlObject::Index() const
 {
-    m_history.append(L", ").append(property).append(L" ").append(value.Text());
-    return {};
+    if (m_parent == nullptr) throw Error{kInvalidRequest, {}, L"The control was deleted."};
+    return static_cast<long>(m_parent->PositionOf(*this));
 }
 
-Variant BarControlObject::TextProperty(const wchar_t* name, const Arguments& arguments, std::wstring& text)
-{
-    if (!arguments.IsPut()) return Variant{text};
-    text = arguments.At(0).Text();
-    return Note(name, arguments.At(0));
-}
-
-Variant BarControlObject::FlagProperty(const wchar_t* name, const Arguments& arguments, bool& flag)
-{
-    if (!arguments.IsPut()) return Variant{flag};
-    flag = arguments.At(0).Boolean();
-    return Note(name, arguments.At(0));
-}
-
-Variant BarControlObject::GetType(const Arguments&) { return Variant{m_type}; }
-Variant BarControlObject::GetId(const Arguments&)
-{
-    if (m_id == kUntoldId) throw Error{E_FAIL, {}, L"The control does not tell its id."};
-    return Variant{m_id};
-}
-
-Variant BarControlObject::GetIndex(const Arguments&)
-{
-    if (!m_parent) throw Error{kInvalidRequest, {}, L"The control was deleted."};
-    return Variant{static_cast<long>(m_parent->PositionOf(*this))};
-}
-
-Variant BarControlObject::CaptionProperty(const Arguments& arguments)
-{
-    return TextProperty(L"Caption", arguments, m_caption);
-}
-Variant BarControlObject::TagProperty(const Arguments& arguments)
-{
-    if (m_id == kUntoldId) throw Error{E_FAIL, {}, L"The control does not tell its tag."};
-    return TextProperty(L"Tag", arguments, m_tag);
-}
-Variant BarControlObject::Parameter(const Arguments& arguments)
-{
-    return TextProperty(L"Parameter", arguments, m_parameter);
-}
-Variant BarControlObject::TooltipText(const Arguments& arguments)
-{
-    return TextProperty(L"TooltipText", arguments, m_tip);
-}
-Variant BarControlObject::Enabled(const Arguments& arguments) { return FlagProperty(L"Enabled", arguments, m_enabled); }
-Variant BarControlObject::Visible(const Arguments& arguments) { return FlagProperty(L"Visible", arguments, m_visible); }
-Variant BarControlObject::BeginGroup(const Arguments& arguments)
-{
-    return FlagProperty(L"BeginGroup", arguments, m_beginGroup);
-}
-
-Variant BarControlObject::Style(const Arguments& arguments)
-{
-    if (!arguments.IsPut()) return Variant{m_style};
-    m_style = arguments.At(0).Number();
-    return Note(L"Style", arguments.At(0));
-}
-
-Variant BarControlObject::GetControls(const Arguments&) { return Variant{MenuOrFail().Controls().Get()}; }
-Variant BarControlObject::GetCommandBar(const Arguments&) { return Variant{&MenuOrFail()}; }
-Variant BarControlObject::GetParent(const Arguments&) { return Variant{m_parent}; }
-
-Variant BarControlObject::DoDelete(const Arguments&)
+void BarControlObject::Delete()
 {
     const ComPtr<BarControlObject> alive{this};
-    if (m_parent) m_parent->Remove(*this);
-    return {};
-}
-
-Variant BarControlObject::DoExecute(const Arguments&)
-{
-    Press();
-    return {};
+    if (m_parent != nullptr) m_parent->Remove(*this);
 }
 
 } // namespace host

@@ -14,24 +14,16 @@ std::size_t ItemPosition(const Variant& index, std::size_t count)
     return static_cast<std::size_t>(position);
 }
 
-ListObject::ListObject(const wchar_t* className, REFIID id, std::vector<ComPtr<IDispatch>> items)
-    : AutomationObject{className, id}, m_items{std::move(items)}
-{}
-
 std::span<const Member> ListObject::Members() const
 {
+    using L = ListObject;
     static constexpr Member kMembers[] = {
-        {0, L"Item", kEither, Answer<&ListObject::Item>},
-        {11, L"Count", kGet, Answer<&ListObject::Count>},
+        {0, L"Item", kEither, Answer<[](const L& list, const Arguments& arguments) {
+             return list.m_items[ItemPosition(arguments.At(0), list.m_items.size()) - 1];
+         }>},
+        {11, L"Count", kGet, Answer<[](const L& list) { return static_cast<long>(list.m_items.size()); }>},
     };
     return kMembers;
 }
-
-Variant ListObject::Item(const Arguments& arguments)
-{
-    return Variant{m_items[ItemPosition(arguments.At(0), m_items.size()) - 1].Get()};
-}
-
-Variant ListObject::Count(const Arguments&) { return Variant{static_cast<long>(m_items.size())}; }
 
 } // namespace host

@@ -1,3 +1,4 @@
+// The registered add-ins, as shown to the add-ins themselves and to programs.
 #pragma once
 
 #include "automation/AutomationObject.h"
@@ -7,7 +8,7 @@ namespace host
 
 class Session;
 
-// What the host knows of one registered add-in, as shown to the add-in itself and to programs.
+// What the host knows of one registered add-in.
 class ComAddInObject final : public AutomationObject<IDispatch>
 {
 public:
@@ -23,10 +24,6 @@ public:
     void DropOffered() { m_offered.Reset(); }
 
 private:
-    Variant GetDescription(const Arguments&);
-    Variant GetProgId(const Arguments&);
-    Variant GetGuid(const Arguments&);
-    Variant GetConnect(const Arguments&);
     Variant Offered(const Arguments& arguments);
 
     std::wstring m_progId;
@@ -45,9 +42,6 @@ public:
     [[nodiscard]] std::span<const Member> Members() const override;
 
 private:
-    Variant Item(const Arguments& arguments);
-    Variant Count(const Arguments&);
-
     Session& m_session;
 };
 

@@ -1,9 +1,9 @@
+// The menus of versions before the ribbon, as add-ins reach and change them.
 #pragma once
 
-#include <functional>
-#include <vector>
-
 #include "automation/EventSource.h"
+
+#include <vector>
 
 namespace host
 {
@@ -26,6 +26,7 @@ public:
     [[nodiscard]] std::span<const Member> Members() const override;
     [[nodiscard]] void* Interface(REFIID id) override;
 
+    [[nodiscard]] long Type() const { return m_type; }
     [[nodiscard]] long Id() const { return m_id; }
     [[nodiscard]] const std::wstring& Caption() const { return m_caption; }
     [[nodiscard]] const std::wstring& Tag() const { return m_tag; }
@@ -34,12 +35,12 @@ public:
     [[nodiscard]] CommandBarObject* Menu() { return m_menu.Get(); } // null for a button
 
     void SetTag(std::wstring tag) { m_tag = std::move(tag); }
-    void SetParameter(std::wstring parameter) { m_parameter = std::move(parameter); }
+    void SetEnabled(bool enabled) { m_enabled = enabled; }
+
     // Keeps the arguments of the Add that made it.
     void NoteAdded(const Arguments& arguments);
     // How a program made it and what it wrote since, in order: "Add 1 - - 2 True, Visible True". Empty for the host's.
     [[nodiscard]] const std::wstring& History() const { return m_history; }
-    void SetEnabled(bool enabled) { m_enabled = enabled; }
 
     // Fires Click to whoever listens to this button.
     void Press();
@@ -48,29 +49,13 @@ public:
     void Detach();
 
 private:
-    friend class CommandBarObject;
-
-    Variant GetType(const Arguments&);
-    Variant GetId(const Arguments&);
-    Variant GetIndex(const Arguments&);
-    Variant CaptionProperty(const Arguments& arguments);
-    Variant TagProperty(const Arguments& arguments);
-    Variant Parameter(const Arguments& arguments);
-    Variant Enabled(const Arguments& arguments);
-    Variant Visible(const Arguments& arguments);
-    Variant Style(const Arguments& arguments);
-    Variant BeginGroup(const Arguments& arguments);
-    Variant TooltipText(const Arguments& arguments);
-    Variant GetControls(const Arguments&);
-    Variant GetCommandBar(const Arguments&);
-    Variant GetParent(const Arguments&);
-    Variant DoDelete(const Arguments&);
-    Variant DoExecute(const Arguments&);
-
+    void CheckTells(const wchar_t* what) const;
     [[nodiscard]] CommandBarObject& MenuOrFail();
-    Variant Note(const wchar_t* property, const Variant& value);
-    Variant TextProperty(const wchar_t* name, const Arguments& arguments, std::wstring& text);
-    Variant FlagProperty(const wchar_t* name, const Arguments& arguments, bool& flag);
+    long Index() const;
+    void Delete();
+
+    template<auto value>
+    Variant Property(const Arguments& arguments, const wchar_t* name);
 
     long m_type;
     long m_id;
@@ -111,11 +96,10 @@ public:
     [[nodiscard]] ComPtr<IDispatch> Controls();
 
 private:
-    friend class BarControlsObject;
-
-    Variant GetName(const Arguments&);
-    Variant GetControls(const Arguments&);
-    Variant FindControl(const Arguments& arguments);
+    template<class Matches>
+    BarControlObject* Find(bool recursive, const Matches& matches);
+    Variant ControlsOrOne(const Arguments& arguments);
+    BarControlObject* FindControl(const Arguments& arguments);
 
     std::wstring m_name;
     std::vector<ComPtr<BarControlObject>> m_entries;
@@ -130,9 +114,7 @@ public:
     [[nodiscard]] std::span<const Member> Members() const override;
 
 private:
-    Variant Item(const Arguments& arguments);
-    Variant Count(const Arguments&);
-    Variant Add(const Arguments& arguments);
+    BarControlObject* Add(const Arguments& arguments);
 
     ComPtr<CommandBarObject> m_bar;
 };
@@ -147,9 +129,6 @@ public:
     [[nodiscard]] CommandBarObject& MenuBar() { return *m_menuBar.Get(); }
 
 private:
-    Variant Item(const Arguments& arguments);
-    Variant Count(const Arguments&);
-
     std::wstring m_name; // of the menu bar
     ComPtr<CommandBarObject> m_menuBar;
 };

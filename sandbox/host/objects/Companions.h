@@ -1,11 +1,12 @@
+// Objects of other programs that an add-in may talk to.
 #pragma once
+
+#include "automation/AutomationObject.h"
 
 #include <functional>
 #include <map>
 #include <string>
 #include <vector>
-
-#include "automation/AutomationObject.h"
 
 namespace host
 {
@@ -14,13 +15,11 @@ namespace host
 class LoginObject final : public AutomationObject<IDispatch>
 {
 public:
-    explicit LoginObject(bool loggedIn) : AutomationObject{L"CLogin", IID_IDispatch}, m_loggedIn{loggedIn} {}
+    explicit LoginObject(bool loggedIn) : AutomationObject{L"CLogin"}, m_loggedIn{loggedIn} {}
 
     [[nodiscard]] std::span<const Member> Members() const override;
 
 private:
-    Variant IsLoggedIn(const Arguments&);
-
     bool m_loggedIn;
 };
 
@@ -38,7 +37,7 @@ enum class MailMood
 class OutlookObject final : public AutomationObject<IDispatch>
 {
 public:
-    explicit OutlookObject(MailMood mood) : AutomationObject{L"Outlook.Application", IID_IDispatch}, m_mood{mood} {}
+    explicit OutlookObject(MailMood mood) : AutomationObject{L"Outlook.Application"}, m_mood{mood} {}
 
     [[nodiscard]] std::span<const Member> Members() const override;
 
@@ -51,31 +50,21 @@ public:
     void FailWhere(MailMood mood) const;
 
 private:
-    Variant GetName(const Arguments&);
-    Variant GetVersion(const Arguments&);
-    Variant CreateItem(const Arguments& arguments);
+    ComPtr<IDispatch> CreateItem(const Arguments& arguments);
 
     MailMood m_mood;
     std::vector<MailFields> m_displayed;
 };
 
+// A new mail with its fields.
 class MailItemObject final : public AutomationObject<IDispatch>
 {
 public:
-    explicit MailItemObject(OutlookObject* outlook) : AutomationObject{L"MailItem", IID_IDispatch}, m_outlook{outlook}
-    {}
+    explicit MailItemObject(OutlookObject* outlook) : AutomationObject{L"MailItem"}, m_outlook{outlook} {}
 
     [[nodiscard]] std::span<const Member> Members() const override;
 
 private:
-    Variant To(const Arguments& arguments);
-    Variant Copy(const Arguments& arguments) { return Field(L"CC", arguments); }
-    Variant Subject(const Arguments& arguments) { return Field(L"Subject", arguments); }
-    Variant Body(const Arguments& arguments) { return Field(L"Body", arguments); }
-    Variant HtmlBody(const Arguments& arguments) { return Field(L"HTMLBody", arguments); }
-    Variant Field(const wchar_t* name, const Arguments& arguments);
-    Variant Display(const Arguments&);
-
     ComPtr<OutlookObject> m_outlook;
     MailFields m_fields;
 };

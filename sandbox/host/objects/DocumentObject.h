@@ -1,15 +1,21 @@
+// An open document as programs reach it.
 #pragma once
-
-#include <optional>
 
 #include "automation/AutomationObject.h"
 #include "documents/Document.h"
 #include "objects/PersistFile.h"
+#include "objects/Session.h"
+
+#include <optional>
 
 namespace host
 {
 
-class Session;
+enum class PropertySet
+{
+    BuiltIn,
+    Custom,
+};
 
 // An open document of the host, and what is left of it once it is closed and still referred to: a presentation, a
 // document, a workbook or a mail item. Which of the answers it gives, and under which names, is told by the host's
@@ -38,39 +44,35 @@ public:
     // Writes a copy in the document's own format under just this name.
     void WriteCopy(const std::wstring& path);
 
-    // The answers of the member tables. Saved and ReadOnly are Booleans or, by the ...State ones, numbers of three
-    // states.
-    Variant GetApplication(const Arguments&);
-    Variant GetName(const Arguments&);
-    Variant GetFullName(const Arguments&);
-    Variant GetPath(const Arguments&);
-    Variant GetReadOnly(const Arguments&);
-    Variant GetReadOnlyState(const Arguments&);
+    // The answers of the member tables.
+    ApplicationObject* Application() { return &m_session.Application(); }
+    std::wstring Name() const { return m_document.Name(); }
+    std::wstring FullName() const { return m_document.FullName(); }
+    std::wstring Path() const { return m_document.Folder(); }
+    bool IsReadOnly() const { return m_document.IsReadOnly(); }
     Variant Saved(const Arguments& arguments);
-    Variant SavedState(const Arguments& arguments);
     Variant Final(const Arguments& arguments);
-    Variant GetHasVBProject(const Arguments&);
-    Variant GetBuiltIn(const Arguments& arguments);
-    Variant GetCustom(const Arguments& arguments);
-    Variant GetWindows(const Arguments&);
-    Variant GetWindow(const Arguments&);
-    Variant DoSave(const Arguments&);
-    Variant DoSaveAs(const Arguments& arguments);
-    Variant DoSaveCopyAs(const Arguments& arguments);
-    Variant DoSaveCopyAsItIs(const Arguments& arguments); // takes the name only
-    Variant DoClose(const Arguments&);
-    Variant DoCloseSaving(const Arguments& arguments); // saves first when asked to
-    Variant DoDisplay(const Arguments&);
+    bool HasVBProject();
+    Variant BuiltIn(const Arguments& arguments) { return Properties(PropertySet::BuiltIn, arguments); }
+    Variant Custom(const Arguments& arguments) { return Properties(PropertySet::Custom, arguments); }
+    ComPtr<IDispatch> Windows();
+    ComPtr<IDispatch> FirstWindow() { return Window(1); }
+    void SaveUnder(const Arguments& arguments);
+    void SaveCopyAs(const Arguments& arguments);
+    void SaveCopyAsItIs(const Arguments& arguments); // takes the name only
+    void Close() { m_session.Close(Opened()); }
+    void CloseSaving(const Arguments& arguments); // saves first when asked to
+    void Display() { m_session.Display(Opened()); }
     Variant Subject(const Arguments& arguments) { return Field("Subject", arguments); }
     Variant Body(const Arguments& arguments) { return Field("Body", arguments); }
     Variant To(const Arguments& arguments) { return Field("To", arguments); }
     Variant Copy(const Arguments& arguments) { return Field("CC", arguments); }
 
 private:
-    void CheckOpen() const;
+    [[nodiscard]] DocumentObject& Opened(); // itself; throws once it is closed
     [[nodiscard]] const SaveFormat& Format(std::optional<long> number) const;
     [[nodiscard]] SaveFault Fault() const;
-    void PutSaved(const Arguments& arguments);
+    Variant Properties(PropertySet set, const Arguments& arguments);
     Variant Field(const char* name, const Arguments& arguments);
 
     Session& m_session;

@@ -1,12 +1,8 @@
 #include "objects/DocumentProperties.h"
 
-#include <algorithm>
-
 #include "automation/OfficeInterfaces.h"
-#include "automation/Text.h"
 #include "objects/Collections.h"
 #include "objects/PropertyValue.h"
-#include "objects/Session.h"
 
 namespace host
 {
@@ -20,23 +16,16 @@ std::vector<CustomProperty>& PropertiesOf(DocumentObject& document, PropertySet 
 
 CustomProperty* FindProperty(std::vector<CustomProperty>& properties, const std::string& name)
 {
-    const std::wstring wanted = Widen(name);
-    const auto found = std::ranges::find_if(properties, [&](const CustomProperty& property) {
-        return ::CompareStringOrdinal(Widen(property.name).c_str(), -1, wanted.c_str(), -1, TRUE) == CSTR_EQUAL;
+    const auto found = std::ranges::find_if(properties, [wanted = Widen(name)](const CustomProperty& property) {
+        return SameText(Widen(property.name), wanted);
     });
     return found == properties.end() ? nullptr : &*found;
-}
-
-CustomProperty& ExistingProperty(std::vector<CustomProperty>& properties, const std::string& name)
-{
-    if (CustomProperty* found = FindProperty(properties, name)) return *found;
-    throw Error{E_INVALIDARG, {}, L"There is no document property named " + Widen(name) + L"."};
 }
 
 void MarkChanged(DocumentObject& document)
 {
     Session& session = document.Owner();
-    if (session.Settings().MajorVersion() <= session.Facts().lastMarkingVersion) document.File().SetSaved(false);
+    if (session.Version().major <= session.Facts().lastMarkingVersion) document.File().SetSaved(false);
     session.Changed();
 }
 
@@ -51,39 +40,35 @@ std::span<const Member> DocumentPropertiesObject::Members() const
     using C = DocumentPropertiesObject;
     static constexpr Member kMembers[] = {
         {0, L"Item", kEither, Answer<&C::Item>},
-        {4, L"Count", kGet, Answer<&C::Count>},
+        {4, L"Count", kGet,
+         Answer<[](const C& own) { return static_cast<long>(PropertiesOf(*own.m_document.Get(), own.m_set).size()); }>},
         {5, L"Add", kMethod, Answer<&C::Add>},
     };
     return kMembers;
 }
 
-std::vector<CustomProperty>& DocumentPropertiesObject::Properties() { return PropertiesOf(*m_document.Get(), m_set); }
-
-Variant DocumentPropertiesObject::Item(const Arguments& arguments)
+ComPtr<IDispatch> DocumentPropertiesObject::Item(const Arguments& arguments)
 {
-    const Variant index = arguments.At(0);
-    const CustomProperty& property = index.Type() == VT_BSTR
-                                         ? ExistingProperty(Properties(), Narrow(index.Text()))
-                                         : Properties()[ItemPosition(index, Properties().size()) - 1];
-    return Variant{MakeObject<DocumentPropertyObject>(m_document.Get(), m_set, property.name).Get()};
+    const auto property = ItemOf(PropertiesOf(*m_document.Get(), m_set), arguments.At(0),
+                                 [](const CustomProperty& one) { return Widen(one.name); });
+    return MakeObject<DocumentPropertyObject>(m_document.Get(), m_set, property.name);
 }
 
-Variant DocumentPropertiesObject::Count(const Arguments&) { return Variant{static_cast<long>(Properties().size())}; }
-
-Variant DocumentPropertiesObject::Add(const Arguments& arguments)
+ComPtr<IDispatch> DocumentPropertiesObject::Add(const Arguments& arguments)
 {
+    auto& properties = PropertiesOf(*m_document.Get(), m_set);
     const std::string name = Narrow(arguments.At(0).Text());
     if (m_set == PropertySet::BuiltIn) throw Error{E_FAIL, {}, L"A built-in property cannot be added."};
     if (arguments.At(1).Boolean()) throw Error{E_NOTIMPL, {}, L"Linked properties are not offered."};
-    if (name.empty() || FindProperty(Properties(), name))
+    if (name.empty() || FindProperty(properties, name) != nullptr)
         throw Error{E_INVALIDARG, {}, L"The property name is empty or exists already."};
     m_document->File().CheckEditable();
     const long type = arguments.Has(2) ? arguments.At(2).Number() : 0;
     if (type < 1 || type > 5) throw Error{E_INVALIDARG, {}, L"Unknown property type."};
 
-    Properties().push_back(FromValue(name, static_cast<PropertyType>(type), arguments.At(3)));
+    properties.push_back(FromValue(name, static_cast<PropertyType>(type), arguments.At(3)));
     MarkChanged(*m_document.Get());
-    return Variant{MakeObject<DocumentPropertyObject>(m_document.Get(), m_set, name).Get()};
+    return MakeObject<DocumentPropertyObject>(m_document.Get(), m_set, name);
 }
 
 DocumentPropertyObject::DocumentPropertyObject(DocumentObject* document, PropertySet set, std::string name)
@@ -95,23 +80,22 @@ std::span<const Member> DocumentPropertyObject::Members() const
 {
     using P = DocumentPropertyObject;
     static constexpr Member kMembers[] = {
-        {0, L"Value", kGetPut, Answer<&P::ValueOf>},
+        {0, L"Value", kGetPut, Answer<&P::Value>},
         {2, L"Delete", kMethod, Answer<&P::Delete>},
-        {3, L"Name", kGet, Answer<&P::GetName>},
-        {5, L"Type", kGet, Answer<&P::GetType>},
+        {3, L"Name", kGet, Answer<[](const P& own) { return Widen(own.Property().name); }>},
+        {5, L"Type", kGet, Answer<[](const P& own) { return static_cast<long>(own.Property().type); }>},
     };
     return kMembers;
 }
 
-CustomProperty& DocumentPropertyObject::Property()
+CustomProperty& DocumentPropertyObject::Property() const
 {
-    return ExistingProperty(PropertiesOf(*m_document.Get(), m_set), m_name);
+    CustomProperty* const found = FindProperty(PropertiesOf(*m_document.Get(), m_set), m_name);
+    if (found != nullptr) return *found;
+    throw Error{E_INVALIDARG, {}, L"There is no document property named " + Widen(m_name) + L"."};
 }
 
-Variant DocumentPropertyObject::GetName(const Arguments&) { return Variant{Widen(Property().name)}; }
-Variant DocumentPropertyObject::GetType(const Arguments&) { return Variant{static_cast<long>(Property().type)}; }
-
-Variant DocumentPropertyObject::ValueOf(const Arguments& arguments)
+Variant DocumentPropertyObject::Value(const Arguments& arguments)
 {
     CustomProperty& property = Property();
     if (!arguments.IsPut()) return ToValue(property);
@@ -121,15 +105,13 @@ Variant DocumentPropertyObject::ValueOf(const Arguments& arguments)
     return {};
 }
 
-Variant DocumentPropertyObject::Delete(const Arguments&)
+void DocumentPropertyObject::Delete()
 {
     if (m_set == PropertySet::BuiltIn) throw Error{E_FAIL, {}, L"A built-in property cannot be deleted."};
     m_document->File().CheckEditable();
-    auto& properties = PropertiesOf(*m_document.Get(), m_set);
-    const std::string name = Property().name;
-    std::erase_if(properties, [&](const CustomProperty& property) { return property.name == name; });
+    std::erase_if(PropertiesOf(*m_document.Get(), m_set),
+                  [name = Property().name](const CustomProperty& property) { return property.name == name; });
     MarkChanged(*m_document.Get());
-    return {};
 }
 
 } // namespace host

@@ -1,17 +1,10 @@
+// The properties of an open document as programs reach them.
 #pragma once
-
-#include <string>
 
 #include "objects/DocumentObject.h"
 
 namespace host
 {
-
-enum class PropertySet
-{
-    BuiltIn,
-    Custom,
-};
 
 // The built-in or the custom properties of a document.
 class DocumentPropertiesObject final : public AutomationObject<IDispatch>
@@ -22,13 +15,10 @@ public:
     [[nodiscard]] std::span<const Member> Members() const override;
 
     // By name, without regard to case, or by position.
-    Variant Item(const Arguments& arguments);
+    ComPtr<IDispatch> Item(const Arguments& arguments);
 
 private:
-    Variant Count(const Arguments&);
-    Variant Add(const Arguments& arguments);
-
-    [[nodiscard]] std::vector<CustomProperty>& Properties();
+    ComPtr<IDispatch> Add(const Arguments& arguments);
 
     ComPtr<DocumentObject> m_document;
     PropertySet m_set;
@@ -43,12 +33,10 @@ public:
     [[nodiscard]] std::span<const Member> Members() const override;
 
 private:
-    Variant GetName(const Arguments&);
-    Variant ValueOf(const Arguments& arguments);
-    Variant GetType(const Arguments&);
-    Variant Delete(const Arguments&);
+    Variant Value(const Arguments& arguments);
+    void Delete();
 
-    [[nodiscard]] CustomProperty& Property();
+    [[nodiscard]] CustomProperty& Property() const;
 
     ComPtr<DocumentObject> m_document;
     PropertySet m_set;

@@ -1,3 +1,4 @@
+// The windows of documents as programs reach them.
 #pragma once
 
 #include "objects/DocumentObject.h"
@@ -14,16 +15,13 @@ public:
     [[nodiscard]] std::span<const Member> Members() const override;
 
     // The answers of the member tables.
-    Variant GetCaption(const Arguments&);
-    Variant GetDocument(const Arguments&);
-    Variant GetActive(const Arguments&);
-    Variant GetActiveState(const Arguments&);
-    Variant GetCommandBars(const Arguments&);
-    Variant DoActivate(const Arguments&);
+    std::wstring Caption() const;
+    DocumentObject* Document() const { return m_document.Get(); }
+    bool IsActive() const { return m_number == 1 && m_document->Owner().Active() == m_document.Get(); }
+    ComPtr<IDispatch> CommandBars() const;
+    void Activate() { m_document->Owner().Activate(*m_document.Get()); }
 
 private:
-    [[nodiscard]] bool IsActive() const;
-
     ComPtr<DocumentObject> m_document;
     long m_number; // 1 for the first window of the document
 };

@@ -1,8 +1,6 @@
 #include "automation/OfficeInterfaces.h"
 #include "objects/Application.h"
 #include "objects/DocumentWindow.h"
-#include "objects/HostModel.h"
-#include "objects/Session.h"
 
 namespace host
 {
@@ -29,19 +27,19 @@ template<auto Method>
 constexpr auto WhenAnswering = &Checked<Method, &Session::CheckAnswering>;
 
 constexpr Member kApplication[] = {
-    {0, L"Name", kGet, Answer<&A::GetName>},
-    {1, L"Workbooks", kGet, WhenReady<&A::GetDocuments>},
-    {2, L"Windows", kGet, WhenReady<&A::GetWindows>},
-    {3, L"ActiveWorkbook", kGet, WhenReady<&A::GetActiveDocumentOrNothing>},
-    {4, L"ActiveWindow", kGet, WhenReady<&A::GetActiveWindowOrNothing>},
-    {5, L"CommandBars", kGet, WhenAnswering<&A::GetCommandBars>},
-    {6, L"Build", kGet, Answer<&A::GetBuildNumber>},
-    {7, L"Version", kGet, Answer<&A::GetVersion>},
+    {0, L"Name", kGet, Answer<&A::Name>},
+    {1, L"Workbooks", kGet, WhenReady<&A::Documents>},
+    {2, L"Windows", kGet, WhenReady<&A::Windows>},
+    {3, L"ActiveWorkbook", kGet, WhenReady<&A::ActiveDocumentOrNothing>},
+    {4, L"ActiveWindow", kGet, WhenReady<&A::ActiveWindowOrNothing>},
+    {5, L"CommandBars", kGet, WhenAnswering<&A::CommandBars>},
+    {6, L"Build", kGet, Answer<&A::BuildNumber>},
+    {7, L"Version", kGet, Answer<&A::Version>},
     {8, L"Run", kMethod, WhenReady<&A::Run>},
-    {9, L"Hwnd", kGet, Answer<&A::GetWindowHandle>},
-    {10, L"COMAddIns", kGet, Answer<&A::GetComAddIns>},
+    {9, L"Hwnd", kGet, Answer<&A::WindowHandle>},
+    {10, L"COMAddIns", kGet, Answer<&A::ComAddIns>},
     {11, L"Interactive", kGetPut, WhenReady<&A::Interactive>},
-    {12, L"Ready", kGet, WhenAnswering<&A::GetReady>},
+    {12, L"Ready", kGet, WhenAnswering<&A::Ready>},
 };
 
 constexpr Member kWorkbooks[] = {
@@ -52,26 +50,26 @@ constexpr Member kWorkbooks[] = {
 };
 
 constexpr Member kWorkbook[] = {
-    {0, L"Name", kGet, Answer<&D::GetName>},
-    {1, L"Application", kGet, Answer<&D::GetApplication>},
-    {2, L"BuiltinDocumentProperties", kEither, WhenReady<&D::GetBuiltIn>},
-    {3, L"CustomDocumentProperties", kEither, WhenReady<&D::GetCustom>},
-    {4, L"Path", kGet, Answer<&D::GetPath>},
-    {5, L"FullName", kGet, Answer<&D::GetFullName>},
-    {6, L"ReadOnly", kGet, Answer<&D::GetReadOnly>},
+    {0, L"Name", kGet, Answer<&D::Name>},
+    {1, L"Application", kGet, Answer<&D::Application>},
+    {2, L"BuiltinDocumentProperties", kEither, WhenReady<&D::BuiltIn>},
+    {3, L"CustomDocumentProperties", kEither, WhenReady<&D::Custom>},
+    {4, L"Path", kGet, Answer<&D::Path>},
+    {5, L"FullName", kGet, Answer<&D::FullName>},
+    {6, L"ReadOnly", kGet, Answer<&D::IsReadOnly>},
     {7, L"Saved", kGetPut, WhenReady<&D::Saved>},
-    {8, L"Windows", kGet, WhenReady<&D::GetWindows>},
-    {9, L"Save", kMethod, WhenReady<&D::DoSave>},
-    {10, L"SaveAs", kMethod, WhenReady<&D::DoSaveAs>},
-    {11, L"SaveCopyAs", kMethod, WhenReady<&D::DoSaveCopyAsItIs>},
-    {12, L"Close", kMethod, WhenReady<&D::DoCloseSaving>},
+    {8, L"Windows", kGet, WhenReady<&D::Windows>},
+    {9, L"Save", kMethod, WhenReady<&D::Save>},
+    {10, L"SaveAs", kMethod, WhenReady<&D::SaveUnder>},
+    {11, L"SaveCopyAs", kMethod, WhenReady<&D::SaveCopyAsItIs>},
+    {12, L"Close", kMethod, WhenReady<&D::CloseSaving>},
     {13, L"Final", kGetPut, WhenReady<&D::Final>},
-    {14, L"HasVBProject", kGet, WhenReady<&D::GetHasVBProject>},
+    {14, L"HasVBProject", kGet, WhenReady<&D::HasVBProject>},
 };
 
 constexpr Member kWindow[] = {
-    {0, L"Caption", kGet, Answer<&W::GetCaption>},
-    {1, L"Activate", kMethod, Answer<&W::DoActivate>},
+    {0, L"Caption", kGet, Answer<&W::Caption>},
+    {1, L"Activate", kMethod, Answer<&W::Activate>},
 };
 
 constexpr HostModel kModel{{L"Application", OfficeId(0x000208D5), kApplication},

@@ -1,3 +1,4 @@
+// What differs in the object models of the hosts.
 #pragma once
 
 #include "automation/AutomationObject.h"
@@ -5,9 +6,6 @@
 
 namespace host
 {
-
-// A truth as a number of three states.
-[[nodiscard]] inline Variant TriState(bool value) { return value ? -1 : 0; }
 
 // One class of a host's object model.
 struct ClassTable

@@ -5,7 +5,7 @@
 
 #include <winhttp.h>
 
-#include "automation/Text.h"
+#include "base/Text.h"
 #include "platform/ByteArray.h"
 
 namespace host

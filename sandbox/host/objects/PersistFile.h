@@ -1,3 +1,4 @@
+// A document that lives in a file.
 #pragma once
 
 #include <objidl.h>

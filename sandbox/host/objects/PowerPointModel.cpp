@@ -1,7 +1,6 @@
 #include "automation/OfficeInterfaces.h"
 #include "objects/Application.h"
 #include "objects/DocumentWindow.h"
-#include "objects/HostModel.h"
 
 namespace host
 {
@@ -13,19 +12,27 @@ using C = DocumentsObject;
 using D = DocumentObject;
 using W = DocumentWindowObject;
 
+// A truth as a number of three states.
+template<auto answer>
+Variant AsNumber(ObjectCore& object, const Arguments& arguments)
+{
+    Variant truth = Answer<answer>(object, arguments);
+    return truth.Type() == VT_BOOL ? Variant{truth.Boolean() ? -1 : 0} : std::move(truth);
+}
+
 constexpr Member kApplication[] = {
-    {0, L"Name", kGet, Answer<&A::GetName>},
-    {2001, L"Presentations", kGet, Answer<&A::GetDocuments>},
-    {2002, L"Windows", kGet, Answer<&A::GetWindows>},
-    {2004, L"ActiveWindow", kGet, Answer<&A::GetActiveWindow>},
-    {2005, L"ActivePresentation", kGet, Answer<&A::GetActiveDocument>},
-    {2007, L"CommandBars", kGet, Answer<&A::GetCommandBars>},
-    {2013, L"Build", kGet, Answer<&A::GetBuild>},
-    {2014, L"Version", kGet, Answer<&A::GetVersion>},
+    {0, L"Name", kGet, Answer<&A::Name>},
+    {2001, L"Presentations", kGet, Answer<&A::Documents>},
+    {2002, L"Windows", kGet, Answer<&A::Windows>},
+    {2004, L"ActiveWindow", kGet, Answer<&A::ActiveWindow>},
+    {2005, L"ActivePresentation", kGet, Answer<&A::ActiveDocument>},
+    {2007, L"CommandBars", kGet, Answer<&A::CommandBars>},
+    {2013, L"Build", kGet, Answer<&A::Build>},
+    {2014, L"Version", kGet, Answer<&A::Version>},
     {2022, L"Run", kMethod, Answer<&A::Run>},
     {2023, L"Activate", kMethod, Answer<&A::Activate>},
-    {2031, L"HWND", kGet, Answer<&A::GetWindowHandle>},
-    {2035, L"COMAddIns", kGet, Answer<&A::GetComAddIns>},
+    {2031, L"HWND", kGet, Answer<&A::WindowHandle>},
+    {2035, L"COMAddIns", kGet, Answer<&A::ComAddIns>},
 };
 
 constexpr Member kPresentations[] = {
@@ -36,28 +43,28 @@ constexpr Member kPresentations[] = {
 };
 
 constexpr Member kPresentation[] = {
-    {2001, L"Application", kGet, Answer<&D::GetApplication>},
-    {2020, L"BuiltInDocumentProperties", kEither, Answer<&D::GetBuiltIn>},
-    {2021, L"CustomDocumentProperties", kEither, Answer<&D::GetCustom>},
-    {2023, L"ReadOnly", kGet, Answer<&D::GetReadOnlyState>},
-    {2024, L"FullName", kGet, Answer<&D::GetFullName>},
-    {2025, L"Name", kGet, Answer<&D::GetName>},
-    {2026, L"Path", kGet, Answer<&D::GetPath>},
-    {2027, L"Saved", kGetPut, Answer<&D::SavedState>},
-    {2030, L"Windows", kGet, Answer<&D::GetWindows>},
-    {2035, L"Save", kMethod, Answer<&D::DoSave>},
-    {2036, L"SaveAs", kMethod, Answer<&D::DoSaveAs>},
-    {2037, L"SaveCopyAs", kMethod, Answer<&D::DoSaveCopyAs>},
-    {2039, L"Close", kMethod, Answer<&D::DoClose>},
+    {2001, L"Application", kGet, Answer<&D::Application>},
+    {2020, L"BuiltInDocumentProperties", kEither, Answer<&D::BuiltIn>},
+    {2021, L"CustomDocumentProperties", kEither, Answer<&D::Custom>},
+    {2023, L"ReadOnly", kGet, AsNumber<&D::IsReadOnly>},
+    {2024, L"FullName", kGet, Answer<&D::FullName>},
+    {2025, L"Name", kGet, Answer<&D::Name>},
+    {2026, L"Path", kGet, Answer<&D::Path>},
+    {2027, L"Saved", kGetPut, AsNumber<&D::Saved>},
+    {2030, L"Windows", kGet, Answer<&D::Windows>},
+    {2035, L"Save", kMethod, Answer<&D::Save>},
+    {2036, L"SaveAs", kMethod, Answer<&D::SaveUnder>},
+    {2037, L"SaveCopyAs", kMethod, Answer<&D::SaveCopyAs>},
+    {2039, L"Close", kMethod, Answer<&D::Close>},
     {2080, L"Final", kGetPut, Answer<&D::Final>},
-    {2081, L"HasVBProject", kGet, Answer<&D::GetHasVBProject>},
+    {2081, L"HasVBProject", kGet, Answer<&D::HasVBProject>},
 };
 
 constexpr Member kWindow[] = {
-    {2005, L"Presentation", kGet, Answer<&W::GetDocument>},
-    {2009, L"Active", kGet, Answer<&W::GetActiveState>},
-    {2011, L"Caption", kGet, Answer<&W::GetCaption>},
-    {2017, L"Activate", kMethod, Answer<&W::DoActivate>},
+    {2005, L"Presentation", kGet, Answer<&W::Document>},
+    {2009, L"Active", kGet, AsNumber<&W::IsActive>},
+    {2011, L"Caption", kGet, Answer<&W::Caption>},
+    {2017, L"Activate", kMethod, Answer<&W::Activate>},
 };
 
 constexpr EventTable kEvents{kApplicationEventsId, 2009, 2018, 2004, 2031};

@@ -1,34 +1,26 @@
 #include "objects/PropertyValue.h"
 
-#include <cstdio>
-#include <iterator>
-
 #include "automation/Errors.h"
-#include "automation/Text.h"
+#include "base/Text.h"
+#include "package/FileTime.h"
+#include "platform/Procedure.h"
 
 namespace host
 {
 namespace
 {
 
-Variant DateOf(const std::string& text)
+Variant DateOf(const SYSTEMTIME& time)
 {
-    SYSTEMTIME time{};
     DATE date = 0;
-    const int fields = std::sscanf(text.c_str(), "%hu-%hu-%huT%hu:%hu:%hu", &time.wYear, &time.wMonth, &time.wDay,
-                                   &time.wHour, &time.wMinute, &time.wSecond);
-    if (fields < 3 || !::SystemTimeToVariantTime(&time, &date)) return Variant{Widen(text)};
-    return Variant::OfDate(date);
+    return ::SystemTimeToVariantTime(const_cast<SYSTEMTIME*>(&time), &date) ? Variant::OfDate(date) : Variant{};
 }
 
 std::string TextOfDate(DATE date)
 {
     SYSTEMTIME time{};
     if (!::VariantTimeToSystemTime(date, &time)) throw Error{DISP_E_TYPEMISMATCH, {}, L"Type mismatch."};
-    char text[64];
-    std::snprintf(text, std::size(text), "%04hu-%02hu-%02huT%02hu:%02hu:%02huZ", time.wYear, time.wMonth, time.wDay,
-                  time.wHour, time.wMinute, time.wSecond);
-    return text;
+    return FromSystemTime(time);
 }
 
 std::string PackageText(PropertyType type, const Variant& value)
@@ -52,24 +44,28 @@ std::string PackageText(PropertyType type, const Variant& value)
 
 Variant ToValue(const CustomProperty& property)
 {
-    const Variant text{Widen(property.value)};
-    try {
+    Variant text{Widen(property.value)};
+    Variant value;
+    corvane::Ignoring([&] {
         switch (property.type) {
         case PropertyType::Number:
-            return text.As(VT_I4);
+            value = text.As(VT_I4);
+            break;
         case PropertyType::Boolean:
-            return Variant{property.value == "true"};
+            value = property.value == "true";
+            break;
         case PropertyType::Date:
-            return DateOf(property.value);
+            if (const auto time = ToSystemTime(property.value)) value = DateOf(*time);
+            break;
         case PropertyType::Float:
-            return text.As(VT_R8);
+            value = text.As(VT_R8);
+            break;
         case PropertyType::Text:
             break;
         }
-    } catch (const Error&) {
-        // A file may hold a value that its type does not allow: its text is all there is to show.
-    }
-    return Widen(property.value);
+    });
+    // A file may hold a value that its type does not allow: its text is all there is to show.
+    return value.IsMissing() ? std::move(text) : std::move(value);
 }
 
 CustomProperty FromValue(std::string name, PropertyType type, const Variant& value)

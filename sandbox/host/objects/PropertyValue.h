@@ -1,3 +1,4 @@
+// Values of properties between packages and Automation.
 #pragma once
 
 #include "package/CustomProperty.h"

@@ -7,49 +7,25 @@ namespace
 
 HRESULT GiveText(const std::wstring& text, BSTR* out)
 {
-    if (!out) return E_POINTER;
-    *out = ::SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
-    return *out ? S_OK : E_OUTOFMEMORY;
+    if (out == nullptr) return E_POINTER;
+    *out = Bstr{text}.Detach();
+    return S_OK;
 }
 
 } // namespace
 
-RibbonUiObject::RibbonUiObject(std::function<void()> invalidate)
-    : AutomationObject{L"IRibbonUI"}, m_invalidate{std::move(invalidate)}
-{}
-
 std::span<const Member> RibbonUiObject::Members() const
 {
-    // Every request has the same effect here: the dynamic controls are read again.
-    using R = RibbonUiObject;
+    constexpr auto* kAsk = &Answer<[](RibbonUiObject& ribbon) {
+        if (ribbon.m_invalidate) ribbon.m_invalidate();
+    }>;
     static constexpr Member kMembers[] = {
-        {1, L"Invalidate", kMethod, Answer<&R::DoInvalidate>},
-        {2, L"InvalidateControl", kMethod, Answer<&R::DoInvalidate>},
-        {3, L"InvalidateControlMso", kMethod, Answer<&R::DoInvalidate>},
-        {4, L"ActivateTab", kMethod, Answer<&R::DoInvalidate>},
-        {5, L"ActivateTabMso", kMethod, Answer<&R::DoInvalidate>},
-        {6, L"ActivateTabQ", kMethod, Answer<&R::DoInvalidate>},
+        {1, L"Invalidate", kMethod, kAsk},           {2, L"InvalidateControl", kMethod, kAsk},
+        {3, L"InvalidateControlMso", kMethod, kAsk}, {4, L"ActivateTab", kMethod, kAsk},
+        {5, L"ActivateTabMso", kMethod, kAsk},       {6, L"ActivateTabQ", kMethod, kAsk},
     };
     return kMembers;
 }
-
-Variant RibbonUiObject::DoInvalidate(const Arguments&)
-{
-    if (m_invalidate) m_invalidate();
-    return {};
-}
-
-STDMETHODIMP RibbonUiObject::Invalidate()
-{
-    const DISPPARAMS none{};
-    return Call(1, DISPATCH_METHOD, &none, nullptr, nullptr);
-}
-
-STDMETHODIMP RibbonUiObject::InvalidateControl(BSTR) { return Invalidate(); }
-STDMETHODIMP RibbonUiObject::InvalidateControlMso(BSTR) { return Invalidate(); }
-STDMETHODIMP RibbonUiObject::ActivateTab(BSTR) { return Invalidate(); }
-STDMETHODIMP RibbonUiObject::ActivateTabMso(BSTR) { return Invalidate(); }
-STDMETHODIMP RibbonUiObject::ActivateTabQ(BSTR, BSTR) { return Invalidate(); }
 
 RibbonControlObject::RibbonControlObject(std::wstring id, std::wstring tag, ComPtr<IDispatch> context)
     : AutomationObject{L"IRibbonControl"}, m_id{std::move(id)}, m_tag{std::move(tag)}, m_context{std::move(context)}
@@ -57,26 +33,17 @@ RibbonControlObject::RibbonControlObject(std::wstring id, std::wstring tag, ComP
 
 std::span<const Member> RibbonControlObject::Members() const
 {
+    using C = RibbonControlObject;
     static constexpr Member kMembers[] = {
-        {1, L"Id", kGet, Answer<&RibbonControlObject::GetId>},
-        {2, L"Context", kGet, Answer<&RibbonControlObject::GetContext>},
-        {3, L"Tag", kGet, Answer<&RibbonControlObject::GetTag>},
+        {1, L"Id", kGet, Answer<[](const C& own) { return own.m_id; }>},
+        {2, L"Context", kGet, Answer<[](const C& own) { return own.m_context; }>},
+        {3, L"Tag", kGet, Answer<[](const C& own) { return own.m_tag; }>},
     };
     return kMembers;
 }
 
-Variant RibbonControlObject::GetId(const Arguments&) { return Variant{m_id}; }
-Variant RibbonControlObject::GetContext(const Arguments&) { return Variant{m_context.Get()}; }
-Variant RibbonControlObject::GetTag(const Arguments&) { return Variant{m_tag}; }
-
 STDMETHODIMP RibbonControlObject::get_Id(BSTR* id) { return GiveText(m_id, id); }
 STDMETHODIMP RibbonControlObject::get_Tag(BSTR* tag) { return GiveText(m_tag, tag); }
-
-STDMETHODIMP RibbonControlObject::get_Context(IDispatch** context)
-{
-    if (!context) return E_POINTER;
-    *context = ComPtr<IDispatch>{m_context}.Detach();
-    return S_OK;
-}
+STDMETHODIMP RibbonControlObject::get_Context(IDispatch** context) { return m_context.CopyTo(context); }
 
 } // namespace host

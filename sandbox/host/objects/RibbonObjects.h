@@ -1,34 +1,35 @@
+// The ribbon and its controls as an add-in sees them.
 #pragma once
-
-#include <functional>
 
 #include "automation/AutomationObject.h"
 #include "automation/OfficeInterfaces.h"
 
+#include <functional>
+
 namespace host
 {
 
-// The ribbon as an add-in sees it: asks the host to read dynamic controls again.
+// The ribbon: asks the host to read dynamic controls again. Every request has the same effect here.
 class RibbonUiObject final : public AutomationObject<IRibbonUI>
 {
 public:
-    explicit RibbonUiObject(std::function<void()> invalidate);
+    explicit RibbonUiObject(std::function<void()> invalidate)
+        : AutomationObject{L"IRibbonUI"}, m_invalidate{std::move(invalidate)}
+    {}
 
     [[nodiscard]] std::span<const Member> Members() const override;
 
     // The host no longer shows this ribbon: later calls do nothing.
     void Disconnect() { m_invalidate = nullptr; }
 
-    STDMETHODIMP Invalidate() override;
-    STDMETHODIMP InvalidateControl(BSTR id) override;
-    STDMETHODIMP InvalidateControlMso(BSTR id) override;
-    STDMETHODIMP ActivateTab(BSTR id) override;
-    STDMETHODIMP ActivateTabMso(BSTR id) override;
-    STDMETHODIMP ActivateTabQ(BSTR id, BSTR space) override;
+    STDMETHODIMP Invalidate() override { return Call(1, DISPATCH_METHOD, nullptr, nullptr, nullptr); }
+    STDMETHODIMP InvalidateControl(BSTR) override { return Invalidate(); }
+    STDMETHODIMP InvalidateControlMso(BSTR) override { return Invalidate(); }
+    STDMETHODIMP ActivateTab(BSTR) override { return Invalidate(); }
+    STDMETHODIMP ActivateTabMso(BSTR) override { return Invalidate(); }
+    STDMETHODIMP ActivateTabQ(BSTR, BSTR) override { return Invalidate(); }
 
 private:
-    Variant DoInvalidate(const Arguments&);
-
     std::function<void()> m_invalidate;
 };
 
@@ -45,10 +46,6 @@ public:
     STDMETHODIMP get_Tag(BSTR* tag) override;
 
 private:
-    Variant GetId(const Arguments&);
-    Variant GetContext(const Arguments&);
-    Variant GetTag(const Arguments&);
-
     std::wstring m_id;
     std::wstring m_tag;
     ComPtr<IDispatch> m_context;

@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <optional>
 
-#include "automation/Text.h"
+#include "base/Text.h"
 #include "documents/Refusal.h"
 #include "objects/Application.h"
 #include "objects/BuiltInMenus.h"
@@ -49,8 +49,6 @@ const EditingRow* EditingOf(const Options& options)
     throw Error{static_cast<HRESULT>(row.number), {}, L"The user is editing a cell."};
 }
 
-bool SameText(const std::wstring& a, const std::wstring& b) { return ::lstrcmpiW(a.c_str(), b.c_str()) == 0; }
-
 std::wstring OwnerOfMacro(const std::wstring& name)
 {
     const std::size_t mark = name.rfind(L'!');
@@ -79,6 +77,11 @@ Session::Session(Options options)
 }
 
 Session::~Session() = default;
+
+std::span<const Member> Session::MembersOf(ClassTable HostModel::*table) const
+{
+    return (Model().*table).Members(Version().major);
+}
 
 void Session::Set(const std::string& name, const std::string& value)
 {
@@ -173,18 +176,8 @@ void Session::Activate(DocumentObject& document)
 void Session::FireActivate()
 {
     Changed();
-    if (!Model().events || Active() != Reachable()) return;
-    const Variant document{Active()};
-    const Variant shown{Active()->Window(1).Get()};
-    VARIANT arguments[] = {document.Get(), shown.Get()};
-    m_application->Events().Fire(Model().events->activate, arguments);
-}
-
-void Session::Fire(DISPID event, DocumentObject& document)
-{
-    const Variant subject{&document};
-    VARIANT arguments[] = {subject.Get()};
-    m_application->Events().Fire(event, arguments);
+    if (Model().events == nullptr || Active() != Reachable()) return;
+    m_application->Events().Fire(Model().events->activate, {Active(), Active()->Window(1).Get()});
 }
 
 void Session::Close(DocumentObject& document)
@@ -192,26 +185,18 @@ void Session::Close(DocumentObject& document)
     const ComPtr<DocumentObject> closing{&document};
     const bool wasActive = Active() == &document;
     if (const EventTable* events = Model().events) {
-        Fire(events->close, document);
-        if (m_options.MajorVersion() >= kCloseFinalVersion) Fire(events->closeFinal, document);
+        m_application->Events().Fire(events->close, {&document});
+        if (Version().major >= kCloseFinalVersion) m_application->Events().Fire(events->closeFinal, {&document});
     }
     std::erase_if(m_documents, [&](const auto& open) { return open.Get() == closing.Get(); });
     closing->MarkClosed();
     Changed();
-    if (wasActive && Active()) FireActivate();
+    if (wasActive && Active() != nullptr) FireActivate();
 }
 
 bool Session::MayBeSaved(DocumentObject& document)
 {
-    if (!Model().events) return true;
-    VARIANT_BOOL cancel = VARIANT_FALSE;
-    const Variant subject{&document};
-    VARIANT byReference{};
-    byReference.vt = VT_BOOL | VT_BYREF;
-    byReference.pboolVal = &cancel;
-    VARIANT arguments[] = {subject.Get(), byReference};
-    m_application->Events().Fire(Model().events->beforeSave, arguments);
-    return cancel == VARIANT_FALSE;
+    return Model().events == nullptr || !m_application->Events().FireCancellable(Model().events->beforeSave, document);
 }
 
 bool Session::IsEditing() const { return EditingOf(m_options) != nullptr; }
@@ -224,7 +209,7 @@ void Session::CheckReady() const
 void Session::CheckAnswering() const
 {
     const EditingRow* row = EditingOf(m_options);
-    if (row && row->refusesQuestions) RefuseEditing(*row);
+    if (row != nullptr && row->refusesQuestions) RefuseEditing(*row);
 }
 
 void Session::ShowEditing()
@@ -246,7 +231,7 @@ void Session::RunMacro(const std::wstring& name)
     while (m_options.Setting(setting) == "hold")
         ServeMessages();
     const std::string answer = m_options.Setting(setting);
-    if (answer == "save" && Active()) return Active()->Save();
+    if (answer == "save" && Active() != nullptr) return Active()->Save();
     if (answer != "ok") Refuse(Kind(), Refusal::MacroFailed, name);
 }
 

@@ -1,3 +1,4 @@
+// The running host: its documents, macros and objects.
 #pragma once
 
 #include <functional>
@@ -44,6 +45,8 @@ public:
     [[nodiscard]] HostVersion Version() const { return {m_options.host, m_options.MajorVersion()}; }
     [[nodiscard]] const HostFacts& Facts() const { return FactsOf(m_options.host); }
     [[nodiscard]] const HostModel& Model() const { return ModelOf(m_options.host); }
+    // The members of one of its classes in its version.
+    [[nodiscard]] std::span<const Member> MembersOf(ClassTable HostModel::*table) const;
     [[nodiscard]] ApplicationObject& Application() { return *m_application.Get(); }
     [[nodiscard]] CommandBarsObject& CommandBars() { return *m_commandBars.Get(); }
 
@@ -93,7 +96,6 @@ private:
     void Prepare(Document& document) const;
     void Show(ComPtr<DocumentObject> document);
     void FireActivate();
-    void Fire(DISPID event, DocumentObject& document);
     void ShowEditing();
 
     Options m_options;

@@ -1,7 +1,6 @@
 #include "automation/OfficeInterfaces.h"
 #include "objects/Application.h"
 #include "objects/DocumentWindow.h"
-#include "objects/HostModel.h"
 
 namespace host
 {
@@ -14,17 +13,17 @@ using D = DocumentObject;
 using W = DocumentWindowObject;
 
 constexpr Member kApplication[] = {
-    {0, L"Name", kGet, Answer<&A::GetName>},
-    {1, L"Documents", kGet, Answer<&A::GetDocuments>},
-    {2, L"Windows", kGet, Answer<&A::GetWindows>},
-    {3, L"ActiveDocument", kGet, Answer<&A::GetActiveDocument>},
-    {4, L"ActiveWindow", kGet, Answer<&A::GetActiveWindow>},
-    {5, L"CommandBars", kGet, Answer<&A::GetCommandBars>},
-    {6, L"Build", kGet, Answer<&A::GetBuild>},
-    {7, L"Version", kGet, Answer<&A::GetVersion>},
+    {0, L"Name", kGet, Answer<&A::Name>},
+    {1, L"Documents", kGet, Answer<&A::Documents>},
+    {2, L"Windows", kGet, Answer<&A::Windows>},
+    {3, L"ActiveDocument", kGet, Answer<&A::ActiveDocument>},
+    {4, L"ActiveWindow", kGet, Answer<&A::ActiveWindow>},
+    {5, L"CommandBars", kGet, Answer<&A::CommandBars>},
+    {6, L"Build", kGet, Answer<&A::Build>},
+    {7, L"Version", kGet, Answer<&A::Version>},
     {8, L"Run", kMethod, Answer<&A::Run>},
     {9, L"Activate", kMethod, Answer<&A::Activate>},
-    {10, L"COMAddIns", kGet, Answer<&A::GetComAddIns>},
+    {10, L"COMAddIns", kGet, Answer<&A::ComAddIns>},
 };
 
 constexpr Member kDocuments[] = {
@@ -35,27 +34,27 @@ constexpr Member kDocuments[] = {
 };
 
 constexpr Member kDocument[] = {
-    {0, L"Name", kGet, Answer<&D::GetName>},
-    {1, L"Application", kGet, Answer<&D::GetApplication>},
-    {2, L"BuiltInDocumentProperties", kEither, Answer<&D::GetBuiltIn>},
-    {3, L"CustomDocumentProperties", kEither, Answer<&D::GetCustom>},
-    {4, L"Path", kGet, Answer<&D::GetPath>},
-    {5, L"FullName", kGet, Answer<&D::GetFullName>},
-    {6, L"ReadOnly", kGet, Answer<&D::GetReadOnly>},
+    {0, L"Name", kGet, Answer<&D::Name>},
+    {1, L"Application", kGet, Answer<&D::Application>},
+    {2, L"BuiltInDocumentProperties", kEither, Answer<&D::BuiltIn>},
+    {3, L"CustomDocumentProperties", kEither, Answer<&D::Custom>},
+    {4, L"Path", kGet, Answer<&D::Path>},
+    {5, L"FullName", kGet, Answer<&D::FullName>},
+    {6, L"ReadOnly", kGet, Answer<&D::IsReadOnly>},
     {7, L"Saved", kGetPut, Answer<&D::Saved>},
-    {8, L"Windows", kGet, Answer<&D::GetWindows>},
-    {9, L"Save", kMethod, Answer<&D::DoSave>},
-    {10, L"SaveAs", kMethod, Answer<&D::DoSaveAs>},
-    {11, L"Close", kMethod, Answer<&D::DoCloseSaving>},
+    {8, L"Windows", kGet, Answer<&D::Windows>},
+    {9, L"Save", kMethod, Answer<&D::Save>},
+    {10, L"SaveAs", kMethod, Answer<&D::SaveUnder>},
+    {11, L"Close", kMethod, Answer<&D::CloseSaving>},
     {12, L"Final", kGetPut, Answer<&D::Final>},
-    {13, L"HasVBProject", kGet, Answer<&D::GetHasVBProject>},
+    {13, L"HasVBProject", kGet, Answer<&D::HasVBProject>},
 };
 
 constexpr Member kWindow[] = {
-    {0, L"Caption", kGet, Answer<&W::GetCaption>},
-    {1, L"Document", kGet, Answer<&W::GetDocument>},
-    {2, L"Active", kGet, Answer<&W::GetActive>},
-    {3, L"Activate", kMethod, Answer<&W::DoActivate>},
+    {0, L"Caption", kGet, Answer<&W::Caption>},
+    {1, L"Document", kGet, Answer<&W::Document>},
+    {2, L"Active", kGet, Answer<&W::IsActive>},
+    {3, L"Activate", kMethod, Answer<&W::Activate>},
 };
 
 constexpr HostModel kModel{{L"Application", OfficeId(0x00020970), kApplication},

@@ -1,3 +1,4 @@
+// Numbers and parts in strings of bytes.
 #pragma once
 
 #include <cstdint>
@@ -13,8 +14,5 @@ void AppendNumber(std::string& out, std::uint64_t number, std::size_t width);
 // Throws std::runtime_error when the number or the slice lies outside the bytes.
 [[nodiscard]] std::uint64_t ReadNumber(std::string_view bytes, std::size_t at, std::size_t width);
 [[nodiscard]] std::string_view Slice(std::string_view bytes, std::size_t at, std::size_t size);
-
-// Appends a code point as UTF-8.
-void AppendUtf8(std::string& out, std::uint32_t code);
 
 } // namespace host

@@ -8,6 +8,7 @@
 
 #include "package/Bytes.h"
 #include "package/FileTime.h"
+#include "platform/Utf8.h"
 
 namespace host
 {
@@ -152,15 +153,10 @@ private:
 
     [[nodiscard]] std::string WideText(std::uint64_t at, std::uint64_t letters) const
     {
-        std::string text;
-        for (std::uint64_t i = 0; i < letters; ++i) {
-            std::uint64_t unit = Number(at + 2 * i, 2);
-            if (unit == 0) break;
-            if (unit >= 0xd800 && unit < 0xdc00 && i + 1 < letters)
-                unit = 0x10000 + ((unit - 0xd800) << 10) + (Number(at + 2 * ++i, 2) - 0xdc00);
-            AppendUtf8(text, static_cast<std::uint32_t>(unit));
-        }
-        return text;
+        std::wstring text;
+        for (std::uint64_t i = 0; i < letters; ++i)
+            text += static_cast<wchar_t>(Number(at + 2 * i, 2));
+        return corvane::ToUtf8(std::wstring_view{text}.substr(0, text.find(L'\0')));
     }
 
     // Text in the section's code page; any but UTF-8 is read as Latin-1.
@@ -169,10 +165,10 @@ private:
         const std::string_view raw = Slice(m_bytes, static_cast<std::size_t>(at), static_cast<std::size_t>(size));
         const std::string_view text = raw.substr(0, raw.find('\0'));
         if (m_codePage == kUtf8CodePage) return std::string{text};
-        std::string out;
+        std::wstring letters;
         for (const char letter : text)
-            AppendUtf8(out, static_cast<unsigned char>(letter));
-        return out;
+            letters += static_cast<unsigned char>(letter);
+        return corvane::ToUtf8(letters);
     }
 
     [[nodiscard]] std::map<std::uint32_t, std::string> Names() const

@@ -1,3 +1,4 @@
+// OLE property sets. They are read and written here, not by the system: Wine reads no section but the first.
 #pragma once
 
 #include <array>

@@ -1,11 +1,11 @@
 #include "package/Xml.h"
 
+#include "platform/Utf8.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <stdexcept>
-
-#include "package/Bytes.h"
 
 namespace host
 {
@@ -99,7 +99,7 @@ private:
         std::uint32_t code = 0;
         const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), code, base);
         if (error != std::errc{} || end != digits.data() + digits.size() || code > 0x10ffff) Fail("a bad reference");
-        AppendUtf8(out, code);
+        corvane::AppendUtf8(out, code);
     }
 
     // Character data up to, not including, one of the stop letters.
@@ -167,78 +167,37 @@ private:
     std::size_t m_at = 0;
 };
 
-void AppendEscaped(std::string& out, std::string_view text)
-{
-    for (const char c : text) {
-        switch (c) {
-        case '&':
-            out += "&amp;";
-            break;
-        case '<':
-            out += "&lt;";
-            break;
-        case '>':
-            out += "&gt;";
-            break;
-        case '"':
-            out += "&quot;";
-            break;
-        case '\t':
-            out += "&#9;";
-            break;
-        case '\n':
-            out += "&#10;";
-            break;
-        case '\r':
-            out += "&#13;";
-            break;
-        default:
-            out += c;
-        }
-    }
-}
-
 void AppendElement(std::string& out, const XmlElement& element)
 {
-    out += '<';
-    out += element.name;
-    for (const auto& [name, value] : element.attributes) {
-        out += ' ';
-        out += name;
-        out += "=\"";
-        AppendEscaped(out, value);
-        out += "\"";
-    }
+    out.append("<").append(element.name);
+    for (const auto& [name, value] : element.attributes)
+        out.append(" ").append(name).append("=\"").append(EscapeXml(value)).append("\"");
     if (element.text.empty() && element.children.empty()) {
         out += "/>";
         return;
     }
-    out += ">";
-    AppendEscaped(out, element.text);
+    out.append(">").append(EscapeXml(element.text));
     for (const XmlElement& child : element.children)
         AppendElement(out, child);
-    out += "</";
-    out += element.name;
-    out += '>';
+    out.append("</").append(element.name).append(">");
 }
 
 } // namespace
 
 std::string_view XmlElement::LocalName() const
 {
-    const std::size_t colon = name.find(':');
-    return std::string_view{name}.substr(colon == std::string::npos ? 0 : colon + 1);
+    return std::string_view{name}.substr(name.find(':') + 1); // from the start where there is no colon
 }
 
 std::string XmlElement::Attribute(std::string_view attribute) const
 {
-    const auto found = std::ranges::find_if(attributes, [&](const auto& a) { return a.first == attribute; });
+    const auto found = std::ranges::find(attributes, attribute, &std::pair<std::string, std::string>::first);
     return found == attributes.end() ? std::string{} : found->second;
 }
 
 void XmlElement::SetAttribute(std::string_view attribute, std::string_view value)
 {
-    const auto found = std::ranges::find_if(attributes, [&](const auto& a) { return a.first == attribute; });
+    const auto found = std::ranges::find(attributes, attribute, &std::pair<std::string, std::string>::first);
     if (found == attributes.end())
         attributes.emplace_back(attribute, value);
     else
@@ -247,7 +206,7 @@ void XmlElement::SetAttribute(std::string_view attribute, std::string_view value
 
 const XmlElement* XmlElement::Child(std::string_view localName) const
 {
-    const auto found = std::ranges::find_if(children, [&](const XmlElement& c) { return c.LocalName() == localName; });
+    const auto found = std::ranges::find(children, localName, &XmlElement::LocalName);
     return found == children.end() ? nullptr : &*found;
 }
 
@@ -258,8 +217,14 @@ XmlElement* XmlElement::Child(std::string_view localName)
 
 std::string EscapeXml(std::string_view text)
 {
+    static constexpr std::pair<char, std::string_view> kReferences[] = {
+        {'&', "&amp;"}, {'<', "&lt;"},   {'>', "&gt;"},  {'"', "&quot;"},
+        {'\t', "&#9;"}, {'\n', "&#10;"}, {'\r', "&#13;"}};
     std::string out;
-    AppendEscaped(out, text);
+    for (const char letter : text) {
+        const auto* reference = std::ranges::find(kReferences, letter, &std::pair<char, std::string_view>::first);
+        reference == std::end(kReferences) ? out += letter : out += reference->second;
+    }
     return out;
 }
 

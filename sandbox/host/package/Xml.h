@@ -1,3 +1,5 @@
+// XML in UTF-8 as trees of values. It is read here, not by the system's parser: Wine's does not tell which namespaces
+// an element declares, and both ribbons and packages hang on that.
 #pragma once
 
 #include <string>
@@ -12,8 +14,8 @@ namespace host
 struct XmlElement
 {
     std::string name;
-    std::vector<std::pair<std::string, std::string>> attributes{};
-    std::string text{}; // the character data directly inside, joined
+    std::vector<std::pair<std::string, std::string>> attributes{}; // those that declare namespaces among them
+    std::string text{};                                            // the character data directly inside, joined
     std::vector<XmlElement> children{};
 
     [[nodiscard]] std::string_view LocalName() const;

@@ -1,5 +1,6 @@
 #include "ribbon/Ribbon.h"
 
+#include "base/Text.h"
 #include "ribbon/RibbonRules.h"
 
 namespace host
@@ -40,17 +41,7 @@ const RibbonControl* FindIn(const std::vector<RibbonControl>& controls, std::str
 
 } // namespace
 
-std::string PlainLabel(std::string_view label)
-{
-    std::string out;
-    for (std::size_t i = 0; i < label.size(); ++i) {
-        if (label[i] == '&' && ++i == label.size()) break;
-        out += label[i];
-    }
-    return out;
-}
-
-std::string RibbonControl::Label() const { return PlainLabel(Attribute("label")); }
+std::string RibbonControl::Label() const { return Narrow(WithoutMark(Widen(Attribute("label")))); }
 
 bool RibbonControl::IsFalse(std::string_view name) const
 {

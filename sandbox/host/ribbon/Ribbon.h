@@ -1,3 +1,4 @@
+// The ribbon that an add-in asks for.
 #pragma once
 
 #include <string>
@@ -37,9 +38,6 @@ struct Ribbon
     // The control with this id anywhere in the ribbon, or null.
     [[nodiscard]] const RibbonControl* Find(std::string_view id) const;
 };
-
-// The label without its access key mark.
-[[nodiscard]] std::string PlainLabel(std::string_view label);
 
 // Reads the XML as a host of this major version does. Throws std::runtime_error with the reason when such a host would
 // refuse it: not well formed, or against its rules (CheckRibbon).

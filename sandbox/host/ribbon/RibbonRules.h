@@ -1,3 +1,4 @@
+// The rules that a ribbon has to keep.
 #pragma once
 
 #include "package/Xml.h"

@@ -1,0 +1,22 @@
+// Texts as users compare and read them.
+#pragma once
+
+#include "platform/Utf8.h"
+
+#include <string>
+#include <string_view>
+
+namespace host
+{
+
+// UTF-8 to and from the system's wide text.
+[[nodiscard]] inline std::wstring Widen(std::string_view text) { return corvane::FromUtf8(text); }
+[[nodiscard]] inline std::string Narrow(std::wstring_view text) { return corvane::ToUtf8(text); }
+
+// Whether the texts are the same but for upper and lower case.
+[[nodiscard]] bool SameText(std::wstring_view a, std::wstring_view b);
+
+// A caption as a user reads it: without the mark of its access key, and one "&" for two.
+[[nodiscard]] std::wstring WithoutMark(std::wstring caption);
+
+} // namespace host
