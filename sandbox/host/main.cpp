@@ -1,8 +1,7 @@
 #include <algorithm>
 #include <climits>
-#include <condition_variable>
+#include <future>
 #include <stdexcept>
-#include <thread>
 
 #include <windows.h>
 
@@ -38,29 +37,6 @@ std::vector<std::wstring> CommandLineWords()
     return list;
 }
 
-// Lets the playing thread wait for the end of the user-interface thread, and end the process when it hangs.
-class EndSignal
-{
-public:
-    void Set()
-    {
-        const std::lock_guard lock{m_mutex};
-        m_ended = true;
-        m_changed.notify_all();
-    }
-
-    bool WaitFor(std::chrono::seconds patience)
-    {
-        std::unique_lock lock{m_mutex};
-        return m_changed.wait_for(lock, patience, [this] { return m_ended; });
-    }
-
-private:
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    bool m_ended = false;
-};
-
 // A failed scenario leaves modal windows open in the add-in, which no orderly end can pass.
 [[noreturn]] void EndAtOnce(Host& host)
 {
@@ -69,7 +45,7 @@ private:
     std::abort();
 }
 
-std::size_t PlayToTheEnd(Host& host, EndSignal& ended)
+std::size_t PlayToTheEnd(Host& host, std::future<void> ended)
 {
     ::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     HostStage stage{host};
@@ -80,7 +56,7 @@ std::size_t PlayToTheEnd(Host& host, EndSignal& ended)
         PrintError(outcome.failure);
         EndAtOnce(host);
     }
-    if (ended.WaitFor(kEndPatience)) return outcome.steps;
+    if (ended.wait_for(kEndPatience) == std::future_status::ready) return outcome.steps;
     PrintError(L"the host did not end in 30 s after the last step");
     EndAtOnce(host);
 }
@@ -89,18 +65,17 @@ int RunForPerson(Host& host) { return host.RunMessages() ? kSuccess : kFailure; 
 
 int RunScenario(Host& host, const std::wstring& path)
 {
-    std::size_t steps = 0;
-    EndSignal ended;
-    std::thread thread{[&] { steps = PlayToTheEnd(host, ended); }};
+    std::promise<void> ended;
+    auto steps = std::async(std::launch::async, [&] { return PlayToTheEnd(host, ended.get_future()); });
     const bool clean = host.RunMessages();
-    ended.Set();
-    thread.join();
+    ended.set_value();
+    steps.wait();
     for (const std::wstring& fault : host.TakeFaults()) {
         PrintError(L"the add-in failed at the end: " + fault);
         return kFailure;
     }
     if (!clean) return kFailure;
-    Print(L"scenario passed: " + FileName(path) + L" (" + std::to_wstring(steps) + L" steps, " +
+    Print(L"scenario passed: " + FileName(path) + L" (" + std::to_wstring(steps.get()) + L" steps, " +
           std::to_wstring(CHAR_BIT * sizeof(void*)) + L"-bit)");
     return kSuccess;
 }

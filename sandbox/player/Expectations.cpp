@@ -66,21 +66,14 @@ void ExpectState(Run& run, const std::wstring& name, const std::wstring& state)
 {
     const auto row = std::ranges::find(kStates, state, &StateRow::name);
     if (row == std::end(kStates)) Fail(L"no state is named " + state);
-    run.WaitFor([&] {
-        const HWND control = run.Control(name);
-        if (control == nullptr) return L"no " + name + L" in " + run.FormName();
-        return Unless(row->holds(run, control), L"it is not " + state);
-    });
+    run.WaitOn(name, [&](HWND control) { return Unless(row->holds(run, control), L"it is not " + state); });
 }
 
 // A control in a state, by one word, or with a text, by quoted ones.
 void ExpectControl(Stage&, Run& run, const Step& step)
 {
-    const std::wstring name = step.At(0);
-    if (!step.words[1].quoted) return ExpectState(run, name, step.At(1));
-    run.WaitFor([&]() -> Finding {
-        const HWND control = run.Control(name);
-        if (control == nullptr) return L"no " + name + L" in " + run.FormName();
+    if (!step.words[1].quoted) return ExpectState(run, step.At(0), step.At(1));
+    run.WaitOn(step.At(0), [&](HWND control) {
         const auto text = ControlText(control);
         return Unless(text == step.Lines(1), L"it is " + Quoted(text));
     });
@@ -88,9 +81,7 @@ void ExpectControl(Stage&, Run& run, const Step& step)
 
 void ExpectCaption(Stage&, Run& run, const Step& step)
 {
-    run.WaitFor([&]() -> Finding {
-        const HWND form = run.Form();
-        if (form == nullptr) return L"no caption in " + run.FormName();
+    run.WaitOn(L"form", [&](HWND form) {
         const auto text = WindowText(form);
         return Unless(text == step.Lines(0), L"it is " + Quoted(text));
     });

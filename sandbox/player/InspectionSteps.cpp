@@ -53,9 +53,7 @@ void Readable(Stage&, Run& run, const Step& step)
 
 void Spoken(Stage&, Run& run, const Step& step)
 {
-    run.WaitFor([&]() -> Finding {
-        const HWND control = run.Control(step.At(0));
-        if (control == nullptr) return L"no such control in " + run.FormName();
+    run.WaitOn(step.At(0), [&](HWND control) {
         const std::wstring name = run.OnUi([=] { return SpokenName(control); });
         return Unless(name == step.At(1), L"its name is \"" + name + L"\"");
     });

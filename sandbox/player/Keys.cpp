@@ -24,6 +24,16 @@ constexpr NamedKey kNamedKeys[] = {
     {L"Home", VK_HOME},     {L"End", VK_END},    {L"F1", VK_F1},     {L"F4", VK_F4},       {L"F5", VK_F5},
 };
 
+struct HeldKey
+{
+    std::wstring_view name;
+    WORD key;
+    WORD left;
+};
+
+constexpr HeldKey kHeldKeys[] = {
+    {L"Ctrl", VK_CONTROL, VK_LCONTROL}, {L"Alt", VK_MENU, VK_LMENU}, {L"Shift", VK_SHIFT, VK_LSHIFT}};
+
 WORD KeyNamed(const std::wstring& name)
 {
     const auto found = std::ranges::find(kNamedKeys, name, &NamedKey::name);
@@ -36,18 +46,13 @@ void HoldKeys(const KeyStroke& stroke, bool down)
 {
     BYTE state[256] = {};
     ::GetKeyboardState(state);
-    const auto set = [&](int key, bool held) {
-        if (held) state[key] = down ? 0x80 : 0;
-    };
-    set(VK_CONTROL, stroke.control);
-    set(VK_LCONTROL, stroke.control);
-    set(VK_MENU, stroke.alt);
-    set(VK_LMENU, stroke.alt);
-    set(VK_SHIFT, stroke.shift);
-    set(VK_LSHIFT, stroke.shift);
-    set(stroke.key, true);
+    for (const WORD key : stroke.held)
+        state[key] = down ? 0x80 : 0;
+    state[stroke.key] = down ? 0x80 : 0;
     ::SetKeyboardState(state);
 }
+
+bool IsHeld(const KeyStroke& stroke, WORD key) { return std::ranges::count(stroke.held, key) > 0; }
 
 LPARAM KeyBits(WORD key, bool alt, bool up)
 {
@@ -67,14 +72,9 @@ KeyStroke ParseKey(const std::wstring& name)
     for (std::size_t plus = rest.find(L'+'); plus != std::wstring::npos && plus + 1 < rest.size();
          plus = rest.find(L'+')) {
         const std::wstring held = rest.substr(0, plus);
-        if (held == L"Ctrl")
-            stroke.control = true;
-        else if (held == L"Alt")
-            stroke.alt = true;
-        else if (held == L"Shift")
-            stroke.shift = true;
-        else
-            Fail(L"no key to hold is named " + held);
+        const auto row = std::ranges::find(kHeldKeys, held, &HeldKey::name);
+        if (row == std::end(kHeldKeys)) Fail(L"no key to hold is named " + held);
+        stroke.held.insert(stroke.held.end(), {row->key, row->left});
         rest.erase(0, plus + 1);
     }
     stroke.key = KeyNamed(rest);
@@ -86,14 +86,15 @@ void PressKey(const UiQueue& queue, const KeyStroke& stroke)
     // The focus is asked for where it is set: another thread would see it while a form is on its way to the front.
     queue.Post([=, &queue] {
         const HWND target = ::GetFocus();
-        const bool system = stroke.alt && !stroke.control;
+        const bool alt = IsHeld(stroke, VK_MENU);
+        const bool system = alt && !IsHeld(stroke, VK_CONTROL);
         HoldKeys(stroke, true);
-        ::PostMessageW(target, system ? WM_SYSKEYDOWN : WM_KEYDOWN, stroke.key, KeyBits(stroke.key, stroke.alt, false));
+        ::PostMessageW(target, system ? WM_SYSKEYDOWN : WM_KEYDOWN, stroke.key, KeyBits(stroke.key, alt, false));
         // The system adds this to a real F1; the default window procedure makes WM_HELP of it.
         if (stroke.key == VK_F1) ::PostMessageW(target, kKeyF1, 0, 0);
         // TranslateMessage posts the character behind the key, so the release must not overtake it.
         queue.Post([=, &queue] {
-            ::PostMessageW(target, system ? WM_SYSKEYUP : WM_KEYUP, stroke.key, KeyBits(stroke.key, stroke.alt, true));
+            ::PostMessageW(target, system ? WM_SYSKEYUP : WM_KEYUP, stroke.key, KeyBits(stroke.key, alt, true));
             queue.Post([stroke] { HoldKeys(stroke, false); });
         });
     });

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include <windows.h>
 
@@ -14,9 +15,7 @@ namespace corvane::player
 struct KeyStroke
 {
     WORD key = 0;
-    bool control = false;
-    bool alt = false;
-    bool shift = false;
+    std::vector<WORD> held; // each with the one of its two that is pressed
 };
 
 // Throws Error when the name is unknown.

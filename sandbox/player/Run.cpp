@@ -99,14 +99,21 @@ HWND Run::Control(const std::wstring& name) const
     return form == nullptr ? nullptr : FindControl(form, *id);
 }
 
+void Run::WaitOn(const std::wstring& control, const std::function<Finding(HWND)>& check)
+{
+    WaitFor([&] {
+        const HWND window = Control(control);
+        return window == nullptr ? L"no " + control + L" in " + m_form : check(window);
+    });
+}
+
 HWND Run::UsableControl(const std::wstring& name)
 {
     HWND control = nullptr;
-    WaitFor([&] {
-        control = Control(name);
-        if (control == nullptr) return L"no " + name + L" in " + m_form;
-        if (!::IsWindowVisible(control)) return name + L" is hidden";
-        return Unless(::IsWindowEnabled(control) && ::IsWindowEnabled(Form()), name + L" is disabled");
+    WaitOn(name, [&](HWND found) {
+        control = found;
+        if (!::IsWindowVisible(found)) return name + L" is hidden";
+        return Unless(::IsWindowEnabled(found) && ::IsWindowEnabled(Form()), name + L" is disabled");
     });
     return control;
 }

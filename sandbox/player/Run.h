@@ -71,6 +71,9 @@ public:
     [[nodiscard]] HWND Form() const;
     [[nodiscard]] HWND Control(const std::wstring& name) const;
 
+    // Asks about the control that the window has of this name, as soon as there is one, until the check is satisfied.
+    void WaitOn(const std::wstring& control, const std::function<Finding(HWND)>& check);
+
     // Waits until a person could use the control: it and its window are visible and enabled.
     [[nodiscard]] HWND UsableControl(const std::wstring& name);
 

@@ -23,7 +23,7 @@ constexpr long kConnectAtStart = 1;
 
 std::wstring AddInsKey(const HostFacts& facts)
 {
-    return std::wstring{L"Software\\Microsoft\\Office\\"} + facts.registryName + L"\\Addins";
+    return std::wstring{L"Software\\Microsoft\\Office\\"} + facts.product + L"\\Addins";
 }
 
 std::wstring Hex(HRESULT result)
@@ -185,14 +185,14 @@ Variant AddIn::Callback(const std::string& name, IDispatch* argument)
 
 void AddIn::Disconnect()
 {
-    if (m_extensibility && m_state == AddInState::Connected) {
+    if (m_extensibility != nullptr && m_state == AddInState::Connected) {
         CustomArray custom;
         m_extensibility->OnBeginShutdown(custom.Get());
         const HRESULT gone = m_extensibility->OnDisconnection(kHostShutdown, custom.Get());
         if (FAILED(gone) && onFault) onFault(L"OnDisconnection failed: " + Hex(gone));
         m_state = AddInState::Disconnected;
     }
-    if (m_ribbonUi) m_ribbonUi->Disconnect();
+    if (m_ribbonUi != nullptr) m_ribbonUi->Disconnect();
     m_registration->SetConnected(false);
     m_registration->DropOffered();
     m_ribbon.reset();

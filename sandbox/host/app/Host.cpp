@@ -132,13 +132,13 @@ void Host::Perform(HostCommand command)
             OpenWithDialog();
             break;
         case HostCommand::Save:
-            active && active->File().HasFile() ? active->Save() : SaveWithName();
+            active != nullptr && active->File().HasFile() ? active->Save() : SaveWithName();
             break;
         case HostCommand::SaveAs:
             SaveWithName();
             break;
         case HostCommand::Close:
-            if (active) m_session.Close(*active);
+            if (active != nullptr) m_session.Close(*active);
             break;
         case HostCommand::Exit:
             m_queue.Post([this] { Quit(); });
@@ -156,7 +156,7 @@ void Host::OpenWithDialog()
 void Host::SaveWithName()
 {
     const ComPtr<DocumentObject> active{m_session.Active()};
-    if (!active) return;
+    if (active == nullptr) return;
     const std::wstring path = AskForPath(m_window->Handle(), m_session.Facts(), true, active->File().FullName());
     if (!path.empty()) active->SaveAs(path, {});
 }

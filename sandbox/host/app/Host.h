@@ -68,7 +68,7 @@ public:
     // Takes back what the host wrote into the registry; for an end that runs no destructors. Any thread.
     void RemoveTraces()
     {
-        if (m_programs) m_programs->RemoveTraces();
+        if (m_programs != nullptr) m_programs->RemoveTraces();
     }
 
 private:

@@ -103,17 +103,17 @@ void OtherPrograms::OfferOutlook(MailMood mood, bool running)
 
 OtherPrograms::~OtherPrograms()
 {
-    if (m_running) ::RevokeActiveObject(m_running, nullptr);
+    if (m_running != 0) ::RevokeActiveObject(m_running, nullptr);
 }
 
 const MailFields* OtherPrograms::LastMail() const
 {
-    return m_outlook && !m_outlook->Displayed().empty() ? &m_outlook->Displayed().back() : nullptr;
+    return m_outlook != nullptr && !m_outlook->Displayed().empty() ? &m_outlook->Displayed().back() : nullptr;
 }
 
 void OtherPrograms::OnMail(std::function<void(const MailFields&)> show)
 {
-    if (m_outlook) m_outlook->onDisplay = std::move(show);
+    if (m_outlook != nullptr) m_outlook->onDisplay = std::move(show);
 }
 
 void OtherPrograms::RemoveTraces() const

@@ -42,7 +42,7 @@ public:
     [[nodiscard]] std::wstring Name() const; // of a mail item: its subject
     [[nodiscard]] const std::wstring& FullName() const { return m_fullName; }
     [[nodiscard]] bool HasFile() const { return !m_file.empty(); }
-    [[nodiscard]] const std::wstring& File() const { return m_file; }
+    [[nodiscard]] const std::wstring& FilePath() const { return m_file; }
     [[nodiscard]] std::wstring Folder() const { return HasFile() ? FolderOf(m_fullName) : std::wstring{}; }
     [[nodiscard]] bool IsReadOnly() const { return m_readOnly; }
     [[nodiscard]] bool IsSaved() const { return m_saved; }

@@ -119,7 +119,7 @@ DocumentObject& Session::Open(const std::wstring& path, bool readOnly)
 {
     const std::wstring full = FullPath(path);
     for (const auto& open : m_documents)
-        if (SameText(open->File().File(), full)) {
+        if (SameText(open->File().FilePath(), full)) {
             Activate(*open.Get());
             return *Active();
         }

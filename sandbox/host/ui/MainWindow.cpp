@@ -45,7 +45,7 @@ MainWindow::MainWindow(Desk& desk) : m_desk{desk}, m_menus{desk}
 
 MainWindow::~MainWindow()
 {
-    if (m_window) ::DestroyWindow(m_window);
+    if (m_window != nullptr) ::DestroyWindow(m_window);
 }
 
 void MainWindow::Show()
@@ -59,7 +59,7 @@ void MainWindow::Refresh()
 {
     DocumentObject* active = m_desk.ActiveDocument();
     const std::wstring product = ProductName(m_desk);
-    const std::wstring title = active ? active->File().Name() + L" - " + product : product;
+    const std::wstring title = active != nullptr ? active->File().Name() + L" - " + product : product;
     ::SetWindowTextW(m_window, title.c_str());
     if (m_desk.Edition() == Edition::Menus) RebuildMenuBar();
     Layout();
@@ -79,7 +79,7 @@ void MainWindow::RebuildMenuBar()
     m_menus.Clear();
     m_menus.FillFromBar(bar, m_desk.MenuBar());
     ::SetMenu(m_window, bar);
-    if (before) ::DestroyMenu(before);
+    if (before != nullptr) ::DestroyMenu(before);
 }
 
 bool MainWindow::ShowByLabel(const std::wstring& label, std::vector<RibbonControl> Ribbon::*part, bool backstage)
@@ -269,8 +269,8 @@ LRESULT CALLBACK MainWindow::WindowProc(HWND window, UINT message, WPARAM wParam
         ::SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
     }
     auto* self = reinterpret_cast<MainWindow*>(::GetWindowLongPtrW(window, GWLP_USERDATA));
-    return self && self->m_window ? self->Handle(message, wParam, lParam)
-                                  : ::DefWindowProcW(window, message, wParam, lParam);
+    return self != nullptr && self->m_window != nullptr ? self->Handle(message, wParam, lParam)
+                                                        : ::DefWindowProcW(window, message, wParam, lParam);
 }
 
 } // namespace host

@@ -49,33 +49,24 @@ private:
 
     void Items(const Scene& scene)
     {
-        for (const SceneItem& item : scene.items) {
-            switch (item.kind) {
-            case ItemKind::FileTab:
-                FileTab(item);
-                break;
-            case ItemKind::OfficeButton:
-                OfficeButton(item);
-                break;
-            case ItemKind::Tab:
-                Tab(item);
-                break;
-            case ItemKind::LargeButton:
-            case ItemKind::MenuButton:
-                Button(item);
-                break;
-            case ItemKind::BackArrow:
-                BackArrow(item);
-                break;
-            case ItemKind::BackstageCommand:
-            case ItemKind::BackstagePage:
-                Navigation(item);
-                break;
-            case ItemKind::Task:
-                Task(item);
-                break;
-            }
-        }
+        struct Row
+        {
+            ItemKind kind;
+            void (Painter::*draw)(const SceneItem&);
+        };
+        static constexpr Row kRows[] = {
+            {ItemKind::FileTab, &Painter::FileTab},
+            {ItemKind::OfficeButton, &Painter::OfficeButton},
+            {ItemKind::Tab, &Painter::Tab},
+            {ItemKind::LargeButton, &Painter::Button},
+            {ItemKind::MenuButton, &Painter::Button},
+            {ItemKind::BackArrow, &Painter::BackArrow},
+            {ItemKind::BackstageCommand, &Painter::Navigation},
+            {ItemKind::BackstagePage, &Painter::Navigation},
+            {ItemKind::Task, &Painter::Task},
+        };
+        for (const SceneItem& item : scene.items)
+            (this->*std::ranges::find(kRows, item.kind, &Row::kind)->draw)(item);
     }
 
     [[nodiscard]] bool IsHot(const SceneItem& item) const { return &item == m_hovered && item.enabled; }

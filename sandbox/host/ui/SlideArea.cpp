@@ -52,7 +52,7 @@ void PaintStatus(HDC dc, const RECT& box, const Theme& theme, DocumentObject* do
     Fill(dc, box, kStrip);
     Fill(dc, {box.left, box.top, box.right, box.top + 1}, kLine);
     RECT text{box.left + theme.Scale(12), box.top, box.right - theme.Scale(12), box.bottom};
-    if (!document) return Write(dc, text, L"Nothing is open", theme.Normal(), kSoftText, kLeft);
+    if (document == nullptr) return Write(dc, text, L"Nothing is open", theme.Normal(), kSoftText, kLeft);
     Write(dc, text, document->Owner().Facts().status, theme.Normal(), kSoftText, kLeft);
     text.left += theme.Scale(kThumbnailsWidth);
     Write(dc, text, StateText(*document), theme.Normal(), kSoftText, kLeft);
@@ -65,7 +65,7 @@ void PaintSlideArea(HDC dc, const RECT& area, const Theme& theme, DocumentObject
     Fill(dc, area, kDesk);
     const RECT status{area.left, area.bottom - theme.Scale(kStatusHeight), area.right, area.bottom};
     PaintStatus(dc, status, theme, document);
-    if (!document) return;
+    if (document == nullptr) return;
 
     const HostFacts& facts = document->Owner().Facts();
     const std::wstring title = document->File().Title();
