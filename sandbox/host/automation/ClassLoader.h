@@ -1,3 +1,4 @@
+// Classes of add-ins, created from the registry.
 #pragma once
 
 #include <map>

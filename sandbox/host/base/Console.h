@@ -1,3 +1,4 @@
+// Lines for whoever started the program.
 #pragma once
 
 #include <string_view>

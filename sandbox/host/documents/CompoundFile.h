@@ -1,3 +1,4 @@
+// Documents of the binary formats.
 #pragma once
 
 #include <string>

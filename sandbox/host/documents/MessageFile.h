@@ -1,3 +1,4 @@
+// Mail items as files.
 #pragma once
 
 #include <string>

@@ -1,3 +1,4 @@
+// The formats in which a host saves.
 #pragma once
 
 #include <string>

@@ -1,3 +1,4 @@
+// Compound files.
 #pragma once
 
 #include <string>

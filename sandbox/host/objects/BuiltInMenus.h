@@ -1,3 +1,4 @@
+// The menus that a host has by itself.
 #pragma once
 
 #include <string>

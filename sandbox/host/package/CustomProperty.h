@@ -1,3 +1,4 @@
+// Properties of a document.
 #pragma once
 
 #include <string>

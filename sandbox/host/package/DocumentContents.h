@@ -1,3 +1,4 @@
+// What is kept of a document between its files.
 #pragma once
 
 #include <string>

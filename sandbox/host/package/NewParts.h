@@ -1,3 +1,4 @@
+// The parts that new packages of every kind need.
 #pragma once
 
 #include <span>

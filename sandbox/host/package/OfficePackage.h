@@ -1,3 +1,4 @@
+// Documents in the packages of Open XML.
 #pragma once
 
 #include <string>

@@ -1,3 +1,4 @@
+// Zip archives.
 #pragma once
 
 #include <string>
