@@ -46,6 +46,16 @@ public:
 
     // Runs a command, under the trace name of what started it. Errors are reported.
     void Run(const Command& command, std::wstring_view caller) noexcept;
+    // The save commands under the names of the interface.
+    void SaveAssignmentClickHelper(std::wstring_view caller) noexcept
+    {
+        Run(CommandOf(CommandKind::SaveAssignment), caller);
+    }
+    void SaveGateDocClickHelper(std::wstring_view caller) noexcept { Run(CommandOf(CommandKind::SaveGateDoc), caller); }
+    void SaveRelatedDocClickHelper(std::wstring_view caller) noexcept
+    {
+        Run(CommandOf(CommandKind::SaveRelatedDoc), caller);
+    }
 
 private:
     [[nodiscard]] std::wstring RibbonXml(std::wstring_view procedure, RibbonTab tab) const noexcept;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "addin.h"
-#include "addin/Commands.h"
+#include "addin/CAddInMenus.h"
 #include "platform/ComObject.h"
 
 namespace corvane
@@ -17,7 +17,7 @@ public:
     STDMETHODIMP SaveRelatedDoc() noexcept override;
 
 private:
-    static HRESULT Start(CommandKind kind) noexcept;
+    static HRESULT Start(CommandKind kind, void (CAddInMenus::*helper)(std::wstring_view caller) noexcept) noexcept;
 };
 
 } // namespace corvane

@@ -135,7 +135,7 @@ TEST_F(Menus, SaveNothingInExcelWhileACellIsEdited)
     const MessageBoxAnswer box{
         L"You are currently editing a cell or object. Please finish editing before saving to Corvane.",
         L"Save to Corvane"};
-    menus.Run(CommandOf(CommandKind::SaveAssignment), L"Custom");
+    menus.SaveAssignmentClickHelper(L"Custom");
     EXPECT_TRUE(box.Appeared());
     EXPECT_FALSE(box.HadIcon());
     EXPECT_EQ(listener.entered + listener.reported, 0);
@@ -176,7 +176,7 @@ TEST_F(Menus, KeepExcelFromItsUserWhileTheDialogRunsAfterTheTree)
         menus.SetApplication(App());
         const Listener listener;
         ::SetTimer(nullptr, 0, 20, &PickTarget);
-        menus.Run(CommandOf(CommandKind::SaveAssignment), L"Custom");
+        menus.SaveAssignmentClickHelper(L"Custom");
         EXPECT_EQ(dialogs, 1);
         EXPECT_EQ(listener.reported, fails ? 1 : 0);
         EXPECT_NE(App().Number(L"Interactive"), 0);
