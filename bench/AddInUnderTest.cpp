@@ -4,6 +4,7 @@
 #include "objects/Application.h"
 #include "objects/ComAddIn.h"
 #include "objects/RibbonObjects.h"
+#include "platform/LateBound.h"
 
 namespace bench
 {
@@ -15,35 +16,19 @@ constexpr LONG kStartUp = 1;
 // What the host gets when it asks for the ribbon.
 std::wstring RibbonOf(IUnknown& addIn)
 {
-    IRibbonExtensibility* ribbon = nullptr;
-    BSTR xml = nullptr;
-    if (FAILED(addIn.QueryInterface(IID_PPV_ARGS(&ribbon)))) return {};
-    ribbon->GetCustomUI(nullptr, &xml);
-    ribbon->Release();
-    std::wstring text{xml, ::SysStringLen(xml)};
-    ::SysFreeString(xml);
-    return text;
+    corvane::ComPtr<IRibbonExtensibility> ribbon;
+    corvane::Bstr xml;
+    if (FAILED(addIn.QueryInterface(IID_PPV_ARGS(ribbon.GetAddressOf())))) return {};
+    ribbon->GetCustomUI(nullptr, xml.Put());
+    return xml.Text();
 }
 
 // Presses a button of the ribbon, given as the control that its callback is about; returns when the command has ended.
-HRESULT PressControl(IUnknown& addIn, IDispatch& control)
+void PressControl(IUnknown& addIn, IDispatch& control)
 {
-    IDispatch* callbacks = nullptr;
-    HRESULT result = addIn.QueryInterface(IID_PPV_ARGS(&callbacks));
-    if (FAILED(result)) return result;
-    std::wstring name = L"RibbonHandler";
-    LPOLESTR names[] = {name.data()};
-    DISPID member = 0;
-    result = callbacks->GetIDsOfNames(IID_NULL, names, 1, LOCALE_NEUTRAL, &member);
-    VARIANTARG argument{};
-    argument.vt = VT_DISPATCH;
-    argument.pdispVal = &control;
-    DISPPARAMS parameters{&argument, nullptr, 1, 0};
-    if (SUCCEEDED(result))
-        result = callbacks->Invoke(member, IID_NULL, LOCALE_NEUTRAL, DISPATCH_METHOD, &parameters, nullptr, nullptr,
-                                   nullptr);
-    callbacks->Release();
-    return result;
+    corvane::ComPtr<IDispatch> callbacks;
+    Require(addIn.QueryInterface(IID_PPV_ARGS(callbacks.GetAddressOf())), "RibbonHandler");
+    corvane::LateBound{callbacks}.Call(L"RibbonHandler", &control);
 }
 
 } // namespace
@@ -70,7 +55,7 @@ void AddInUnderTest::Load(const std::wstring& library)
 void AddInUnderTest::Press(const std::wstring& control)
 {
     const auto pressed = host::MakeObject<host::RibbonControlObject>(control, L"", nullptr);
-    Require(PressControl(*m_addIn.Get(), *pressed.Get()), "RibbonHandler");
+    PressControl(*m_addIn.Get(), *pressed.Get());
 }
 
 } // namespace bench

@@ -187,7 +187,7 @@ std::string Document::PackageBytes(const SaveFormat& format) const
 {
     OfficePackage package = m_package ? *m_package : OfficePackage::New(m_host.kind, m_contents.BuiltIn("Title"), {});
     for (const BuiltInProperty& row : BuiltInOf(m_host.kind))
-        if (row.coreElement) package.SetCoreProperty(row.coreElement, m_contents.BuiltIn(row.name));
+        if (row.coreElement != nullptr) package.SetCoreProperty(row.coreElement, m_contents.BuiltIn(row.name));
     package.SetCustomProperties(m_contents.custom);
     package.SetMainType(format.type);
     return package.Write();
@@ -206,7 +206,7 @@ void Document::ReadPackage(const std::string& bytes)
     m_package = OfficePackage::Parse(bytes);
     DocumentContents read{{}, m_package->CustomProperties()};
     for (const BuiltInProperty& row : BuiltInOf(m_host.kind))
-        if (row.coreElement)
+        if (row.coreElement != nullptr)
             read.builtIn.push_back({row.name, PropertyType::Text, m_package->CoreProperty(row.coreElement)});
     Take(read);
 }

@@ -22,7 +22,7 @@ constexpr char kSignature[] = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1";
 ComPtr<ILockBytes> MemoryBytes(const std::string& bytes)
 {
     const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, bytes.size());
-    if (!memory) throw Error{E_OUTOFMEMORY, {}, kFailed};
+    if (memory == nullptr) throw Error{E_OUTOFMEMORY, {}, kFailed};
     std::memcpy(::GlobalLock(memory), bytes.data(), bytes.size());
     ::GlobalUnlock(memory);
     ComPtr<ILockBytes> lockBytes;

@@ -58,7 +58,7 @@ CommandBarObject& AddLeftover(CommandBarObject& bar, long type, const wchar_t* t
 {
     BarControlObject& entry = Append(bar, type, kCustom, L"Left over");
     entry.SetTag(tag);
-    return entry.Menu() ? *entry.Menu() : bar;
+    return entry.Menu() != nullptr ? *entry.Menu() : bar;
 }
 
 // Entries as an earlier run of the add-in made them: they have its tags, but nobody listens to them.

@@ -19,10 +19,20 @@ constexpr std::string_view kCustomRelation =
     "http://schemas.openxmlformats.org/officeDocument/2006/relationships/custom-properties";
 
 // Relationship targets are relative to the package's root or begin with "/".
-std::string PartName(std::string_view target)
+std::string PartName(std::string_view target) { return std::string{target.substr(target.starts_with("/") ? 1 : 0)}; }
+
+// A new element at the end of the root, in the root's namespace.
+XmlElement& AppendTo(XmlElement& root, std::string_view name)
 {
-    if (target.starts_with("/")) target.remove_prefix(1);
-    return std::string{target};
+    root.children.push_back({.name = root.name.substr(0, root.name.find(':') + 1).append(name)});
+    return root.children.back();
+}
+
+XmlElement* FindBy(XmlElement& root, std::string_view attribute, std::string_view value)
+{
+    const auto found =
+        std::ranges::find_if(root.children, [&](const XmlElement& one) { return one.Attribute(attribute) == value; });
+    return found == root.children.end() ? nullptr : &*found;
 }
 
 void CollectText(const XmlElement& element, std::string& text)
@@ -59,7 +69,7 @@ OfficePackage OfficePackage::New(HostKind host, std::string_view title, std::str
 OfficePackage OfficePackage::Parse(std::string_view bytes)
 {
     OfficePackage package{Zip::Parse(bytes)};
-    if (!package.m_zip.Find(kContentTypes) || package.PartOfRelation("/officeDocument").empty())
+    if (package.m_zip.Find(kContentTypes) == nullptr || package.PartOfRelation("/officeDocument").empty())
         throw std::runtime_error{"the archive is not a document of Office"};
     return package;
 }
@@ -67,7 +77,7 @@ OfficePackage OfficePackage::Parse(std::string_view bytes)
 std::vector<CustomProperty> OfficePackage::CustomProperties() const
 {
     const std::string* part = m_zip.Find(PartOfRelation("/custom-properties"));
-    return part ? ReadCustomProperties(*part) : std::vector<CustomProperty>{};
+    return part != nullptr ? ReadCustomProperties(*part) : std::vector<CustomProperty>{};
 }
 
 void OfficePackage::SetCustomProperties(const std::vector<CustomProperty>& properties)
@@ -85,20 +95,20 @@ void OfficePackage::SetCustomProperties(const std::vector<CustomProperty>& prope
 std::string OfficePackage::CoreProperty(std::string_view element) const
 {
     const std::string* part = m_zip.Find(PartOfRelation("/core-properties"));
-    if (!part) return {};
+    if (part == nullptr) return {};
     const XmlElement root = ParseXml(*part);
     const XmlElement* found = root.Child(element.substr(element.find(':') + 1));
-    return found ? found->text : std::string{};
+    return found != nullptr ? found->text : std::string{};
 }
 
 void OfficePackage::SetCoreProperty(std::string_view element, std::string_view value)
 {
     const std::string part = PartOfRelation("/core-properties");
     const std::string* text = m_zip.Find(part);
-    if (!text) return;
+    if (text == nullptr) return;
     XmlElement root = ParseXml(*text);
     XmlElement* found = root.Child(element.substr(element.find(':') + 1));
-    if (!found) {
+    if (found == nullptr) {
         root.children.push_back({.name = std::string{element}});
         found = &root.children.back();
     }
@@ -110,7 +120,7 @@ void OfficePackage::SetCoreProperty(std::string_view element, std::string_view v
 std::string OfficePackage::SlideTitle() const
 {
     const std::string* part = m_zip.Find("ppt/slides/slide1.xml");
-    if (!part) return {};
+    if (part == nullptr) return {};
     const XmlElement slide = ParseXml(*part);
     std::string title;
     if (const XmlElement* shape = FindTitleShape(slide)) CollectText(*shape, title);
@@ -131,7 +141,7 @@ void OfficePackage::SetMainType(std::string_view type) { SetContentType(PartOfRe
 std::string OfficePackage::PartOfRelation(std::string_view typeEnd) const
 {
     const std::string* part = m_zip.Find(kRelations);
-    if (!part) return {};
+    if (part == nullptr) return {};
     for (const XmlElement& relation : ParseXml(*part).children)
         if (relation.Attribute("Type").ends_with(typeEnd)) return PartName(relation.Attribute("Target"));
     return {};
@@ -140,19 +150,13 @@ std::string OfficePackage::PartOfRelation(std::string_view typeEnd) const
 void OfficePackage::AddRelation(std::string_view type, std::string_view target)
 {
     XmlElement root = ParseXml(*m_zip.Find(kRelations));
-    const auto taken = [&](const std::string& id) {
-        return std::ranges::any_of(root.children, [&](const XmlElement& r) { return r.Attribute("Id") == id; });
-    };
     int number = 1;
-    while (taken("rId" + std::to_string(number)))
+    while (FindBy(root, "Id", "rId" + std::to_string(number)) != nullptr)
         ++number;
-    XmlElement relation{.name = "Relationship"};
-    const std::size_t prefix = root.name.find(':');
-    if (prefix != std::string::npos) relation.name.insert(0, root.name, 0, prefix + 1);
+    XmlElement& relation = AppendTo(root, "Relationship");
     relation.SetAttribute("Id", "rId" + std::to_string(number));
     relation.SetAttribute("Type", type);
     relation.SetAttribute("Target", target);
-    root.children.push_back(std::move(relation));
     m_zip.Set(kRelations, WriteXml(root));
 }
 
@@ -161,19 +165,13 @@ void OfficePackage::SetContentType(std::string_view part, std::string_view type)
     std::string partName{'/'};
     partName += part;
     XmlElement root = ParseXml(*m_zip.Find(kContentTypes));
-    const auto found =
-        std::ranges::find_if(root.children, [&](const XmlElement& e) { return e.Attribute("PartName") == partName; });
-    if (found != root.children.end()) {
-        if (found->Attribute("ContentType") == type) return;
-        found->SetAttribute("ContentType", type);
-    } else {
-        XmlElement entry{.name = "Override"};
-        const std::size_t prefix = root.name.find(':');
-        if (prefix != std::string::npos) entry.name.insert(0, root.name, 0, prefix + 1);
-        entry.SetAttribute("PartName", partName);
-        entry.SetAttribute("ContentType", type);
-        root.children.push_back(std::move(entry));
+    XmlElement* entry = FindBy(root, "PartName", partName);
+    if (entry != nullptr && entry->Attribute("ContentType") == type) return;
+    if (entry == nullptr) {
+        entry = &AppendTo(root, "Override");
+        entry->SetAttribute("PartName", partName);
     }
+    entry->SetAttribute("ContentType", type);
     m_zip.Set(kContentTypes, WriteXml(root));
 }
 

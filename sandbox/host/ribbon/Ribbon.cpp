@@ -25,7 +25,7 @@ RibbonControl ToControl(const XmlElement& element)
 
 void AppendChildren(std::vector<RibbonControl>& out, const XmlElement* parent)
 {
-    if (!parent) return;
+    if (parent == nullptr) return;
     for (const XmlElement& child : parent->children)
         out.push_back(ToControl(child));
 }
