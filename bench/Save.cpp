@@ -6,6 +6,7 @@
 #include "objects/DocumentObject.h"
 #include "resources/resource.h"
 #include "shared/DocumentProperties.h"
+#include "shared/HostDocument.h"
 
 namespace bench
 {
@@ -52,7 +53,8 @@ void SaveBoundDocument(const Words& words)
     binding.server = words[1];
     binding.projectId = 12;     // "Apollo"
     binding.deliverableId = 45; // "Business case"
-    corvane::SetBindingProperties(corvane::LateBound{corvane::ComPtr<IDispatch>{&addIn.Host().Application()}}, binding);
+    const corvane::HostDocument document{corvane::LateBound{corvane::ComPtr<IDispatch>{&addIn.Host().Application()}}};
+    corvane::SetBindingProperties(document, binding);
     presentation.SaveAs(words[2], kPptx);
     WarmUp();
     const InstantUser user;

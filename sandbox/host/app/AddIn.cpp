@@ -8,8 +8,6 @@
 #include "platform/LateBound.h"
 #include "platform/Registry.h"
 
-#include <ranges>
-
 namespace host
 {
 namespace
@@ -62,8 +60,10 @@ std::vector<AddInEntry> RegisteredAddIns(const HostFacts& facts)
             const auto behavior = Registry::ReadNumber(key, L"LoadBehavior", {hive}).value_or(0);
             entries.try_emplace(name, AddInEntry{name, text(L"FriendlyName"), text(L"Description"), behavior});
         }
-    const auto values = std::views::values(entries);
-    return {values.begin(), values.end()};
+    std::vector<AddInEntry> found;
+    for (auto& [name, entry] : entries)
+        found.push_back(std::move(entry));
+    return found;
 }
 
 AddIn::AddIn(Session& session, ClassLoader& classes, AddInEntry entry)

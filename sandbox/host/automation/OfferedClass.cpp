@@ -5,7 +5,7 @@ namespace host
 
 using corvane::Registry::Hive;
 
-OfferedClass::OfferedClass(REFCLSID classId, std::wstring progId, std::function<ComPtr<IDispatch>()> create)
+OfferedClass::OfferedClass(REFCLSID classId, const std::wstring& progId, std::function<ComPtr<IDispatch>()> create)
     : m_id{corvane::GuidText(classId)}, m_key{L"Software\\Classes\\" + progId},
       m_class{classId, [create = std::move(create)](REFIID id, void** object) { return create().CopyTo(id, object); }}
 {

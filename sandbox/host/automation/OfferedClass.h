@@ -17,7 +17,7 @@ class OfferedClass
 {
 public:
     // Every creation asks for a new reference. Throws Error when COM does not take the class.
-    OfferedClass(REFCLSID classId, std::wstring progId, std::function<ComPtr<IDispatch>()> create);
+    OfferedClass(REFCLSID classId, const std::wstring& progId, std::function<ComPtr<IDispatch>()> create);
     OfferedClass(const OfferedClass&) = delete;
     OfferedClass& operator=(const OfferedClass&) = delete;
     ~OfferedClass() { RemoveTraces(); }

@@ -79,7 +79,7 @@ private:
     {
         const std::size_t end = std::min(m_text.find_first_of(" \t\r\n=/><\"'&", m_at), m_text.size());
         if (end == m_at) Fail("a name expected");
-        const std::string name{m_text.substr(m_at, end - m_at)};
+        std::string name{m_text.substr(m_at, end - m_at)};
         m_at = end;
         return name;
     }

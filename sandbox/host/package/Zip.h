@@ -1,4 +1,4 @@
-// Zip archives.
+// Zip archives. They are read and written here, over zlib: no library for them is packaged for this compiler.
 #pragma once
 
 #include <string>
