@@ -1,5 +1,6 @@
 #include "platform/BinaryStream.h"
 
+#include "platform/ByteArray.h"
 #include "platform/Files.h"
 #include "platform/HResult.h"
 
@@ -74,9 +75,7 @@ void BinaryStream::SaveTo(const std::wstring& path)
     Check(m_stream->put_Position(0), kSource);
     Variant bytes;
     Check(m_stream->Read(kReadAll, bytes.Put()), kSource);
-    if (bytes.Get().vt != (VT_ARRAY | VT_UI1)) return WriteFile(path, {}); // an empty stream reads as Null
-    const SAFEARRAY& array = *bytes.Get().parray;
-    WriteFile(path, {static_cast<const std::byte*>(array.pvData), array.rgsabound[0].cElements});
+    WriteFile(path, BytesIn(bytes.Get())); // an empty stream reads as Null
 }
 
 } // namespace corvane

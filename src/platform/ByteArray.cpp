@@ -4,6 +4,16 @@
 
 namespace corvane
 {
+namespace
+{
+
+// A vector of bytes has one dimension; its data stay in place while it lives.
+std::span<std::byte> BytesOf(const SAFEARRAY& array) noexcept
+{
+    return {static_cast<std::byte*>(array.pvData), array.rgsabound[0].cElements};
+}
+
+} // namespace
 
 ByteArray::ByteArray(std::size_t size) : m_array{::SafeArrayCreateVector(VT_UI1, 0, static_cast<ULONG>(size))}
 {
@@ -23,11 +33,7 @@ ByteArray::~ByteArray()
     if (m_array != nullptr) ::SafeArrayDestroy(m_array);
 }
 
-std::span<std::byte> ByteArray::Bytes() noexcept
-{
-    // A vector made by SafeArrayCreateVector has one dimension; its data stay in place while it lives.
-    return {static_cast<std::byte*>(m_array->pvData), m_array->rgsabound[0].cElements};
-}
+std::span<std::byte> ByteArray::Bytes() noexcept { return BytesOf(*m_array); }
 
 Variant ByteArray::Detach() noexcept
 {
@@ -35,6 +41,12 @@ Variant ByteArray::Detach() noexcept
     value.Put()->vt = VT_ARRAY | VT_UI1;
     const_cast<VARIANT&>(value.Get()).parray = std::exchange(m_array, nullptr);
     return value;
+}
+
+std::span<const std::byte> BytesIn(const VARIANT& value) noexcept
+{
+    const bool hasBytes = value.vt == (VT_ARRAY | VT_UI1) && value.parray != nullptr;
+    return hasBytes ? BytesOf(*value.parray) : std::span<std::byte>{};
 }
 
 } // namespace corvane

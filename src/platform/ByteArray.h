@@ -29,4 +29,7 @@ private:
     SAFEARRAY* m_array = nullptr;
 };
 
+// The bytes inside a value, which owns them; empty where it holds no array of bytes.
+[[nodiscard]] std::span<const std::byte> BytesIn(const VARIANT& value) noexcept;
+
 } // namespace corvane

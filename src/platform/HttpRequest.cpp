@@ -138,8 +138,7 @@ bool HttpRequest::IsCutShort() const
     const auto promised = std::wcstoull(AnswerHeader(L"Content-Length").c_str(), nullptr, 10);
     Variant body;
     if (promised == 0 || FAILED(m_request->get_responseBody(body.Put()))) return false;
-    const bool hasBytes = body.Get().vt == (VT_ARRAY | VT_UI1) && body.Get().parray != nullptr;
-    return promised > (hasBytes ? body.Get().parray->rgsabound[0].cElements : 0U);
+    return promised > BytesIn(body.Get()).size();
 }
 
 std::wstring HttpRequest::Text() const

@@ -27,8 +27,8 @@ using Handle = std::unique_ptr<void, CloseHandle>;
 // A body as it is sent: the bytes of an array, a text in UTF-8, the markup of a document.
 std::string BytesOf(const VARIANT& body)
 {
-    if (body.vt == (VT_ARRAY | VT_UI1))
-        return {static_cast<const char*>(body.parray->pvData), body.parray->rgsabound[0].cElements};
+    const auto bytes = corvane::BytesIn(body);
+    if (!bytes.empty()) return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
     if (body.vt == VT_BSTR) return Narrow(corvane::ViewOf(body.bstrVal));
     ComPtr<IXMLDOMDocument> document;
     Bstr markup;
