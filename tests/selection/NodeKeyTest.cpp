@@ -9,7 +9,7 @@ namespace corvane
 namespace
 {
 
-constexpr const wchar_t* kLargest = L"2147483647";
+constexpr Target kAll{12, 45, 678, 907, 1201};
 
 struct KeyCase
 {
@@ -39,11 +39,7 @@ TEST(NodeKey, GivesBackTheIdsOfATarget)
         {"NewRelatedDocument", TreeMode::RelatedDocument, {L"12", L"0"}, L"p12rd0", {12}},
         {"RelatedDocument", TreeMode::RelatedDocument, {L"12", L"907"}, L"p12rd907", {12, 0, 0, 907}},
         {"GateDocument", TreeMode::GateDocument, {L"12", L"3", L"45"}, L"p12g3gd45", {12, 0, 0, 0, 45}},
-        {"LargestIds",
-         TreeMode::RelatedDocument,
-         {kLargest, kLargest},
-         L"p2147483647rd2147483647",
-         {2147483647, 0, 0, 2147483647}},
+        {"LargestId", TreeMode::RelatedDocument, {L"1", L"2147483647"}, L"p1rd2147483647", {1, 0, 0, 2147483647}},
     };
     for (const KeyCase& item : kCases) {
         SCOPED_TRACE(item.name);
@@ -63,6 +59,24 @@ TEST(NodeKey, IsNoTargetWithoutTheMarkerOfItsMode)
         EXPECT_FALSE(TargetOfKey(TreeMode::RelatedDocument, key)) << testing::PrintToString(key);
     for (const auto* key : {L"", L"p12", L"p12g3", L"p12rd4"})
         EXPECT_FALSE(TargetOfKey(TreeMode::GateDocument, key)) << testing::PrintToString(key);
+}
+
+TEST(TreeMode, TellsItsOwnIdsOfATarget)
+{
+    const auto& [project, deliverable, activity, related, gateDocument] = TargetIn(TreeMode::Assignment, kAll);
+    EXPECT_TRUE(project == 12 && deliverable == 45 && activity == 678 && related == 0 && gateDocument == 0);
+    const Target gate = TargetIn(TreeMode::GateDocument, kAll);
+    EXPECT_TRUE(gate.projectId == 12 && gate.deliverableId == 0 && gate.activityId == 0 && gate.gateDocumentId == 1201);
+}
+
+TEST(TreeMode, KnowsATargetByWhatIsPickedAndOneThatMayBeNewAlsoByItsProject)
+{
+    EXPECT_TRUE(IsSameTarget(TreeMode::Assignment, kAll, {0, 45, 678}));
+    EXPECT_FALSE(IsSameTarget(TreeMode::Assignment, kAll, {12, 46, 678}));
+    EXPECT_FALSE(IsSameTarget(TreeMode::Assignment, kAll, {12, 45, 0}));
+    EXPECT_FALSE(IsSameTarget(TreeMode::GateDocument, kAll, {12, 45, 678, 907, 0}));
+    EXPECT_TRUE(IsSameTarget(TreeMode::RelatedDocument, kAll, {12, 0, 0, 907}));
+    EXPECT_FALSE(IsSameTarget(TreeMode::RelatedDocument, kAll, {13, 0, 0, 907}));
 }
 
 } // namespace corvane

@@ -188,11 +188,7 @@ TEST_F(TreeForm, ShowsEachNodeWithItsPictureAndSelectsTheTargetThatItWasGiven)
             frmSaveTo tree;
             tree.DialogType = mode;
             tree.ServerURL = L"http://h";
-            tree.ProjectID = 12;
-            tree.DeliverableID = 45;
-            tree.ActivityID = 678;
-            tree.RelatedDocID = 907;
-            tree.GateDocumentID = 1201;
+            tree.target = {12, 45, 678, 907, 1201};
             tree.Load();
             std::wstring nodes;
             int size = 0;
