@@ -61,6 +61,7 @@ std::vector<AddInEntry> RegisteredAddIns(const HostFacts& facts)
             entries.try_emplace(name, AddInEntry{name, text(L"FriendlyName"), text(L"Description"), behavior});
         }
     std::vector<AddInEntry> found;
+    found.reserve(entries.size());
     for (auto& [name, entry] : entries)
         found.push_back(std::move(entry));
     return found;
