@@ -21,20 +21,28 @@ constexpr std::uint32_t CodeOrReplacement(std::uint32_t code)
 
 constexpr std::uint32_t ByteOf(char letter) { return static_cast<unsigned char>(letter); }
 
-// Takes the next code point off the front.
+// Takes the first byte off a text that has one.
+std::uint32_t TakeByte(std::string_view& utf8)
+{
+    const std::uint32_t byte = ByteOf(utf8.front());
+    utf8.remove_prefix(1);
+    return byte;
+}
+
+bool HasFollowingByte(std::string_view utf8) { return !utf8.empty() && (ByteOf(utf8.front()) & 0xC0U) == 0x80U; }
+
+// Takes the next code point off the front of a text that is not empty.
 std::uint32_t TakeCode(std::string_view& utf8)
 {
     constexpr std::uint32_t kLeast[] = {0, 0x80, 0x800, 0x10000}; // what needs so many further bytes
-    const std::uint32_t lead = ByteOf(utf8.front());
-    utf8.remove_prefix(1);
+    const std::uint32_t lead = TakeByte(utf8);
     if (lead < 0x80) return lead;
     if (lead < 0xC2 || lead > 0xF4) return kReplacementCharacter;
     const std::uint32_t following = lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
     std::uint32_t code = lead & (0x3FU >> following);
     for (std::uint32_t count = 0; count < following; ++count) {
-        if (utf8.empty() || (ByteOf(utf8.front()) & 0xC0U) != 0x80U) return kReplacementCharacter;
-        code = (code << 6U) | (ByteOf(utf8.front()) & 0x3FU);
-        utf8.remove_prefix(1);
+        if (!HasFollowingByte(utf8)) return kReplacementCharacter;
+        code = (code << 6U) | (TakeByte(utf8) & 0x3FU);
     }
     return code < kLeast[following] ? kReplacementCharacter : CodeOrReplacement(code);
 }

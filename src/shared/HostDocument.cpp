@@ -105,8 +105,8 @@ bool HostDocument::IsStillOpen() const noexcept
 {
     bool found = false;
     Ignoring([&] {
-        if (Host().documents == nullptr) return;
-        const LateBound documents = m_application.Object(Host().documents);
+        if (m_traits == nullptr || m_traits->documents == nullptr) return;
+        const LateBound documents = m_application.Object(m_traits->documents);
         for (std::int32_t left = documents.Number(L"Count"); left > 0 && !found; --left)
             found = documents.Object(L"Item", left).Text(L"FullName") == m_fullName;
     });
