@@ -6,16 +6,18 @@
 namespace corvane
 {
 
-HRESULT CController::Start(CommandKind kind, void (CAddInMenus::*helper)(std::wstring_view caller) noexcept) noexcept
+HRESULT CController::Start(CommandKind kind,
+                           void (CAddInMenus::*helper)(std::wstring_view caller) noexcept) const noexcept
 {
-    const auto failure = Catch([&] { ((*AddInMenus()).*helper)(L"Custom"); });
-    if (!failure) return S_OK;
-    Ignoring([&] {
-        ::SetCursor(::LoadCursorW(nullptr, IDC_ARROW));
-        ShowMessage(std::wstring{L"CController."} + CommandOf(kind).method + L"\r\n" + failure->Description(),
-                    kStylePlain, L"CorvaneMSOffice");
+    return Serve([&] {
+        const auto failure = Catch([&] { ((*AddInMenus()).*helper)(L"Custom"); });
+        if (!failure) return;
+        Ignoring([&] {
+            ::SetCursor(::LoadCursorW(nullptr, IDC_ARROW));
+            ShowMessage(std::wstring{L"CController."} + CommandOf(kind).method + L"\r\n" + failure->Description(),
+                        kStylePlain, L"CorvaneMSOffice");
+        });
     });
-    return S_OK;
 }
 
 STDMETHODIMP CController::SaveAsAssignement() noexcept

@@ -9,7 +9,7 @@ namespace corvane
 {
 
 // Starts a command of the connected add-in; when there is none it says so in a message of its own.
-class CController final : public ComObject<CController, Dispatched<_CController>>
+class CController final : public PublicObject<CController, Dispatched<_CController>>
 {
 public:
     STDMETHODIMP SaveAsAssignement() noexcept override;
@@ -17,7 +17,7 @@ public:
     STDMETHODIMP SaveRelatedDoc() noexcept override;
 
 private:
-    static HRESULT Start(CommandKind kind, void (CAddInMenus::*helper)(std::wstring_view caller) noexcept) noexcept;
+    HRESULT Start(CommandKind kind, void (CAddInMenus::*helper)(std::wstring_view caller) noexcept) const noexcept;
 };
 
 } // namespace corvane

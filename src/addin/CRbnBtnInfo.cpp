@@ -1,19 +1,24 @@
 #include "addin/CRbnBtnInfo.h"
 
+#include "platform/HandOut.h"
 #include "platform/Procedure.h"
 
 namespace corvane
 {
 
-HRESULT CRbnBtnInfo::Put(std::wstring& text, BSTR value) noexcept
+HRESULT CRbnBtnInfo::Get(const std::wstring& text, BSTR* value) const noexcept
 {
-    return Catch([&] { text = ViewOf(value); }) ? E_OUTOFMEMORY : S_OK;
+    return Serve([&] { return HandOut(text, value); });
+}
+
+HRESULT CRbnBtnInfo::Put(std::wstring& text, BSTR value) const noexcept
+{
+    return Serve([&] { return Catch([&] { text = ViewOf(value); }) ? E_OUTOFMEMORY : S_OK; });
 }
 
 STDMETHODIMP CRbnBtnInfo::Clear() noexcept
 {
-    m_button.Clear();
-    return S_OK;
+    return Serve([this] { m_button.Clear(); });
 }
 
 } // namespace corvane

@@ -61,15 +61,21 @@ Connect::Connect() noexcept { WatchProcedures(); }
 STDMETHODIMP Connect::OnConnection(IDispatch* Application, LONG ConnectMode, IDispatch* AddInInst,
                                    SAFEARRAY** /*custom*/) noexcept
 {
+    return Serve([&] { Connected(Application, ConnectMode, AddInInst); });
+}
+
+void Connect::Connected(IDispatch* application, LONG connectMode, IDispatch* addInInstance) noexcept
+{
+    m_claim.emplace();
     Reporting([] {
         const Settings settings = Settings::Read();
         g_oTraceLog = std::make_unique<CTraceLog>(settings);
         SetRequestTimeout(settings.requestTimeout);
     });
     AtHostBoundary(L"Connect.AddinInstance_OnConnection", [&] {
-        ConnectToHost(LateBound{ComPtr<IDispatch>{Application}}, ConnectMode, LateBound{ComPtr<IDispatch>{AddInInst}});
+        ConnectToHost(LateBound{ComPtr<IDispatch>{application}}, connectMode,
+                      LateBound{ComPtr<IDispatch>{addInInstance}});
     });
-    return S_OK;
 }
 
 void Connect::ConnectToHost(const LateBound& application, LONG connectMode, const LateBound& addInInstance)
@@ -107,8 +113,14 @@ LateBound Connect::MenuBar() const { return m_oPowerPointApp.Object(L"CommandBar
 
 STDMETHODIMP Connect::OnDisconnection(LONG /*RemoveMode*/, SAFEARRAY** /*custom*/) noexcept
 {
+    return Serve([this] { Disconnected(); });
+}
+
+void Connect::Disconnected() noexcept
+{
     const ProcedureScope scope{L"Connect.AddinInstance_OnDisconnection"};
-    if (!m_oPowerPointApp) return S_OK; // only a connection at start-up has something to take back
+    m_claim.reset();
+    if (!m_oPowerPointApp) return; // only a connection at start-up has something to take back
     Reporting([this] {
         if (!HasRibbon(HostVersion())) AddInMenus()->DeleteMenus(MenuBar());
     });
@@ -118,55 +130,75 @@ STDMETHODIMP Connect::OnDisconnection(LONG /*RemoveMode*/, SAFEARRAY** /*custom*
     AbortOwnerless();
     CloseHelp();
     SetHostWindow(nullptr);
-    return S_OK;
 }
 
-STDMETHODIMP Connect::OnAddInsUpdate(SAFEARRAY** /*custom*/) noexcept { return S_OK; }
+STDMETHODIMP Connect::OnAddInsUpdate(SAFEARRAY** /*custom*/) noexcept
+{
+    return Serve([] {});
+}
 
-STDMETHODIMP Connect::OnStartupComplete(SAFEARRAY** /*custom*/) noexcept { return S_OK; }
+STDMETHODIMP Connect::OnStartupComplete(SAFEARRAY** /*custom*/) noexcept
+{
+    return Serve([] {});
+}
 
-STDMETHODIMP Connect::OnBeginShutdown(SAFEARRAY** /*custom*/) noexcept { return S_OK; }
+STDMETHODIMP Connect::OnBeginShutdown(SAFEARRAY** /*custom*/) noexcept
+{
+    return Serve([] {});
+}
 
 STDMETHODIMP Connect::GetCustomUI(BSTR /*RibbonID*/, BSTR* RibbonXml) noexcept
 {
-    if (RibbonXml == nullptr) return E_POINTER;
-    *RibbonXml = nullptr;
-    AtHostBoundary(L"Connect.IRibbonExtensibility_GetCustomUI",
-                   [&] { *RibbonXml = Bstr{AddInMenus()->GetOfficeRibbonXML()}.Detach(); });
-    return *RibbonXml == nullptr ? HandOut({}, RibbonXml) : S_OK;
+    return Serve([&] {
+        if (RibbonXml == nullptr) return E_POINTER;
+        *RibbonXml = nullptr;
+        AtHostBoundary(L"Connect.IRibbonExtensibility_GetCustomUI",
+                       [&] { *RibbonXml = Bstr{AddInMenus()->GetOfficeRibbonXML()}.Detach(); });
+        return *RibbonXml == nullptr ? HandOut({}, RibbonXml) : S_OK;
+    });
 }
 
 STDMETHODIMP Connect::RibbonHandler(IDispatch* control) noexcept
 {
-    AtHostBoundary(L"Connect.RibbonHandler", [&] {
-        const std::wstring id = LateBound{ComPtr<IDispatch>{control}}.Text(L"Id");
-        TraceVariable(L"Ctrl.Id", id);
-        AddInMenus()->RibbonHandler2(id);
+    return Serve([&] {
+        AtHostBoundary(L"Connect.RibbonHandler", [&] {
+            const std::wstring id = LateBound{ComPtr<IDispatch>{control}}.Text(L"Id");
+            TraceVariable(L"Ctrl.Id", id);
+            AddInMenus()->RibbonHandler2(id);
+        });
     });
-    return S_OK;
 }
 
 STDMETHODIMP Connect::GetEnabled(IDispatch* /*control*/, VARIANT_BOOL* enabled) noexcept
 {
-    if (enabled == nullptr) return E_POINTER;
-    *enabled = VARIANT_FALSE;
-    return S_OK;
+    return Serve([&] {
+        if (enabled == nullptr) return E_POINTER;
+        *enabled = VARIANT_FALSE;
+        return S_OK;
+    });
 }
 
-STDMETHODIMP Connect::GetLabel(IDispatch* /*control*/, BSTR* label) noexcept { return HandOut({}, label); }
+STDMETHODIMP Connect::GetLabel(IDispatch* /*control*/, BSTR* label) noexcept { return NoText(label); }
 
-STDMETHODIMP Connect::GetScreentip(IDispatch* /*control*/, BSTR* screentip) noexcept { return HandOut({}, screentip); }
+STDMETHODIMP Connect::GetScreentip(IDispatch* /*control*/, BSTR* screentip) noexcept { return NoText(screentip); }
 
-STDMETHODIMP Connect::GetSupertip(IDispatch* /*control*/, BSTR* supertip) noexcept { return HandOut({}, supertip); }
+STDMETHODIMP Connect::GetSupertip(IDispatch* /*control*/, BSTR* supertip) noexcept { return NoText(supertip); }
+
+HRESULT Connect::NoText(BSTR* text) const noexcept
+{
+    return Serve([&] { return HandOut({}, text); });
+}
 
 STDMETHODIMP Connect::onLoad(IDispatch* ribbon, VARIANT* result) noexcept
 {
-    if (result == nullptr) return E_POINTER;
-    ::VariantInit(result);
-    AtHostBoundary(L"Connect.onLoad", [&] {
-        if (HasRibbon(HostVersion())) AddInMenus()->SetRibbon(LateBound{ComPtr<IDispatch>{ribbon}});
+    return Serve([&] {
+        if (result == nullptr) return E_POINTER;
+        ::VariantInit(result);
+        AtHostBoundary(L"Connect.onLoad", [&] {
+            if (HasRibbon(HostVersion())) AddInMenus()->SetRibbon(LateBound{ComPtr<IDispatch>{ribbon}});
+        });
+        return S_OK;
     });
-    return S_OK;
 }
 
 void Connect::OnApplicationEvent(DISPID member, const DISPPARAMS& arguments) noexcept

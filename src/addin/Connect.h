@@ -6,13 +6,15 @@
 #include "platform/EventSubscription.h"
 #include "platform/LateBound.h"
 
+#include <optional>
+
 namespace corvane
 {
 
 // Makes and releases the process-wide objects with the connection, hands the ribbon to the host and leads its callbacks
 // and events on. No error leaves it: each is reported and the host sees success.
-class Connect final
-    : public ComObject<Connect, Dispatched<_Connect>, Dispatched<IDTExtensibility2>, Dispatched<IRibbonExtensibility>>
+class Connect final : public PublicObject<Connect, Dispatched<_Connect>, Dispatched<IDTExtensibility2>,
+                                          Dispatched<IRibbonExtensibility>>
 {
 public:
     // From now on errors are told, also those of callbacks that come before a connection.
@@ -38,13 +40,17 @@ public:
     STDMETHODIMP onLoad(IDispatch* ribbon, VARIANT* result) noexcept override;
 
 private:
+    void Connected(IDispatch* application, LONG connectMode, IDispatch* addInInstance) noexcept;
+    void Disconnected() noexcept;
     void ConnectToHost(const LateBound& application, LONG connectMode, const LateBound& addInInstance);
     void StartUp(const LateBound& application);
+    [[nodiscard]] HRESULT NoText(BSTR* text) const noexcept;
     void OnApplicationEvent(DISPID member, const DISPPARAMS& arguments) noexcept;
     void WindowActivate(const LateBound& presentation, const LateBound& window) const;
     [[nodiscard]] int HostVersion() const;
     [[nodiscard]] LateBound MenuBar() const;
 
+    std::optional<ThreadClaim> m_claim; // from the connection to the disconnection
     LateBound m_oPowerPointApp;
     EventSubscription m_events;
 };

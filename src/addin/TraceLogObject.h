@@ -9,7 +9,7 @@ namespace corvane
 {
 
 // A trace log of its own behind the public interface.
-class TraceLogObject final : public ComObject<TraceLogObject, Dispatched<_CTraceLog>>
+class TraceLogObject final : public PublicObject<TraceLogObject, Dispatched<_CTraceLog>>
 {
 public:
     TraceLogObject() : m_log{Settings::Read()} {}

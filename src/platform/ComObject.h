@@ -2,8 +2,11 @@
 // lookup, and dispatch through the embedded type library.
 #pragma once
 
+#include "platform/OwnThread.h"
 #include "platform/Owners.h"
 #include "platform/Procedure.h"
+
+#include <oleauto.h>
 
 #include <atomic>
 #include <tuple>
@@ -144,13 +147,35 @@ private:
     {
         HRESULT result = TYPE_E_CANTLOADLIBRARY;
         Ignoring([&] {
-            if (m_typeInfo == nullptr) m_typeInfo = TypeInfoOf(__uuidof(Interface));
-            result = body(*m_typeInfo.Get());
+            // Another thread, which the members refuse, is not to meet this one at what the object keeps.
+            ComPtr<ITypeInfo> others;
+            ComPtr<ITypeInfo>& own = m_thread.IsCalling() ? m_typeInfo : others;
+            if (own == nullptr) own = TypeInfoOf(__uuidof(Interface));
+            result = body(*own.Get());
         });
         return result;
     }
 
+    OwnThread m_thread;
     ComPtr<ITypeInfo> m_typeInfo; // loaded at the first dispatch call
+};
+
+// Base of the classes that other programs use. Each of its methods runs in Serve, and so on one thread only.
+template<class Derived, class... Interfaces>
+class PublicObject : public ComObject<Derived, Interfaces..., ISupportErrorInfo>
+{
+public:
+    STDMETHODIMP InterfaceSupportsErrorInfo(REFIID) noexcept override { return S_OK; }
+
+protected:
+    template<class Body>
+    [[nodiscard]] HRESULT Serve(Body&& body) const noexcept
+    {
+        return m_thread.Serve(std::forward<Body>(body));
+    }
+
+private:
+    OwnThread m_thread;
 };
 
 // Makes an object and returns the first reference to it.

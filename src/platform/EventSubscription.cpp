@@ -30,13 +30,13 @@ public:
                         UINT*) noexcept override
     {
         if (arguments == nullptr) return E_POINTER;
-        m_handler(member, *arguments);
-        return S_OK;
+        return m_thread.Serve([&] { m_handler(member, *arguments); });
     }
 
 private:
     IID m_events;
     EventHandler m_handler;
+    OwnThread m_thread;
 };
 
 } // namespace

@@ -2,8 +2,11 @@
 #include "MessageBox.h"
 
 #include "platform/LateBound.h"
+#include "platform/Procedure.h"
 
 #include <map>
+#include <thread>
+#include <vector>
 
 namespace
 {
@@ -61,25 +64,31 @@ TEST_F(Library, ConnectAnswersItsInterfacesWithOneIdentity)
     EXPECT_EQ(identity->Release(), 0U);
 }
 
+// Hands on each function that type information describes.
+template<class Body>
+void ForEachFunction(ITypeInfo& info, Body&& body)
+{
+    FUNCDESC* function = nullptr;
+    for (UINT index = 0; SUCCEEDED(info.GetFuncDesc(index, &function)); ++index) {
+        body(*function);
+        info.ReleaseFuncDesc(function);
+    }
+}
+
 // The members of an object's first interface in the order of their slots, behind those of IDispatch; "=" is a put.
 std::wstring SlotsOf(IDispatch& object)
 {
     constexpr int kDispatchSlots = 7;
-    ITypeInfo* info = nullptr;
-    object.GetTypeInfo(0, LOCALE_NEUTRAL, &info);
+    corvane::ComPtr<ITypeInfo> info;
+    object.GetTypeInfo(0, LOCALE_NEUTRAL, info.GetAddressOf());
     std::map<int, std::wstring> slots;
-    FUNCDESC* function = nullptr;
-    for (UINT index = 0; SUCCEEDED(info->GetFuncDesc(index, &function)); ++index) {
-        BSTR name = nullptr;
+    ForEachFunction(*info.Get(), [&](const FUNCDESC& function) {
+        corvane::Bstr name;
         UINT names = 0;
-        info->GetNames(function->memid, &name, 1, &names);
-        const int slot = function->oVft / static_cast<int>(sizeof(void*));
-        if (slot >= kDispatchSlots)
-            slots[slot] = (function->invkind == INVOKE_PROPERTYPUT ? L" =" : L" ") + std::wstring{name};
-        ::SysFreeString(name);
-        info->ReleaseFuncDesc(function);
-    }
-    info->Release();
+        info->GetNames(function.memid, name.Put(), 1, &names);
+        const int slot = function.oVft / static_cast<int>(sizeof(void*));
+        if (slot >= kDispatchSlots) slots[slot] = (function.invkind == INVOKE_PROPERTYPUT ? L" =" : L" ") + name.Text();
+    });
     std::wstring text;
     for (const auto& [slot, member] : slots)
         text += member;
@@ -102,6 +111,54 @@ TEST_F(Library, TheSlotsOfItsInterfacesKeepTheirOrder)
         ASSERT_NE(object, nullptr);
         EXPECT_EQ(SlotsOf(*object), expected);
         object->Release();
+    }
+}
+
+// The dispatch ids of the members of an interface that a call by slot, with nothing in every argument, gets beyond the
+// thread's check.
+std::wstring ServingMembers(IDispatch& object)
+{
+    corvane::ComPtr<ITypeInfo> dispatched;
+    corvane::ComPtr<ITypeInfo> info;
+    HREFTYPE slots = 0;
+    object.GetTypeInfo(0, LOCALE_NEUTRAL, dispatched.GetAddressOf());
+    dispatched->GetRefTypeOfImplType(static_cast<UINT>(-1), &slots);
+    dispatched->GetRefTypeInfo(slots, info.GetAddressOf());
+    std::wstring serving;
+    ForEachFunction(*info.Get(), [&](const FUNCDESC& function) {
+        VARIANT nothing{};
+        VARIANT result{};
+        std::vector<VARIANTARG*> arguments(4, &nothing);
+        VARTYPE types[4]{};
+        for (SHORT at = 0; at < function.cParams; ++at) {
+            const VARTYPE type = function.lprgelemdescParam[at].tdesc.vt;
+            types[at] = type == VT_VARIANT || type == VT_I4 ? type : static_cast<VARTYPE>(VT_BSTR);
+        }
+        ::DispCallFunc(&object, static_cast<ULONG_PTR>(function.oVft), CC_STDCALL, VT_ERROR,
+                       static_cast<UINT>(function.cParams), types, arguments.data(), &result);
+        if (result.scode != RPC_E_WRONG_THREAD) serving += L" " + std::to_wstring(function.memid);
+    });
+    return serving;
+}
+
+TEST_F(Library, ServesTheThreadThatMadeItsObjectsAlone)
+{
+    const std::pair<CLSID, IID> interfaces[] = {
+        {CLSID_Connect, __uuidof(_Connect)},
+        {CLSID_Connect, __uuidof(IDTExtensibility2)},
+        {CLSID_Connect, __uuidof(IRibbonExtensibility)},
+        {CLSID_CController, __uuidof(_CController)},
+        {CLSID_CTraceLog, __uuidof(_CTraceLog)},
+        {CLSID_CRbnBtnInfo, __uuidof(_CRbnBtnInfo)},
+    };
+    for (const auto& [id, face] : interfaces) {
+        const corvane::ComPtr<IUnknown> made{Loaded().Create<IUnknown>(id)};
+        made->Release(); // of its two owners one is left
+        std::thread{[&] {
+            corvane::ComPtr<IDispatch> object;
+            ASSERT_EQ(made->QueryInterface(face, reinterpret_cast<void**>(object.GetAddressOf())), S_OK);
+            EXPECT_EQ(ServingMembers(*object.Get()), L"");
+        }}.join();
     }
 }
 
@@ -149,6 +206,16 @@ TEST_F(Script, WritesAndReadsThePropertiesOfAButton)
     EXPECT_EQ(all(), L"aabbccddeeffgghhiijjkkll");
     EXPECT_EQ(CallSlot(button, slot), S_OK);
     EXPECT_EQ(all(), L"bbddee") << "it keeps label and tips";
+}
+
+TEST_F(Script, IsToldOfAWrongThreadInWords)
+{
+    const auto log = Object(CLSID_CTraceLog);
+    std::optional<corvane::Error> failure;
+    std::thread{[&] { failure = corvane::Catch([&] { log.Call(L"WriteEventStart", L"Outer"); }); }}.join();
+    EXPECT_EQ(failure.value().Number(), RPC_E_WRONG_THREAD);
+    EXPECT_EQ(failure.value().Description(),
+              L"Corvane serves only the thread that it was started on. Please call it from there.");
 }
 
 TEST_F(Script, MovesTheLevelOfATrace)

@@ -4,6 +4,7 @@
 #include "OfferedClass.h"
 
 #include "addin/CAddInMenus.h"
+#include "addin/CRbnBtnInfo.h"
 #include "addin/Connect.h"
 #include "platform/Procedure.h"
 #include "support/CCustomNames.h"
@@ -13,7 +14,9 @@
 #include "documents/Files.h"
 #include "objects/ComAddIn.h"
 
+#include <algorithm>
 #include <regex>
+#include <thread>
 
 using namespace corvane;
 
@@ -225,6 +228,7 @@ TEST_F(ConnectTest, WritesEachConnectionsTraceToAFileNamedByItsTime)
         Disconnect();
     }
     g_oTraceLog.reset();
+    std::ranges::sort(names); // as folders are listed
     ASSERT_EQ(TraceFiles(), names);
     EXPECT_EQ(TraceIn(names[0]), TraceIn(names[1]));
 }
@@ -241,6 +245,20 @@ TEST_F(ConnectTest, TellsOfCallbacksBeforeAConnectionAndAfterItsEnd)
     EXPECT_TRUE(Tells(L"91", findNoRibbon));
     session.reset();
     EXPECT_EQ(host::ObjectCore::StillReferenced(), L"Ribbon x1") << "of this test";
+}
+
+TEST_F(ConnectTest, ServesItsOwnThreadAloneWhileItIsConnected)
+{
+    const auto answerElsewhere = [] {
+        HRESULT answer = S_FALSE;
+        std::thread{[&] { answer = MakeObject<corvane::CRbnBtnInfo>()->Clear(); }}.join();
+        return answer;
+    };
+    EXPECT_EQ(answerElsewhere(), S_OK) << "it serves the thread that made it";
+    ConnectTo(L"16.0", kStartUp);
+    EXPECT_EQ(answerElsewhere(), RPC_E_WRONG_THREAD);
+    Disconnect();
+    EXPECT_EQ(answerElsewhere(), S_OK);
 }
 
 TEST_F(ConnectTest, ReplacesItsFirstHostByTheSecond)
