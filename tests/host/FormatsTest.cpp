@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "HostTest.h"
-#include "documents/Storage.h"
+#include "documents/CompoundFile.h"
 #include "package/OfficePackage.h"
 
 namespace host::test

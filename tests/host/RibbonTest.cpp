@@ -85,8 +85,8 @@ TEST(RibbonTest, FindsControlsInEveryPlace)
 {
     const Ribbon ribbon = ReadRibbon(Sound("2009-07"), 16);
     EXPECT_EQ(ribbon.onLoad, "Loaded");
-    EXPECT_EQ(ribbon.tabs.at(0).id, "a:Maker");
-    EXPECT_EQ(ribbon.backstage.at(0).Label(), "Save to &");
+    EXPECT_EQ(IdOf(ribbon.tabs.at(0)), "a:Maker");
+    EXPECT_EQ(ShownRibbon{ribbon}.Label(ribbon.backstage.at(0)), L"Save to &");
     ASSERT_NE(ribbon.Find("Topics"), nullptr);
     EXPECT_EQ(ribbon.Find("Topics")->Attribute("onAction"), "Pressed");
     ASSERT_NE(ribbon.Find("Gate"), nullptr);

@@ -154,7 +154,7 @@ void AddIn::ReadDynamic(const std::vector<RibbonControl>& controls)
         if (const Variant label = ask("getLabel"); !label.IsMissing()) state.label = label.Text();
         if (const Variant enabled = ask("getEnabled"); !enabled.IsMissing()) state.enabled = enabled.Boolean();
         if (const Variant visible = ask("getVisible"); !visible.IsMissing()) state.visible = visible.Boolean();
-        if (state.label || state.enabled || state.visible) m_ribbon->answers[control.id] = state;
+        if (state.label || state.enabled || state.visible) m_ribbon->answers[IdOf(control)] = state;
     }
 }
 
@@ -162,7 +162,7 @@ ComPtr<RibbonControlObject> AddIn::ControlObject(const RibbonControl& control) c
 {
     ComPtr<IDispatch> context;
     if (DocumentObject* active = m_session.Active()) context = active->Window(1);
-    return MakeObject<RibbonControlObject>(Widen(control.id), Widen(control.Attribute("tag")), context);
+    return MakeObject<RibbonControlObject>(Widen(IdOf(control)), Widen(control.Attribute("tag")), context);
 }
 
 void AddIn::Press(const RibbonControl& control)

@@ -12,7 +12,7 @@
 #include "base/HostFacts.h"
 #include "objects/ComAddIn.h"
 #include "objects/RibbonObjects.h"
-#include "ribbon/ShownRibbon.h"
+#include "ribbon/Ribbon.h"
 
 namespace host
 {

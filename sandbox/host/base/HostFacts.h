@@ -35,24 +35,24 @@ enum class Edition
 struct HostFacts
 {
     HostKind kind;
-    std::wstring_view option;  // of --host, and the stem of its key below the add-ins
-    const wchar_t* name;       // Application.Name
-    const wchar_t* product;    // in captions and messages, and its key below Software\Microsoft\Office
-    const wchar_t* source;     // of its errors
-    const wchar_t* ribbonId;   // handed to GetCustomUI
-    const wchar_t* noun;       // one document
-    const wchar_t* newName;    // of a never-saved document
-    bool numbersNew;           // "Book1", "Book2"
-    const wchar_t* menuBar;    // the command bar with its menus
-    const wchar_t* versionEnd; // behind the version that the options name, in Application.Version
-    int pageWidth;             // the shape of what the window shows
+    std::wstring_view option;             // of --host, and the stem of its key below the add-ins
+    const wchar_t* name;                  // Application.Name
+    const wchar_t* product;               // in captions and messages, and its key below Software\Microsoft\Office
+    const wchar_t* source;                // of its errors
+    const wchar_t* ribbonId;              // handed to GetCustomUI
+    const wchar_t* noun;                  // one document
+    const wchar_t* newName;               // of a never-saved document
+    bool numbersNew = true;               // "Book1", "Book2"
+    const wchar_t* menuBar = L"Menu Bar"; // the command bar with its menus
+    const wchar_t* versionEnd = L"";      // behind the version that the options name, in Application.Version
+    int pageWidth;                        // the shape of what the window shows
     int pageHeight;
-    const wchar_t* status;       // the status line's first part
-    std::wstring_view fileTypes; // of its file dialogs
-    std::size_t pathLimit;       // letters of a path that it saves to
-    int lastMarkingVersion;      // the last version in which a written property makes the document a changed one
-    bool savesOnlyChanges;       // Save leaves an unchanged document's file alone
-    bool asksForName;            // Save of a never-saved document opens a dialog instead of choosing the name
+    const wchar_t* status;         // the status line's first part
+    std::wstring_view fileTypes;   // of its file dialogs
+    std::size_t pathLimit = 259;   // letters of a path that it saves to
+    int lastMarkingVersion = 0;    // the last version in which a written property makes the document a changed one
+    bool savesOnlyChanges = false; // Save leaves an unchanged document's file alone
+    bool asksForName = false;      // Save of a never-saved document opens a dialog instead of choosing the name
 };
 
 [[nodiscard]] const HostFacts& FactsOf(HostKind kind);

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "documents/Storage.h"
+#include "automation/OfficeInterfaces.h"
 #include "package/Bytes.h"
 #include "package/PropertySet.h"
 
@@ -15,22 +15,16 @@ constexpr std::uint32_t kFirstUserId = 2;
 constexpr wchar_t kSummaryStream[] = L"\005SummaryInformation";
 constexpr wchar_t kDocumentSummaryStream[] = L"\005DocumentSummaryInformation";
 
-struct SummaryId
-{
-    const char* name;
-    std::uint32_t id;
-};
-
-constexpr SummaryId kSummaryIds[] = {
+constexpr std::pair<const char*, std::uint32_t> kSummaryIds[] = {
     {"Title", 2}, {"Subject", 3}, {"Author", 4}, {"Keywords", 5}, {"Comments", 6}, {"Last Author", 8},
 };
 
 PropertySection SummarySection(const std::vector<CustomProperty>& summary)
 {
     PropertySection section{kSummarySet, {}};
-    for (const SummaryId& row : kSummaryIds)
+    for (const auto& [name, id] : kSummaryIds)
         for (const CustomProperty& property : summary)
-            if (property.name == row.name && !property.value.empty()) section.properties.push_back({row.id, property});
+            if (property.name == name && !property.value.empty()) section.properties.push_back({id, property});
     return section;
 }
 
@@ -48,9 +42,8 @@ void Take(const PropertySection& section, DocumentContents& contents)
     for (const SetProperty& row : section.properties) {
         if (section.format == kUserDefinedSet && !row.property.name.empty()) contents.custom.push_back(row.property);
         if (section.format != kSummarySet) continue;
-        for (const SummaryId& summary : kSummaryIds)
-            if (summary.id == row.id)
-                contents.builtIn.push_back({summary.name, PropertyType::Text, row.property.value});
+        for (const auto& [name, id] : kSummaryIds)
+            if (id == row.id) contents.builtIn.push_back({name, PropertyType::Text, row.property.value});
     }
 }
 
@@ -97,15 +90,13 @@ std::string SheetsStart(bool isTemplate)
     return out;
 }
 
-constexpr CLSID OfficeClass(ULONG first) { return {first, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}}; }
-
 constexpr MainStream kMainStreams[] = {
     {HostKind::PowerPoint,
      {0x64818D10, 0x4F9B, 0x11CF, {0x86, 0xEA, 0x00, 0xAA, 0x00, 0xB9, 0x29, 0xE8}},
      L"PowerPoint Document",
      SlidesStart},
-    {HostKind::Word, OfficeClass(0x00020906), L"WordDocument", TextStart},
-    {HostKind::Excel, OfficeClass(0x00020820), L"Workbook", SheetsStart},
+    {HostKind::Word, OfficeId(0x00020906), L"WordDocument", TextStart},
+    {HostKind::Excel, OfficeId(0x00020820), L"Workbook", SheetsStart},
 };
 
 } // namespace

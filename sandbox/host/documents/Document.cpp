@@ -5,9 +5,7 @@
 
 #include "base/Text.h"
 #include "documents/CompoundFile.h"
-#include "documents/MessageFile.h"
 #include "documents/Refusal.h"
-#include "documents/Storage.h"
 #include "platform/Procedure.h"
 
 namespace host

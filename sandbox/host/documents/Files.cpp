@@ -24,21 +24,21 @@ struct FaultRow
 {
     SaveFault fault;
     std::string_view name;
-    DWORD error; // what the save fails with, if it does
+    DWORD error = ERROR_SUCCESS; // what the save fails with, if it does
 };
 
 constexpr FaultRow kFaults[] = {
-    {SaveFault::Empty, "empty", ERROR_SUCCESS},
-    {SaveFault::Zeros, "zeros", ERROR_SUCCESS},
-    {SaveFault::Growing, "growing", ERROR_SUCCESS},
+    {SaveFault::Empty, "empty"},
+    {SaveFault::Zeros, "zeros"},
+    {SaveFault::Growing, "growing"},
     {SaveFault::Error, "error", ERROR_WRITE_FAULT},
     {SaveFault::Locked, "locked", ERROR_SHARING_VIOLATION},
     {SaveFault::Full, "full", ERROR_DISK_FULL},
     {SaveFault::Denied, "denied", ERROR_ACCESS_DENIED},
-    {SaveFault::Slow, "slow", ERROR_SUCCESS},
-    {SaveFault::Gone, "gone", ERROR_SUCCESS},
-    {SaveFault::Refused, "refused", ERROR_SUCCESS},
-    {SaveFault::Held, "held", ERROR_SUCCESS},
+    {SaveFault::Slow, "slow"},
+    {SaveFault::Gone, "gone"},
+    {SaveFault::Refused, "refused"},
+    {SaveFault::Held, "held"},
 };
 
 [[noreturn]] void Fail(DWORD code, const std::wstring& path)

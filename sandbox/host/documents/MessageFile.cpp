@@ -1,10 +1,9 @@
-#include "documents/MessageFile.h"
-
 #include <cwchar>
 #include <iterator>
 
+#include "automation/OfficeInterfaces.h"
 #include "base/Text.h"
-#include "documents/Storage.h"
+#include "documents/CompoundFile.h"
 #include "package/Bytes.h"
 #include "platform/CodePage.h"
 
@@ -13,7 +12,7 @@ namespace host
 namespace
 {
 
-constexpr CLSID kMessageClass{0x00020D0B, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
+constexpr CLSID kMessageClass = OfficeId(0x00020D0B);
 constexpr wchar_t kPropertiesStream[] = L"__properties_version1.0";
 constexpr std::uint32_t kAnsiText = 0x001E;
 constexpr std::uint32_t kUnicodeText = 0x001F;

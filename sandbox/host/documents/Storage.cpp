@@ -1,4 +1,4 @@
-#include "documents/Storage.h"
+#include "documents/CompoundFile.h"
 
 #include <algorithm>
 #include <cstring>

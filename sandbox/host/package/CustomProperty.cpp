@@ -1,5 +1,7 @@
 #include "package/CustomProperty.h"
 
+#include <algorithm>
+
 #include "package/Xml.h"
 
 namespace host
@@ -7,9 +9,9 @@ namespace host
 namespace
 {
 
-constexpr std::string_view kNamespace = "http://schemas.openxmlformats.org/officeDocument/2006/custom-properties";
-constexpr std::string_view kTypesNamespace = "http://schemas.openxmlformats.org/officeDocument/2006/docPropsVTypes";
-constexpr std::string_view kUserDefinedSet = "{D5CDD505-2E9C-101B-9397-08002B2CF9AE}";
+constexpr char kNamespace[] = "http://schemas.openxmlformats.org/officeDocument/2006/custom-properties";
+constexpr char kTypesNamespace[] = "http://schemas.openxmlformats.org/officeDocument/2006/docPropsVTypes";
+constexpr char kUserDefinedSet[] = "{D5CDD505-2E9C-101B-9397-08002B2CF9AE}";
 constexpr int kFirstPropertyId = 2;
 
 struct TypeName
@@ -28,18 +30,15 @@ constexpr TypeName kTypeNames[] = {
     {"decimal", PropertyType::Float}, {"date", PropertyType::Date},
 };
 
-PropertyType TypeOf(std::string_view element)
-{
-    for (const TypeName& row : kTypeNames)
-        if (row.element == element) return row.type;
-    return PropertyType::Text;
-}
-
 std::string ElementOf(PropertyType type)
 {
-    for (const TypeName& row : kTypeNames)
-        if (row.type == type) return "vt:" + std::string{row.element};
-    return "vt:lpwstr";
+    return "vt:" + std::string{std::ranges::find(kTypeNames, type, &TypeName::type)->element};
+}
+
+PropertyType TypeOf(std::string_view element)
+{
+    const auto row = std::ranges::find(kTypeNames, element, &TypeName::element);
+    return row == std::end(kTypeNames) ? PropertyType::Text : row->type;
 }
 
 } // namespace
@@ -60,18 +59,13 @@ std::vector<CustomProperty> ReadCustomProperties(std::string_view part)
 
 std::string WriteCustomProperties(const std::vector<CustomProperty>& properties)
 {
-    XmlElement root{.name = "Properties"};
-    root.SetAttribute("xmlns", kNamespace);
-    root.SetAttribute("xmlns:vt", kTypesNamespace);
+    XmlElement root{.name = "Properties", .attributes = {{"xmlns", kNamespace}, {"xmlns:vt", kTypesNamespace}}};
     int id = kFirstPropertyId;
-    for (const CustomProperty& property : properties) {
-        XmlElement element{.name = "property"};
-        element.SetAttribute("fmtid", kUserDefinedSet);
-        element.SetAttribute("pid", std::to_string(id++));
-        element.SetAttribute("name", property.name);
-        element.children.push_back({.name = ElementOf(property.type), .text = property.value});
-        root.children.push_back(std::move(element));
-    }
+    for (const CustomProperty& property : properties)
+        root.children.push_back(
+            {.name = "property",
+             .attributes = {{"fmtid", kUserDefinedSet}, {"pid", std::to_string(id++)}, {"name", property.name}},
+             .children = {{.name = ElementOf(property.type), .text = property.value}}});
     return WriteXml(root);
 }
 

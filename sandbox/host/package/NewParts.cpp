@@ -35,6 +35,31 @@ constexpr NewPart kPropertyParts[] = {
      R"(<Properties xmlns="http://schemas.openxmlformats.org/officeDocument/2006/extended-properties"/>)"},
 };
 
+// One paragraph.
+constexpr NewPart kTextParts[] = {
+    {"word/document.xml",
+     R"(<w:document xmlns:w="http://schemas.openxmlformats.org/wordprocessingml/2006/main"><w:body><w:p><w:r>)"
+     R"(<w:t xml:space="preserve">@TITLE@</w:t></w:r></w:p><w:sectPr><w:pgSz w:w="11906" w:h="16838"/></w:sectPr>)"
+     R"(</w:body></w:document>)"},
+};
+
+// One sheet with one cell.
+constexpr NewPart kWorkbookParts[] = {
+    {"xl/workbook.xml",
+     R"(<workbook xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main" xmlns:r="@REL@"><sheets>)"
+     R"(<sheet name="Sheet1" sheetId="1" r:id="rId1"/></sheets></workbook>)"},
+    {"xl/_rels/workbook.xml.rels",
+     R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">)"
+     R"(<Relationship Id="rId1" Type="@REL@/worksheet" Target="worksheets/sheet1.xml"/></Relationships>)"},
+    {"xl/worksheets/sheet1.xml",
+     R"(<worksheet xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main"><sheetData><row r="1">)"
+     R"(<c r="A1" t="inlineStr"><is><t xml:space="preserve">@TITLE@</t></is></c></row></sheetData></worksheet>)"},
+};
+
+constexpr std::string_view kSheetTypes =
+    R"(<Override PartName="/xl/worksheets/sheet1.xml" ContentType="@TYPE@.spreadsheetml.worksheet+xml"/>
+)";
+
 // The namespaces of every slide part.
 constexpr std::string_view kSlideNamespaces =
     R"(xmlns:a="http://schemas.openxmlformats.org/drawingml/2006/main")"
@@ -70,16 +95,10 @@ void ReplaceAll(std::string& text, std::string_view mark, std::string_view by)
 
 const NewPackage& NewPackageOf(HostKind host)
 {
-    switch (host) {
-    case HostKind::Word:
-        return NewTextDocument();
-    case HostKind::Excel:
-        return NewWorkbook();
-    case HostKind::PowerPoint:
-    case HostKind::Outlook:
-        break;
-    }
-    return NewPresentation();
+    static constexpr NewPackage kTextDocument{"word/document.xml", {}, kTextParts};
+    static constexpr NewPackage kWorkbook{"xl/workbook.xml", kSheetTypes, kWorkbookParts};
+    if (host == HostKind::Word) return kTextDocument;
+    return host == HostKind::Excel ? kWorkbook : NewPresentation();
 }
 
 } // namespace

@@ -26,8 +26,6 @@ struct NewPackage
 };
 
 [[nodiscard]] const NewPackage& NewPresentation(); // one title slide with its layout, master and theme
-[[nodiscard]] const NewPackage& NewTextDocument(); // one paragraph
-[[nodiscard]] const NewPackage& NewWorkbook();     // one sheet with one cell
 
 // The parts of the smallest package of this host, with the title as its text.
 [[nodiscard]] Zip NewPackageParts(HostKind host, std::string_view title, std::string_view author);

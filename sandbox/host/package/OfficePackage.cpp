@@ -21,11 +21,10 @@ constexpr std::string_view kCustomRelation =
 // Relationship targets are relative to the package's root or begin with "/".
 std::string PartName(std::string_view target) { return std::string{target.substr(target.starts_with("/") ? 1 : 0)}; }
 
-// A new element at the end of the root, in the root's namespace.
-XmlElement& AppendTo(XmlElement& root, std::string_view name)
+// A name for a child of the root, in the root's namespace.
+std::string NameBelow(const XmlElement& root, std::string_view name)
 {
-    root.children.push_back({.name = root.name.substr(0, root.name.find(':') + 1).append(name)});
-    return root.children.back();
+    return root.name.substr(0, root.name.find(':') + 1).append(name);
 }
 
 XmlElement* FindBy(XmlElement& root, std::string_view attribute, std::string_view value)
@@ -108,10 +107,7 @@ void OfficePackage::SetCoreProperty(std::string_view element, std::string_view v
     if (text == nullptr) return;
     XmlElement root = ParseXml(*text);
     XmlElement* found = root.Child(element.substr(element.find(':') + 1));
-    if (found == nullptr) {
-        root.children.push_back({.name = std::string{element}});
-        found = &root.children.back();
-    }
+    if (found == nullptr) found = &root.children.emplace_back(XmlElement{std::string{element}});
     if (found->text == value) return;
     found->text = value;
     m_zip.Set(part, WriteXml(root));
@@ -153,10 +149,10 @@ void OfficePackage::AddRelation(std::string_view type, std::string_view target)
     int number = 1;
     while (FindBy(root, "Id", "rId" + std::to_string(number)) != nullptr)
         ++number;
-    XmlElement& relation = AppendTo(root, "Relationship");
-    relation.SetAttribute("Id", "rId" + std::to_string(number));
-    relation.SetAttribute("Type", type);
-    relation.SetAttribute("Target", target);
+    root.children.push_back({.name = NameBelow(root, "Relationship"),
+                             .attributes = {{"Id", "rId" + std::to_string(number)},
+                                            {"Type", std::string{type}},
+                                            {"Target", std::string{target}}}});
     m_zip.Set(kRelations, WriteXml(root));
 }
 
@@ -167,11 +163,9 @@ void OfficePackage::SetContentType(std::string_view part, std::string_view type)
     XmlElement root = ParseXml(*m_zip.Find(kContentTypes));
     XmlElement* entry = FindBy(root, "PartName", partName);
     if (entry != nullptr && entry->Attribute("ContentType") == type) return;
-    if (entry == nullptr) {
-        entry = &AppendTo(root, "Override");
-        entry->SetAttribute("PartName", partName);
-    }
-    entry->SetAttribute("ContentType", type);
+    if (entry == nullptr)
+        entry = &root.children.emplace_back(XmlElement{NameBelow(root, "Override"), {{"PartName", partName}}});
+    entry->attributes["ContentType"] = type;
     m_zip.Set(kContentTypes, WriteXml(root));
 }
 

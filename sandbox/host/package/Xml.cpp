@@ -6,18 +6,12 @@
 #include <charconv>
 #include <cstdint>
 #include <stdexcept>
+#include <utility>
 
 namespace host
 {
 namespace
 {
-
-std::string Quoted(std::string_view text)
-{
-    std::string quoted{'"'};
-    quoted += text;
-    return quoted += '"';
-}
 
 class Reader
 {
@@ -55,7 +49,7 @@ private:
 
     void Expect(std::string_view token)
     {
-        if (!Take(token)) Fail(Quoted(token) + " expected");
+        if (!Take(token)) Fail(std::string{token} + " expected");
     }
 
     void SkipBlanks() { m_at = std::min(m_text.find_first_not_of(" \t\r\n", m_at), m_text.size()); }
@@ -63,7 +57,7 @@ private:
     std::string_view Until(std::string_view token)
     {
         const std::size_t end = m_text.find(token, m_at);
-        if (end == std::string_view::npos) Fail(Quoted(token) + " missing");
+        if (end == std::string_view::npos) Fail(std::string{token} + " missing");
         const std::string_view part = m_text.substr(m_at, end - m_at);
         m_at = end + token.size();
         return part;
@@ -124,9 +118,8 @@ private:
             SkipBlanks();
             const std::string_view quote = At("'") ? "'" : "\"";
             Expect(quote);
-            if (std::ranges::any_of(element.attributes, [&](const auto& a) { return a.first == name; }))
-                Fail(Quoted(name) + " is given twice");
-            element.attributes.emplace_back(name, Characters(quote == "'" ? "'<" : "\"<"));
+            const bool isNew = element.attributes.try_emplace(name, Characters(quote == "'" ? "'<" : "\"<")).second;
+            if (!isNew) Fail(name + " is given twice");
             Expect(quote);
         }
     }
@@ -134,7 +127,7 @@ private:
     void Content(XmlElement& element, int depth)
     {
         while (!At("</")) {
-            if (m_at >= m_text.size()) Fail(Quoted(element.name) + " is not closed");
+            if (m_at >= m_text.size()) Fail(element.name + " is not closed");
             if (Take("<![CDATA["))
                 element.text += Until("]]>");
             else if (At("<!--") || At("<?"))
@@ -157,7 +150,7 @@ private:
         Expect(">");
         Content(element, depth);
         Expect("</");
-        if (Name() != element.name) Fail("the end of " + Quoted(element.name) + " expected");
+        if (Name() != element.name) Fail("the end of " + element.name + " expected");
         SkipBlanks();
         Expect(">");
         return element;
@@ -191,17 +184,8 @@ std::string_view XmlElement::LocalName() const
 
 std::string XmlElement::Attribute(std::string_view attribute) const
 {
-    const auto found = std::ranges::find(attributes, attribute, &std::pair<std::string, std::string>::first);
+    const auto found = attributes.find(attribute);
     return found == attributes.end() ? std::string{} : found->second;
-}
-
-void XmlElement::SetAttribute(std::string_view attribute, std::string_view value)
-{
-    const auto found = std::ranges::find(attributes, attribute, &std::pair<std::string, std::string>::first);
-    if (found == attributes.end())
-        attributes.emplace_back(attribute, value);
-    else
-        found->second = value;
 }
 
 const XmlElement* XmlElement::Child(std::string_view localName) const

@@ -1,10 +1,10 @@
-// XML in UTF-8 as trees of values. It is read here, not by the system's parser: Wine's does not tell which namespaces
-// an element declares, and both ribbons and packages hang on that.
+// XML in UTF-8 as trees of values. It is read here, not by the system: Wine's parser does not tell which namespaces an
+// element declares, on which both ribbons and packages hang, and its reader spoils letters where its blocks meet.
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace host
@@ -14,15 +14,14 @@ namespace host
 struct XmlElement
 {
     std::string name;
-    std::vector<std::pair<std::string, std::string>> attributes{}; // those that declare namespaces among them
-    std::string text{};                                            // the character data directly inside, joined
+    std::map<std::string, std::string, std::less<>> attributes{}; // those that declare namespaces among them
+    std::string text{};                                           // the character data directly inside, joined
     std::vector<XmlElement> children{};
 
     [[nodiscard]] std::string_view LocalName() const;
 
     // The attribute's value, or an empty text.
     [[nodiscard]] std::string Attribute(std::string_view attribute) const;
-    void SetAttribute(std::string_view attribute, std::string_view value);
 
     // The first child of this local name, or null.
     [[nodiscard]] const XmlElement* Child(std::string_view localName) const;

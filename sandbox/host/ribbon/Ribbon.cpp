@@ -1,52 +1,35 @@
 #include "ribbon/Ribbon.h"
 
 #include "base/Text.h"
-#include "ribbon/RibbonRules.h"
 
 namespace host
 {
 namespace
 {
 
-std::string IdOf(const XmlElement& element)
+std::vector<RibbonControl> ChildrenOf(const XmlElement* parent)
 {
-    const std::string id = element.Attribute("id");
-    return id.empty() ? element.Attribute("idQ") : id;
-}
-
-RibbonControl ToControl(const XmlElement& element)
-{
-    RibbonControl control{std::string{element.LocalName()}, IdOf(element), element, {}};
-    control.element.children.clear();
-    for (const XmlElement& child : element.children)
-        control.children.push_back(ToControl(child));
-    return control;
-}
-
-void AppendChildren(std::vector<RibbonControl>& out, const XmlElement* parent)
-{
-    if (parent == nullptr) return;
-    for (const XmlElement& child : parent->children)
-        out.push_back(ToControl(child));
+    return parent != nullptr ? parent->children : std::vector<RibbonControl>{};
 }
 
 const RibbonControl* FindIn(const std::vector<RibbonControl>& controls, std::string_view id)
 {
     for (const RibbonControl& control : controls) {
-        if (control.id == id) return &control;
+        if (IdOf(control) == id) return &control;
         if (const RibbonControl* found = FindIn(control.children, id)) return found;
     }
     return nullptr;
 }
 
+// Whether an attribute is there and says no.
+bool IsFalse(const std::string& value) { return value == "false" || value == "0"; }
+
 } // namespace
 
-std::string RibbonControl::Label() const { return Narrow(WithoutMark(Widen(Attribute("label")))); }
-
-bool RibbonControl::IsFalse(std::string_view name) const
+std::string IdOf(const RibbonControl& control)
 {
-    const std::string value = Attribute(name);
-    return value == "false" || value == "0";
+    const std::string id = control.Attribute("id");
+    return id.empty() ? control.Attribute("idQ") : id;
 }
 
 const RibbonControl* Ribbon::Find(std::string_view id) const
@@ -60,15 +43,33 @@ Ribbon ReadRibbon(std::string_view xml, int hostVersion)
 {
     const XmlElement root = ParseXml(xml);
     CheckRibbon(root, hostVersion);
-
-    Ribbon ribbon;
-    ribbon.onLoad = root.Attribute("onLoad");
+    Ribbon ribbon{root.Attribute("onLoad"), {}, {}, ChildrenOf(root.Child("backstage"))};
     if (const XmlElement* part = root.Child("ribbon")) {
-        AppendChildren(ribbon.officeMenu, part->Child("officeMenu"));
-        AppendChildren(ribbon.tabs, part->Child("tabs"));
+        ribbon.officeMenu = ChildrenOf(part->Child("officeMenu"));
+        ribbon.tabs = ChildrenOf(part->Child("tabs"));
     }
-    AppendChildren(ribbon.backstage, root.Child("backstage"));
     return ribbon;
+}
+
+DynamicState ShownRibbon::AnswerFor(const RibbonControl& control) const
+{
+    const auto found = answers.find(IdOf(control));
+    return found == answers.end() ? DynamicState{} : found->second;
+}
+
+std::wstring ShownRibbon::Label(const RibbonControl& control) const
+{
+    return AnswerFor(control).label.value_or(WithoutMark(Widen(control.Attribute("label"))));
+}
+
+bool ShownRibbon::IsShown(const RibbonControl& control) const
+{
+    return AnswerFor(control).visible.value_or(!IsFalse(control.Attribute("visible")));
+}
+
+bool ShownRibbon::IsEnabled(const RibbonControl& control) const
+{
+    return AnswerFor(control).enabled.value_or(!IsFalse(control.Attribute("enabled")));
 }
 
 } // namespace host

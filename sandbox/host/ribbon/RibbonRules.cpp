@@ -1,7 +1,6 @@
-#include "ribbon/RibbonRules.h"
+#include "ribbon/Ribbon.h"
 
 #include <algorithm>
-#include <optional>
 #include <set>
 #include <stdexcept>
 

@@ -7,7 +7,7 @@
 #include "base/HostFacts.h"
 #include "objects/CommandBars.h"
 #include "objects/DocumentObject.h"
-#include "ribbon/ShownRibbon.h"
+#include "ribbon/Ribbon.h"
 
 namespace host
 {

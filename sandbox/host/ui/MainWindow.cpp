@@ -88,7 +88,7 @@ bool MainWindow::ShowByLabel(const std::wstring& label, std::vector<RibbonContro
         for (const RibbonControl& page : shown->ribbon.*part) {
             if (shown->Label(page) != label) continue;
             m_view.backstage = backstage;
-            (backstage ? m_view.backstagePage : m_view.tab) = page.id;
+            (backstage ? m_view.backstagePage : m_view.tab) = IdOf(page);
             Layout();
             return true;
         }
@@ -131,7 +131,7 @@ void MainWindow::OpenBackstage(const std::string& page)
     m_view.backstagePage = page;
     for (const ShownRibbon* shown : m_desk.Ribbons())
         if (m_view.backstagePage.empty() && !shown->ribbon.backstage.empty())
-            m_view.backstagePage = shown->ribbon.backstage.front().id;
+            m_view.backstagePage = IdOf(shown->ribbon.backstage.front());
     Layout();
 }
 

@@ -56,12 +56,12 @@ void MenuBuilder::FillFromRibbon(HMENU menu, const ShownRibbon& shown, const std
         std::wstring label = shown.Label(control);
         for (std::size_t at = label.find(L'&'); at != std::wstring::npos; at = label.find(L'&', at + 2))
             label.insert(at, 1, L'&');
-        if (control.kind == "menu") {
+        if (control.LocalName() == "menu") {
             const HMENU popup = ::CreatePopupMenu();
             FillFromRibbon(popup, shown, control.children);
             AppendPopup(menu, popup, label);
         } else {
-            Append(menu, label, shown.IsEnabled(control), [this, id = control.id] { m_desk.Press(id); });
+            Append(menu, label, shown.IsEnabled(control), [this, id = IdOf(control)] { m_desk.Press(id); });
         }
     }
 }

@@ -95,7 +95,7 @@ private:
         }
         AddTab(ItemKind::Tab, L"Home", {}, m_view.tab.empty());
         ForEachControl(&Ribbon::tabs, [&](const ShownRibbon& shown, const RibbonControl& tab) {
-            AddTab(ItemKind::Tab, shown.Label(tab), tab.id, m_view.tab == tab.id);
+            AddTab(ItemKind::Tab, shown.Label(tab), IdOf(tab), m_view.tab == IdOf(tab));
         });
         m_scene.content.top = Px(kStripHeight + kPanelHeight);
     }
@@ -128,7 +128,7 @@ private:
             return CloseGroup(left, GroupLabel(m_desk));
         }
         ForEachControl(&Ribbon::tabs, [&](const ShownRibbon& shown, const RibbonControl& tab) {
-            if (tab.id != m_view.tab) return;
+            if (IdOf(tab) != m_view.tab) return;
             for (const RibbonControl& group : tab.children)
                 if (shown.IsShown(group)) BuildGroup(shown, group);
         });
@@ -140,11 +140,11 @@ private:
         m_x += Px(4);
         for (const RibbonControl& control : group.children) {
             if (!shown.IsShown(control)) continue;
-            const bool menu = control.kind == "menu";
+            const bool menu = control.LocalName() == "menu";
             AddButton({.kind = menu ? ItemKind::MenuButton : ItemKind::LargeButton,
                        .label = shown.Label(control),
                        .picture = control.Attribute("imageMso"),
-                       .id = control.id,
+                       .id = IdOf(control),
                        .enabled = shown.IsEnabled(control)});
         }
         CloseGroup(left, shown.Label(group));
@@ -166,9 +166,9 @@ private:
                 ForEachControl(&Ribbon::backstage, [&](const ShownRibbon& shown, const RibbonControl& page) {
                     AddNavigation({.kind = ItemKind::BackstagePage,
                                    .label = shown.Label(page),
-                                   .id = page.id,
+                                   .id = IdOf(page),
                                    .enabled = shown.IsEnabled(page),
-                                   .chosen = page.id == m_view.backstagePage});
+                                   .chosen = IdOf(page) == m_view.backstagePage});
                 });
             AddNavigation({.kind = ItemKind::BackstageCommand, .label = own.label, .command = own.command});
         }
@@ -180,7 +180,7 @@ private:
         m_y = Px(36);
         const int left = m_scene.content.left + Px(40);
         ForEachControl(&Ribbon::backstage, [&](const ShownRibbon& shown, const RibbonControl& page) {
-            if (page.id != m_view.backstagePage) return;
+            if (IdOf(page) != m_view.backstagePage) return;
             m_scene.groups.push_back({{left, m_y, m_size.cx, m_y + Px(44)}, shown.Label(page)});
             m_y += Px(60);
             for (const RibbonControl& child : page.children)
@@ -191,16 +191,16 @@ private:
     void AddTasksBelow(const ShownRibbon& shown, const RibbonControl& parent, int left)
     {
         if (!shown.IsShown(parent)) return;
-        if (parent.kind == "category") {
+        if (parent.LocalName() == "category") {
             m_scene.groups.push_back({{left, m_y, m_size.cx - Px(40), m_y + Px(24)}, shown.Label(parent)});
             m_y += Px(34);
         }
-        if (parent.kind == "task" || parent.kind == "button") {
+        if (parent.LocalName() == "task" || parent.LocalName() == "button") {
             Add({.kind = ItemKind::Task,
                  .label = shown.Label(parent),
                  .note = corvane::FromUtf8(parent.Attribute("description")),
                  .picture = parent.Attribute("imageMso"),
-                 .id = parent.id,
+                 .id = IdOf(parent),
                  .enabled = shown.IsEnabled(parent)},
                 {left, m_y, left + Px(380), m_y + Px(52)});
             m_y += Px(58);
