@@ -4,18 +4,23 @@ ARCH ?= x64
 .PHONY: all demo test faults soak check bench fuzz sandbox shots package test-package packages clean
 
 all: packages
-	@for preset in x64 x86 native; do \
-	  [ -e build/$$preset/build.ninja ] || cmake --preset $$preset >/dev/null || exit 1; \
-	  ninja -C build/$$preset --quiet || exit 1; \
-	done
+	@tools/build x64
+	@tools/build x86
+	@tools/build native
 
 packages:
 	@tools/install-packages
 
-demo: all
-	sandbox/demo
+# Installs and builds only what it plays.
+demo:
+	@tools/install-packages --demo
+	@tools/build x64 addin help-file corvane-host
+	@tools/build native corvane-server
+	@sandbox/demo
 
-test: all
+test: packages
+	@tools/build $(ARCH)
+	@tools/build native
 	tests/run $(ARCH)
 
 # Every fault of the server: in each call, and in each request of each dialog.

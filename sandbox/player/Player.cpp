@@ -19,13 +19,22 @@ std::string ReadText(const std::wstring& path)
     return text;
 }
 
+std::wstring Place(std::size_t number, std::size_t count)
+{
+    return L"[" + std::to_wstring(number) + L"/" + std::to_wstring(count) + L"] ";
+}
+
 void PerformAll(Stage& stage, const std::vector<Step>& steps, const Settings& settings, const Step*& current)
 {
     Run run{stage};
     if (const auto patience = settings.find("patience"); patience != settings.end())
         run.SetPatience(FromUtf8(patience->second));
+    const bool tells = settings.contains("progress");
+    std::size_t number = 0;
     for (const Step& step : steps) {
         current = &step;
+        ++number;
+        if (tells) stage.Tell(Place(number, steps.size()) + step.source);
         if (run.HasQuit()) Fail(L"the host has quit");
         step.row->perform(stage, run, step);
         run.CheckFaults();
