@@ -1,6 +1,10 @@
 #include "platform/Registry.h"
+#include "platform/Utf8.h"
 #include "player/Run.h"
+#include "player/Script.h"
 #include "player/Steps.h"
+
+#include <sstream>
 
 namespace corvane::player
 {
@@ -75,6 +79,30 @@ void Controller(Stage& stage, Run& run, const Step& step)
     run.BeginOnUi([&stage, method = step.At(0)] { stage.CallController(method); });
 }
 
+// The samples of a Markdown text, one below the other.
+std::wstring CodeIn(const std::wstring& markdown)
+{
+    std::wistringstream lines{markdown};
+    std::wstring code;
+    bool inside = false;
+    for (std::wstring line; std::getline(lines, line);) {
+        if (line.starts_with(L"```"))
+            inside = line.starts_with(L"```vb");
+        else if (inside)
+            code += line + L"\r\n";
+    }
+    return code;
+}
+
+void Macro(Stage& stage, Run& run, const Step& step)
+{
+    run.AwaitReady();
+    const std::wstring text = FromUtf8(ReadText(step.At(0)));
+    run.BeginOnUi([&stage, text = step.At(0).ends_with(L".md") ? CodeIn(text) : text, procedure = step.At(1)] {
+        stage.RunMacro(text, procedure);
+    });
+}
+
 void Show(Stage& stage, Run& run, const Step& step)
 {
     run.AwaitReady();
@@ -115,23 +143,15 @@ void RegistryValue(Stage&, Run& run, const Step& step)
 }
 
 constexpr StepRow kSteps[] = {
-    {"set", 2, 2, &Set},
-    {"new", 0, 0, &New},
-    {"open", 1, 1, &Open},
-    {"save", 0, 0, &Save},
-    {"saveas", 1, 2, &SaveAs},
-    {"activate", 1, 1, &Activate},
-    {"close", 0, 0, &Close},
-    {"quit", 0, 0, &Quit},
-    {"exit", 0, 0, &Exit},
-    {"disconnect", 0, 0, &Disconnect},
-    {"command", 1, 2, &Command},
-    {"controller", 1, 1, &Controller},
-    {"show", 1, 1, &Show},
-    {"property", 2, 2, &Property},
-    {"ran", 1, 1, &Ran},
-    {"no macro", 1, 1, &NoMacro},
-    {"registry", 3, 3, &RegistryValue},
+    {"set", 2, 2, &Set},           {"new", 0, 0, &New},
+    {"open", 1, 1, &Open},         {"save", 0, 0, &Save},
+    {"saveas", 1, 2, &SaveAs},     {"activate", 1, 1, &Activate},
+    {"close", 0, 0, &Close},       {"quit", 0, 0, &Quit},
+    {"exit", 0, 0, &Exit},         {"disconnect", 0, 0, &Disconnect},
+    {"command", 1, 2, &Command},   {"controller", 1, 1, &Controller},
+    {"macro", 2, 2, &Macro},       {"show", 1, 1, &Show},
+    {"property", 2, 2, &Property}, {"ran", 1, 1, &Ran},
+    {"no macro", 1, 1, &NoMacro},  {"registry", 3, 3, &RegistryValue},
 };
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "player/Player.h"
 
-#include "platform/Files.h"
 #include "platform/Utf8.h"
 #include "player/Run.h"
 #include "player/Screen.h"
@@ -10,14 +9,6 @@ namespace corvane::player
 {
 namespace
 {
-
-std::string ReadText(const std::wstring& path)
-{
-    std::string text(static_cast<std::size_t>(FileLength(path).value_or(0)), '\0');
-    const std::size_t length = ReadFile(path, std::as_writable_bytes(std::span{text}));
-    if (text.empty() || length != text.size()) Fail(L"the scenario cannot be read");
-    return text;
-}
 
 std::wstring Place(std::size_t number, std::size_t count)
 {

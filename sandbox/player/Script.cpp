@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cwchar>
 
+#include "platform/Files.h"
 #include "platform/Utf8.h"
 
 namespace corvane::player
@@ -160,6 +161,14 @@ std::wstring Step::Lines(std::size_t first) const
     std::wstring text;
     for (std::size_t i = first; i < words.size(); ++i)
         text += (i == first ? L"" : L"\r\n") + words[i].text;
+    return text;
+}
+
+std::string ReadText(const std::wstring& path)
+{
+    std::string text(static_cast<std::size_t>(FileLength(path).value_or(0)), '\0');
+    const std::size_t length = ReadFile(path, std::as_writable_bytes(std::span{text}));
+    if (text.empty() || length != text.size()) throw Error{0, {}, path + L" cannot be read"};
     return text;
 }
 

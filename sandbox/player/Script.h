@@ -64,6 +64,9 @@ private:
 
 using Settings = std::map<std::string, std::string, std::less<>>; // in UTF-8, as scenarios are
 
+// What a file of text holds; throws Error where there is none or nothing in it.
+[[nodiscard]] std::string ReadText(const std::wstring& path);
+
 // Reads a scenario that is made of these steps; the rows must live on. Every line is checked for its number of words,
 // so that a slip in the last line shows before the first one runs. Throws ScriptError, whose source is the line.
 [[nodiscard]] std::vector<Step> ParseScript(std::string_view text, const Settings& settings,

@@ -53,6 +53,9 @@ public:
     virtual void Press(const std::wstring& name) = 0;
     virtual void CallController(const std::wstring& method) = 0;
 
+    // Runs a procedure of a macro's text; returns like Press.
+    virtual void RunMacro(const std::wstring& text, const std::wstring& procedure) = 0;
+
     // The captions below the menu of this path, as lines; nothing where there is no such menu.
     [[nodiscard]] virtual std::optional<std::wstring> MenuEntries(const std::vector<std::wstring>& path) const = 0;
 

@@ -9,6 +9,7 @@
 #include "shared/DocumentProperties.h"
 #include "shared/HostDocument.h"
 #include "shared/HostVersion.h"
+#include "shared/SaveResult.h"
 #include "support/CCustomNames.h"
 #include "support/CTraceLog.h"
 #include "support/Conversions.h"
@@ -27,6 +28,16 @@ HWND WindowOf(const LateBound& application) noexcept
     Ignoring([&] { window = reinterpret_cast<HWND>(static_cast<INT_PTR>(application.Number(L"HWND"))); });
     return window;
 }
+
+// Follows a command for macros that ask how it ended.
+class ResultOfCommand
+{
+public:
+    ResultOfCommand() { LastSave().Begin(); }
+    ResultOfCommand(const ResultOfCommand&) = delete;
+    ResultOfCommand& operator=(const ResultOfCommand&) = delete;
+    ~ResultOfCommand() { LastSave().End(); }
+};
 
 } // namespace
 
@@ -113,9 +124,11 @@ bool CAddInMenus::RefusesWhileEditing() const noexcept
     Reporting([&] {
         SetHostWindow(WindowOf(m_oApplication));
         editing = IsEditing(m_oApplication);
-        if (editing)
-            ShowMessage(L"You are currently editing a cell or object. Please finish editing before saving to Corvane.",
-                        kStylePlain, L"Save to Corvane");
+        if (!editing) return;
+        const std::wstring why =
+            L"You are currently editing a cell or object. Please finish editing before saving to Corvane.";
+        LastSave().Refuse(why);
+        ShowMessage(why, kStylePlain, L"Save to Corvane");
     });
     return editing;
 }
@@ -124,6 +137,7 @@ void CAddInMenus::RunSave(const SaveCommand& command, std::wstring_view caller) 
 {
     const LibraryInUse inUse;
     const std::shared_ptr<CAddInMenus> alive = g_oAddInMenus;
+    const ResultOfCommand result;
     if (RefusesWhileEditing()) return;
     Reporting([&] {
         frmBusy busy{m_procedures};
@@ -144,7 +158,9 @@ void CAddInMenus::RunSave(const SaveCommand& command, std::wstring_view caller) 
 void CAddInMenus::Save(const SaveCommand& command, const HostDocument& document, frmBusy& busy)
 {
     if (!document.IsOpen()) {
-        ShowMessage(L"You must have a file open to save to " + CustomName(L"Corvane"), kStylePlain);
+        const std::wstring why = L"You must have a file open to save to " + CustomName(L"Corvane");
+        LastSave().Refuse(why);
+        ShowMessage(why, kStylePlain);
         return;
     }
     m_binding = ReadBinding(document);

@@ -1,6 +1,7 @@
 #include "addin/Connect.h"
 
 #include "addin/CAddInMenus.h"
+#include "addin/CSaveResult.h"
 #include "addin/SaveLaunchers.h"
 #include "addin/UICaptions.h"
 #include "forms/Messages.h"
@@ -9,6 +10,7 @@
 #include "platform/OwnerlessRequests.h"
 #include "platform/Procedure.h"
 #include "shared/HostVersion.h"
+#include "shared/SaveResult.h"
 #include "support/CCustomNames.h"
 #include "support/CTraceLog.h"
 #include "support/ErrorReport.h"
@@ -86,7 +88,9 @@ void Connect::ConnectToHost(const LateBound& application, LONG connectMode, cons
     TraceVariable(L"ConnectMode", std::to_wstring(connectMode));
     TraceProperty(L"AddinInst.ProgId", addInInstance, L"ProgId");
     TraceProperty(L"AddinInst.Guid", addInInstance, L"Guid");
-    if (connectMode == kStartUp) StartUp(application);
+    if (connectMode != kStartUp) return;
+    StartUp(application);
+    Offer(addInInstance);
 }
 
 void Connect::StartUp(const LateBound& application)
@@ -105,6 +109,14 @@ void Connect::StartUp(const LateBound& application)
     SetApplicationTitle(ApplicationTitleFor(CustomName(L"Corvane")));
     g_oAddInMenus->SetUICaptions();
     if (!HasRibbon(HostVersion())) g_oAddInMenus->CreateMenus(MenuBar());
+}
+
+// For macros: COMAddIn.Object tells how the last command ended. A host that takes none loses nothing else.
+void Connect::Offer(const LateBound& addInInstance)
+{
+    SetErrorListener([](const Error& error) noexcept { Ignoring([&] { LastSave().Fail(error); }); });
+    m_oAddIn = addInInstance;
+    Ignoring([this] { m_oAddIn.Put(L"Object", Variant{ComPtr<IDispatch>{MakeObject<CSaveResult>()}}); });
 }
 
 int Connect::HostVersion() const { return MajorVersion(m_oPowerPointApp.Text(L"Version")); }
@@ -126,6 +138,8 @@ void Connect::Disconnected() noexcept
     });
     g_oAddInMenus.reset();
     m_events = EventSubscription{};
+    Ignoring([this] { m_oAddIn.Put(L"Object", Variant{ComPtr<IDispatch>{}}); });
+    m_oAddIn.Release();
     m_oPowerPointApp.Release();
     AbortOwnerless();
     CloseHelp();

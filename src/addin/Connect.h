@@ -45,6 +45,7 @@ private:
     void ConnectToHost(const LateBound& application, LONG connectMode, const LateBound& addInInstance);
     void StartUp(const LateBound& application);
     [[nodiscard]] HRESULT NoText(BSTR* text) const noexcept;
+    void Offer(const LateBound& addInInstance);
     void OnApplicationEvent(DISPID member, const DISPPARAMS& arguments) noexcept;
     void WindowActivate(const LateBound& presentation, const LateBound& window) const;
     [[nodiscard]] int HostVersion() const;
@@ -52,6 +53,7 @@ private:
 
     std::optional<ThreadClaim> m_claim; // from the connection to the disconnection
     LateBound m_oPowerPointApp;
+    LateBound m_oAddIn; // what the host knows of the add-in
     EventSubscription m_events;
 };
 

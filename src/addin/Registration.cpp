@@ -3,6 +3,7 @@
 #include "Version.h"
 #include "addin/CController.h"
 #include "addin/CRbnBtnInfo.h"
+#include "addin/CSaveResult.h"
 #include "addin/Connect.h"
 #include "addin/TraceLogObject.h"
 #include "platform/Procedure.h"
@@ -36,6 +37,7 @@ const PublicClass kPublicClasses[] = {
     {L"CController", CLSID_CController, &Create<CController>},
     {L"CTraceLog", CLSID_CTraceLog, &Create<TraceLogObject>},
     {L"CRbnBtnInfo", CLSID_CRbnBtnInfo, &Create<CRbnBtnInfo>},
+    {L"CSaveResult", CLSID_CSaveResult, &Create<CSaveResult>},
 };
 
 std::wstring ProgId(const PublicClass& entry) { return std::wstring{kProject} + entry.name; }

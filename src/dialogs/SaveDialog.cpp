@@ -7,6 +7,7 @@
 #include "selection/frmSaveTo.h"
 #include "shared/ClientEvents.h"
 #include "shared/MailClient.h"
+#include "shared/SaveResult.h"
 #include "support/CCustomNames.h"
 #include "support/Conversions.h"
 #include "webservice/WebService.h"
@@ -101,7 +102,9 @@ SaveDialog::TargetState SaveDialog::Refuse(Refusal refusal) const
 
 void SaveDialog::Tell(const std::wstring& text, UINT style) const
 {
-    if (!m_left) ShowMessage(text, style);
+    if (m_left) return;
+    LastSave().Refuse(text);
+    ShowMessage(text, style);
 }
 
 void SaveDialog::ShowTypeCaptions()
@@ -139,10 +142,10 @@ SaveDialog::Entries SaveDialog::ReadEntries() const
 void SaveDialog::ShowError(const Error& error) const
 {
     if (error.Number() == kAutomationDeclined) return;
-    if (const auto message = SaveErrorMessage(m_kind.errors, error.Number(), m_terms))
-        ShowMessage(*message, kStyleExclamation);
-    else
-        ReportError(error);
+    const auto message = SaveErrorMessage(m_kind.errors, error.Number(), m_terms);
+    if (!message) return ReportError(error);
+    LastSave().Refuse(*message, error.Number());
+    ShowMessage(*message, kStyleExclamation);
 }
 
 void SaveDialog::cmdChange_Click()

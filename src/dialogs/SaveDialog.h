@@ -97,7 +97,7 @@ protected:
     [[nodiscard]] virtual NotificationFacts Notified() const = 0;
     virtual void AddLatestVersion(NotificationFacts& facts) const = 0;
 
-    // Shows a message of the loading, unless the user has left the dialog meanwhile.
+    // Tells the user, and macros that ask, why the target is refused, unless the user has left the dialog meanwhile.
     void Tell(const std::wstring& text, UINT style) const;
 
     // Tells why the rules refuse the target.

@@ -8,6 +8,7 @@
 #include "shared/ClientEvents.h"
 #include "shared/DocumentUpload.h"
 #include "shared/NotificationMail.h"
+#include "shared/SaveResult.h"
 
 namespace corvane
 {
@@ -57,7 +58,9 @@ bool SaveDialog::Save()
 bool SaveDialog::RequireDocument() const
 {
     if (Document.IsActive()) return true;
-    ShowMessage(L"Another document is active now. Please activate the one that you want to save.", kStyleExclamation);
+    const wchar_t* const why = L"Another document is active now. Please activate the one that you want to save.";
+    LastSave().Refuse(why);
+    ShowMessage(why, kStyleExclamation);
     return false;
 }
 
@@ -80,6 +83,7 @@ bool SaveDialog::UploadAndRecord()
     const std::wstring reply = HasTarget() ? Record(uploaded.name) : std::wstring{};
     if (ProcessSaveResult(reply) == L"CANCEL") return false;
     AfterRecord(reply);
+    LastSave().Save({ServerURL, target, NotificationLink(Notified()), uploaded.name});
     if (m_clientEvents && Document.IsActive()) RunAfterSaveEvent(Document);
     SetStatus(StatusBar1, L"Save Complete");
     PumpFor(kCompletePause);

@@ -81,7 +81,7 @@ void frmSaveGateDoc::LoadGateDocument()
 bool frmSaveGateDoc::MaySave()
 {
     if (!IsOutsider(m_facts)) return true;
-    ShowMessage(RefusalMessage(Refusal::OutsideTheTeam, Terms()), kStyleCritical);
+    Tell(RefusalMessage(Refusal::OutsideTheTeam, Terms()), kStyleCritical);
     return false;
 }
 

@@ -6,6 +6,7 @@
 #include "shared/HostDocument.h"
 #include "shared/HostTraits.h"
 #include "shared/SaveReply.h"
+#include "shared/SaveResult.h"
 #include "support/CCustomNames.h"
 
 namespace corvane
@@ -49,6 +50,7 @@ std::wstring ProcessSaveResult(const std::wstring& sResult)
 {
     const ProcedureScope scope{L"SharedCode.ProcessSaveResult"};
     const SaveReply reply = ReadSaveReply(sResult);
+    if (reply.kind == ReplyKind::Cancelled) LastSave().Refuse(reply.text);
     // A cancellation shows one button and no icon: the style number the interface names is none the system has.
     if (reply.kind == ReplyKind::Cancelled) ShowMessage(reply.text, kStylePlain);
     if (reply.kind == ReplyKind::BrokenLinks) ShowMessage(reply.text, kStyleExclamation);

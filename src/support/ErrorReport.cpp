@@ -9,6 +9,8 @@ namespace corvane
 namespace
 {
 
+ErrorListener g_listener = nullptr;
+
 class TracingWatch final : public ProcedureWatch
 {
 public:
@@ -23,11 +25,14 @@ public:
     void Report(const Error& error) noexcept override
     {
         if (g_oTraceLog != nullptr) g_oTraceLog->WriteError(error);
+        if (g_listener != nullptr) g_listener(error);
         Ignoring([&] { ShowMessage(ErrorReportText(error), kStyleCritical); });
     }
 };
 
 } // namespace
+
+void SetErrorListener(ErrorListener listener) noexcept { g_listener = listener; }
 
 void WatchProcedures() noexcept
 {

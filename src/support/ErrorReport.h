@@ -11,6 +11,10 @@ class Error;
 // The text of the critical message for an error.
 [[nodiscard]] std::wstring ErrorReportText(const Error& error);
 
+// Hears of every error that is shown, after the trace and before the user; nobody does at first.
+using ErrorListener = void (*)(const Error& error) noexcept;
+void SetErrorListener(ErrorListener listener) noexcept;
+
 // Lets the process's trace and the user hear of what procedures do: every scope is traced, and every error that reaches
 // the edge is traced and shown. Takes effect for the life of the library.
 void WatchProcedures() noexcept;

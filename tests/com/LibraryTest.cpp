@@ -14,9 +14,9 @@ namespace
 class Library : public AddInLibrary
 {};
 
-TEST_F(Library, KnowsItsFourClassesAndNoOther)
+TEST_F(Library, KnowsItsClassesAndNoOther)
 {
-    for (const CLSID& id : {CLSID_Connect, CLSID_CController, CLSID_CTraceLog, CLSID_CRbnBtnInfo}) {
+    for (const CLSID& id : {CLSID_Connect, CLSID_CController, CLSID_CTraceLog, CLSID_CRbnBtnInfo, CLSID_CSaveResult}) {
         auto* object = Loaded().Create<IUnknown>(id);
         ASSERT_NE(object, nullptr);
         EXPECT_EQ(CanUnload(), S_FALSE) << "a living object must keep the library";
@@ -105,6 +105,9 @@ TEST_F(Library, TheSlotsOfItsInterfacesKeepTheirOrder)
          L" ID =ID Label =Label ImageMso =ImageMso Screentip =Screentip Supertip =Supertip"
          L" GetEnabled =GetEnabled GetLabel =GetLabel GetSupertip =GetSupertip"
          L" GetScreentip =GetScreentip OnAction =OnAction Description =Description Size =Size Clear"},
+        {CLSID_CSaveResult,
+         L" Outcome ErrorNumber ErrorDescription Server ProjectID DeliverableID ActivityID RelatedDocumentID"
+         L" GateDocumentID VersionLink UploadedName"},
     };
     for (const auto& [id, expected] : classes) {
         auto* object = Loaded().Create<IDispatch>(id);

@@ -66,7 +66,7 @@ TEST_F(Registration, WritesTheHostsKeyForTheUserAndTakesEverythingBack)
     ::RegGetValueW(HKEY_CURRENT_USER, kAddInKey, L"LoadBehavior", RRF_RT_REG_DWORD, nullptr, &loadBehaviour, &size);
     EXPECT_EQ(loadBehaviour, 3U);
 
-    for (const wchar_t* name : {L"Connect", L"CController", L"CTraceLog", L"CRbnBtnInfo"}) {
+    for (const wchar_t* name : {L"Connect", L"CController", L"CTraceLog", L"CRbnBtnInfo", L"CSaveResult"}) {
         const std::wstring classes = L"Software\\Classes\\";
         const std::wstring classId = TextAt(classes + L"CorvaneMSOfficePowerPoint." + name + L"\\CLSID", L"");
         const std::wstring server = classes + L"CLSID\\" + classId + L"\\InprocServer32";

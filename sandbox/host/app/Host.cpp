@@ -4,8 +4,10 @@
 
 #include <commdlg.h>
 
+#include "automation/Macros.h"
 #include "base/Console.h"
 #include "base/Text.h"
+#include "objects/Application.h"
 #include "platform/LateBound.h"
 
 namespace host
@@ -169,6 +171,11 @@ void Host::CallController(const std::wstring& method)
         ThrowIfFailed(object.As(&controller), L"the controller offers no IDispatch");
         corvane::LateBound{controller}.Call(method.c_str());
     });
+}
+
+void Host::RunMacroText(const std::wstring& text, const std::wstring& procedure)
+{
+    Guarded([&] { RunMacro(text, procedure, m_session.Application(), m_classes, m_window->Handle()); });
 }
 
 void Host::DisconnectAddIns()

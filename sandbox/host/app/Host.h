@@ -58,6 +58,8 @@ public:
 
     // Creates the add-in's public controller and calls one of its methods, as a macro would.
     void CallController(const std::wstring& method);
+    // Runs a procedure of a macro's text.
+    void RunMacroText(const std::wstring& text, const std::wstring& procedure);
     [[nodiscard]] bool IsBusy() const { return m_running != 0; }
 
     void DisconnectAddIns();

@@ -34,6 +34,10 @@ public:
     [[nodiscard]] bool HasCommand(const std::wstring& name) const override;
     void Press(const std::wstring& name) override;
     void CallController(const std::wstring& method) override { m_host.CallController(method); }
+    void RunMacro(const std::wstring& text, const std::wstring& procedure) override
+    {
+        m_host.RunMacroText(text, procedure);
+    }
     [[nodiscard]] std::optional<std::wstring> MenuEntries(const std::vector<std::wstring>& path) const override;
     [[nodiscard]] bool ShowPage(const std::wstring& page) override { return m_host.Window().ShowPage(page); }
     [[nodiscard]] bool HasRun(const std::wstring& macro) const override;

@@ -1,0 +1,46 @@
+#include "shared/SaveResult.h"
+
+#include <utility>
+
+namespace corvane
+{
+
+void SaveResult::Begin()
+{
+    *this = {};
+    m_running = true;
+}
+
+void SaveResult::Save(SavedVersion version)
+{
+    m_outcome = SaveOutcome::Saved;
+    m_version = std::move(version);
+    m_errorNumber = 0;
+    m_errorDescription.clear();
+}
+
+void SaveResult::Refuse(std::wstring why, std::int32_t number) { Told(SaveOutcome::Refused, number, std::move(why)); }
+
+void SaveResult::Fail(const Error& error) { Told(SaveOutcome::Failed, error.Number(), error.Description()); }
+
+void SaveResult::Told(SaveOutcome outcome, std::int32_t number, std::wstring description)
+{
+    if (m_outcome == SaveOutcome::Saved) return;
+    m_outcome = outcome;
+    m_errorNumber = number;
+    m_errorDescription = std::move(description);
+}
+
+void SaveResult::End() noexcept
+{
+    m_running = false;
+    if (m_outcome == SaveOutcome::None) m_outcome = SaveOutcome::Cancelled;
+}
+
+SaveResult& LastSave() noexcept
+{
+    static SaveResult& last = *new SaveResult; // outlives every object that may ask
+    return last;
+}
+
+} // namespace corvane
