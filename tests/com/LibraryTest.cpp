@@ -153,6 +153,7 @@ TEST_F(Library, ServesTheThreadThatMadeItsObjectsAlone)
         {CLSID_CController, __uuidof(_CController)},
         {CLSID_CTraceLog, __uuidof(_CTraceLog)},
         {CLSID_CRbnBtnInfo, __uuidof(_CRbnBtnInfo)},
+        {CLSID_CSaveResult, __uuidof(_CSaveResult)},
     };
     for (const auto& [id, face] : interfaces) {
         const corvane::ComPtr<IUnknown> made{Loaded().Create<IUnknown>(id)};
