@@ -138,8 +138,10 @@ void ExpectDocument(Stage& stage, Run& run, const Step& step)
 
 void ExpectHost(Stage& stage, Run& run, const Step& step)
 {
-    if (step.At(0) != L"focused") Fail(L"the host can be expected to be focused");
+    const bool disabled = step.At(0) == L"disabled";
+    if (!disabled && step.At(0) != L"focused") Fail(L"the host can be expected to be focused or disabled");
     run.WaitFor([&, window = stage.Window()] {
+        if (disabled) return Unless(!::IsWindowEnabled(window), L"its window is in use");
         const bool isFocused = ::GetAncestor(run.FocusedWindow(), GA_ROOT) == window;
         return Unless(isFocused && ::GetForegroundWindow() == window, L"another window has the keyboard");
     });

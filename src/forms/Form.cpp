@@ -80,11 +80,18 @@ void Form::ShowModal()
     Load();
     if (m_window == nullptr) return; // unloaded again while its loading waited
     m_focusBefore = ::GetFocus();    // disabling its window takes it away
-    // A host may have a window for each document, and every document but the active one has to wait as well.
-    ::EnumThreadWindows(::GetCurrentThreadId(), &Form::DisableOther, reinterpret_cast<LPARAM>(this));
+    DisableOthers();
     FitToScreen();
     SetShown(true);
     if (PumpUntil([this] { return !m_shown; }) == WaitEnd::Quit) Hide();
+}
+
+// A host may have a window for each document, and every document but the active one has to wait as well.
+void Form::DisableOthers() noexcept
+{
+    for (const Form* form : OpenForms())
+        form->DisableOthersAgain();
+    ::EnumThreadWindows(::GetCurrentThreadId(), &Form::DisableOther, reinterpret_cast<LPARAM>(this));
 }
 
 BOOL CALLBACK Form::DisableOther(HWND window, LPARAM form) noexcept
@@ -94,6 +101,22 @@ BOOL CALLBACK Form::DisableOther(HWND window, LPARAM form) noexcept
         !Catch([&] { self.m_disabled.push_back(window); }))
         ::EnableWindow(window, FALSE);
     return TRUE;
+}
+
+void Form::DisableOthersAgain() const noexcept
+{
+    for (const HWND window : m_disabled)
+        ::EnableWindow(window, FALSE);
+}
+
+void Form::KeepOthersOut() noexcept
+{
+    const auto& forms = OpenForms();
+    const auto top = std::find_if(forms.rbegin(), forms.rend(), [](const Form* form) { return form->m_shown; });
+    if (top == forms.rend() || !::IsWindowEnabled((*top)->m_window)) return;
+    (*top)->DisableOthers();
+    const HWND active = ::GetActiveWindow();
+    if (active != nullptr && !::IsWindowEnabled(active)) ::SetActiveWindow((*top)->m_window);
 }
 
 void Form::FitToScreen() noexcept
@@ -201,8 +224,7 @@ INT_PTR Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept
         return OnNotification(static_cast<int>(header->idFrom), header->code) ? TRUE : FALSE;
     }
     case WM_ACTIVATE:
-        // What activation starts may last: it runs from the message loop, not inside the activation.
-        if (LOWORD(wParam) != WA_INACTIVE) ::PostMessageW(m_window, kActivatedMessage, 0, 0);
+        if (LOWORD(wParam) != WA_INACTIVE) OnActivated();
         return FALSE;
     case kActivatedMessage:
         if (m_shown) Run(L"Form_Activate", &Form::Form_Activate);
@@ -229,6 +251,15 @@ INT_PTR Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept
     default:
         return FALSE;
     }
+}
+
+void Form::OnActivated() const noexcept
+{
+    // No other windows than those: one that has come since may be the host's question, which waits for its answer.
+    for (const Form* form : OpenForms())
+        form->DisableOthersAgain();
+    // What activation starts may last: it runs from the message loop, not inside the activation.
+    ::PostMessageW(m_window, kActivatedMessage, 0, 0);
 }
 
 bool Form::OnNotification(int control, UINT notification) noexcept

@@ -64,6 +64,10 @@ public:
     // The visible form in front of the others, or null.
     [[nodiscard]] static HWND TopWindow() noexcept;
 
+    // Puts the thread's other windows out of use again for the form in front, and gives it the keyboard where one of
+    // them has it. Does nothing while there is no form, or one that waits for the answer to a message.
+    static void KeepOthersOut() noexcept;
+
 protected:
     // The name is the form's class name; its window class carries it too.
     Form(const wchar_t* name, int templateId) noexcept : m_name{name}, m_templateId{templateId} {}
@@ -117,11 +121,14 @@ protected:
 private:
     static INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+    void OnActivated() const noexcept;
     bool OnNotification(int control, UINT notification) noexcept;
     void Run(const wchar_t* procedure, void (Form::*run)()) noexcept;
     void CreateWindowFromTemplate(HWND owner);
     void SetShown(bool shown) noexcept;
     void FitToScreen() noexcept;
+    void DisableOthers() noexcept;
+    void DisableOthersAgain() const noexcept;
     void EnableOthers() noexcept;
     void OnWindowGone() noexcept;
     static BOOL CALLBACK DisableOther(HWND window, LPARAM form) noexcept;

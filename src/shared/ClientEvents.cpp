@@ -1,5 +1,6 @@
 #include "shared/ClientEvents.h"
 
+#include "forms/HostCall.h"
 #include "forms/Messages.h"
 #include "platform/Procedure.h"
 #include "shared/DocumentProperties.h"
@@ -19,6 +20,7 @@ void RunMacro(const HostDocument& document, const std::wstring& macro) noexcept
     Ignoring([&] {
         const bool qualified = document.Traits() != nullptr && document.Traits()->namesDocumentOfMacro;
         const std::wstring prefix = qualified ? document.Active().Text(L"Name") + L"!" : std::wstring{};
+        const HostCall call;
         document.Application().Call(L"Run", prefix + macro);
     });
 }

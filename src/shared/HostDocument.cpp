@@ -1,5 +1,6 @@
 #include "shared/HostDocument.h"
 
+#include "forms/HostCall.h"
 #include "platform/PersistedFile.h"
 #include "platform/Procedure.h"
 #include "shared/DocumentNames.h"
@@ -43,6 +44,7 @@ std::wstring UnusedDocumentPath(const std::wstring& title)
 void SaveInPlace(const LateBound& document, const std::wstring& fullName)
 {
     const auto before = LastWriteTime(fullName);
+    const HostCall call;
     document.Call(L"Save");
     // What else runs in the host may take a save back without an error.
     if (document.Number(L"Saved") == 0 && LastWriteTime(fullName) == before)
@@ -186,6 +188,7 @@ SavedDocument HostDocument::SaveInDocuments(const LateBound& document) const
 {
     const std::wstring title = TitleOf(document);
     std::wstring path = UnusedDocumentPath(title);
+    const HostCall call;
     document.Call(L"SaveAs", path, FormatArgument(Host(), m_version, ExtensionOf(title)));
     return {std::move(path), std::nullopt};
 }
@@ -196,6 +199,7 @@ SavedDocument HostDocument::SaveTemporaryCopy(const LateBound& subject) const
     TemporaryFile copy{extension.substr(1)};
     std::wstring path = copy.Path();
     const auto& [member, takesFormat] = Host().copy;
+    const HostCall call;
     if (member == nullptr) // SaveAs would make the copy the user's document
         SavePersistedCopy(subject, path);
     else if (takesFormat)

@@ -117,6 +117,8 @@ TEST_F(TreeForm, AsksTheServerInItsBoxAndKeepsItAlsoWhenTheHostClosesIt)
         Press(tree, cmdGo);
         const User host{tree, [](HWND form) { return ::IsWindowVisible(::GetDlgItem(form, txtTree)) != FALSE; },
                         [&](HWND form) {
+                            ::EnableWindow(other, TRUE); // by what else runs in the host
+                            ::SendMessageW(form, WM_ACTIVATE, WA_ACTIVE, 0);
                             otherWasInUse = ::IsWindowEnabled(other) != FALSE;
                             ::DestroyWindow(form);
                         }};

@@ -129,6 +129,7 @@ void DocumentObject::SaveUnder(const Arguments& arguments)
 
 void DocumentObject::SaveCopyAs(const Arguments& arguments)
 {
+    m_session.AskUser();
     Opened().m_document.SaveCopyAs(arguments.At(0).Text(), Format(FormatArgument(arguments)), Fault());
 }
 

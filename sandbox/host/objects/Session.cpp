@@ -196,7 +196,16 @@ void Session::Close(DocumentObject& document)
 
 bool Session::MayBeSaved(DocumentObject& document)
 {
+    AskUser();
     return Model().events == nullptr || !m_application->Events().FireCancellable(Model().events->beforeSave, document);
+}
+
+void Session::AskUser() const
+{
+    if (m_options.Setting("host.asks") != "true") return;
+    ::MessageBoxW(nullptr, L"Does the host go on?", Facts().product, MB_OK);
+    ::EnableWindow(window, TRUE);
+    ::SetActiveWindow(window);
 }
 
 bool Session::IsEditing() const { return EditingOf(m_options) != nullptr; }
@@ -228,6 +237,7 @@ void Session::RunMacro(const std::wstring& name)
     const std::string setting = "macro." + Narrow(macro);
     if (unqualified || m_options.Setting(setting).empty()) Refuse(Kind(), Refusal::NoMacro, name);
     m_macrosRun.push_back(macro);
+    AskUser();
     while (m_options.Setting(setting) == "hold")
         ServeMessages();
     const std::string answer = m_options.Setting(setting);

@@ -71,6 +71,10 @@ public:
     // Asks the add-in before a document is saved; false when it cancels.
     [[nodiscard]] bool MayBeSaved(DocumentObject& document);
 
+    // Shows a question of the host's own where the settings want one. At its end the host's window is in use and has
+    // the keyboard, whatever was before, as windows of Office's own leave it.
+    void AskUser() const;
+
     // While the user edits a cell: CheckReady throws what most members then fail with, CheckAnswering what even
     // questions fail with in the busier kinds of editing.
     [[nodiscard]] bool IsEditing() const;
