@@ -143,7 +143,7 @@ void frmSaveRelatedDoc::AfterRecord(const std::wstring& reply)
         return;
     }
     BindDocument(Document, {target, ServerURL});
-    static_cast<void>(Document.SaveToDisk());
+    Document.SaveAgain();
 }
 
 NotificationFacts frmSaveRelatedDoc::Notified() const

@@ -184,12 +184,24 @@ SavedDocument HostDocument::SaveToDisk() const
     return {place.fullName, std::nullopt};
 }
 
+void HostDocument::SaveAgain() const
+{
+    const ProcedureScope scope{L"SharedCode.SaveDocumentToDisk"};
+    if (Host().activeDocument == nullptr) return;
+    const DocumentPlace place = PlaceOf(Subject());
+    if (!place.readOnly) SaveInPlace(Subject(), place.fullName);
+}
+
 SavedDocument HostDocument::SaveInDocuments(const LateBound& document) const
 {
     const std::wstring title = TitleOf(document);
     std::wstring path = UnusedDocumentPath(title);
-    const HostCall call;
-    document.Call(L"SaveAs", path, FormatArgument(Host(), m_version, ExtensionOf(title)));
+    {
+        const HostCall call;
+        document.Call(L"SaveAs", path, FormatArgument(Host(), m_version, ExtensionOf(title)));
+    }
+    // Where a cloud service keeps the folder, the document is known by a web address, and its file comes when it comes.
+    if (IsWebAddress(document.Text(L"FullName")) || !FileExists(path)) return SaveTemporaryCopy(document);
     return {std::move(path), std::nullopt};
 }
 

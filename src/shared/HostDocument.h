@@ -69,6 +69,9 @@ public:
     // temporary copy when it cannot be written where it is or is no file (a web address, an item of Outlook). Throws
     // also when the host left an old file as it was.
     [[nodiscard]] SavedDocument SaveToDisk() const;
+    // Saves a document that has its file once more, where it is, also at a web address. One that is only read, and an
+    // item of Outlook, stays as it is. Throws like SaveToDisk.
+    void SaveAgain() const;
     // Lets the user work in Excel again, or keeps the user out; nothing in other hosts. Errors are ignored.
     void SetInteractive(bool interactive) const noexcept;
 

@@ -22,6 +22,14 @@ std::wstring UserDocumentsFolder(HostKind host)
     return folder;
 }
 
+// Where the service keeps what is saved in a folder of its own: nothing comes back into that folder.
+std::wstring PathInCloud(const std::wstring& path)
+{
+    const std::wstring folder = FolderOf(path) + L"\\cloud";
+    ::CreateDirectoryW(folder.c_str(), nullptr);
+    return folder + L"\\" + FileName(path);
+}
+
 std::optional<long> FormatArgument(const Arguments& arguments)
 {
     return arguments.Has(1) ? std::optional<long>{arguments.At(1).Number()} : std::nullopt;
@@ -72,7 +80,10 @@ void DocumentObject::SaveAs(const std::wstring& path, std::optional<long> format
 {
     const SaveFormat& chosen = Opened().Format(format);
     if (!m_session.MayBeSaved(*this)) return;
-    m_document.SaveAs(path, chosen, Fault());
+    const std::wstring address = Widen(m_session.Settings().Setting("documents.url"));
+    const bool inCloud = !address.empty() && FolderOf(path) == UserDocumentsFolder(m_session.Kind());
+    m_document.SaveAs(inCloud ? PathInCloud(path) : path, chosen, Fault());
+    if (inCloud) m_document.ShowAs(address + L"/" + m_document.Name());
     m_session.Changed();
 }
 
