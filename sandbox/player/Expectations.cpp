@@ -79,6 +79,16 @@ void ExpectControl(Stage&, Run& run, const Step& step)
     });
 }
 
+// A part of the form's status bar, by its number from 1.
+void ExpectPart(Stage&, Run& run, const Step& step)
+{
+    run.WaitOn(L"form", [&](HWND form) {
+        const HWND statusBar = ::FindWindowExW(form, nullptr, STATUSCLASSNAMEW, nullptr);
+        const auto text = PartText(statusBar, std::stoi(step.At(0)) - 1);
+        return Unless(text == step.At(1), L"it is " + Quoted(text));
+    });
+}
+
 void ExpectCaption(Stage&, Run& run, const Step& step)
 {
     run.WaitOn(L"form", [&](HWND form) {
@@ -163,7 +173,7 @@ constexpr StepRow kSteps[] = {
     {"expect command", 2, 2, &ExpectCommand},     {"expect closebox", 1, 1, &ExpectCloseBox},
     {"expect hourglass", 1, 1, &ExpectHourglass}, {"expect menu", 2, kAny, &ExpectMenu},
     {"expect document", 1, 1, &ExpectDocument},   {"expect host", 1, 1, &ExpectHost},
-    {"expect addin", 1, 1, &ExpectAddIn},
+    {"expect addin", 1, 1, &ExpectAddIn},         {"expect part", 2, 2, &ExpectPart},
 };
 
 } // namespace

@@ -127,6 +127,22 @@ std::wstring ShorteningProblem(const std::wstring& shown, const std::wstring& ti
     return isWhole || tip.starts_with(shown.substr(0, shown.size() - 1)) ? L"" : L"is shortened without a tooltip";
 }
 
+// Each part of a status bar shows its text within its edges; only a shortened one needs the tooltip.
+std::wstring StatusProblem(HWND form, const Item& item)
+{
+    const auto parts = static_cast<int>(Ask(item.window, SB_GETPARTS).value_or(0));
+    for (int part = 0; part < parts; ++part) {
+        static RECT place; // lives on: see Ask
+        static_cast<void>(Ask(item.window, SB_GETRECT, static_cast<WPARAM>(part), reinterpret_cast<LPARAM>(&place)));
+        const std::wstring text = PartText(item.window, part).value_or(L"");
+        if (Measure(item, text, DT_SINGLELINE | DT_NOPREFIX, 0).cx > place.right - place.left)
+            return L"cuts \"" + text + L"\" off";
+        const std::wstring problem = ShorteningProblem(text, TipOf(form, item.window));
+        if (!problem.empty()) return problem;
+    }
+    return {};
+}
+
 std::wstring TextProblem(HWND form, const Item& item)
 {
     const bool isChoice = Is(item, WC_COMBOBOXW) && (item.style & CBS_DROPDOWNLIST) == CBS_DROPDOWNLIST;
@@ -134,6 +150,7 @@ std::wstring TextProblem(HWND form, const Item& item)
                              (Is(item, WC_EDITW) && (item.style & ES_READONLY)) || isChoice;
     const bool takesALine = isShownText || Is(item, WC_EDITW) || Is(item, WC_COMBOBOXW);
     if (takesALine && !IsFrame(item) && !HasLine(item)) return L"is lower than a line of its text";
+    if (Is(item, STATUSCLASSNAMEW)) return StatusProblem(form, item);
     if (!isShownText || item.text.empty()) return {};
     const std::wstring tip = WithoutMarks(TipOf(form, item.window));
     const std::wstring shown = WithoutMarks(item.text);
@@ -143,7 +160,8 @@ std::wstring TextProblem(HWND form, const Item& item)
     const bool drawsEllipsis =
         (Is(item, WC_STATICW) && (item.style & SS_ELLIPSISMASK)) || (isBox && (hasKeyboard || EndsInDots(item)));
     if (!drawsEllipsis) return L"cuts \"" + item.text + L"\" off";
-    return tip == shown ? L"" : L"cuts \"" + item.text + L"\" off without a tooltip";
+    const bool tellsAll = tip == shown || tip.starts_with(shown + L"\r\n"); // it may tell more in further lines
+    return tellsAll ? L"" : L"cuts \"" + item.text + L"\" off without a tooltip";
 }
 
 // The title bar's text stands between the form's frame and the button that closes it.

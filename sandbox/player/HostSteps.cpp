@@ -118,6 +118,11 @@ void Property(Stage& stage, Run& run, const Step& step)
     });
 }
 
+void Give(Stage& stage, Run& run, const Step& step)
+{
+    run.OnUi([&] { stage.SetProperty(step.At(0), step.At(1)); });
+}
+
 bool HasRun(Stage& stage, Run& run, const Step& step)
 {
     return run.OnUi([&] { return stage.HasRun(step.At(0)); });
@@ -152,6 +157,7 @@ constexpr StepRow kSteps[] = {
     {"macro", 2, 2, &Macro},       {"show", 1, 1, &Show},
     {"property", 2, 2, &Property}, {"ran", 1, 1, &Ran},
     {"no macro", 1, 1, &NoMacro},  {"registry", 3, 3, &RegistryValue},
+    {"give", 2, 2, &Give},
 };
 
 } // namespace

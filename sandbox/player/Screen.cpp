@@ -117,14 +117,18 @@ std::optional<std::wstring> WindowText(HWND window) { return Answer(window, WM_G
 std::optional<std::wstring> ControlText(HWND control)
 {
     if (IsClass(control, WC_LISTBOXW)) return ListEntry(control);
-    if (IsClass(control, STATUSCLASSNAMEW))
-        return Answer(control, SB_GETTEXTW, 0); // a part holds 65535 letters at most
+    if (IsClass(control, STATUSCLASSNAMEW)) return PartText(control, 0);
     if (IsClass(control, WC_TREEVIEWW)) return ChosenPath(control);
     if (IsClass(control, PROGRESS_CLASSW)) {
         const auto position = Ask(control, PBM_GETPOS);
         return position ? std::optional{std::to_wstring(*position)} : std::nullopt;
     }
     return WindowText(control);
+}
+
+std::optional<std::wstring> PartText(HWND statusBar, int part)
+{
+    return Answer(statusBar, SB_GETTEXTW, static_cast<WPARAM>(part)); // a part holds 65535 letters at most
 }
 
 std::wstring WithoutMarks(std::wstring caption)

@@ -29,6 +29,9 @@ namespace corvane::player
 // part of a status bar, the position of a progress bar.
 [[nodiscard]] std::optional<std::wstring> ControlText(HWND control);
 
+// What a user reads in a part of a status bar, counted from 0.
+[[nodiscard]] std::optional<std::wstring> PartText(HWND statusBar, int part);
+
 [[nodiscard]] std::wstring WithoutMarks(std::wstring caption); // without any "&"
 
 [[nodiscard]] bool IsChecked(HWND box);

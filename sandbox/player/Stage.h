@@ -46,6 +46,7 @@ public:
     virtual void Activate(const std::wstring& name) = 0;
     [[nodiscard]] virtual std::optional<std::wstring> ActiveName() const = 0;
     [[nodiscard]] virtual std::optional<std::wstring> Property(const std::wstring& name) const = 0;
+    virtual void SetProperty(const std::wstring& name, const std::wstring& text) = 0;
 
     // A command is named by its ribbon control's id or its menu entry's tag; pressing it returns when its windows are
     // closed, as does a call of the add-in's public controller.

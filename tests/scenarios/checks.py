@@ -106,7 +106,7 @@ def check(scenario, outcome):
         check_all_requests(scenario.requests, outcome)
     for word, rest in scenario.checks:
         require(word in CHECKS, f"no check is named {word}")
-        CHECKS[word](outcome, rest)
+        CHECKS[word](outcome, rest.replace("${HOST}", outcome.server.url.partition("//")[2]))
 
 
 def repeated(line):

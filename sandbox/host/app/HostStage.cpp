@@ -55,6 +55,13 @@ std::optional<std::wstring> HostStage::Property(const std::wstring& name) const
     return std::nullopt;
 }
 
+void HostStage::SetProperty(const std::wstring& name, const std::wstring& text)
+{
+    auto& properties = Active().File().Custom();
+    std::erase_if(properties, [wanted = corvane::ToUtf8(name)](const auto& one) { return one.name == wanted; });
+    properties.push_back({corvane::ToUtf8(name), PropertyType::Text, corvane::ToUtf8(text)});
+}
+
 bool HostStage::HasCommand(const std::wstring& name) const { return m_host.HasCommand(corvane::ToUtf8(name)); }
 void HostStage::Press(const std::wstring& name) { m_host.Press(corvane::ToUtf8(name)); }
 

@@ -30,6 +30,7 @@ public:
     void Activate(const std::wstring& name) override;
     [[nodiscard]] std::optional<std::wstring> ActiveName() const override;
     [[nodiscard]] std::optional<std::wstring> Property(const std::wstring& name) const override;
+    void SetProperty(const std::wstring& name, const std::wstring& text) override;
 
     [[nodiscard]] bool HasCommand(const std::wstring& name) const override;
     void Press(const std::wstring& name) override;
