@@ -14,6 +14,7 @@
 #include "support/CTraceLog.h"
 #include "support/Conversions.h"
 #include "support/Help.h"
+#include "support/ServerPolicy.h"
 #include "support/frmAbout.h"
 
 namespace corvane
@@ -165,8 +166,10 @@ void CAddInMenus::Save(const SaveCommand& command, const HostDocument& document,
     }
     m_binding = ReadBinding(document);
     m_lDocumentKind = ClassifyBoundDocument(m_binding);
+    const ServerDecision named = DecideServer(m_binding.server);
+    m_binding.server = named.Usable();
     if (!SkipsTree(command, m_binding)) {
-        PickTarget(command);
+        PickTarget(command, named.address); // there the user is told why it is refused
         document.SetInteractive(false);
     }
     if (!HasTarget(command, m_binding)) return;
@@ -177,14 +180,14 @@ void CAddInMenus::Save(const SaveCommand& command, const HostDocument& document,
     busy.ShowModal();
 }
 
-void CAddInMenus::PickTarget(const SaveCommand& command)
+void CAddInMenus::PickTarget(const SaveCommand& command, const std::wstring& server)
 {
     frmSaveTo tree;
     tree.DialogType = static_cast<std::int32_t>(command.tree);
-    tree.ServerURL = m_binding.server;
+    tree.ServerURL = server;
     tree.target = StartOf(command, m_binding);
     tree.ShowModal();
-    m_binding.server = tree.ServerURL;
+    m_binding.server = DecideServer(tree.ServerURL).Usable(); // a tree that was left has the one it was given
     static_cast<Target&>(m_binding) = tree.target;
     tree.Unload();
 }

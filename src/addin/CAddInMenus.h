@@ -63,7 +63,7 @@ private:
     [[nodiscard]] bool RefusesWhileEditing() const noexcept;
     void RunSave(const SaveCommand& command, std::wstring_view caller) noexcept;
     void Save(const SaveCommand& command, const HostDocument& document, frmBusy& busy);
-    void PickTarget(const SaveCommand& command);
+    void PickTarget(const SaveCommand& command, const std::wstring& server);
     [[nodiscard]] int HostVersion() const;
 
     LateBound m_oApplication;

@@ -2,6 +2,7 @@
 
 #include "platform/Owners.h"
 #include "support/ServerList.h"
+#include "support/ServerRules.h"
 #include "webservice/AnswerRules.h"
 #include "webservice/Operations.h"
 #include "webservice/RequestText.h"
@@ -112,7 +113,7 @@ UniqueInternet OpenSession(std::chrono::seconds limit)
 ServerAnswer AskServer(const std::wstring& server, std::chrono::seconds limit)
 {
     const std::wstring address = corvane::VerifyServerURL(server);
-    ServerAnswer result{.server = WithoutCredentials(address), .outcome = {}, .good = false};
+    ServerAnswer result{.server = corvane::WithoutCredentials(address), .outcome = {}, .good = false};
     const std::wstring question = corvane::Endpoint(address, corvane::kServicePage) + L"?" +
                                   corvane::RequestQuery(corvane::Operations::kGetUserId.name, {});
     const UniqueInternet session = OpenSession(limit);
@@ -123,13 +124,6 @@ ServerAnswer AskServer(const std::wstring& server, std::chrono::seconds limit)
     else
         result.outcome = LastError();
     return result;
-}
-
-std::wstring WithoutCredentials(const std::wstring& address)
-{
-    const std::size_t begin = address.find(L"//") == std::wstring::npos ? 0 : address.find(L"//") + 2;
-    const std::size_t at = address.rfind(L'@', address.find_first_of(L"/?#", begin));
-    return at == std::wstring::npos || at < begin ? address : address.substr(0, begin) + L"***" + address.substr(at);
 }
 
 } // namespace diagnose

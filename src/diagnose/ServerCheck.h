@@ -11,7 +11,4 @@ namespace diagnose
 // Asks the server for the user's id, with the connection settings that the add-in also gets from Windows.
 [[nodiscard]] ServerAnswer AskServer(const std::wstring& server, std::chrono::seconds limit);
 
-// The address with what stands before an "@" in its host part replaced by stars.
-[[nodiscard]] std::wstring WithoutCredentials(const std::wstring& address);
-
 } // namespace diagnose

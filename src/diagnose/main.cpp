@@ -14,6 +14,8 @@
 #include "support/CMRUServers.h"
 #include "support/Conversions.h"
 #include "support/Policy.h"
+#include "support/ServerList.h"
+#include "support/ServerPolicy.h"
 #include "support/Settings.h"
 
 #include <cstdio>
@@ -99,6 +101,22 @@ std::wstring FolderOfLibrary(const Facts& facts)
     return corvane::Library::Folder();
 }
 
+void TellServerPolicy(Report& report, const corvane::ServerPolicy& policy)
+{
+    std::vector<std::wstring> offered;
+    for (const std::wstring& server : policy.offered)
+        offered.push_back(corvane::WithoutCredentials(server));
+    std::vector<std::wstring> renames;
+    for (const std::wstring& rename : policy.renames)
+        renames.push_back(corvane::WithoutCredentialsInText(rename));
+    std::vector<std::wstring> rules;
+    if (policy.offeredOnly) rules.emplace_back(L"only these");
+    if (policy.requireHttps) rules.emplace_back(L"https only");
+    report.Line(L"Servers by policy", Joined(offered));
+    report.Line(L"Server rules by policy", Joined(rules));
+    report.Line(L"Renamed servers by policy", Joined(renames));
+}
+
 void TellSettings(Report& report, const Facts& facts)
 {
     const std::wstring folder = FolderOfLibrary(facts);
@@ -109,10 +127,8 @@ void TellSettings(Report& report, const Facts& facts)
     report.Line(L"Trace", (settings.traceEnabled ? std::wstring{L"on"} : L"off") + source(L"EnableTraceLogs"));
     report.Line(L"Request time-out",
                 std::to_wstring(settings.requestTimeout.count()) + L" s" + source(L"RequestTimeoutSeconds"));
-    std::vector<std::wstring> preset;
-    for (const std::wstring& server : corvane::Policy::List(L"ServerURL"))
-        preset.push_back(WithoutCredentials(server));
-    report.Line(L"Servers by policy", Joined(preset));
+    TellServerPolicy(report, corvane::ReadServerPolicy());
+    report.Line(L"Client events", corvane::Policy::Number(L"ClientEvents") == 0 ? L"off (by policy)" : L"on");
     report.Line(L"MSXML", Joined(ParserVersions()));
 }
 
@@ -135,7 +151,12 @@ std::optional<ServerAnswer> Ask(const Options& options)
     const auto offered = corvane::CMRUServers{}.GetURLs();
     if (server.empty() && !offered.empty()) server = offered.front();
     if (server.empty()) return std::nullopt;
-    return AskServer(server, options.limit);
+    const corvane::ServerDecision decision = corvane::DecideServer(corvane::VerifyServerURL(server));
+    ServerAnswer answer = AskServer(decision.address, options.limit);
+    if (decision.refusal == corvane::ServerRefusal::None) return answer;
+    answer.good = false;
+    answer.outcome += L", but the policy refuses it";
+    return answer;
 }
 
 int Run(const Options& options)

@@ -7,6 +7,7 @@
 #include "support/CCustomNames.h"
 #include "support/Conversions.h"
 #include "support/Help.h"
+#include "support/ServerPolicy.h"
 #include "webservice/Operations.h"
 
 namespace corvane
@@ -140,27 +141,31 @@ bool frmSaveTo::Work(const std::function<void()>& work)
     return IsWanted() && !failure;
 }
 
-void frmSaveTo::Go()
+bool frmSaveTo::Go()
 {
-    if (!m_tree || Text(cmbServerURL).size() <= kSchemeOnly.size()) return;
-    const std::wstring server = m_servers->VerifyURL(Text(cmbServerURL));
+    if (!m_tree || Text(cmbServerURL).size() <= kSchemeOnly.size()) return true;
+    const ServerDecision decision = DecideServer(m_servers->VerifyURL(Text(cmbServerURL)));
+    const std::wstring& server = decision.address;
+    const bool isRefused = decision.refusal != ServerRefusal::None;
     SetText(cmbServerURL, server);
-    if (server != m_currentServer) { // another server's targets are none of this one's
+    if (server != m_currentServer || isRefused) { // another server's targets are none of this one's
         m_tree->Clear();
         ShowTree(true);
         m_treeLoaded = false;
     }
     m_currentServer = server;
     Work([&] {
-        if (!CheckEntryCount()) return;
+        if (isRefused) ShowMessage(RefusalText(decision), kStyleExclamation);
+        if (isRefused || !CheckEntryCount()) return;
         LoadTree(server);
         m_servers->AddURL(Trim(server));
     });
+    return !isRefused;
 }
 
 void frmSaveTo::cmdFilter_Click()
 {
-    if (Text(cmbServerURL) != m_currentServer) Go();
+    if (Text(cmbServerURL) != m_currentServer && !Go()) return;
     if (!IsWanted()) return;
     Work([this] {
         ShowFilter(false);
@@ -177,7 +182,7 @@ void frmSaveTo::FocusTree()
 
 void frmSaveTo::cmdOK_Click()
 {
-    if (Text(cmbServerURL) != m_currentServer) return Go();
+    if (Text(cmbServerURL) != m_currentServer) return static_cast<void>(Go());
     if (!m_tree) return; // it could not be made
     const auto picked = TargetOfKey(Mode(), m_tree->SelectedKey());
     if (!picked) {

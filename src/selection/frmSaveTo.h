@@ -67,7 +67,9 @@ private:
     // Does what waits for the server, with the controls out of use; tells of an error. True when it was done and the
     // window is still wanted.
     bool Work(const std::function<void()>& work);
-    void Go();
+    // Fetches the tree of the server in the box. False when the administrators refuse that server: then it is not
+    // asked.
+    bool Go();
     void SetWorking(bool working);
     void FocusTree();
     [[nodiscard]] XmlDocument QueryTree() const;

@@ -9,6 +9,7 @@
 #include "shared/SaveReply.h"
 #include "shared/SaveResult.h"
 #include "support/CCustomNames.h"
+#include "support/Policy.h"
 
 namespace corvane
 {
@@ -30,6 +31,7 @@ void RunMacro(const HostDocument& document, const std::wstring& macro) noexcept
 bool ClientEventsEnabled(const HostDocument& document)
 {
     const ProcedureScope scope{L"SharedCode.ClientEventsEnabled"};
+    if (Policy::Number(L"ClientEvents") == 0) return false;
     ClientEventFacts facts{std::nullopt, document.Traits(), document.Version()};
     if (CustomPropertyExists(document, kDoEventsProperty))
         facts.doEvents = GetCustomProperty(document, kDoEventsProperty);

@@ -8,7 +8,8 @@ namespace corvane
 
 class HostDocument;
 
-// Whether the document's save macros are to run: its own switch or the host decides, then the server's setting.
+// Whether the document's save macros are to run: never where the policy forbids them, else its own switch or the host
+// decides, then the server's setting.
 [[nodiscard]] bool ClientEventsEnabled(const HostDocument& document);
 
 // Run the document's macro before a save and after a recorded one. Every failure is ignored.

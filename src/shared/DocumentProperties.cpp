@@ -4,6 +4,7 @@
 #include "shared/HostDocument.h"
 #include "shared/HostTraits.h"
 #include "support/Conversions.h"
+#include "support/ServerRules.h"
 
 #include <algorithm>
 #include <optional>
@@ -93,7 +94,7 @@ void SetBindingProperties(const HostDocument& document, const DocumentBinding& b
     const ProcedureScope scope{L"SharedCode.SetBindingProperties"};
     const LateBound properties = PropertiesOf(document);
     BindingBackup backup{properties};
-    SetCustomProperty(properties, kServerProperty, binding.server, kPropertyText, document);
+    SetCustomProperty(properties, kServerProperty, WithoutCredentials(binding.server), kPropertyText, document);
     for (const auto& [name, id] : kBindingProperties)
         SetCustomProperty(properties, name, binding.*id, kPropertyNumber, document);
     backup.Drop();
@@ -119,7 +120,7 @@ DocumentBinding ReadBinding(const HostDocument& document)
     constexpr std::int32_t Binding::*kFirst[] = {&Binding::projectId,      &Binding::deliverableId,
                                                  &Binding::gateDocumentId, &Binding::activityId,
                                                  &Binding::relatedFileId,  &Binding::excelReportId};
-    binding.server = GetCustomProperty(document, kServerProperty);
+    binding.server = DocumentServer(GetCustomProperty(document, kServerProperty));
     std::ranges::for_each(kFirst, read);
     binding.projectReport = ToBooleanSafe(GetCustomProperty(document, kProjectReportProperty));
     read(&Binding::templateLibraryId);

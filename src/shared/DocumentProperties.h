@@ -27,15 +27,15 @@ inline constexpr std::int32_t kPropertyText = 4;
 void SetCustomProperty(const LateBound& oProperties, const std::wstring& sName, const Variant& vValue,
                        std::int32_t lType, const HostDocument& document);
 
-// Writes the whole binding into the active document, or leaves the document's as it was and throws the host's error, in
-// Excel number 91 when there is no document.
+// Writes the whole binding into the active document, its server without user name and password, or leaves the
+// document's as it was and throws the host's error, in Excel number 91 when there is no document.
 void SetBindingProperties(const HostDocument& document, const DocumentBinding& binding);
 
 // The same where the document can carry properties, made sure to be written by the next save. Throws also when the
 // document is marked as final.
 void BindDocument(const HostDocument& document, const DocumentBinding& binding);
 
-// The binding of the active document.
+// The binding of the active document. Its server is empty where the document names none that it may.
 [[nodiscard]] DocumentBinding ReadBinding(const HostDocument& document);
 
 } // namespace corvane

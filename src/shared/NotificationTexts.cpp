@@ -1,5 +1,7 @@
 #include "shared/NotificationTexts.h"
 
+#include "support/ServerRules.h"
+
 namespace corvane
 {
 namespace
@@ -49,7 +51,8 @@ std::wstring NotificationLink(const NotificationFacts& facts)
         page = row.page;
         idField = row.idField;
     }
-    return facts.server + L"/?P=" + page + std::to_wstring(facts.projectId) + idField + std::to_wstring(facts.targetId);
+    return WithoutCredentials(facts.server) + L"/?P=" + page + std::to_wstring(facts.projectId) + idField +
+           std::to_wstring(facts.targetId);
 }
 
 std::wstring NotificationSubject(const NotificationFacts& facts)

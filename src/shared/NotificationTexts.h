@@ -37,7 +37,7 @@ struct NotificationFacts
 [[nodiscard]] std::wstring NotificationSubject(const NotificationFacts& facts);
 [[nodiscard]] std::wstring NotificationBody(const NotificationFacts& facts);
 
-// The address of the target's page on the server.
+// The address of the target's page on the server, without user name and password.
 [[nodiscard]] std::wstring NotificationLink(const NotificationFacts& facts);
 
 } // namespace corvane

@@ -4,6 +4,7 @@
 #include "platform/Registry.h"
 #include "support/Policy.h"
 #include "support/ServerList.h"
+#include "support/ServerPolicy.h"
 
 namespace corvane
 {
@@ -14,25 +15,25 @@ constexpr const wchar_t* kListKey = L"Software\\Halvex\\Corvane\\ServerURLMRU";
 std::wstring ValueName(std::size_t index) { return L"MRUServerURL" + std::to_wstring(index + 1); }
 } // namespace
 
-CMRUServers::CMRUServers()
+CMRUServers::CMRUServers() : m_policy{ReadServerPolicy()}
 {
     const ProcedureScope scope{L"CMRUServers.Class_Initialize"};
     m_urls.resize(ServerCount(Policy::Number(L"ServerURLCount"), Registry::ReadNumber(kListKey, L"MRUServerURLCount")));
     for (std::size_t index = 0; index < m_urls.size(); ++index)
         m_urls[index] = Registry::ReadText(kListKey, ValueName(index)).value_or(L"");
-    m_preset = Policy::List(L"ServerURL");
+    m_urls = RememberedServers(m_urls, m_policy.renames);
 }
 
 std::vector<std::wstring> CMRUServers::GetURLs() const
 {
     const ProcedureScope scope{L"CMRUServers.GetURLs"};
-    return WithPreset(m_urls, m_preset);
+    return WithoutRefused(WithPreset(m_urls, m_policy.offered), m_policy);
 }
 
 void CMRUServers::AddURL(const std::wstring& url)
 {
     const ProcedureScope scope{L"CMRUServers.AddURL"};
-    MoveToFront(m_urls, url);
+    MoveToFront(m_urls, WithoutCredentials(url));
 }
 
 void CMRUServers::SaveURLs() const

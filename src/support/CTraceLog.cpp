@@ -3,6 +3,7 @@
 #include "platform/CodePage.h"
 #include "platform/Files.h"
 #include "platform/Procedure.h"
+#include "support/ServerRules.h"
 #include "support/TraceText.h"
 
 namespace corvane
@@ -43,7 +44,8 @@ void CTraceLog::WriteLine(std::wstring_view text, std::int32_t extraIndent) noex
 {
     if (!m_enabled) return;
     Ignoring([&] {
-        const std::string line = ToCodePage(TraceLine(Now(), m_level, extraIndent, text) + L"\r\n");
+        const std::string line =
+            ToCodePage(TraceLine(Now(), m_level, extraIndent, WithoutCredentialsInText(text)) + L"\r\n");
         DWORD written = 0;
         if (m_file) ::WriteFile(m_file.Get(), line.data(), static_cast<DWORD>(line.size()), &written, nullptr);
     });

@@ -14,7 +14,8 @@ namespace corvane
 {
 
 // Writes the entry and exit of procedures, named values, free lines and caught errors to a file of its own, when the
-// settings switch tracing on; else every call costs almost nothing. Nothing here throws or tells the user anything.
+// settings switch tracing on; else every call costs almost nothing. No line holds the user name or password of an
+// address. Nothing here throws or tells the user anything.
 class CTraceLog
 {
 public:

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Checks the policy templates: namespaces, every reference between the two files, and that the add-in reads the values
-that they set. Exits non-zero with one line for each fault."""
+that they set, and that the guide for administrators lists them. Exits non-zero with one line for each fault."""
 import pathlib, re, sys
 import xml.etree.ElementTree as ET
 
@@ -29,10 +29,10 @@ def faults():
     for one in template.iter():
         if one.get("ref") and one.get("ref") not in names:
             yield f"{one.get('ref')} is referred to, but not defined"
-    yield from unread(template)
+    yield from unread(template, texts)
 
 
-def unread(template):
+def unread(template, texts):
     """Values that a policy sets and no source reads, and keys that are not the add-in's."""
     source = "".join(file.read_text(encoding="utf-8") for file in (TOP / "src").rglob("*.cpp"))
     read = {name for name in re.findall(r'Policy::Number\(L"(\w+)"\)', source)}
@@ -44,7 +44,11 @@ def unread(template):
             yield f"the list {one.get('id')} is in another key"
     for name in read ^ values:
         yield f"the value {name} is " + ("never set by a policy" if name in read else "never read")
+    rows = (TOP / "docs/admin-guide.md").read_text(encoding="utf-8")
+    titles = {one.get("id"): one.text for one in texts.iter(NAMESPACE + "string")}
     for one in template.iter(NAMESPACE + "policy"):
+        if f"| {titles[one.get('name')]} | `{one.get('name')}" not in rows:
+            yield f"the guide does not list {one.get('name')}"
         if not one.get("key").startswith(KEY):
             yield f"the policy {one.get('name')} is in another key"
 

@@ -58,7 +58,7 @@ TEST(Binding, IsReadInTheOrderOfTheInterface)
                                    L"KRX_SYS_Server", L"KRX_SYS_ProjectID", L"KRX_SYS_DeliverableID",
                                    L"KRX_SYS_GateDocumentID", L"KRX_SYS_ActivityID", L"KRX_SYS_RelatedFileID",
                                    L"HALVEX_MSExcelReportID", L"KRX_SYS_ProjectReport", L"KRX_SYS_TemplateLibraryID"}));
-    EXPECT_EQ(binding.server, L"1");
+    EXPECT_EQ(binding.server, L"") << "1 is no address";
     EXPECT_EQ((std::vector{binding.projectId, binding.deliverableId, binding.gateDocumentId, binding.activityId,
                            binding.relatedFileId, binding.excelReportId, binding.templateLibraryId}),
               (std::vector{2, 3, 4, 5, 6, 7, 9}));

@@ -250,6 +250,8 @@ TEST_F(TreeForm, KeepsAListOfItsCountWithItsHolesBehindTheAdministratorsServers)
     EXPECT_EQ(Registry::ReadNumber(kListKey, L"MRUServerURLCount"), 3);
     Registry::WriteNumber(kPolicies, L"ServerURLCount", 2);
     EXPECT_EQ(CMRUServers{}.GetURLs(), (Urls{L"http://p", L"N"}));
+    Registry::WriteNumber(kPolicies, L"OfferedServersOnly", 1);
+    EXPECT_EQ(CMRUServers{}.GetURLs(), (Urls{L"http://p"}));
 }
 
 TEST_F(TreeForm, IsFollowedByABusyWindowThatStartsItsProcedureOnce)

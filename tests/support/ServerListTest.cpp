@@ -73,15 +73,9 @@ TEST(ServerList, TakesItsLengthFromThePolicyThenTheUser)
     EXPECT_EQ(ServerCount({}, INT32_MAX), 1000U);
 }
 
-struct AddressCase
-{
-    const wchar_t* given;
-    const wchar_t* expected;
-};
-
 TEST(ServerList, BringsAnAddressIntoItsForm)
 {
-    constexpr AddressCase kCases[] = {
+    constexpr const wchar_t* kCases[][2] = {
         {L"  Host.Example/Path ", L"http://host.example/path"},
         {L"HTTPS://Host", L"https://host"},
         {L"http://Host:8080/", L"http://host:8080/"},
