@@ -56,7 +56,7 @@ void frmSaveAssignment::LoadDeliverable()
     const XmlDocument answer = QueryXml(ServerURL, Operations::kGetProjectDeliverable, {DeliverableID});
     const XmlNode row = FirstRow(answer);
     m_facts.kind = TargetKind::Deliverable;
-    SetText(txtProject, row.Text(L"ProjectName"));
+    ShowProject(row.Text(L"ProjectName"));
     SetText(txtDeliverable, row.Text(L"DeliverableName"));
     DeliverableID = Id(row, L"DeliverableID");
     m_statusNote = row.Text(L"StatusComment");
@@ -77,7 +77,7 @@ void frmSaveAssignment::LoadActivity()
     const XmlDocument answer = QueryXml(ServerURL, Operations::kGetProjectActivity, {ActivityID});
     const XmlNode row = FirstRow(answer);
     m_facts.kind = TargetKind::Activity;
-    SetText(txtProject, row.Text(L"ProjectName"));
+    ShowProject(row.Text(L"ProjectName"));
     SetText(txtDeliverable, row.Text(L"DeliverableName"));
     SetText(txtActivity, row.Text(L"ActivityName"));
     m_statusNote = row.Text(L"ActivityStatusNote");

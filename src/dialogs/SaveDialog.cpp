@@ -10,6 +10,7 @@
 #include "shared/SaveResult.h"
 #include "support/CCustomNames.h"
 #include "support/Conversions.h"
+#include "support/ServerRules.h"
 #include "webservice/WebService.h"
 
 namespace corvane
@@ -49,6 +50,7 @@ void SaveDialog::Form_Load()
 void SaveDialog::LoadInputs()
 {
     SetStatus(StatusBar1, L"Ready");
+    ShowStatusDetail();
     m_terms.corvane = CustomName(L"Corvane");
     m_terms.deliverable = CustomName(L"Deliverable");
     m_terms.activity = CustomName(L"Activity");
@@ -69,6 +71,13 @@ void SaveDialog::LoadInputs()
     Show(cmdSaveAndSend, m_mailClientIsOutlook);
     if (failure) throw *failure;
     if (!ServerURL.empty()) ReloadTarget();
+}
+
+void SaveDialog::ShowStatusDetail() const { SetStatusDetail(StatusBar1, WithoutCredentials(ServerURL)); }
+
+void SaveDialog::ShowProject(const std::wstring& name) const
+{
+    SetText(txtProject, name, WithoutCredentials(ServerURL));
 }
 
 std::int32_t SaveDialog::UserId() const { return ToLongSafe(QueryText(ServerURL, Operations::kGetUserId, {})); }
@@ -160,6 +169,7 @@ void SaveDialog::cmdChange_Click()
     if (tree.ServerURL == ServerURL && IsSameTarget(m_kind.tree, tree.target, target)) return;
     ServerURL = tree.ServerURL;
     target = tree.target;
+    ShowStatusDetail();
     ReloadTarget();
     if (!m_left) SetFocusTo(FirstControl());
 }

@@ -100,6 +100,8 @@ protected:
     // Tells the user, and macros that ask, why the target is refused, unless the user has left the dialog meanwhile.
     void Tell(const std::wstring& text, UINT style) const;
 
+    // Shows the target's project; the tooltip tells the server that it is on.
+    void ShowProject(const std::wstring& name) const;
     // Tells why the rules refuse the target.
     [[nodiscard]] TargetState Refuse(Refusal refusal) const;
     // Puts the customer's word for the target's type into the caption and the line above the buttons.
@@ -132,6 +134,8 @@ private:
 
     [[nodiscard]] Entries ReadEntries() const;
     void LoadInputs();
+    // What stands beside the status: the server that is saved to.
+    void ShowStatusDetail() const;
     void ReloadTarget();
     void SetControlsEnabled(bool enabled);
     void EnableSave(bool enabled) const noexcept;

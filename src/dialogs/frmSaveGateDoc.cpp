@@ -67,7 +67,7 @@ void frmSaveGateDoc::LoadGateDocument()
     const XmlDocument answer = QueryXml(ServerURL, Operations::kGetProjectGateDocument, {GateDocumentID, m_userId});
     const XmlNode row = FirstRow(answer);
     Terms().projectName = row.Text(L"ProjectName");
-    SetText(txtProject, Terms().projectName);
+    ShowProject(Terms().projectName);
     SetText(txtGateDocument, row.Text(L"Name"));
     SetText(txtGate, row.Text(L"GateName"));
     m_statusComment = row.Text(L"StatusComment");

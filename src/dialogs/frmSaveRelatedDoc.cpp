@@ -52,7 +52,7 @@ bool frmSaveRelatedDoc::LoadNewDocument()
     const XmlDocument answer = QueryXml(ServerURL, Operations::kGetProject, {ProjectID});
     const XmlNode project = FirstRow(answer);
     if (ToBooleanSafe(project.Text(L"Closed"))) return false;
-    SetText(txtProject, project.Text(L"ProjectName"));
+    ShowProject(project.Text(L"ProjectName"));
     SetText(txtName, Document.Title());
     m_description.clear();
     SetText(txtDescription, Document.BodyStart());
@@ -70,7 +70,7 @@ bool frmSaveRelatedDoc::LoadExistingDocument()
     const XmlDocument answer = QueryXml(ServerURL, Operations::kGetProjectRelatedFile, {RelatedDocID});
     const XmlNode document = FirstRow(answer);
     if (ToBooleanSafe(document.Text(L"ProjectClosed"))) return false;
-    SetText(txtProject, document.Text(L"ProjectName"));
+    ShowProject(document.Text(L"ProjectName"));
     SetText(txtName, document.Text(L"Name"));
     m_description = document.Text(L"Description");
     SetText(txtDescription, InLines(m_description));

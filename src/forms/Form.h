@@ -89,8 +89,9 @@ protected:
     [[nodiscard]] bool IsOpen() const noexcept { return m_shown; }
     [[nodiscard]] HWND Control(int control) const noexcept { return ::GetDlgItem(m_window, control); }
     [[nodiscard]] std::wstring Text(int control) const;
-    // A text that its control, or the title bar, cannot show whole ends in an ellipsis and has a tooltip.
-    void SetText(int control, const std::wstring& text) const;
+    // A text that its control, or the title bar, cannot show whole ends in an ellipsis and has a tooltip; more is for
+    // the tooltip alone.
+    void SetText(int control, const std::wstring& text, const std::wstring& more = {}) const;
     void SetCaption(const std::wstring& text);
     void Enable(int control, bool enabled) const noexcept;
     void SetFocusTo(int control) const noexcept;
@@ -108,6 +109,8 @@ protected:
     void SelectAllOnCtrlA(int control) const noexcept;
     // Shows text in the status bar at once.
     void SetStatus(int statusBar, const std::wstring& text) const noexcept;
+    // Shows text in a part of its own at the status bar's end; without text there is no such part.
+    void SetStatusDetail(int statusBar, const std::wstring& text) const;
     // How far a progress bar has come, of the 100 that it counts to unless told otherwise.
     void SetProgress(int bar, int percent) const noexcept;
     // The font stays the caller's, who keeps it as long as the control.

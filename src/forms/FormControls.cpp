@@ -27,7 +27,10 @@ LRESULT CALLBACK SelectAllProcedure(HWND window, UINT message, WPARAM wParam, LP
 
 std::wstring Form::Text(int control) const { return WindowText(Control(control)); }
 
-void Form::SetText(int control, const std::wstring& text) const { m_tips.SetText(Control(control), text); }
+void Form::SetText(int control, const std::wstring& text, const std::wstring& more) const
+{
+    m_tips.SetText(Control(control), text, more);
+}
 
 void Form::SetCaption(const std::wstring& text)
 {
@@ -98,6 +101,11 @@ void Form::SetStatus(int statusBar, const std::wstring& text) const noexcept
 {
     ::SendMessageW(Control(statusBar), SB_SETTEXTW, 0, reinterpret_cast<LPARAM>(text.c_str()));
     ::UpdateWindow(Control(statusBar));
+}
+
+void Form::SetStatusDetail(int statusBar, const std::wstring& text) const
+{
+    m_tips.SetStatusDetail(Control(statusBar), text);
 }
 
 void Form::SetProgress(int bar, int percent) const noexcept

@@ -19,6 +19,7 @@ namespace
 {
 
 constexpr int kTipLettersALine = 60;
+constexpr int kDetailShare = 60; // percent of a status bar, at most
 
 // What decides how a control shows a text that is too long for it.
 enum class TextKind
@@ -131,7 +132,7 @@ FormTips::FormTips(HWND form) : m_form{form}, m_tooltip{CreateTooltipWindow(form
     }
 }
 
-void FormTips::SetText(HWND control, const std::wstring& text) const
+void FormTips::SetText(HWND control, const std::wstring& text, const std::wstring& more) const
 {
     if (control == nullptr) return;
     const TextKind kind = KindOf(control);
@@ -144,9 +145,27 @@ void FormTips::SetText(HWND control, const std::wstring& text) const
     std::wstring whole = isLiteral ? text : WithoutAccessKeys(text);
     TakeBack(control);
     NameBehind(control, whole);
-    if (hasRoom) return;
     if (!drawsAll) NameForReaders(control, whole);
-    AddTip(control, std::move(whole));
+    const std::wstring rest = hasRoom || more.empty() ? more : L"\r\n" + more;
+    if (!hasRoom || !rest.empty()) AddTip(control, (hasRoom ? L"" : whole) + rest);
+}
+
+void FormTips::SetStatusDetail(HWND statusBar, const std::wstring& text) const
+{
+    RECT client{};
+    ::GetClientRect(statusBar, &client);
+    const TextRuler ruler{statusBar};
+    const auto widthOf = [&](const std::wstring& part) {
+        const LONG width = ruler.Measure(part + L"00", DT_SINGLELINE | DT_NOPREFIX, 0).cx; // with its edges
+        return static_cast<int>(width + width / 10); // the bar may draw letters wider than they are measured
+    };
+    const std::wstring shown =
+        Shortened(text, [&](const std::wstring& part) { return widthOf(part) <= client.right * kDetailShare / 100; });
+    const int ends[] = {text.empty() ? -1 : static_cast<int>(client.right) - widthOf(shown), -1};
+    ::SendMessageW(statusBar, SB_SETPARTS, text.empty() ? 1 : 2, reinterpret_cast<LPARAM>(ends));
+    if (!text.empty()) ::SendMessageW(statusBar, SB_SETTEXTW, 1, reinterpret_cast<LPARAM>(shown.c_str()));
+    TakeBack(statusBar);
+    if (shown != text) AddTip(statusBar, text);
 }
 
 void FormTips::DrawEntry(const DRAWITEMSTRUCT& entry) const

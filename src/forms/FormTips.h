@@ -17,8 +17,13 @@ public:
     explicit FormTips(HWND form);
 
     // Puts a text into a control of the form, or into the form's title bar. That, labels, buttons, frames and texts
-    // that are only shown get a tooltip while they cannot show all of it.
-    void SetText(HWND control, const std::wstring& text) const;
+    // that are only shown get a tooltip while they cannot show all of it. What more there is to tell stands in the
+    // tooltip, below the text or alone.
+    void SetText(HWND control, const std::wstring& text, const std::wstring& more = {}) const;
+
+    // Shows a text in the second part of a status bar, which takes what it needs from the first, but leaves that room
+    // for a short text: a longer one here ends in an ellipsis and has a tooltip. Without text there is no second part.
+    void SetStatusDetail(HWND statusBar, const std::wstring& text) const;
 
     // Draws an entry of a combo box of the form. The chosen one has a tooltip while the box cannot show all of it.
     void DrawEntry(const DRAWITEMSTRUCT& entry) const;
