@@ -169,6 +169,7 @@ void FillBare(HWND tree, const Answer& answer)
     Stopwatch watch;
     ParseBare(answer);
     Tell("parse", watch.Milliseconds());
+    ::SendMessageW(tree, WM_SETREDRAW, FALSE, 0);
     HTREEITEM parents[5] = {TVI_ROOT};
     for (const Node& node : answer.nodes) {
         TVINSERTSTRUCTW insert{};
@@ -178,6 +179,7 @@ void FillBare(HWND tree, const Answer& answer)
         insert.item.pszText = const_cast<LPWSTR>(node.text.c_str());
         parents[node.depth + 1] = TreeView_InsertItem(tree, &insert);
     }
+    ::SendMessageW(tree, WM_SETREDRAW, TRUE, 0);
     Tell("time", watch.Milliseconds());
 }
 
