@@ -6,7 +6,7 @@
 
 #include "player/Run.h"
 #include "player/Screen.h"
-#include "player/Steps.h"
+#include "player/Script.h"
 
 namespace corvane::player
 {

@@ -6,9 +6,7 @@
 #include <commctrl.h>
 
 #include "platform/Owners.h"
-#include "player/ControlNames.h"
 #include "player/Screen.h"
-#include "player/Tooltip.h"
 
 namespace corvane::player
 {

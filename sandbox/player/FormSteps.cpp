@@ -7,8 +7,7 @@
 #include "player/Keys.h"
 #include "player/Run.h"
 #include "player/Screen.h"
-#include "player/Steps.h"
-#include "player/Tree.h"
+#include "player/Script.h"
 
 namespace corvane::player
 {
@@ -176,9 +175,8 @@ void Choose(Stage&, Run& run, const Step& step)
 
 void PressKeys(Stage& stage, Run& run, const std::wstring& keys)
 {
-    const KeyStroke stroke = ParseKey(keys);
     run.WaitFor([&] { return Unless(run.FocusedWindow() != nullptr, L"no window has the focus"); });
-    PressKey(stage.Queue(), stroke);
+    PressKey(stage.Queue(), keys);
     for (int work = 0; work < 3; ++work) // the press, the release, the end of the held keys: each is posted by the last
         run.Settle();
 }

@@ -2,7 +2,6 @@
 #include "platform/Utf8.h"
 #include "player/Run.h"
 #include "player/Script.h"
-#include "player/Steps.h"
 
 #include <sstream>
 
@@ -17,21 +16,17 @@ void Set(Stage& stage, Run& run, const Step& step)
     run.OnUi([&] { stage.Set(step.At(0), step.At(1)); });
 }
 
-void New(Stage& stage, Run& run, const Step&)
+// What the stage does by itself, with the step's word where it takes one.
+template<auto work>
+void Do(Stage& stage, Run& run, const Step& step)
 {
     run.AwaitReady();
-    run.OnUi([&] { stage.New(); });
-}
-
-void Open(Stage& stage, Run& run, const Step& step)
-{
-    run.AwaitReady();
-    run.OnUi([&] { stage.Open(step.At(0)); });
-}
-
-void Save(Stage& stage, Run& run, const Step&)
-{
-    run.OnUi([&] { stage.Save(); });
+    run.OnUi([&] {
+        if constexpr (std::is_invocable_v<decltype(work), Stage&>)
+            (stage.*work)();
+        else
+            (stage.*work)(step.At(0));
+    });
 }
 
 void SaveAs(Stage& stage, Run& run, const Step& step)
@@ -41,27 +36,12 @@ void SaveAs(Stage& stage, Run& run, const Step& step)
     run.OnUi([&] { stage.SaveAs(step.At(0), format); });
 }
 
-void Activate(Stage& stage, Run& run, const Step& step)
-{
-    run.OnUi([&] { stage.Activate(step.At(0)); });
-}
-
-void Close(Stage& stage, Run& run, const Step&)
-{
-    run.OnUi([&] { stage.Close(); });
-}
-
 void Quit(Stage&, Run& run, const Step&) { run.Quit(); }
 
 void Exit(Stage& stage, Run& run, const Step&)
 {
     run.Leave();
     ::PostMessageW(stage.Window(), WM_CLOSE, 0, 0);
-}
-
-void Disconnect(Stage& stage, Run& run, const Step&)
-{
-    run.OnUi([&] { stage.DisconnectAddIns(); });
 }
 
 void Command(Stage& stage, Run& run, const Step& step)
@@ -148,15 +128,24 @@ void RegistryValue(Stage&, Run& run, const Step& step)
 }
 
 constexpr StepRow kSteps[] = {
-    {"set", 2, 2, &Set},           {"new", 0, 0, &New},
-    {"open", 1, 1, &Open},         {"save", 0, 0, &Save},
-    {"saveas", 1, 2, &SaveAs},     {"activate", 1, 1, &Activate},
-    {"close", 0, 0, &Close},       {"quit", 0, 0, &Quit},
-    {"exit", 0, 0, &Exit},         {"disconnect", 0, 0, &Disconnect},
-    {"command", 1, 2, &Command},   {"controller", 1, 1, &Controller},
-    {"macro", 2, 2, &Macro},       {"show", 1, 1, &Show},
-    {"property", 2, 2, &Property}, {"ran", 1, 1, &Ran},
-    {"no macro", 1, 1, &NoMacro},  {"registry", 3, 3, &RegistryValue},
+    {"set", 2, 2, &Set},
+    {"new", 0, 0, &Do<&Stage::New>},
+    {"open", 1, 1, &Do<&Stage::Open>},
+    {"save", 0, 0, &Do<&Stage::Save>},
+    {"saveas", 1, 2, &SaveAs},
+    {"activate", 1, 1, &Do<&Stage::Activate>},
+    {"close", 0, 0, &Do<&Stage::Close>},
+    {"quit", 0, 0, &Quit},
+    {"exit", 0, 0, &Exit},
+    {"disconnect", 0, 0, &Do<&Stage::DisconnectAddIns>},
+    {"command", 1, 2, &Command},
+    {"controller", 1, 1, &Controller},
+    {"macro", 2, 2, &Macro},
+    {"show", 1, 1, &Show},
+    {"property", 2, 2, &Property},
+    {"ran", 1, 1, &Ran},
+    {"no macro", 1, 1, &NoMacro},
+    {"registry", 3, 3, &RegistryValue},
     {"give", 2, 2, &Give},
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cwctype>
+#include <vector>
 
 #include "player/Run.h"
 
@@ -34,6 +35,13 @@ struct HeldKey
 constexpr HeldKey kHeldKeys[] = {
     {L"Ctrl", VK_CONTROL, VK_LCONTROL}, {L"Alt", VK_MENU, VK_LMENU}, {L"Shift", VK_SHIFT, VK_LSHIFT}};
 
+// A key with the keys held down meanwhile, as "Ctrl+A", "Alt+S", "Shift+Tab", "F1".
+struct KeyStroke
+{
+    WORD key = 0;
+    std::vector<WORD> held; // each with the one of its two that is pressed
+};
+
 WORD KeyNamed(const std::wstring& name)
 {
     const auto found = std::ranges::find(kNamedKeys, name, &NamedKey::name);
@@ -63,8 +71,6 @@ LPARAM KeyBits(WORD key, bool alt, bool up)
     return bits;
 }
 
-} // namespace
-
 KeyStroke ParseKey(const std::wstring& name)
 {
     KeyStroke stroke;
@@ -81,8 +87,11 @@ KeyStroke ParseKey(const std::wstring& name)
     return stroke;
 }
 
-void PressKey(const UiQueue& queue, const KeyStroke& stroke)
+} // namespace
+
+void PressKey(const UiQueue& queue, const std::wstring& name)
 {
+    const KeyStroke stroke = ParseKey(name);
     // The focus is asked for where it is set: another thread would see it while a form is on its way to the front.
     queue.Post([=, &queue] {
         const HWND target = ::GetFocus();

@@ -1,10 +1,8 @@
-#include "player/MessageBox.h"
+#include "player/Screen.h"
 
 #include <algorithm>
 
 #include <commctrl.h>
-
-#include "player/Screen.h"
 
 namespace corvane::player
 {

@@ -1,9 +1,10 @@
 #include <algorithm>
+#include <regex>
 #include <span>
 
-#include "player/MessageBox.h"
 #include "player/Run.h"
-#include "player/Steps.h"
+#include "player/Screen.h"
+#include "player/Script.h"
 
 namespace corvane::player
 {
@@ -39,7 +40,8 @@ WantedMessage WantedBy(const Step& step)
 
 bool IsWanted(const WantedMessage& wanted, const std::wstring& found)
 {
-    const std::wstring shown = wanted.isOneLine ? LineBreaksAsBlanks(found) : found;
+    static const std::wregex lineBreaks{L"[\\r\\n]+"};
+    const std::wstring shown = wanted.isOneLine ? std::regex_replace(found, lineBreaks, L" ") : found;
     return wanted.isWhole ? shown == wanted.text : shown.find(wanted.text) != std::wstring::npos;
 }
 

@@ -3,7 +3,7 @@
 #include "platform/Utf8.h"
 #include "player/Run.h"
 #include "player/Screen.h"
-#include "player/Steps.h"
+#include "player/Script.h"
 
 namespace corvane::player
 {

@@ -3,8 +3,6 @@
 #include <algorithm>
 
 #include "platform/Error.h"
-#include "player/ControlNames.h"
-#include "player/MessageBox.h"
 #include "player/Screen.h"
 
 namespace corvane::player

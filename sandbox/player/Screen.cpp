@@ -4,9 +4,6 @@
 
 #include <commctrl.h>
 
-#include "player/ControlNames.h"
-#include "player/Tree.h"
-
 namespace corvane::player
 {
 namespace

@@ -4,9 +4,12 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <windows.h>
+
+#include <commctrl.h>
 
 namespace corvane::player
 {
@@ -48,5 +51,47 @@ namespace corvane::player
 // The one buffer for texts that windows write; for the calling thread that reads the screen.
 constexpr std::size_t kAnswerLength = 65536;
 [[nodiscard]] wchar_t* AnswerBuffer();
+
+// The message boxes, the topmost first.
+[[nodiscard]] std::vector<HWND> MessageBoxes();
+
+// The box's text as it was given to it, blanks and line breaks included.
+[[nodiscard]] std::wstring MessageText(HWND box);
+[[nodiscard]] HWND ButtonWithCaption(HWND box, const std::wstring& caption);
+
+// The box's icon: critical, question, exclamation, information or none; nullopt for a picture that is none of these.
+[[nodiscard]] std::optional<std::wstring> MessageIcon(HWND box);
+
+// The texts of the chosen node and its parents, joined by "/" from the top; empty when none is chosen.
+[[nodiscard]] std::optional<std::wstring> ChosenPath(HWND tree);
+
+// The child of this text, or null; the parent null stands for the top level.
+[[nodiscard]] HTREEITEM FindNode(HWND tree, HTREEITEM parent, const std::wstring& text);
+
+// The texts of a node's children, for a report.
+[[nodiscard]] std::vector<std::wstring> NodeTexts(HWND tree, HTREEITEM parent);
+
+[[nodiscard]] bool IsExpanded(HWND tree, HTREEITEM node); // or does not answer
+[[nodiscard]] HTREEITEM NextNode(HWND tree, UINT relation, HTREEITEM node);
+
+// The tooltip that a form has for a control, or, where the control is the form itself, for its title bar; empty without
+// one.
+[[nodiscard]] std::wstring TipOf(HWND form, HWND control);
+
+// The form's tooltip that is on the screen; empty when there is none.
+[[nodiscard]] std::wstring ShownTip(HWND form);
+
+// Puts the mouse over the middle of a control, or of the form's title bar.
+void PointAt(HWND form, HWND control);
+
+// Writes a window as it shows on the screen, or the whole screen for null, as a PNG. Throws Error when the
+// screen cannot be read or the file not written. COM must be initialised on the calling thread.
+void SaveScreenshot(const std::wstring& path, HWND window);
+
+// The id of a control by the name that the forms' resource header gives it; "IDOK" and the like stand for themselves.
+[[nodiscard]] std::optional<int> ControlIdOf(std::wstring_view name);
+
+// The name of a control id, or the number as text.
+[[nodiscard]] std::wstring ControlNameOf(int id);
 
 } // namespace corvane::player

@@ -199,17 +199,4 @@ std::vector<std::wstring> SplitTreePath(std::wstring_view path)
     return names;
 }
 
-std::wstring LineBreaksAsBlanks(std::wstring_view text)
-{
-    constexpr std::wstring_view kBreaks = L"\r\n";
-    std::wstring out;
-    bool inBreak = false;
-    for (const wchar_t c : text) {
-        const bool isBreak = kBreaks.find(c) != std::wstring_view::npos;
-        if (!isBreak || !inBreak) out += isBreak ? L' ' : c;
-        inBreak = isBreak;
-    }
-    return out;
-}
-
 } // namespace corvane::player

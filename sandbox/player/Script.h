@@ -1,4 +1,4 @@
-// A scenario's text, read into steps.
+// A scenario's text, read into steps, and the steps that it may be made of.
 #pragma once
 
 #include <map>
@@ -75,7 +75,15 @@ using Settings = std::map<std::string, std::string, std::less<>>; // in UTF-8, a
 // The names of a tree path: "A/B" is A, B; "\/" is a slash inside a name.
 [[nodiscard]] std::vector<std::wstring> SplitTreePath(std::wstring_view path);
 
-// The text with every run of line breaks as one blank; its own blanks stay as they are.
-[[nodiscard]] std::wstring LineBreaksAsBlanks(std::wstring_view text);
+// By what they are about.
+[[nodiscard]] std::span<const StepRow> HostSteps();       // documents and commands of the host
+[[nodiscard]] std::span<const StepRow> OutputSteps();     // files, mails, pictures, figures
+[[nodiscard]] std::span<const StepRow> FormSteps();       // what a user does in a form
+[[nodiscard]] std::span<const StepRow> MessageSteps();    // message boxes
+[[nodiscard]] std::span<const StepRow> InspectionSteps(); // a form's looks
+[[nodiscard]] std::span<const StepRow> Expectations();    // what is to be seen
+
+// All of them.
+[[nodiscard]] std::vector<StepRow> AllSteps();
 
 } // namespace corvane::player

@@ -1,8 +1,6 @@
-#include "player/Tooltip.h"
+#include "player/Screen.h"
 
 #include <commctrl.h>
-
-#include "player/Screen.h"
 
 namespace corvane::player
 {

@@ -1,5 +1,3 @@
-#include "player/Tree.h"
-
 #include "player/Screen.h"
 
 namespace corvane::player

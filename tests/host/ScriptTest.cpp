@@ -1,4 +1,4 @@
-#include "player/Steps.h"
+#include "player/Script.h"
 
 #include "platform/Utf8.h"
 
@@ -67,11 +67,6 @@ TEST(ScriptTest, SplitsTreePathsAtSlashesThatAreNotEscaped)
 {
     const std::vector<std::wstring> expected = {L"Apollo", L"Risk/Reward", L"a\\b"};
     EXPECT_EQ(SplitTreePath(L"Apollo/Risk\\/Reward/a\\b"), expected);
-}
-
-TEST(ScriptTest, JoinsTheLinesOfMessagesAndKeepsTheirBlanks)
-{
-    EXPECT_EQ(LineBreaksAsBlanks(L"ERROR\r\nNumber: 5\r\n\r\n a  b "), L"ERROR Number: 5  a  b ");
 }
 
 } // namespace
