@@ -9,7 +9,7 @@
 #include <ole2.h>
 #include <shellapi.h>
 
-#include "app/HostStage.h"
+#include "app/Host.h"
 #include "base/Console.h"
 #include "base/Text.h"
 #include "documents/Files.h"
@@ -48,9 +48,8 @@ std::vector<std::wstring> CommandLineWords()
 std::size_t PlayToTheEnd(Host& host, std::future<void> ended)
 {
     ::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    HostStage stage{host};
-    const Options& options = host.CurrentSession().Settings();
-    const corvane::player::Outcome outcome = corvane::player::Play(stage, options.playFile, options.settings);
+    const Options& options = host.Settings();
+    const corvane::player::Outcome outcome = corvane::player::Play(host, options.playFile, options.settings);
     ::CoUninitialize();
     if (!outcome.failure.empty()) {
         PrintError(outcome.failure);
@@ -60,8 +59,6 @@ std::size_t PlayToTheEnd(Host& host, std::future<void> ended)
     PrintError(L"the host did not end in 30 s after the last step");
     EndAtOnce(host);
 }
-
-int RunForPerson(Host& host) { return host.RunMessages() ? kSuccess : kFailure; }
 
 int RunScenario(Host& host, const std::wstring& path)
 {
@@ -87,7 +84,8 @@ int Run(Options options)
     Host host{std::move(options)};
     host.Show();
     host.Queue().Post([&host] { host.LoadAddIns(); });
-    return script.empty() ? RunForPerson(host) : RunScenario(host, script);
+    if (!script.empty()) return RunScenario(host, script);
+    return host.RunMessages() ? kSuccess : kFailure;
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 // OPERATION is a name of the protocol, or "upload" with a path and a name for parameters. Each call is answered by a
 // line of milliseconds, KiB of private memory afterwards, error number (0 for none), source, description and
 // the answer. With the argument "own" the stand-in host's HTTP component sends.
-#include "automation/ClassObject.h"
+#include "automation/OfferedClass.h"
 #include "objects/HttpRequestObject.h"
 #include "platform/Owners.h"
 #include "platform/Procedure.h"

@@ -1,7 +1,7 @@
 // Classes of the system replaced in this process.
 #pragma once
 
-#include "automation/ClassObject.h"
+#include "automation/OfferedClass.h"
 
 #include <objbase.h>
 #include <utility>

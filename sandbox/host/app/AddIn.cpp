@@ -48,7 +48,7 @@ private:
 
 } // namespace
 
-std::vector<AddInEntry> RegisteredAddIns(const HostFacts& facts)
+std::map<std::wstring, AddInEntry> RegisteredAddIns(const HostFacts& facts)
 {
     std::map<std::wstring, AddInEntry> entries;
     for (const Registry::Hive hive : {Registry::Hive::User, Registry::Hive::Machine})
@@ -60,11 +60,7 @@ std::vector<AddInEntry> RegisteredAddIns(const HostFacts& facts)
             const auto behavior = Registry::ReadNumber(key, L"LoadBehavior", {hive}).value_or(0);
             entries.try_emplace(name, AddInEntry{name, text(L"FriendlyName"), text(L"Description"), behavior});
         }
-    std::vector<AddInEntry> found;
-    found.reserve(entries.size());
-    for (auto& [name, entry] : entries)
-        found.push_back(std::move(entry));
-    return found;
+    return entries;
 }
 
 AddIn::AddIn(Session& session, ClassLoader& classes, AddInEntry entry)

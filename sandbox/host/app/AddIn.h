@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -30,8 +31,8 @@ struct AddInEntry
     [[nodiscard]] bool LoadsAtStart() const { return (loadBehavior & 3) == 3; }
 };
 
-// The add-ins that the registry lists for this host; the user's entry counts before the machine's.
-[[nodiscard]] std::vector<AddInEntry> RegisteredAddIns(const HostFacts& facts);
+// The add-ins that the registry lists for this host, by their names; the user's entry counts before the machine's.
+[[nodiscard]] std::map<std::wstring, AddInEntry> RegisteredAddIns(const HostFacts& facts);
 
 enum class AddInState
 {

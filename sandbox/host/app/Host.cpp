@@ -54,7 +54,7 @@ void Host::LoadAddIns()
 {
     const auto entries = RegisteredAddIns(m_session.Facts());
     if (entries.empty()) Print(std::wstring{L"no add-in is registered for "} + m_session.Facts().product);
-    for (const AddInEntry& entry : entries) {
+    for (const auto& [name, entry] : entries) {
         if (!entry.LoadsAtStart()) {
             Print(entry.progId + L" is registered, but not to be loaded at start-up");
             continue;
@@ -102,13 +102,6 @@ std::vector<const ShownRibbon*> Host::Ribbons() const
     for (const auto& addIn : m_addIns)
         if (addIn->Ribbon() != nullptr) ribbons.push_back(addIn->Ribbon());
     return ribbons;
-}
-
-bool Host::HasCommand(const std::string& name)
-{
-    const auto has = [&](const ShownRibbon* shown) { return shown->ribbon.Find(name) != nullptr; };
-    if (std::ranges::any_of(Ribbons(), has)) return true;
-    return Edition() == host::Edition::Menus && MenuBar().FindTag(Widen(name)) != nullptr;
 }
 
 void Host::Press(const std::string& name)
@@ -173,9 +166,9 @@ void Host::CallController(const std::wstring& method)
     });
 }
 
-void Host::RunMacroText(const std::wstring& text, const std::wstring& procedure)
+void Host::RunMacro(const std::wstring& text, const std::wstring& procedure)
 {
-    Guarded([&] { RunMacro(text, procedure, m_session.Application(), m_classes, m_window->Handle()); });
+    Guarded([&] { host::RunMacro(text, procedure, m_session.Application(), m_classes, m_window->Handle()); });
 }
 
 void Host::DisconnectAddIns()

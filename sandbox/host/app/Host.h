@@ -11,7 +11,7 @@
 #include "app/AddIn.h"
 #include "app/OtherPrograms.h"
 #include "objects/Session.h"
-#include "player/UiQueue.h"
+#include "player/Stage.h"
 #include "ui/Annotations.h"
 #include "ui/MailWindow.h"
 #include "ui/MainWindow.h"
@@ -19,9 +19,9 @@
 namespace host
 {
 
-// The whole host: the session, its add-ins and its window. Everything but Queue() and TakeFaults() belongs to the
-// user-interface thread.
-class Host final : public Desk
+// The whole host: the session, its add-ins and its window, as that window and a scenario's player see it. Everything
+// but what a Stage names and RemoveTraces belongs to the user-interface thread.
+class Host final : public Desk, public corvane::player::Stage
 {
 public:
     explicit Host(Options options);
@@ -34,38 +34,47 @@ public:
 
     // Runs until Quit. Returns false when the add-in still holds objects of the host afterwards.
     [[nodiscard]] bool RunMessages();
-    void Quit();
 
-    [[nodiscard]] Session& CurrentSession() { return m_session; }
-    [[nodiscard]] const corvane::player::UiQueue& Queue() const { return m_queue; }
-    [[nodiscard]] MainWindow& Window() { return *m_window; }
-    [[nodiscard]] const std::vector<std::unique_ptr<AddIn>>& AddIns() const { return m_addIns; }
-    [[nodiscard]] const MailFields* LastMail() const { return m_programs->LastMail(); }
-    [[nodiscard]] bool IsLoaded() const { return m_loaded; }
+    [[nodiscard]] const Options& Settings() const { return m_session.Settings(); }
 
     [[nodiscard]] const HostFacts& Facts() const override { return m_session.Facts(); }
-    [[nodiscard]] host::Edition Edition() const override { return m_session.Settings().Edition(); }
+    [[nodiscard]] host::Edition Edition() const override { return Settings().Edition(); }
     [[nodiscard]] DocumentObject* ActiveDocument() const override { return m_session.Active(); }
     [[nodiscard]] CommandBarObject& MenuBar() override { return m_session.CommandBars().MenuBar(); }
     [[nodiscard]] std::vector<const ShownRibbon*> Ribbons() const override;
-
-    // The command is a ribbon control's id or, on command bars, an entry's tag.
-    [[nodiscard]] bool HasCommand(const std::string& name);
 
     // Failures become faults.
     void Press(const std::string& name) override;
     void Perform(HostCommand command) override;
 
-    // Creates the add-in's public controller and calls one of its methods, as a macro would.
-    void CallController(const std::wstring& method);
-    // Runs a procedure of a macro's text.
-    void RunMacroText(const std::wstring& text, const std::wstring& procedure);
-    [[nodiscard]] bool IsBusy() const { return m_running != 0; }
-
-    void DisconnectAddIns();
-
-    void AddFault(const std::wstring& fault);
-    [[nodiscard]] std::vector<std::wstring> TakeFaults();
+    [[nodiscard]] const corvane::player::UiQueue& Queue() const override { return m_queue; }
+    [[nodiscard]] HWND Window() const override { return m_session.window; }
+    [[nodiscard]] std::wstring OutFolder() const override { return Settings().outFolder; }
+    [[nodiscard]] std::vector<std::wstring> TakeFaults() override;
+    void Tell(const std::wstring& line) override;
+    [[nodiscard]] bool IsReady() const override { return m_loaded; }
+    [[nodiscard]] std::wstring AddInState() const override;
+    [[nodiscard]] bool IsBusy() const override { return m_running != 0; }
+    void New() override { m_session.New(); }
+    void Open(const std::wstring& path) override { m_session.Open(path, false); }
+    void Save() override { Active().Save(); }
+    void SaveAs(const std::wstring& path, std::optional<long> format) override { Active().SaveAs(path, format); }
+    void Close() override { m_session.Close(Active()); }
+    void Activate(const std::wstring& name) override;
+    [[nodiscard]] std::optional<std::wstring> ActiveName() const override;
+    [[nodiscard]] std::optional<std::wstring> Property(const std::wstring& name) const override;
+    void SetProperty(const std::wstring& name, const std::wstring& text) override;
+    [[nodiscard]] bool HasCommand(const std::wstring& name) const override;
+    void Press(const std::wstring& name) override { Press(Narrow(name)); }
+    void CallController(const std::wstring& method) override;
+    void RunMacro(const std::wstring& text, const std::wstring& procedure) override;
+    [[nodiscard]] std::optional<std::wstring> MenuEntries(const std::vector<std::wstring>& path) const override;
+    [[nodiscard]] bool ShowPage(const std::wstring& page) override { return m_window->ShowPage(page); }
+    [[nodiscard]] bool HasRun(const std::wstring& macro) const override;
+    [[nodiscard]] corvane::player::Mail LastMail() const override;
+    void Set(const std::wstring& name, const std::wstring& value) override;
+    void DisconnectAddIns() override;
+    void Quit() override;
 
     // Takes back what the host wrote into the registry; for an end that runs no destructors. Any thread.
     void RemoveTraces()
@@ -77,6 +86,8 @@ private:
     void Guarded(const std::function<void()>& action);
     void SaveWithName();
     void OpenWithDialog();
+    void AddFault(const std::wstring& fault);
+    [[nodiscard]] DocumentObject& Active() const; // throws where no document is open
 
     Session m_session;
     corvane::player::UiQueue m_queue;

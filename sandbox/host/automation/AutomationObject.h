@@ -140,32 +140,21 @@ Variant ReadOrWrite(const Arguments& arguments, Value& value)
     return {};
 }
 
-// The class whose method answers, or whose objects a function answers for.
-template<class>
-struct Answering;
+// A pointer to the class whose method answers, or whose objects a function answers for.
 template<class T, class Result, class... Rest>
-struct Answering<Result (T::*)(Rest...)>
-{
-    using Class = T;
-};
+T* AnsweringOf(Result (T::*)(Rest...));
 template<class T, class Result, class... Rest>
-struct Answering<Result (T::*)(Rest...) const>
-{
-    using Class = T;
-};
+T* AnsweringOf(Result (T::*)(Rest...) const);
 template<class T, class Result, class... Rest>
-struct Answering<Result (*)(T&, Rest...)>
-{
-    using Class = T;
-};
+T* AnsweringOf(Result (*)(T&, Rest...));
 
 template<auto answer>
 auto& AsAnswering(ObjectCore& object)
 {
     if constexpr (std::is_member_pointer_v<decltype(answer)>)
-        return static_cast<typename Answering<decltype(answer)>::Class&>(object);
+        return *static_cast<decltype(AnsweringOf(answer))>(&object);
     else
-        return static_cast<typename Answering<decltype(+answer)>::Class&>(object);
+        return *static_cast<decltype(AnsweringOf(+answer))>(&object);
 }
 
 // Makes a method, or a function of an object, the answer of a member table's row. It takes the arguments if it needs

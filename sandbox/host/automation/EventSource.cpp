@@ -47,12 +47,6 @@ STDMETHODIMP EventSource::QueryInterface(REFIID id, void** object)
     return S_OK;
 }
 
-STDMETHODIMP EventSource::EnumConnectionPoints(IEnumConnectionPoints** points)
-{
-    if (points != nullptr) *points = nullptr;
-    return E_NOTIMPL;
-}
-
 STDMETHODIMP EventSource::FindConnectionPoint(REFIID id, IConnectionPoint** point)
 {
     if (point == nullptr) return E_POINTER;
@@ -91,11 +85,5 @@ STDMETHODIMP EventSource::Advise(IUnknown* sink, DWORD* cookie)
 }
 
 STDMETHODIMP EventSource::Unadvise(DWORD cookie) { return m_sinks.erase(cookie) != 0 ? S_OK : CONNECT_E_NOCONNECTION; }
-
-STDMETHODIMP EventSource::EnumConnections(IEnumConnections** connections)
-{
-    if (connections != nullptr) *connections = nullptr;
-    return E_NOTIMPL;
-}
 
 } // namespace host

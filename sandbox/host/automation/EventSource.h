@@ -31,14 +31,14 @@ public:
     STDMETHODIMP_(ULONG) AddRef() override { return m_owner.AddRef(); }
     STDMETHODIMP_(ULONG) Release() override { return m_owner.Release(); }
 
-    STDMETHODIMP EnumConnectionPoints(IEnumConnectionPoints** points) override;
+    STDMETHODIMP EnumConnectionPoints(IEnumConnectionPoints**) override { return E_NOTIMPL; }
     STDMETHODIMP FindConnectionPoint(REFIID id, IConnectionPoint** point) override;
 
     STDMETHODIMP GetConnectionInterface(IID* id) override;
     STDMETHODIMP GetConnectionPointContainer(IConnectionPointContainer** container) override;
     STDMETHODIMP Advise(IUnknown* sink, DWORD* cookie) override;
     STDMETHODIMP Unadvise(DWORD cookie) override;
-    STDMETHODIMP EnumConnections(IEnumConnections** connections) override;
+    STDMETHODIMP EnumConnections(IEnumConnections**) override { return E_NOTIMPL; }
 
 private:
     void Call(DISPID event, std::span<VARIANT> reversed);

@@ -1,9 +1,21 @@
 #include "automation/OfferedClass.h"
 
+#include "platform/ClassFactory.h"
+
 namespace host
 {
 
 using corvane::Registry::Hive;
+
+ClassObject::ClassObject(REFCLSID classId, Create create)
+{
+    const auto factory = corvane::MakeObject<corvane::ClassFactory<Create>>(std::move(create));
+    ThrowIfFailed(::CoRegisterClassObject(classId, factory.Get(), CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER,
+                                          REGCLS_MULTIPLEUSE, &m_cookie),
+                  L"A stand-in class cannot be offered.");
+}
+
+ClassObject::~ClassObject() { ::CoRevokeClassObject(m_cookie); }
 
 OfferedClass::OfferedClass(REFCLSID classId, const std::wstring& progId, std::function<ComPtr<IDispatch>()> create)
     : m_id{corvane::GuidText(classId)}, m_key{L"Software\\Classes\\" + progId},

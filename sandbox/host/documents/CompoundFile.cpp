@@ -57,37 +57,19 @@ struct MainStream
 };
 
 // An empty document container.
-std::string SlidesStart(bool)
-{
-    std::string out;
-    AppendNumber(out, 0x000F, 2);
-    AppendNumber(out, 1000, 2);
-    AppendNumber(out, 0, 4);
-    return out;
-}
+std::string SlidesStart(bool) { return Numbers({{0x000F, 2}, {1000, 2}, {0, 4}}); }
 
 // The base of the file information block: 32 bytes, the template flag is bit 0 of those at 10.
 std::string TextStart(bool isTemplate)
 {
-    std::string out;
-    AppendNumber(out, 0xA5EC, 2);
-    AppendNumber(out, 0x00C1, 2);
-    out.append(6, '\0');
-    AppendNumber(out, isTemplate ? 1 : 0, 2);
-    out.append(20, '\0');
-    return out;
+    return Numbers({{0xA5EC, 2}, {0x00C1, 2}, {0, 6}, {isTemplate ? 1U : 0U, 2}, {0, 20}});
 }
 
 // The records of the workbook's globals: begin, template, end.
 std::string SheetsStart(bool isTemplate)
 {
-    std::string out;
-    AppendNumber(out, 0x0010'0809, 4);
-    AppendNumber(out, 0x0005'0600, 4);
-    out.append(12, '\0');
-    if (isTemplate) AppendNumber(out, 0x0060, 4);
-    AppendNumber(out, 0x000A, 4);
-    return out;
+    const std::string begin = Numbers({{0x0010'0809, 4}, {0x0005'0600, 4}, {0, 12}});
+    return begin + (isTemplate ? Numbers({{0x0060, 4}}) : std::string{}) + Numbers({{0x000A, 4}});
 }
 
 constexpr MainStream kMainStreams[] = {

@@ -7,7 +7,7 @@
 #include <windows.h>
 
 #include "base/HostFacts.h"
-#include "package/DocumentContents.h"
+#include "package/CustomProperty.h"
 
 namespace host
 {

@@ -7,7 +7,7 @@
 
 #include "documents/Files.h"
 #include "documents/SaveFormat.h"
-#include "package/DocumentContents.h"
+#include "package/CustomProperty.h"
 #include "package/OfficePackage.h"
 
 namespace host

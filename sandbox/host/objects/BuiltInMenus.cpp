@@ -1,5 +1,3 @@
-#include "objects/BuiltInMenus.h"
-
 #include "objects/CommandBars.h"
 
 namespace host

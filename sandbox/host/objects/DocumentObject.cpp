@@ -2,8 +2,8 @@
 
 #include "documents/Refusal.h"
 #include "objects/Application.h"
+#include "objects/CommandBars.h"
 #include "objects/DocumentProperties.h"
-#include "objects/DocumentWindow.h"
 
 #include <shlobj.h>
 
@@ -165,5 +165,35 @@ Variant DocumentObject::Field(const char* name, const Arguments& arguments)
     m_session.Changed();
     return {};
 }
+
+STDMETHODIMP PersistFile::QueryInterface(REFIID id, void** object) { return m_document.QueryInterface(id, object); }
+STDMETHODIMP_(ULONG) PersistFile::AddRef() { return m_document.AddRef(); }
+STDMETHODIMP_(ULONG) PersistFile::Release() { return m_document.Release(); }
+STDMETHODIMP PersistFile::IsDirty() { return m_document.File().IsSaved() ? S_FALSE : S_OK; }
+
+STDMETHODIMP PersistFile::Save(LPCOLESTR path, BOOL remember)
+{
+    if (path == nullptr || remember != FALSE) return E_INVALIDARG;
+    const auto failure = corvane::Catch([&] { m_document.WriteCopy(path); });
+    return failure ? failure->Number() : S_OK;
+}
+
+DocumentWindowObject::DocumentWindowObject(DocumentObject* document, long number)
+    : AutomationObject{document->Owner().Model().window.name, document->Owner().Model().window.id},
+      m_document{document}, m_number{number}
+{}
+
+std::span<const Member> DocumentWindowObject::Members() const
+{
+    return m_document->Owner().MembersOf(&HostModel::window);
+}
+
+std::wstring DocumentWindowObject::Caption() const
+{
+    const std::wstring name = m_document->Name();
+    return m_document->WindowCount() > 1 ? name + L":" + std::to_wstring(m_number) : name;
+}
+
+ComPtr<IDispatch> DocumentWindowObject::CommandBars() const { return &m_document->Owner().CommandBars(); }
 
 } // namespace host

@@ -1,10 +1,11 @@
-// An open document as programs reach it.
+// An open document and its windows as programs reach them.
 #pragma once
 
 #include "automation/AutomationObject.h"
 #include "documents/Document.h"
-#include "objects/PersistFile.h"
 #include "objects/Session.h"
+
+#include <objidl.h>
 
 #include <optional>
 
@@ -15,6 +16,30 @@ enum class PropertySet
 {
     BuiltIn,
     Custom,
+};
+
+class DocumentObject;
+
+// A document of Word as an object that lives in a file: copies of it can be written. Part of its document, whose
+// references it shares.
+class PersistFile final : public IPersistFile
+{
+public:
+    explicit PersistFile(DocumentObject& document) : m_document{document} {}
+
+    STDMETHODIMP QueryInterface(REFIID id, void** object) override;
+    STDMETHODIMP_(ULONG) AddRef() override;
+    STDMETHODIMP_(ULONG) Release() override;
+    STDMETHODIMP GetClassID(CLSID*) override { return E_NOTIMPL; }
+    STDMETHODIMP IsDirty() override;
+    STDMETHODIMP Load(LPCOLESTR, DWORD) override { return E_NOTIMPL; }
+    // Only copies: the document stays where it is.
+    STDMETHODIMP Save(LPCOLESTR path, BOOL remember) override;
+    STDMETHODIMP SaveCompleted(LPCOLESTR) override { return S_OK; }
+    STDMETHODIMP GetCurFile(LPOLESTR*) override { return E_NOTIMPL; }
+
+private:
+    DocumentObject& m_document;
 };
 
 // An open document of the host, and what is left of it once it is closed and still referred to: a presentation, a
@@ -81,6 +106,26 @@ private:
     long m_windows;
     bool m_closed = false;
     PersistFile m_persistFile{*this};
+};
+
+// A window that shows a document, or a mail item's inspector.
+class DocumentWindowObject final : public AutomationObject<IDispatch>
+{
+public:
+    explicit DocumentWindowObject(DocumentObject* document, long number = 1);
+
+    [[nodiscard]] std::span<const Member> Members() const override;
+
+    // The answers of the member tables.
+    std::wstring Caption() const;
+    DocumentObject* Document() const { return m_document.Get(); }
+    bool IsActive() const { return m_number == 1 && m_document->Owner().Active() == m_document.Get(); }
+    ComPtr<IDispatch> CommandBars() const;
+    void Activate() { m_document->Owner().Activate(*m_document.Get()); }
+
+private:
+    ComPtr<DocumentObject> m_document;
+    long m_number; // 1 for the first window of the document
 };
 
 } // namespace host

@@ -2,7 +2,7 @@
 
 #include "automation/OfficeInterfaces.h"
 #include "objects/Collections.h"
-#include "objects/PropertyValue.h"
+#include "package/FileTime.h"
 
 namespace host
 {
@@ -29,7 +29,64 @@ void MarkChanged(DocumentObject& document)
     session.Changed();
 }
 
+Variant DateOf(const SYSTEMTIME& time)
+{
+    DATE date = 0;
+    return ::SystemTimeToVariantTime(const_cast<SYSTEMTIME*>(&time), &date) ? Variant::OfDate(date) : Variant{};
+}
+
+std::string TextOfDate(DATE date)
+{
+    SYSTEMTIME time{};
+    if (!::VariantTimeToSystemTime(date, &time)) throw Error{DISP_E_TYPEMISMATCH, {}, L"Type mismatch."};
+    return FromSystemTime(time);
+}
+
+// The value converted to the type. Throws Error when it does not convert.
+std::string PackageText(PropertyType type, const Variant& value)
+{
+    switch (type) {
+    case PropertyType::Number:
+        return std::to_string(value.Number());
+    case PropertyType::Boolean:
+        return value.Boolean() ? "true" : "false";
+    case PropertyType::Date:
+        return TextOfDate(value.As(VT_DATE).Get().date);
+    case PropertyType::Float:
+        return Narrow(value.As(VT_R8).As(VT_BSTR).Text());
+    case PropertyType::Text:
+        return Narrow(value.Text());
+    }
+    throw Error{E_INVALIDARG, {}, L"Unknown property type."};
+}
+
 } // namespace
+
+Variant ToValue(const CustomProperty& property)
+{
+    Variant text{Widen(property.value)};
+    Variant value;
+    corvane::Ignoring([&] {
+        switch (property.type) {
+        case PropertyType::Number:
+            value = text.As(VT_I4);
+            break;
+        case PropertyType::Boolean:
+            value = property.value == "true";
+            break;
+        case PropertyType::Date:
+            if (const auto time = ToSystemTime(property.value)) value = DateOf(*time);
+            break;
+        case PropertyType::Float:
+            value = text.As(VT_R8);
+            break;
+        case PropertyType::Text:
+            break;
+        }
+    });
+    // A file may hold a value that its type does not allow: its text is all there is to show.
+    return value.IsMissing() ? std::move(text) : std::move(value);
+}
 
 DocumentPropertiesObject::DocumentPropertiesObject(DocumentObject* document, PropertySet set)
     : AutomationObject{L"DocumentProperties", kDocumentPropertiesId}, m_document{document}, m_set{set}
@@ -66,7 +123,8 @@ ComPtr<IDispatch> DocumentPropertiesObject::Add(const Arguments& arguments)
     const long type = arguments.Has(2) ? arguments.At(2).Number() : 0;
     if (type < 1 || type > 5) throw Error{E_INVALIDARG, {}, L"Unknown property type."};
 
-    properties.push_back(FromValue(name, static_cast<PropertyType>(type), arguments.At(3)));
+    const auto kind = static_cast<PropertyType>(type);
+    properties.push_back({name, kind, PackageText(kind, arguments.At(3))});
     MarkChanged(*m_document.Get());
     return MakeObject<DocumentPropertyObject>(m_document.Get(), m_set, name);
 }
@@ -100,7 +158,7 @@ Variant DocumentPropertyObject::Value(const Arguments& arguments)
     CustomProperty& property = Property();
     if (!arguments.IsPut()) return ToValue(property);
     m_document->File().CheckEditable();
-    property = FromValue(property.name, property.type, arguments.At(0));
+    property.value = PackageText(property.type, arguments.At(0));
     MarkChanged(*m_document.Get());
     return {};
 }

@@ -6,6 +6,9 @@
 namespace host
 {
 
+// The property's value as Automation sees it, by its type: a number, Boolean, date, text or float.
+[[nodiscard]] Variant ToValue(const CustomProperty& property);
+
 // The built-in or the custom properties of a document.
 class DocumentPropertiesObject final : public AutomationObject<IDispatch>
 {

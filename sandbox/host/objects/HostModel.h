@@ -41,11 +41,6 @@ struct HostModel
     const EventTable* events = nullptr; // null: none that anyone here listens to
 };
 
-[[nodiscard]] const HostModel& PowerPointModel();
-[[nodiscard]] const HostModel& WordModel();
-[[nodiscard]] const HostModel& ExcelModel();
-[[nodiscard]] const HostModel& OutlookModel();
-
 [[nodiscard]] const HostModel& ModelOf(HostKind kind);
 
 } // namespace host

@@ -5,7 +5,6 @@
 
 #include <winhttp.h>
 
-#include "base/Text.h"
 #include "platform/ByteArray.h"
 
 namespace host
@@ -57,8 +56,6 @@ std::string AnswerOf(HINTERNET request)
 }
 
 } // namespace
-
-HttpRequestObject::HttpRequestObject() : AutomationObject{L"XMLHTTPRequest"} {}
 
 HRESULT HttpRequestObject::open(BSTR method, BSTR url, VARIANT, VARIANT, VARIANT)
 {
@@ -117,18 +114,6 @@ HRESULT HttpRequestObject::abort()
     return S_OK;
 }
 
-HRESULT HttpRequestObject::get_readyState(LONG* state)
-{
-    *state = m_state;
-    return S_OK;
-}
-
-HRESULT HttpRequestObject::get_status(LONG* status)
-{
-    *status = m_status;
-    return S_OK;
-}
-
 HRESULT HttpRequestObject::getResponseHeader(BSTR name, BSTR* value)
 {
     const std::wstring wanted = std::wstring{L"\r\n"} + name + L": ";
@@ -136,17 +121,10 @@ HRESULT HttpRequestObject::getResponseHeader(BSTR name, BSTR* value)
         const auto size = static_cast<int>(wanted.size());
         if (::CompareStringOrdinal(&m_answerHeaders[at], size, wanted.c_str(), size, TRUE) != CSTR_EQUAL) continue;
         const std::size_t from = at + wanted.size();
-        *value = Bstr{m_answerHeaders.substr(from, m_answerHeaders.find(L"\r\n", from) - from)}.Detach();
-        return S_OK;
+        return corvane::HandOut(m_answerHeaders.substr(from, m_answerHeaders.find(L"\r\n", from) - from), value);
     }
     *value = nullptr;
     return S_FALSE;
-}
-
-HRESULT HttpRequestObject::get_responseText(BSTR* text)
-{
-    *text = Bstr{Widen(m_answer)}.Detach();
-    return S_OK;
 }
 
 HRESULT HttpRequestObject::get_responseBody(VARIANT* body)

@@ -8,6 +8,8 @@
 #include <msxml2.h>
 
 #include "automation/AutomationObject.h"
+#include "base/Text.h"
+#include "platform/HandOut.h"
 
 __CRT_UUID_DECL(IXMLHTTPRequest, 0xED8C108D, 0x4349, 0x11D2, 0x91, 0xA4, 0x00, 0xC0, 0x4F, 0x79, 0x69, 0xE8)
 
@@ -22,7 +24,7 @@ inline constexpr CLSID kXmlHttpClass{0xF5078F35, 0xC551, 0x11D3, {0x89, 0xB9, 0x
 class HttpRequestObject final : public AutomationObject<IXMLHTTPRequest>
 {
 public:
-    HttpRequestObject();
+    HttpRequestObject() : AutomationObject{L"XMLHTTPRequest"} {}
 
     [[nodiscard]] std::span<const Member> Members() const override { return {}; }
 
@@ -30,10 +32,10 @@ public:
     STDMETHODIMP setRequestHeader(BSTR name, BSTR value) override;
     STDMETHODIMP send(VARIANT body) override;
     STDMETHODIMP abort() override; // waits for the exchange to end, as the destructor does
-    STDMETHODIMP get_readyState(LONG* state) override;
-    STDMETHODIMP get_status(LONG* status) override;
+    STDMETHODIMP get_readyState(LONG* state) override { return *state = m_state, S_OK; }
+    STDMETHODIMP get_status(LONG* status) override { return *status = m_status, S_OK; }
     STDMETHODIMP getResponseHeader(BSTR name, BSTR* value) override;
-    STDMETHODIMP get_responseText(BSTR* text) override;
+    STDMETHODIMP get_responseText(BSTR* text) override { return corvane::HandOut(Widen(m_answer), text); }
     STDMETHODIMP get_responseBody(VARIANT* body) override;
 
     STDMETHODIMP getAllResponseHeaders(BSTR*) override { return E_NOTIMPL; }

@@ -1,18 +1,9 @@
 #include "objects/RibbonObjects.h"
 
+#include "platform/HandOut.h"
+
 namespace host
 {
-namespace
-{
-
-HRESULT GiveText(const std::wstring& text, BSTR* out)
-{
-    if (out == nullptr) return E_POINTER;
-    *out = Bstr{text}.Detach();
-    return S_OK;
-}
-
-} // namespace
 
 std::span<const Member> RibbonUiObject::Members() const
 {
@@ -42,8 +33,8 @@ std::span<const Member> RibbonControlObject::Members() const
     return kMembers;
 }
 
-STDMETHODIMP RibbonControlObject::get_Id(BSTR* id) { return GiveText(m_id, id); }
-STDMETHODIMP RibbonControlObject::get_Tag(BSTR* tag) { return GiveText(m_tag, tag); }
+STDMETHODIMP RibbonControlObject::get_Id(BSTR* id) { return corvane::HandOut(m_id, id); }
+STDMETHODIMP RibbonControlObject::get_Tag(BSTR* tag) { return corvane::HandOut(m_tag, tag); }
 STDMETHODIMP RibbonControlObject::get_Context(IDispatch** context) { return m_context.CopyTo(context); }
 
 } // namespace host

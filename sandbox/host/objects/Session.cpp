@@ -7,10 +7,10 @@
 #include "base/Text.h"
 #include "documents/Refusal.h"
 #include "objects/Application.h"
-#include "objects/BuiltInMenus.h"
 #include "objects/Collections.h"
 #include "objects/ComAddIn.h"
 #include "objects/CommandBars.h"
+#include "platform/MessageLoop.h"
 
 namespace host
 {
@@ -20,49 +20,20 @@ namespace
 constexpr int kCloseFinalVersion = 14;
 constexpr long kNewCommand = 18; // FileNew, out of use while a cell is edited
 
-struct EditingRow
-{
-    std::string_view value;
-    unsigned long number;
-    bool refusesQuestions; // a host that is busy refuses every call
-};
-
-constexpr EditingRow kEditing[] = {
-    {"800AC472", 0x800AC472, false},
-    {"800A03EC", 0x800A03EC, false},
-    {"8001010A", 0x8001010A, true},
-    {"80010001", 0x80010001, true},
-};
-
 // The settings of a new mail item's fields.
 constexpr std::pair<const char*, const char*> kMailSettings[] = {
     {"mail.subject", "Subject"}, {"mail.body", "Body"}, {"mail.to", "To"}};
 
-const EditingRow* EditingOf(const Options& options)
+// What calls fail with while the user edits a cell; 0 while nobody does.
+std::int32_t EditingNumber(const Options& options)
 {
-    const auto found = std::ranges::find(kEditing, options.Setting("editing"), &EditingRow::value);
-    return found == std::end(kEditing) ? nullptr : &*found;
-}
-
-[[noreturn]] void RefuseEditing(const EditingRow& row)
-{
-    throw Error{static_cast<HRESULT>(row.number), {}, L"The user is editing a cell."};
+    return static_cast<std::int32_t>(std::strtoul(options.Setting("editing").c_str(), nullptr, 16));
 }
 
 std::wstring OwnerOfMacro(const std::wstring& name)
 {
     const std::size_t mark = name.rfind(L'!');
     return mark == std::wstring::npos ? std::wstring{} : name.substr(0, mark);
-}
-
-// Handles messages for a moment, as a macro does that shows a box or waits.
-void ServeMessages()
-{
-    ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
-    for (MSG message{}; ::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);) {
-        ::TranslateMessage(&message);
-        ::DispatchMessageW(&message);
-    }
 }
 
 } // namespace
@@ -208,17 +179,16 @@ void Session::AskUser() const
     ::SetActiveWindow(window);
 }
 
-bool Session::IsEditing() const { return EditingOf(m_options) != nullptr; }
+bool Session::IsEditing() const { return EditingNumber(m_options) != 0; }
 
 void Session::CheckReady() const
 {
-    if (const EditingRow* row = EditingOf(m_options)) RefuseEditing(*row);
+    if (IsEditing()) throw Error{EditingNumber(m_options), {}, L"The user is editing a cell."};
 }
 
 void Session::CheckAnswering() const
 {
-    const EditingRow* row = EditingOf(m_options);
-    if (row != nullptr && row->refusesQuestions) RefuseEditing(*row);
+    if (HRESULT_FACILITY(EditingNumber(m_options)) == FACILITY_RPC) CheckReady(); // a busy host refuses every call
 }
 
 void Session::ShowEditing()
@@ -238,8 +208,7 @@ void Session::RunMacro(const std::wstring& name)
     if (unqualified || m_options.Setting(setting).empty()) Refuse(Kind(), Refusal::NoMacro, name);
     m_macrosRun.push_back(macro);
     AskUser();
-    while (m_options.Setting(setting) == "hold")
-        ServeMessages();
+    static_cast<void>(corvane::PumpUntil([&] { return m_options.Setting(setting) != "hold"; }));
     const std::string answer = m_options.Setting(setting);
     if (answer == "save" && Active() != nullptr) return Active()->Save();
     if (answer != "ok") Refuse(Kind(), Refusal::MacroFailed, name);

@@ -48,7 +48,7 @@ public:
     // The members of one of its classes in its version.
     [[nodiscard]] std::span<const Member> MembersOf(ClassTable HostModel::*table) const;
     [[nodiscard]] ApplicationObject& Application() { return *m_application.Get(); }
-    [[nodiscard]] CommandBarsObject& CommandBars() { return *m_commandBars.Get(); }
+    [[nodiscard]] CommandBarsObject& CommandBars() const { return *m_commandBars.Get(); }
 
     // Open documents, the active one first. Programs reach only what has a window and is not in Protected View as
     // active.

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace host
 {
@@ -21,6 +23,13 @@ inline void AppendNumber(std::string& out, std::uint64_t number, std::size_t wid
 {
     for (std::size_t i = 0; i < width; ++i, number >>= 8)
         out += static_cast<char>(number & 0xff);
+}
+[[nodiscard]] inline std::string Numbers(std::initializer_list<std::pair<std::uint64_t, std::size_t>> numbersAndWidths)
+{
+    std::string out;
+    for (const auto& [number, width] : numbersAndWidths)
+        AppendNumber(out, number, width);
+    return out;
 }
 [[nodiscard]] inline std::uint64_t ReadNumber(std::string_view bytes, std::size_t at, std::size_t width)
 {

@@ -26,6 +26,21 @@ struct CustomProperty
     std::string value;
 };
 
+// What every format keeps of a document: its built-in properties, all of them texts, and its custom properties.
+struct DocumentContents
+{
+    std::vector<CustomProperty> builtIn;
+    std::vector<CustomProperty> custom;
+
+    // A built-in property's text; empty when the document has no such property.
+    [[nodiscard]] std::string BuiltIn(std::string_view name) const
+    {
+        for (const CustomProperty& property : builtIn)
+            if (property.name == name) return property.value;
+        return {};
+    }
+};
+
 // Reads the custom properties part. Throws std::runtime_error when it is not well formed.
 [[nodiscard]] std::vector<CustomProperty> ReadCustomProperties(std::string_view part);
 

@@ -4,6 +4,7 @@
 #include <bit>
 #include <charconv>
 #include <map>
+#include <optional>
 #include <stdexcept>
 
 #include "package/Bytes.h"
@@ -35,7 +36,11 @@ enum VariantType : std::uint64_t
     kFileTime = 64,
 };
 
-void PadToFour(std::string& out) { out.resize((out.size() + 3) / 4 * 4, '\0'); }
+std::string Padded(std::string bytes)
+{
+    bytes.resize((bytes.size() + 3) / 4 * 4, '\0');
+    return bytes;
+}
 
 template<class Number>
 Number ParseNumber(const std::string& text)
@@ -45,65 +50,41 @@ Number ParseNumber(const std::string& text)
     return number;
 }
 
-std::string WriteText(const std::string& text)
-{
-    std::string out;
-    AppendNumber(out, text.size() + 1, 4);
-    out += text;
-    out += '\0';
-    return out;
-}
+std::string WriteText(const std::string& text) { return Numbers({{text.size() + 1, 4}}) + text + '\0'; }
 
 std::string WriteValue(const CustomProperty& property)
 {
-    std::string out;
-    const auto write = [&](VariantType type, std::uint64_t number, std::size_t width) {
-        AppendNumber(out, type, 4);
-        AppendNumber(out, number, width);
+    const auto write = [](VariantType type, std::uint64_t number, std::size_t width) {
+        return Padded(Numbers({{type, 4}, {number, width}}));
     };
     switch (property.type) {
     case PropertyType::Number:
-        write(kLong, static_cast<std::uint32_t>(ParseNumber<std::int32_t>(property.value)), 4);
-        break;
+        return write(kLong, static_cast<std::uint32_t>(ParseNumber<std::int32_t>(property.value)), 4);
     case PropertyType::Boolean:
-        write(kBoolean, property.value == "true" ? 0xffff : 0, 2);
-        break;
+        return write(kBoolean, property.value == "true" ? 0xffff : 0, 2);
     case PropertyType::Float:
-        write(kDouble, std::bit_cast<std::uint64_t>(ParseNumber<double>(property.value)), 8);
-        break;
+        return write(kDouble, std::bit_cast<std::uint64_t>(ParseNumber<double>(property.value)), 8);
     case PropertyType::Date:
-        write(kFileTime, static_cast<std::uint64_t>(ToFileTime(property.value)), 8);
-        break;
+        return write(kFileTime, static_cast<std::uint64_t>(ToFileTime(property.value)), 8);
     case PropertyType::Text:
-        AppendNumber(out, kByteText, 4);
-        out += WriteText(property.value);
         break;
     }
-    PadToFour(out);
-    return out;
+    return Padded(Numbers({{kByteText, 4}}) + WriteText(property.value));
 }
 
 std::string WriteDictionary(const PropertySection& section)
 {
-    std::string out;
-    AppendNumber(out, section.properties.size(), 4);
-    for (const SetProperty& row : section.properties) {
-        AppendNumber(out, row.id, 4);
-        out += WriteText(row.property.name);
-    }
-    PadToFour(out);
-    return out;
+    std::string out = Numbers({{section.properties.size(), 4}});
+    for (const SetProperty& row : section.properties)
+        out += Numbers({{row.id, 4}}) + WriteText(row.property.name);
+    return Padded(out);
 }
 
 std::string WriteSection(const PropertySection& section)
 {
     std::vector<std::pair<std::uint32_t, std::string>> rows;
     if (section.format == kUserDefinedSet) rows.emplace_back(kDictionaryId, WriteDictionary(section));
-    std::string codePage;
-    AppendNumber(codePage, kShort, 4);
-    AppendNumber(codePage, kUtf8CodePage, 2);
-    PadToFour(codePage);
-    rows.emplace_back(kCodePageId, codePage);
+    rows.emplace_back(kCodePageId, Padded(Numbers({{kShort, 4}, {kUtf8CodePage, 2}})));
     for (const SetProperty& row : section.properties)
         rows.emplace_back(row.id, WriteValue(row.property));
 
@@ -111,14 +92,10 @@ std::string WriteSection(const PropertySection& section)
     std::string values;
     const std::size_t valuesAt = 8 + 8 * rows.size();
     for (const auto& [id, value] : rows) {
-        AppendNumber(index, id, 4);
-        AppendNumber(index, valuesAt + values.size(), 4);
+        index += Numbers({{id, 4}, {valuesAt + values.size(), 4}});
         values += value;
     }
-    std::string out;
-    AppendNumber(out, valuesAt + values.size(), 4);
-    AppendNumber(out, rows.size(), 4);
-    return out + index + values;
+    return Numbers({{valuesAt + values.size(), 4}, {rows.size(), 4}}) + index + values;
 }
 
 // Reads one section; offsets in it count from its own start.
@@ -137,11 +114,11 @@ public:
     {
         const auto names = Names();
         for (const auto& [id, at] : m_index) {
-            CustomProperty property;
-            if (id == kDictionaryId || id == kCodePageId || !ReadValue(at, property)) continue;
+            auto property = id == kDictionaryId || id == kCodePageId ? std::nullopt : ReadValue(at);
+            if (!property) continue;
             const auto name = names.find(id);
-            if (name != names.end()) property.name = name->second;
-            section.properties.push_back({id, property});
+            if (name != names.end()) property->name = name->second;
+            section.properties.push_back({id, *property});
         }
     }
 
@@ -189,35 +166,31 @@ private:
         return names;
     }
 
-    [[nodiscard]] bool ReadValue(std::uint64_t at, CustomProperty& property) const
+    // Nothing for a value of a kind that no custom property has.
+    [[nodiscard]] std::optional<CustomProperty> ReadValue(std::uint64_t at) const
     {
+        const auto given = [](PropertyType type, std::string text) {
+            return CustomProperty{{}, type, std::move(text)};
+        };
         const std::uint64_t value = at + 4;
         switch (Number(at, 2)) {
         case kShort:
-            property = {{}, PropertyType::Number, std::to_string(static_cast<std::int16_t>(Number(value, 2)))};
-            break;
+            return given(PropertyType::Number, std::to_string(static_cast<std::int16_t>(Number(value, 2))));
         case kLong:
-            property = {{}, PropertyType::Number, std::to_string(static_cast<std::int32_t>(Number(value, 4)))};
-            break;
+            return given(PropertyType::Number, std::to_string(static_cast<std::int32_t>(Number(value, 4))));
         case kBoolean:
-            property = {{}, PropertyType::Boolean, Number(value, 2) ? "true" : "false"};
-            break;
+            return given(PropertyType::Boolean, Number(value, 2) != 0 ? "true" : "false");
         case kDouble:
-            property = {{}, PropertyType::Float, FloatText(std::bit_cast<double>(Number(value, 8)))};
-            break;
+            return given(PropertyType::Float, FloatText(std::bit_cast<double>(Number(value, 8))));
         case kFileTime:
-            property = {{}, PropertyType::Date, FromFileTime(static_cast<std::int64_t>(Number(value, 8)))};
-            break;
+            return given(PropertyType::Date, FromFileTime(static_cast<std::int64_t>(Number(value, 8))));
         case kByteText:
-            property = {{}, PropertyType::Text, ByteText(value + 4, Number(value, 4))};
-            break;
+            return given(PropertyType::Text, ByteText(value + 4, Number(value, 4)));
         case kWideText:
-            property = {{}, PropertyType::Text, WideText(value + 4, Number(value, 4))};
-            break;
+            return given(PropertyType::Text, WideText(value + 4, Number(value, 4)));
         default:
-            return false;
+            return std::nullopt;
         }
-        return true;
     }
 
     [[nodiscard]] static std::string FloatText(double number)
@@ -236,12 +209,8 @@ private:
 
 std::string WritePropertySet(const std::vector<PropertySection>& sections)
 {
-    std::string out;
-    AppendNumber(out, kByteOrder, 2);
-    AppendNumber(out, 0, 2);
-    AppendNumber(out, 0x00020005, 4); // the system that wrote it: Windows
-    out.append(16, '\0');
-    AppendNumber(out, sections.size(), 4);
+    constexpr std::uint64_t kWindows = 0x00020005; // the system that wrote it
+    std::string out = Numbers({{kByteOrder, 2}, {0, 2}, {kWindows, 4}, {0, 16}, {sections.size(), 4}});
     std::string bodies;
     const std::size_t bodiesAt = kHeaderSize + kSectionRowSize * sections.size();
     for (const PropertySection& section : sections) {

@@ -128,18 +128,16 @@ bool SameName(std::string_view a, std::string_view b)
 // The fields that the local header and the directory have in common, from "version needed" to the extra length.
 std::string CommonFields(const ZipEntry& entry, std::uint16_t method, std::size_t packedSize)
 {
-    std::string out;
-    AppendNumber(out, kVersionNeeded, 2);
-    AppendNumber(out, kUtf8Names, 2);
-    AppendNumber(out, method, 2);
-    AppendNumber(out, 0, 2);
-    AppendNumber(out, kDosDate, 2);
-    AppendNumber(out, Checksum(entry.data), 4);
-    AppendNumber(out, ZlibSize(packedSize), 4);
-    AppendNumber(out, ZlibSize(entry.data.size()), 4);
-    AppendNumber(out, ZlibSize(entry.name.size()), 2);
-    AppendNumber(out, 0, 2);
-    return out;
+    return Numbers({{kVersionNeeded, 2},
+                    {kUtf8Names, 2},
+                    {method, 2},
+                    {0, 2},
+                    {kDosDate, 2},
+                    {Checksum(entry.data), 4},
+                    {ZlibSize(packedSize), 4},
+                    {ZlibSize(entry.data.size()), 4},
+                    {ZlibSize(entry.name.size()), 2},
+                    {0, 2}});
 }
 
 } // namespace
@@ -168,26 +166,14 @@ std::string Zip::Write() const
         const std::string& packed = smaller ? deflated : entry.data;
         const std::string fields = CommonFields(entry, smaller ? kDeflated : kStored, packed.size());
 
-        AppendNumber(directory, kCentralHeader, 4);
-        AppendNumber(directory, kVersionNeeded, 2);
-        directory += fields;
-        directory.append(10, '\0'); // comment length, disk, internal and external attributes
-        AppendNumber(directory, ZlibSize(out.size()), 4);
-        directory += entry.name;
-
-        AppendNumber(out, kLocalHeader, 4);
-        out.append(fields).append(entry.name).append(packed);
+        // Between the common fields and the place: comment length, disk, internal and external attributes.
+        directory += Numbers({{kCentralHeader, 4}, {kVersionNeeded, 2}}) + fields;
+        directory += Numbers({{0, 10}, {ZlibSize(out.size()), 4}}) + entry.name;
+        out += Numbers({{kLocalHeader, 4}}) + fields + entry.name + packed;
     }
-    const std::size_t directoryAt = out.size();
-    out += directory;
-    AppendNumber(out, kEndRecord, 4);
-    out.append(4, '\0');
-    AppendNumber(out, ZlibSize(m_entries.size()), 2);
-    AppendNumber(out, ZlibSize(m_entries.size()), 2);
-    AppendNumber(out, ZlibSize(directory.size()), 4);
-    AppendNumber(out, ZlibSize(directoryAt), 4);
-    AppendNumber(out, 0, 2);
-    return out;
+    const std::size_t count = ZlibSize(m_entries.size());
+    const std::string end = Numbers({{kEndRecord, 4}, {0, 4}, {count, 2}, {count, 2}, {ZlibSize(directory.size()), 4}});
+    return out + directory + end + Numbers({{ZlibSize(out.size()), 4}, {0, 2}});
 }
 
 const std::string* Zip::Find(std::string_view name) const

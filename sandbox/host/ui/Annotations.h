@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "automation/ClassObject.h"
+#include "automation/OfferedClass.h"
 
 namespace host
 {

@@ -4,8 +4,6 @@
 
 #include <windowsx.h>
 
-#include "ui/SlideArea.h"
-
 namespace host
 {
 namespace
@@ -194,7 +192,7 @@ void MainWindow::OpenRibbonMenu(const SceneItem& item)
     for (const ShownRibbon* shown : m_desk.Ribbons()) {
         const RibbonControl* control = shown->ribbon.Find(item.id);
         if (control == nullptr) continue;
-        const Menu menu;
+        const UniqueMenu menu{::CreatePopupMenu()};
         m_menus.Clear();
         m_menus.FillFromRibbon(menu.Get(), *shown, control->children);
         return TrackMenu(menu.Get(), item.box);
@@ -204,7 +202,7 @@ void MainWindow::OpenRibbonMenu(const SceneItem& item)
 // The Office button's menu, or the first menu of the menu bar.
 void MainWindow::OpenFileMenu()
 {
-    const Menu menu;
+    const UniqueMenu menu{::CreatePopupMenu()};
     if (m_desk.Edition() != Edition::Menus) {
         m_menus.Clear();
         m_menus.FillOfficeMenu(menu.Get());

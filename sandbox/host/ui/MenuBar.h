@@ -5,11 +5,20 @@
 #include <string>
 #include <vector>
 
+#include "platform/Owners.h"
 #include "ui/Desk.h"
-#include "ui/Gdi.h"
 
 namespace host
 {
+
+// Of a menu that no window has taken over.
+struct MenuTraits
+{
+    using Value = HMENU;
+    static constexpr Value kEmpty = nullptr;
+    static void Free(Value menu) noexcept { ::DestroyMenu(menu); }
+};
+using UniqueMenu = corvane::Unique<MenuTraits>;
 
 // Turns menus of the host and its add-ins into window menus and remembers what each entry does.
 class MenuBuilder

@@ -1,4 +1,4 @@
-// The ribbon and the Backstage as they lie in the window.
+// What lies in the window: the ribbon or the Backstage, and the active document.
 #pragma once
 
 #include <optional>
@@ -66,5 +66,9 @@ struct ViewState
 [[nodiscard]] Scene BuildScene(const Desk& desk, const ViewState& view, const Theme& theme, SIZE size);
 
 void PaintScene(HDC dc, const Scene& scene, const Theme& theme, SIZE size, const SceneItem* hovered);
+
+// Draws the active document into the area: a thumbnail, its title slide and a line on its state. Null: none is
+// open.
+void PaintSlideArea(HDC dc, const RECT& area, const Theme& theme, DocumentObject* document);
 
 } // namespace host

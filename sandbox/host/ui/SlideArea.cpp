@@ -1,8 +1,7 @@
-#include "ui/SlideArea.h"
-
 #include <algorithm>
 
 #include "objects/Session.h"
+#include "ui/Scene.h"
 
 namespace host
 {

@@ -61,6 +61,13 @@ void DrawLetter(HDC dc, const RECT& box, const wchar_t* letter, COLORREF color)
     Write(dc, box, letter, font.Get(), color, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
 
+RECT AreaOf(HWND window)
+{
+    RECT area{};
+    ::GetClientRect(window, &area);
+    return area;
+}
+
 } // namespace
 
 Theme::Theme() : m_dpi{::GetDeviceCaps(WindowContext{}.Get(), LOGPIXELSX)}
@@ -119,6 +126,20 @@ void DrawPicture(HDC dc, const RECT& box, const std::string& name, COLORREF colo
         return DrawPage(dc, box.left + w * 4 / 10, box.top + h * 2 / 10, w * 6 / 10, h * 8 / 10);
     }
     DrawPage(dc, box.left + w / 8, box.top, w * 6 / 8, h);
+}
+
+PaintBuffer::PaintBuffer(HWND window)
+    : m_window{window}, m_area{AreaOf(window)}, m_screen{::BeginPaint(window, &m_paint)}, m_memory{::CreateCompatibleDC(
+                                                                                              m_screen)},
+      m_bitmap{::CreateCompatibleBitmap(m_screen, m_area.right, m_area.bottom)}, m_before{::SelectObject(
+                                                                                     m_memory.Get(), m_bitmap.Get())}
+{}
+
+PaintBuffer::~PaintBuffer()
+{
+    ::BitBlt(m_screen, 0, 0, m_area.right, m_area.bottom, m_memory.Get(), 0, 0, SRCCOPY);
+    ::SelectObject(m_memory.Get(), m_before);
+    ::EndPaint(m_window, &m_paint);
 }
 
 } // namespace host

@@ -1,12 +1,18 @@
-// The window's colours, fonts and strokes.
+// The window's colours, fonts and strokes, and the sheet that they are put on.
 #pragma once
 
 #include <string>
 
-#include "ui/Gdi.h"
+#include "platform/Owners.h"
 
 namespace host
 {
+
+using corvane::Selected;
+using corvane::UniqueBrush;
+using corvane::UniqueFont;
+using corvane::UniquePen;
+using corvane::WindowContext;
 
 constexpr COLORREF kAccent = RGB(183, 71, 42);
 constexpr COLORREF kAccentDark = RGB(146, 53, 30);
@@ -52,5 +58,26 @@ void Write(HDC dc, const RECT& box, const std::wstring& text, HFONT font, COLORR
 
 // A drawn picture for the name of an Office image; unknown names get a plain page.
 void DrawPicture(HDC dc, const RECT& box, const std::string& name, COLORREF color);
+
+// Paints off the screen and shows the result at once when the scope ends.
+class PaintBuffer
+{
+public:
+    explicit PaintBuffer(HWND window);
+    PaintBuffer(const PaintBuffer&) = delete;
+    PaintBuffer& operator=(const PaintBuffer&) = delete;
+    ~PaintBuffer();
+
+    [[nodiscard]] HDC Dc() const { return m_memory.Get(); }
+
+private:
+    HWND m_window;
+    PAINTSTRUCT m_paint{};
+    RECT m_area;
+    HDC m_screen;
+    corvane::UniqueDeviceContext m_memory;
+    corvane::UniqueBitmap m_bitmap;
+    HGDIOBJ m_before;
+};
 
 } // namespace host
