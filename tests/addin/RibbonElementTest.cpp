@@ -1,6 +1,7 @@
 #include "addin/RibbonElement.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace corvane
 {
@@ -59,21 +60,13 @@ const std::wstring kBackstage = LR"( backstage
       task id='GateDoc' label='&gateDocLabel' imageMso='MasterDocument' onAction='RibbonHandler' isDefinitive='true'
 )";
 
-struct RibbonCase
-{
-    const char* name;
-    int hostVersion;
-    RibbonTab tab;
-    std::wstring expected;
-};
-
 } // namespace
 
 TEST(Ribbon, IsThatOfTheHost)
 {
     const std::wstring sharedRoot = L"customUI xmlns:a='CorvaneNameSpace' onLoad='onLoad'\n ribbon\n";
     const std::wstring ownRoot = L"customUI\n ribbon\n";
-    const RibbonCase kCases[] = {
+    const std::tuple<const char*, int, RibbonTab, std::wstring> kCases[] = {
         {"OfficeMenu", 12, RibbonTab::Shared, sharedRoot + kOfficeMenu + kSharedTab + kHelpButtons},
         {"LastOfficeMenu", 13, RibbonTab::Shared, sharedRoot + kOfficeMenu + kSharedTab + kHelpButtons},
         {"Backstage", 14, RibbonTab::Shared, sharedRoot + kSharedTab + kHelpButtons + kBackstage},
@@ -81,8 +74,8 @@ TEST(Ribbon, IsThatOfTheHost)
         {"OfficeMenuWithOwnTab", 12, RibbonTab::Own, ownRoot + kOfficeMenu + kOwnTab + kHelpButtons},
         {"BackstageWithOwnTab", 14, RibbonTab::Own, ownRoot + kOwnTab + kHelpButtons + kBackstage},
     };
-    for (const RibbonCase& item : kCases)
-        EXPECT_EQ(Drawn(BuildRibbon(item.hostVersion, kCaptions, item.tab)), item.expected) << item.name;
+    for (const auto& [name, hostVersion, tab, expected] : kCases)
+        EXPECT_EQ(Drawn(BuildRibbon(hostVersion, kCaptions, tab)), expected) << name;
 }
 
 TEST(RibbonButton, WritesWhatItHasInOrderAndKeepsItsLabelAndTips)

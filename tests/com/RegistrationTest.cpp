@@ -1,5 +1,7 @@
 #include "AddInLibrary.h"
 
+#include "platform/Registry.h"
+
 namespace
 {
 
@@ -28,27 +30,14 @@ protected:
 
     static std::wstring TextAt(const std::wstring& key, const wchar_t* name)
     {
-        std::wstring text(MAX_PATH, L'\0');
-        auto size = static_cast<DWORD>(text.size() * sizeof(wchar_t));
-        const LSTATUS status =
-            ::RegGetValueW(HKEY_CURRENT_USER, key.c_str(), name, RRF_RT_REG_SZ, nullptr, text.data(), &size);
-        return status == ERROR_SUCCESS ? text.c_str() : L"(missing)";
+        return corvane::Registry::ReadText(key, name).value_or(L"(missing)");
     }
     // The values left anywhere below a key.
-    static DWORD ValuesBelow(const std::wstring& key)
+    static std::size_t ValuesBelow(const std::wstring& key)
     {
-        HKEY opened = nullptr;
-        if (::RegOpenKeyW(HKEY_CURRENT_USER, key.c_str(), &opened) != ERROR_SUCCESS) return 0;
-        DWORD keys = 0;
-        DWORD values = 0;
-        ::RegQueryInfoKeyW(opened, nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values, nullptr, nullptr,
-                           nullptr, nullptr);
-        for (DWORD index = 0; index < keys; ++index) {
-            wchar_t name[MAX_PATH] = L"";
-            ::RegEnumKeyW(opened, index, name, MAX_PATH);
+        std::size_t values = corvane::Registry::ValueNames(key).size();
+        for (const std::wstring& name : corvane::Registry::KeyNames(key))
             values += ValuesBelow(key + L"\\" + name);
-        }
-        ::RegCloseKey(opened);
         return values;
     }
 
@@ -61,10 +50,7 @@ TEST_F(Registration, WritesTheHostsKeyForTheUserAndTakesEverythingBack)
     ASSERT_EQ(Run("DllRegisterServer"), S_OK);
     EXPECT_EQ(TextAt(kAddInKey, L"FriendlyName"), L"Corvane for MS Office - PowerPoint");
     EXPECT_EQ(TextAt(kAddInKey, L"Description"), L"Corvane Addin for MS Office Documents - PowerPoint");
-    DWORD loadBehaviour = 0;
-    DWORD size = sizeof loadBehaviour;
-    ::RegGetValueW(HKEY_CURRENT_USER, kAddInKey, L"LoadBehavior", RRF_RT_REG_DWORD, nullptr, &loadBehaviour, &size);
-    EXPECT_EQ(loadBehaviour, 3U);
+    EXPECT_EQ(corvane::Registry::ReadNumber(kAddInKey, L"LoadBehavior"), 3);
 
     for (const wchar_t* name : {L"Connect", L"CController", L"CTraceLog", L"CRbnBtnInfo", L"CSaveResult"}) {
         const std::wstring classes = L"Software\\Classes\\";

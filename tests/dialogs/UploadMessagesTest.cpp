@@ -1,6 +1,7 @@
 #include "dialogs/UploadMessages.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace corvane
 {
@@ -46,16 +47,9 @@ TEST(UploadMessages, KnowTheServersRefusalsByTheDialog)
     EXPECT_EQ(told(kRelatedDocumentErrors, 0x8004C6A4U), std::nullopt);
 }
 
-struct TypeCase
-{
-    const char* name;
-    Target target;
-    const wchar_t* expected;
-};
-
 TEST(UploadMessages, NameTheTargetByWhatIsKnownOfIt)
 {
-    constexpr TypeCase kTypes[] = {
+    constexpr std::tuple<const char*, Target, const wchar_t*> kTypes[] = {
         {"Deliverable", {1, 3, 0}, L"Work Item"},       {"Activity", {1, 0, 7}, L"Task"},
         {"ActivityOfADeliverable", {1, 3, 7}, L"Task"}, {"NoTarget", {1, 0, 0}, L"Work Item or Task"},
         {"NoProject", {0, 3, 7}, L"Work Item or Task"}, {"NegativeIds", {1, -3, -7}, L"Work Item or Task"},

@@ -1,6 +1,7 @@
 #include "dialogs/UploadRules.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace corvane
 {
@@ -201,17 +202,9 @@ TEST(UploadRules, AskForOwnershipStepByStep)
     }
 }
 
-struct GateCase
-{
-    const char* name;
-    GateDocumentFacts facts;
-    bool outsider;
-    UploadDecision expected;
-};
-
 TEST(GateDocumentRules, PutOwnershipBeforeTheClosedProject)
 {
-    constexpr GateCase kCases[] = {
+    constexpr std::tuple<const char*, GateDocumentFacts, bool, UploadDecision> kCases[] = {
         {"Owner", {.isOwner = true}, false, {Verdict::Allowed, {}}},
         {"Updater", {.mayUpdate = true}, false, {Verdict::Allowed, {}}},
         {"MemberOfAnotherOwners",

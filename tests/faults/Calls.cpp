@@ -7,6 +7,7 @@
 #include "objects/HttpRequestObject.h"
 #include "platform/Owners.h"
 #include "platform/Procedure.h"
+#include "platform/Utf8.h"
 #include "webservice/Exchange.h"
 #include "webservice/Transfer.h"
 #include "webservice/WebService.h"
@@ -31,14 +32,6 @@ constexpr const Operation* kOperations[] = {
     &kGetProject,        &kGetActivityVersions, &kGetProjectRelatedFile, &kGetRelatedFileDate,
     &kGetGroups,         &kCreateRelatedFile,   &kUploadRelatedFile,     &kUploadGateDocument,
     &kAssignmentTree,    &kRelatedFileTree,     &kGateDocumentTree,      &kConfigValues};
-
-std::wstring Wide(const std::string& text)
-{
-    std::wstring wide(text.size(), L'\0');
-    const auto length = static_cast<int>(text.size());
-    wide.resize(static_cast<std::size_t>(::MultiByteToWideChar(CP_UTF8, 0, text.data(), length, wide.data(), length)));
-    return wide;
-}
 
 // A text as one line of ASCII.
 std::string Line(const std::wstring& text)
@@ -85,7 +78,7 @@ void Answer(const std::string& line)
     std::string field;
     Parameters all;
     while (std::getline(fields, field, '\t'))
-        all.emplace_back(Wide(field));
+        all.emplace_back(FromUtf8(field));
     SetRequestTimeout(std::chrono::milliseconds{std::stoi(ParameterText(all.at(2)))});
     std::wstring answer;
     const ULONGLONG start = ::GetTickCount64();

@@ -8,6 +8,7 @@
 #include "automation/EventSource.h"
 #include "automation/OfficeInterfaces.h"
 #include "platform/ClassFactory.h"
+#include "platform/HandOut.h"
 #include "platform/LateBound.h"
 
 namespace host::test
@@ -82,60 +83,39 @@ public:
 
 private:
     // The second interface of the object, with the same identity.
-    struct RibbonSide final : IRibbonExtensibility
+    struct RibbonSide final : AutomationObject<IRibbonExtensibility>
     {
-        explicit RibbonSide(FakeAddIn& owner) : m_owner{owner} {}
-        STDMETHODIMP QueryInterface(REFIID id, void** object) override { return m_owner.QueryInterface(id, object); }
-        STDMETHODIMP_(ULONG) AddRef() override { return m_owner.AddRef(); }
-        STDMETHODIMP_(ULONG) Release() override { return m_owner.Release(); }
-        STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-        STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-        STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-        STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override
+        explicit RibbonSide(FakeAddIn& owner) : AutomationObject{L"RibbonSide"}, m_owner{owner} {}
+        std::span<const Member> Members() const override { return {}; }
+        STDMETHODIMP QueryInterface(REFIID id, void** object) noexcept override
         {
-            return E_NOTIMPL;
+            return m_owner.QueryInterface(id, object);
         }
-        STDMETHODIMP GetCustomUI(BSTR, BSTR* xml) override
-        {
-            *xml = Bstr{kRibbonXml}.Detach();
-            return S_OK;
-        }
+        STDMETHODIMP_(ULONG) AddRef() noexcept override { return m_owner.AddRef(); }
+        STDMETHODIMP_(ULONG) Release() noexcept override { return m_owner.Release(); }
+        STDMETHODIMP GetCustomUI(BSTR, BSTR* xml) override { return corvane::HandOut(kRibbonXml, xml); }
         FakeAddIn& m_owner;
     };
 
-    Variant OnLoad(const Arguments& arguments)
-    {
-        m_ribbonUi = LateBound{arguments.At(0).Object()};
-        return {};
-    }
+    void OnLoad(const Arguments& arguments) { m_ribbonUi = LateBound{arguments.At(0).Object()}; }
 
-    Variant GetLabel(const Arguments&) { return Variant{std::to_wstring(m_activations) + L" activations"}; }
+    std::wstring GetLabel() { return std::to_wstring(m_activations) + L" activations"; }
 
-    Variant WindowActivate(const Arguments& arguments)
+    void WindowActivate(const Arguments& arguments)
     {
         static_cast<void>(LateBound{arguments.At(1).Object()}.Text(L"caption"));
         ++m_activations;
         if (m_ribbonUi) m_ribbonUi.Call(L"Invalidate");
-        return {};
     }
 
-    Variant PresentationClose(const Arguments&)
-    {
-        ++m_closes;
-        return {};
-    }
+    void PresentationClose() { ++m_closes; }
 
-    Variant Press(const Arguments& arguments)
+    void Press(const Arguments& arguments)
     {
         const std::wstring id = LateBound{arguments.At(0).Object()}.Text(L"id");
-        if (id == L"Hello") {
-            const std::wstring text =
-                GetLabel(arguments).Text() + L"\r\nand  " + std::to_wstring(m_closes) + L" closed";
-            ::MessageBoxW(nullptr, text.c_str(), L"Fake", MB_YESNO | MB_ICONQUESTION);
-            return {};
-        }
-        ShowFakeForm();
-        return {};
+        if (id != L"Hello") return ShowFakeForm();
+        const std::wstring text = GetLabel() + L"\r\nand  " + std::to_wstring(m_closes) + L" closed";
+        ::MessageBoxW(nullptr, text.c_str(), L"Fake", MB_YESNO | MB_ICONQUESTION);
     }
 
     RibbonSide m_ribbon{*this};

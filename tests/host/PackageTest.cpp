@@ -9,15 +9,8 @@ namespace host
 namespace
 {
 
-const std::vector<CustomProperty> kProperties = {
-    {"KRX_SYS_Server", PropertyType::Text, "http://host/a?b=1&c=<2>"},
-    {"KRX_SYS_ProjectID", PropertyType::Number, "12"},
-    {"Flag", PropertyType::Boolean, "true"},
-    {"Gr\xc3\xb6\xc3\x9f"
-     "e",
-     PropertyType::Float, "1.5"},
-    {"When", PropertyType::Date, "2024-05-01T10:00:00Z"},
-};
+const std::vector<CustomProperty> kProperties = {{"KRX_SYS_Server", PropertyType::Text, "http://host/a?b=1&c=<2>"},
+                                                 {"KRX_SYS_ProjectID", PropertyType::Number, "12"}};
 
 std::size_t Count(const std::string& text, const std::string& part)
 {
@@ -27,11 +20,10 @@ std::size_t Count(const std::string& text, const std::string& part)
     return count;
 }
 
-OfficePackage Saved(const OfficePackage& package) { return OfficePackage::Parse(package.Write()); }
-
 TEST(PackageTest, NewPresentationCarriesTitleAndAuthorAsText)
 {
-    const auto package = Saved(OfficePackage::New(HostKind::PowerPoint, "R&D <plan>", "Ann \"A\" Lee"));
+    const auto package =
+        OfficePackage::Parse(OfficePackage::New(HostKind::PowerPoint, "R&D <plan>", "Ann \"A\" Lee").Write());
     EXPECT_EQ(package.SlideTitle(), "R&D <plan>");
     EXPECT_EQ(package.CoreProperty("dc:creator"), "Ann \"A\" Lee");
     EXPECT_TRUE(package.CustomProperties().empty());

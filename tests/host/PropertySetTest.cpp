@@ -24,14 +24,7 @@ TEST(PropertySetTest, KeepsNamesTypesAndValuesOfEverySection)
     const auto read = ReadPropertySet(WritePropertySet(kSections));
     ASSERT_EQ(read.size(), 2u);
     EXPECT_EQ(read[0].format, kDocumentSummarySet);
-    const auto& expected = kSections[1].properties;
-    ASSERT_EQ(read[1].properties.size(), expected.size());
-    for (std::size_t i = 0; i < expected.size(); ++i) {
-        EXPECT_EQ(read[1].properties[i].id, expected[i].id);
-        EXPECT_EQ(read[1].properties[i].property.name, expected[i].property.name);
-        EXPECT_EQ(read[1].properties[i].property.type, expected[i].property.type);
-        EXPECT_EQ(read[1].properties[i].property.value, expected[i].property.value);
-    }
+    EXPECT_EQ(read[1].properties, kSections[1].properties);
 }
 
 TEST(FileTimeTest, CountsFromSixteenHundredAndOne)

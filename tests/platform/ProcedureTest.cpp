@@ -127,15 +127,9 @@ TEST(HostBoundary, NeedsNoMemoryForAnError)
     EXPECT_EQ(caught->Description(), own.Description());
 }
 
-struct ResultCase
-{
-    std::uint32_t result;
-    std::uint32_t number;
-};
-
 TEST(ErrorNumber, IsTheScriptsNumberOfAnAutomationError)
 {
-    constexpr ResultCase kCases[] = {
+    constexpr std::pair<std::uint32_t, std::uint32_t> kCases[] = {
         {0x800A011FU, 287},         {0x800A005EU, 94},          {0x800AFFFFU, 0xFFFF},      {0x80004005U, 0x80004005U},
         {0x8004C6A3U, 0x8004C6A3U}, {0x000A005BU, 0x000A005BU}, {0x800B0001U, 0x800B0001U}, {0, 0},
     };

@@ -1,22 +1,16 @@
 #include "platform/XmlScreening.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 #include <string>
 
 namespace corvane
 {
 
-struct ScreeningCase
-{
-    const char* name;
-    const wchar_t* text;
-    bool expected;
-};
-
 TEST(XmlScreening, LeavesOutDocumentTypesAndWhatTakesAParserTooLong)
 {
-    constexpr ScreeningCase kCases[] = {
+    constexpr std::tuple<const char*, const wchar_t*, bool> kCases[] = {
         {"AtTheStart", L"<!DOCTYPE a [<!ENTITY b 'c'>]><a>&b;</a>", false},
         {"BehindAByteOrderMark", L"\xFEFF<!DOCTYPE a><a/>", false},
         {"BehindAComment", L"<!-- a > b --><!DOCTYPE a><a/>", false},
@@ -34,8 +28,8 @@ TEST(XmlScreening, LeavesOutDocumentTypesAndWhatTakesAParserTooLong)
         {"PlainText", L"True", true},
         {"Nothing", L"", true},
     };
-    for (const auto& item : kCases)
-        EXPECT_EQ(IsFitToParse(item.text), item.expected) << item.name;
+    for (const auto& [name, text, expected] : kCases)
+        EXPECT_EQ(IsFitToParse(text), expected) << name;
     std::wstring row = L"<a";
     for (int attribute = 0; attribute < 4096; ++attribute)
         row += L" a=''";

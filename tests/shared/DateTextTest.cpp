@@ -3,19 +3,12 @@
 #include "support/Conversions.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace corvane
 {
 namespace
 {
-
-struct DateCase
-{
-    const char* name;
-    const wchar_t* text;
-    const wchar_t* layout;
-    std::optional<CalendarDate> expected;
-};
 
 constexpr CalendarDate kDay{2013, 3, 4};
 
@@ -31,7 +24,7 @@ constexpr std::pair<const wchar_t*, const wchar_t*> kLayouts[] = {
 constexpr std::size_t kTimedLayouts = 8;
 constexpr const wchar_t* kTimes[] = {L" HH:mm:ss AMPM", L" H:m:ss AMPM", L" HH:mm:ss", L" H:m:ss"};
 
-constexpr DateCase kCases[] = {
+constexpr std::tuple<const char*, const wchar_t*, const wchar_t*, std::optional<CalendarDate>> kCases[] = {
     {"UsTimeLayoutNeedsATime", L"03/04/2013", L"MM/dd/yyyy H:m:ss AMPM", std::nullopt},
     {"LastYearOfThisCentury", L"1/1/29", L"M/d/yy", CalendarDate{2029, 1, 1}},
     {"FirstYearOfTheLast", L"1/1/30", L"M/d/yy", CalendarDate{1930, 1, 1}},

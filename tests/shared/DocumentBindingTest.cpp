@@ -1,6 +1,7 @@
 #include "shared/DocumentBinding.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace corvane
 {
@@ -20,14 +21,7 @@ struct Ids
     std::int32_t templateLibrary = 0;
 };
 
-struct KindCase
-{
-    const char* name;
-    Ids ids;
-    Kind expected;
-};
-
-constexpr KindCase kCases[] = {
+constexpr std::tuple<const char*, Ids, Kind> kCases[] = {
     {"NoIds", {}, Kind::Unbound},
     {"ProjectAlone", {.project = 12}, Kind::Unbound},
     {"Deliverable", {.project = 12, .deliverable = 3}, Kind::Deliverable},

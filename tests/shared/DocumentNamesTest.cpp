@@ -1,19 +1,14 @@
 #include "shared/DocumentNames.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace corvane
 {
 
-struct NameCase
-{
-    const wchar_t* given;
-    const wchar_t* expected;
-};
-
 TEST(DocumentNames, FindTheExtensionInTheLastPartOfAPath)
 {
-    constexpr NameCase kCases[] = {
+    constexpr std::pair<const wchar_t*, const wchar_t*> kCases[] = {
         {L"C:\\decks\\plan.pptx", L".pptx"},     {L"plan.v2.PPT", L".PPT"}, {L"C:\\decks.old\\plan", L""},
         {L"https://host/a.b/plan", L""},         {L"plan.", L""},           {L"", L""},
         {L"https://host/a/plan.pptm", L".pptm"}, {L".pptx", L".pptx"},
@@ -28,24 +23,16 @@ TEST(DocumentNames, GiveATitleADefaultExtensionOnlyWhereItHasNone)
     EXPECT_EQ(TitleWithExtension(L"plan.ppt", L".pptx"), L"plan.ppt");
 }
 
-struct UploadNameCase
-{
-    const char* name;
-    const wchar_t* title;
-    const wchar_t* path;
-    const wchar_t* expected;
-};
-
 TEST(DocumentNames, PutTheSavedExtensionBehindATitleThatDoesNotHoldIt)
 {
-    constexpr UploadNameCase kCases[] = {
+    constexpr std::tuple<const char*, const wchar_t*, const wchar_t*, const wchar_t*> kCases[] = {
         {"InAnotherLetterCase", L"Plan.PPTX", L"C:\\d\\plan.pptx", L"Plan.PPTX"},
         {"InTheMiddle", L"plan.pptx (copy)", L"C:\\d\\x.pptx", L"plan.pptx (copy)"},
         {"AsTheStartOfALongerOne", L"plan.pptx", L"C:\\d\\plan.ppt", L"plan.pptx"},
         {"WithAnother", L"plan.ppt", L"C:\\d\\plan.pptx", L"plan.ppt.pptx"},
     };
-    for (const auto& item : kCases)
-        EXPECT_EQ(UploadNameOf(item.title, item.path), item.expected) << item.name;
+    for (const auto& [name, title, path, expected] : kCases)
+        EXPECT_EQ(UploadNameOf(title, path), expected) << name;
 }
 
 TEST(DocumentNames, ReplaceWhatAFileNameCannotHold)

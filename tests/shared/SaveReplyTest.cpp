@@ -3,20 +3,14 @@
 #include "shared/HostVersion.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace corvane
 {
 
-struct ReplyCase
-{
-    const wchar_t* answer;
-    ReplyKind kind;
-    const wchar_t* text;
-};
-
 TEST(SaveReply, KnowsItsPrefixesOnlyAtTheStartAndWithATextBehindThem)
 {
-    constexpr ReplyCase kCases[] = {
+    constexpr std::tuple<const wchar_t*, ReplyKind, const wchar_t*> kCases[] = {
         {L"CancelMessage:Locked by Dana.", ReplyKind::Cancelled, L"Locked by Dana."},
         {L"CancelMessage: ", ReplyKind::Cancelled, L" "},
         {L"CancelMessage:BrokenLinks:x", ReplyKind::Cancelled, L"BrokenLinks:x"},
@@ -70,17 +64,9 @@ TEST(ClientEvents, AreOnAtTheServerOnlyByTheExactText)
         EXPECT_FALSE(IsClientEventsSettingOn(value)) << testing::PrintToString(value);
 }
 
-struct VersionCase
-{
-    const wchar_t* version;
-    int expected;
-    bool ribbon;
-    bool backstage;
-};
-
 TEST(HostVersion, DecidesBetweenCommandBarsOfficeMenuAndBackstage)
 {
-    constexpr VersionCase kCases[] = {
+    constexpr std::tuple<const wchar_t*, int, bool, bool> kCases[] = {
         {L"11.0", 11, false, false},    {L"12.0", 12, true, false}, {L"14.0", 14, true, true},
         {L"15.0.4420", 15, true, true}, {L"16.0", 16, true, true},  {L"16", 16, true, true},
         {L"", 0, false, false},         {L"beta", 0, false, false}, {L"9.0", 9, false, false},

@@ -7,6 +7,7 @@
 #include "addin/CRbnBtnInfo.h"
 #include "addin/Connect.h"
 #include "platform/Procedure.h"
+#include "platform/Registry.h"
 #include "support/CCustomNames.h"
 #include "support/CTraceLog.h"
 
@@ -51,14 +52,10 @@ protected:
         g_oTraceLog.reset();
         g_oCustomNames.reset();
         SetProcedureWatch(nullptr);
-        ::RegDeleteTreeW(HKEY_CURRENT_USER, kPolicies);
+        Registry::DeleteTree(kPolicies);
     }
 
-    static void SwitchTraceOn()
-    {
-        const DWORD on = 1;
-        ::RegSetKeyValueW(HKEY_CURRENT_USER, kPolicies, L"EnableTraceLogs", REG_DWORD, &on, sizeof on);
-    }
+    static void SwitchTraceOn() { Registry::WriteNumber(kPolicies, L"EnableTraceLogs", 1); }
     void ConnectTo(const wchar_t* version, LONG mode)
     {
         Start("powerpoint", version);

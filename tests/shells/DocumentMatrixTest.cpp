@@ -58,14 +58,12 @@ class Matrix : public host::test::HostTest
 {
 protected:
     void Play(const HostRow& row, const wchar_t* version, const State& state);
-    LateBound App() { return LateBound{ComPtr<IDispatch>{&session->Application()}}; }
-    HostDocument Active() { return HostDocument{App()}; }
+    HostDocument Active() { return HostDocument{Application()}; }
     Result Save();
 
     Apartment m_apartment;
     FakeRequest m_transport;
-    OfferedClass m_class{kXmlHttp3,
-                         [this](REFIID id, void** object) { return m_transport.QueryInterface(id, object); }};
+    OfferedClass m_class{kXmlHttp3, m_transport.Creator()};
 
 private:
     void OpenDocument(const HostRow& row, const wchar_t* version, const State& state);
@@ -82,7 +80,7 @@ std::wstring ExtensionOfNew(const HostRow& row, const wchar_t* version, const St
 // What a save command makes of the document.
 Result Matrix::Save()
 {
-    if (IsEditing(App())) return {"editing", {}};
+    if (IsEditing(Application())) return {"editing", {}};
     HostDocument document = Active();
     if (!document.IsOpen()) return {"no document", {}};
     Result result;
@@ -191,9 +189,8 @@ TEST_F(Matrix, OfFilesLostBetweenSaveAndUpload)
     ::PostQuitMessage(0); // ends each pause before another attempt at once
     const char* retry = "Please retry your Save to Corvane.";
     Play(kHostRows[0], L"16.0",
-         {"deleted after the save", kPowerPoint, {{"save.fault", "gone"}}, Document::File, L"plan", retry});
-    Play(kHostRows[1], L"16.0",
-         {"held after the save", kWord, {{"save.fault", "held"}}, Document::File, L"plan", retry});
+         {"deleted after the save", kPowerPoint, {{"save.fault", "gone"}}, Document::File, retry});
+    Play(kHostRows[1], L"16.0", {"held after the save", kWord, {{"save.fault", "held"}}, Document::File, retry});
     MSG quit{};
     EXPECT_TRUE(::PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
 }
@@ -203,8 +200,7 @@ TEST_F(Matrix, OfADocumentsFolderThatIsGone)
     const DocumentsAt documents{L"Q:\\gone\\Documents"};
     for (const HostRow& row : kHostRows)
         if (row.bit != kOutlook)
-            Play(row, L"16.0",
-                 {"Documents missing", kFiles, {}, Document::New, L"", "save the document to disk and then"});
+            Play(row, L"16.0", {"Documents missing", kFiles, {}, Document::New, "save the document to disk and then"});
 }
 
 TEST_F(Matrix, LetsExcelAloneBeInteractiveOrNot)
@@ -212,7 +208,7 @@ TEST_F(Matrix, LetsExcelAloneBeInteractiveOrNot)
     Start("excel");
     for (const bool interactive : {false, true}) {
         Active().SetInteractive(interactive);
-        EXPECT_EQ(App().Number(L"Interactive") != 0, interactive);
+        EXPECT_EQ(Application().Number(L"Interactive") != 0, interactive);
     }
     Start("word");
     Active().SetInteractive(false); // no member, no error

@@ -33,6 +33,12 @@ public:
     int aborted = 0;
     ULONG references = 0;
 
+    // Gives it out as a new object of a class.
+    std::function<HRESULT(REFIID, void**)> Creator()
+    {
+        return [this](REFIID id, void** object) { return QueryInterface(id, object); };
+    }
+
     STDMETHODIMP QueryInterface(REFIID, void** object) override
     {
         *object = this;
@@ -75,16 +81,8 @@ public:
         sent.assign(static_cast<const char*>(body.parray->pvData), body.parray->rgsabound[0].cElements);
         return S_OK;
     }
-    STDMETHODIMP abort() override
-    {
-        ++aborted;
-        return S_OK;
-    }
-    STDMETHODIMP get_status(LONG* value) override
-    {
-        *value = status;
-        return statusResult;
-    }
+    STDMETHODIMP abort() override { return ++aborted, S_OK; }
+    STDMETHODIMP get_status(LONG* value) override { return *value = status, statusResult; }
     STDMETHODIMP get_statusText(BSTR*) override { return E_NOTIMPL; }
     STDMETHODIMP get_responseXML(IDispatch**) override { return E_NOTIMPL; }
     STDMETHODIMP get_responseText(BSTR* answer) override
@@ -103,11 +101,7 @@ public:
         return S_OK;
     }
     STDMETHODIMP get_responseStream(VARIANT*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_readyState(LONG* state) override
-    {
-        *state = readyState;
-        return S_OK;
-    }
+    STDMETHODIMP get_readyState(LONG* state) override { return *state = readyState, S_OK; }
     STDMETHODIMP put_onreadystatechange(IDispatch*) override { return S_OK; }
 
 private:

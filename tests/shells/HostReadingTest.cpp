@@ -72,7 +72,7 @@ protected:
     {
         Start(hostName, version);
         session->New();
-        m_document = HostDocument{LateBound{ComPtr<IDispatch>{&session->Application()}}};
+        m_document = HostDocument{Application()};
         m_document.Active().Call(L"SaveAs", folder.File(L"a"));
         return m_document.Active();
     }

@@ -21,8 +21,6 @@ using namespace corvane;
 namespace
 {
 
-constexpr CLSID kXmlHttp3 = {0xF5078F35, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
-
 // Counts the procedures that begin and the errors that are reported.
 class Listener final : public ProcedureWatch
 {
@@ -47,8 +45,7 @@ protected:
     }
     ~Menus() override { g_oCustomNames.reset(); }
 
-    LateBound App() { return LateBound{ComPtr<IDispatch>{&session->Application()}}; }
-    LateBound Bar() { return App().Object(L"CommandBars").Object(L"Item", L"Menu Bar"); }
+    LateBound Bar() { return Application().Object(L"CommandBars").Object(L"Item", L"Menu Bar"); }
     // A menu's entries that the add-in made, each with what was done to it.
     std::wstring MadeIn(host::CommandBarObject& menu)
     {
@@ -84,7 +81,7 @@ TEST_F(Menus, AreMadeWithEveryPropertyInOrderAndHiddenBeforeTheyAreDeleted)
     for (const auto& [kind, savePosition] : {std::pair{"", L"6"}, std::pair{"bare", L"5"}}) {
         Start("powerpoint", L"11.0", {{"menus", kind}});
         CAddInMenus menus{{}};
-        menus.SetApplication(App());
+        menus.SetApplication(Application());
         menus.SetUICaptions();
         menus.CreateMenus(Bar());
         EXPECT_EQ(MadeIn(MenuBar()), HistoryWith(savePosition)) << kind;
@@ -108,7 +105,7 @@ TEST_F(Menus, ThatCannotBeMadeLeaveTheTracesLevelAsItWas)
     WatchProcedures();
     Start("powerpoint", L"11.0", {{"menus", "helpless"}});
     CAddInMenus menus{{}};
-    menus.SetApplication(App());
+    menus.SetApplication(Application());
     EXPECT_TRUE(Catch([&] { menus.CreateMenus(Bar()); }));
     EXPECT_EQ(g_oTraceLog->GetTabs(), L"\t");
     SetProcedureWatch(nullptr);
@@ -119,7 +116,7 @@ TEST_F(Menus, HaveARibbonOfTheirOwnForOutlook)
 {
     Start("outlook", L"14.0");
     CAddInMenus menus{{}};
-    menus.SetApplication(App());
+    menus.SetApplication(Application());
     menus.SetUICaptions();
     const std::wstring ribbon = menus.GetOutlookRibbonXML();
     EXPECT_NE(ribbon.find(L" id=\"CorvaneOffice\""), std::wstring::npos) << host::Narrow(ribbon);
@@ -130,7 +127,7 @@ TEST_F(Menus, SaveNothingInExcelWhileACellIsEdited)
 {
     Start("excel", L"16.0", {{"editing", "800AC472"}});
     CAddInMenus menus{{}};
-    menus.SetApplication(App());
+    menus.SetApplication(Application());
     const Listener listener;
     const MessageBoxAnswer box{
         L"You are currently editing a cell or object. Please finish editing before saving to Corvane.",
@@ -161,25 +158,25 @@ TEST_F(Menus, KeepExcelFromItsUserWhileTheDialogRunsAfterTheTree)
     FakeRequest transport;
     transport.text = L"<projects><project pid='12' IconSet='1' name='P'><stage phaseid='1' name='S'>"
                      L"<deliverable deliverableid='45' name='D'/></stage></project></projects>";
-    const OfferedClass http{kXmlHttp3, [&](REFIID id, void** object) { return transport.QueryInterface(id, object); }};
+    const OfferedClass http{kXmlHttp3, transport.Creator()};
     for (const bool fails : {false, true}) {
         Start("excel");
         session->New();
-        SetBindingProperties(HostDocument{App()}, {{.projectId = 12}, L"http://h"});
+        SetBindingProperties(HostDocument{Application()}, {{.projectId = 12}, L"http://h"});
         int dialogs = 0;
         CAddInMenus menus{{[&](frmBusy& busy) {
             ++dialogs;
             EXPECT_EQ(busy.lDeliverableID, 45);
-            EXPECT_EQ(App().Number(L"Interactive"), 0);
+            EXPECT_EQ(Application().Number(L"Interactive"), 0);
             if (fails) throw Error{5, L"", L"The dialog failed."};
         }}};
-        menus.SetApplication(App());
+        menus.SetApplication(Application());
         const Listener listener;
         ::SetTimer(nullptr, 0, 20, &PickTarget);
         menus.SaveAssignmentClickHelper(L"Custom");
         EXPECT_EQ(dialogs, 1);
         EXPECT_EQ(listener.reported, fails ? 1 : 0);
-        EXPECT_NE(App().Number(L"Interactive"), 0);
+        EXPECT_NE(Application().Number(L"Interactive"), 0);
     }
 }
 

@@ -1,6 +1,7 @@
 // What the add-in reads and keeps in the registry: the administrators' policy and the customer's words.
 #include "OfferedClass.h"
 
+#include "platform/Registry.h"
 #include "support/CCustomNames.h"
 #include "support/Policy.h"
 #include "support/Settings.h"
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 using namespace corvane;
+using Registry::Hive;
 
 namespace
 {
@@ -15,9 +17,9 @@ namespace
 constexpr wchar_t kPolicies[] = L"Software\\Policies\\Halvex\\Corvane";
 constexpr wchar_t kCache[] = L"Software\\Halvex\\Corvane\\CustomNames";
 
-void SetText(HKEY hive, const std::wstring& key, const wchar_t* name, const std::wstring& text, DWORD type = REG_SZ)
+void SetText(const std::wstring& name, const std::wstring& text, DWORD type = REG_SZ)
 {
-    ::RegSetKeyValueW(hive, key.c_str(), name, type, text.c_str(),
+    ::RegSetKeyValueW(HKEY_CURRENT_USER, kCache, name.c_str(), type, text.c_str(),
                       static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
 }
 
@@ -27,30 +29,27 @@ protected:
     PolicyTest() { Clear(); }
     ~PolicyTest() override { Clear(); }
 
-    static void SetNumber(HKEY hive, const wchar_t* name, DWORD number)
+    static void SetServer(Hive hive, const std::wstring& name, const wchar_t* text)
     {
-        ::RegSetKeyValueW(hive, kPolicies, name, REG_DWORD, &number, sizeof number);
-    }
-    static void SetServer(HKEY hive, const wchar_t* name, const wchar_t* text)
-    {
-        SetText(hive, std::wstring{kPolicies} + L"\\Servers", name, text);
+        Registry::WriteText(std::wstring{kPolicies} + L"\\Servers", name, text, hive);
     }
 
 private:
     static void Clear()
     {
-        for (const HKEY hive : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE})
-            ::RegDeleteTreeW(hive, kPolicies);
+        for (const Hive hive : {Hive::User, Hive::Machine})
+            Registry::DeleteTree(kPolicies, hive);
     }
 };
 
 TEST_F(PolicyTest, OfTheMachineComesBeforeTheUsersNumberByNumber)
 {
-    SetNumber(HKEY_CURRENT_USER, L"EnableTraceLogs", 1);
-    SetNumber(HKEY_CURRENT_USER, L"RequestTimeoutSeconds", 20);
+    Registry::WriteNumber(kPolicies, L"EnableTraceLogs", 1);
+    Registry::WriteNumber(kPolicies, L"RequestTimeoutSeconds", 20);
     const Apartment apartment;
     EXPECT_TRUE(Settings::Read().traceEnabled);
-    SetNumber(HKEY_LOCAL_MACHINE, L"EnableTraceLogs", 0);
+    constexpr DWORD kOff = 0;
+    ::RegSetKeyValueW(HKEY_LOCAL_MACHINE, kPolicies, L"EnableTraceLogs", REG_DWORD, &kOff, sizeof kOff);
     EXPECT_FALSE(Settings::Read().traceEnabled);
     EXPECT_EQ(Settings::Read().requestTimeout, std::chrono::seconds{20});
 }
@@ -59,19 +58,19 @@ TEST_F(PolicyTest, ListOfTheMachineStandsInPlaceOfTheUsers)
 {
     using Texts = std::vector<std::wstring>;
     EXPECT_EQ(Policy::List(L"Server"), Texts{});
-    SetServer(HKEY_CURRENT_USER, L"Server1", L"http://user");
-    SetServer(HKEY_CURRENT_USER, L"Server2", L"http://other");
-    SetServer(HKEY_CURRENT_USER, L"Server4", L"http://behind a gap");
+    SetServer(Hive::User, L"Server1", L"http://user");
+    SetServer(Hive::User, L"Server2", L"http://other");
+    SetServer(Hive::User, L"Server4", L"http://behind a gap");
     EXPECT_EQ(Policy::List(L"Server"), (Texts{L"http://user", L"http://other"}));
-    SetServer(HKEY_LOCAL_MACHINE, L"Server1", L"http://machine");
+    SetServer(Hive::Machine, L"Server1", L"http://machine");
     EXPECT_EQ(Policy::List(L"Server"), Texts{L"http://machine"});
 }
 
 class KeptNames : public testing::Test
 {
 protected:
-    KeptNames() { ::RegDeleteTreeW(HKEY_CURRENT_USER, kCache); }
-    ~KeptNames() override { ::RegDeleteTreeW(HKEY_CURRENT_USER, kCache); }
+    KeptNames() { Registry::DeleteTree(kCache); }
+    ~KeptNames() override { Registry::DeleteTree(kCache); }
 
     // A cached word, behind the type of its value.
     static std::wstring Kept(const std::wstring& name)
@@ -87,8 +86,8 @@ protected:
 TEST_F(KeptNames, AreAllWrittenByARefreshUnlessTheyAreThereAlready)
 {
     // The type tells a value that was there before from one that was written again.
-    SetText(HKEY_CURRENT_USER, kCache, L"Stage", L"My Stage", REG_EXPAND_SZ);
-    SetText(HKEY_CURRENT_USER, kCache, L"Gate", L"my Gate", REG_EXPAND_SZ);
+    SetText(L"Stage", L"My Stage", REG_EXPAND_SZ);
+    SetText(L"Gate", L"my Gate", REG_EXPAND_SZ);
     CCustomNames names{[](const std::wstring& server, const std::wstring& page) {
         EXPECT_EQ(server + page, L"http://hpage");
         std::vector<CustomNameRow> rows{{L"Extra", L"My Extra"}};
@@ -114,8 +113,8 @@ TEST_F(KeptNames, AreReadAtTheStartEvenWhereEmpty)
     for (const auto& [key, cachedAs] : kCustomNameKeys)
         EXPECT_EQ(defaults.GetCustomName(key), key);
     for (const auto& [key, cachedAs] : kCustomNameKeys)
-        SetText(HKEY_CURRENT_USER, kCache, cachedAs, std::wstring{L"My "} + key);
-    SetText(HKEY_CURRENT_USER, kCache, L"In Trouble", L"");
+        SetText(cachedAs, std::wstring{L"My "} + key);
+    SetText(L"In Trouble", L"");
     ::RegDeleteKeyValueW(HKEY_CURRENT_USER, kCache, L"Stage");
     const CCustomNames names{nullptr};
     for (const std::wstring key : {L"Corvane", L"Gate Document", L"Gate Documents", L"Routed For Approval"})

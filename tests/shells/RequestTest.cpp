@@ -66,9 +66,7 @@ protected:
 
     Apartment m_apartment;
     FakeRequest m_transport;
-    const OfferedClass::Create m_create{
-        [this](REFIID id, void** object) { return m_transport.QueryInterface(id, object); }};
-    std::optional<OfferedClass> m_class{std::in_place, kXmlHttp3, m_create};
+    std::optional<OfferedClass> m_class{std::in_place, kXmlHttp3, m_transport.Creator()};
 };
 
 TEST_F(Request, AStatusThatIsNoneOfHttpIsAFailureToSend)
@@ -234,7 +232,7 @@ TEST_F(Request, TheComponentOfVersion6ServesWhereVersion3IsMissing)
 {
     m_class.reset();
     const OfferedClass missing{kXmlHttp3};
-    const OfferedClass newer{kXmlHttp6, m_create};
+    const OfferedClass newer{kXmlHttp6, m_transport.Creator()};
     EXPECT_EQ(Query().Number(), 0);
     EXPECT_GT(newer.Asked(), 0);
 }

@@ -64,15 +64,14 @@ protected:
         dialog.ServerURL = L"http://h";
         dialog.ProjectID = 1;
         (target.isActivity ? dialog.ActivityID : dialog.DeliverableID) = 1;
-        dialog.Document = HostDocument{LateBound{ComPtr<IDispatch>{&session->Application()}}};
+        dialog.Document = HostDocument{Application()};
         dialog.Load();
     }
     static bool IsWaiting() { return ::GetCursor() == ::LoadCursorW(nullptr, IDC_WAIT); }
 
     Apartment m_apartment;
     FakeRequest m_transport;
-    const OfferedClass m_class{kXmlHttp3,
-                               [this](REFIID id, void** object) { return m_transport.QueryInterface(id, object); }};
+    const OfferedClass m_class{kXmlHttp3, m_transport.Creator()};
 };
 
 TEST_F(AssignmentForm, OffersWhatItsTargetAllows)

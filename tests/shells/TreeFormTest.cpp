@@ -27,10 +27,7 @@ constexpr wchar_t kPolicies[] = L"Software\\Policies\\Halvex\\Corvane";
 class User
 {
 public:
-    using Look = std::function<bool(HWND form)>;
-    using Act = std::function<void(HWND form)>;
-
-    User(const Form& form, Look ready, Act act, UINT milliseconds = 10)
+    User(const Form& form, std::function<bool(HWND)> ready, std::function<void(HWND)> act, UINT milliseconds = 10)
     {
         s_tick = [&form, ready = std::move(ready), act = std::move(act), done = false]() mutable {
             if (!done && (done = ready(form.Window()))) act(form.Window());
@@ -100,8 +97,7 @@ protected:
 
     Apartment m_apartment;
     FakeRequest m_transport;
-    const OfferedClass m_class{kXmlHttp3,
-                               [this](REFIID id, void** object) { return m_transport.QueryInterface(id, object); }};
+    const OfferedClass m_class{kXmlHttp3, m_transport.Creator()};
 };
 
 TEST_F(TreeForm, AsksTheServerInItsBoxAndKeepsItAlsoWhenTheHostClosesIt)

@@ -36,16 +36,10 @@ TEST(CFastString, TellsNothingFromAnEmptyText)
     EXPECT_EQ(builder.ToString(L", "), L"");
 }
 
-struct BlockCase
-{
-    std::int32_t pieces;
-    bool takesMoreOnceRead;
-};
-
 TEST(CFastString, GrowsByBlocksOfAThousandAndOnceReadTakesMoreOnlyAtTheirEdges)
 {
-    constexpr BlockCase kCases[] = {{0, true},     {1, false},   {999, false}, {1000, true},
-                                    {1001, false}, {2000, true}, {2001, false}};
+    constexpr std::pair<std::int32_t, bool> kCases[] = {{0, true},     {1, false},   {999, false}, {1000, true},
+                                                        {1001, false}, {2000, true}, {2001, false}};
     for (const auto& [pieces, takesMoreOnceRead] : kCases) {
         SCOPED_TRACE(pieces);
         CFastString builder = Filled(pieces);

@@ -6,15 +6,9 @@
 namespace corvane
 {
 
-struct LongCase
-{
-    const wchar_t* text;
-    std::int32_t expected;
-};
-
 TEST(Conversions, ReadAnIntegerAsAutomationDoes)
 {
-    constexpr LongCase kCases[] = {
+    constexpr std::pair<const wchar_t*, std::int32_t> kCases[] = {
         {L"42", 42},
         {L" 42\t", 42},
         {L"-7", -7},

@@ -1,23 +1,16 @@
 #include "support/ServerList.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace corvane
 {
 
 using Urls = std::vector<std::wstring>;
 
-struct MoveCase
-{
-    const char* name;
-    Urls before;
-    const wchar_t* url;
-    Urls after;
-};
-
 TEST(ServerList, PutsTheLatestAddressFirst)
 {
-    const MoveCase kCases[] = {
+    const std::tuple<const char*, Urls, const wchar_t*, Urls> kCases[] = {
         {"KnownOneFromTheMiddle", {L"A", L"B", L"C", L"D", L"E"}, L"C", {L"C", L"A", L"B", L"D", L"E"}},
         {"KnownOneFromTheEnd", {L"A", L"B", L"C"}, L"C", {L"C", L"A", L"B"}},
         {"FirstStaysFirst", {L"A", L"B", L"C"}, L"A", {L"A", L"B", L"C"}},
@@ -30,24 +23,16 @@ TEST(ServerList, PutsTheLatestAddressFirst)
         {"ListOfOne", {L"A"}, L"B", {L"B"}},
         {"ListOfNone", {}, L"B", {}},
     };
-    for (const MoveCase& item : kCases) {
-        Urls urls = item.before;
-        MoveToFront(urls, item.url);
-        EXPECT_EQ(urls, item.after) << item.name;
+    for (const auto& [name, before, url, after] : kCases) {
+        Urls urls = before;
+        MoveToFront(urls, url);
+        EXPECT_EQ(urls, after) << name;
     }
 }
 
-struct PresetCase
-{
-    const char* name;
-    Urls user;
-    Urls preset;
-    Urls expected;
-};
-
 TEST(ServerList, PutsTheAdministratorsAddressesInFront)
 {
-    const PresetCase kCases[] = {
+    const std::tuple<const char*, Urls, Urls, Urls> kCases[] = {
         {"NoPresetChangesNothing", {L"A", L"", L"A"}, {}, {L"A", L"", L"A"}},
         {"BlankPresetIsNone", {L"A", L""}, {L"  "}, {L"A", L""}},
         {"NewUserGetsThePreset", {L"", L"", L""}, {L"http://a", L"http://b"}, {L"http://a", L"http://b", L""}},
@@ -60,8 +45,8 @@ TEST(ServerList, PutsTheAdministratorsAddressesInFront)
         {"GrowsForThePresetOnly", {L"x"}, {L"http://a", L"http://b"}, {L"http://a", L"http://b"}},
         {"BroughtIntoItsForm", {L"http://a", L""}, {L" A ", L"HTTP://A"}, {L"http://a", L""}},
     };
-    for (const PresetCase& item : kCases)
-        EXPECT_EQ(WithPreset(item.user, item.preset), item.expected) << item.name;
+    for (const auto& [name, user, preset, expected] : kCases)
+        EXPECT_EQ(WithPreset(user, preset), expected) << name;
 }
 
 TEST(ServerList, TakesItsLengthFromThePolicyThenTheUser)

@@ -1,20 +1,14 @@
 #include "webservice/RequestText.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace corvane
 {
 
-struct EncodingCase
-{
-    const char* name;
-    std::wstring text;
-    const wchar_t* expected;
-};
-
 TEST(RequestText, EncodesAParameterUnitByUnit)
 {
-    const EncodingCase kCases[] = {
+    const std::tuple<const char*, std::wstring, const wchar_t*> kCases[] = {
         {"Nothing", L"", L""},
         {"LettersAndDigits", L"azAZ09", L"azAZ09"},
         {"NeighboursOfLettersAndDigits", L"/:@[`{", L"%2F%3A%40%5B%60%7B"},
@@ -28,21 +22,14 @@ TEST(RequestText, EncodesAParameterUnitByUnit)
         {"EachHalfOfAPairOnItsOwn", L"\xD83D\xDE00", L"%EF%BF%BD%EF%BF%BD"},
         {"LoneHalf", L"a\xDFFF", L"a%EF%BF%BD"},
     };
-    for (const auto& item : kCases)
-        EXPECT_EQ(EncodeURLParameter(item.text), item.expected) << item.name;
+    for (const auto& [name, text, expected] : kCases)
+        EXPECT_EQ(EncodeURLParameter(text), expected) << name;
     EXPECT_EQ(EncodeURLParameter(std::wstring(2500, L'&')).size(), 7500U) << "longer than two blocks of the builder";
 }
 
-struct QueryCase
-{
-    const char* name;
-    Parameters parameters;
-    const wchar_t* expected;
-};
-
 TEST(RequestText, NumbersTheParametersByTwo)
 {
-    const QueryCase kCases[] = {
+    const std::tuple<const char*, Parameters, const wchar_t*> kCases[] = {
         {"None", {}, L"Op=CUser.Do&P1=v6"},
         {"Three", {std::wstring{L"a"}, 2, std::wstring{L"c d"}}, L"Op=CUser.Do&P1=v6&P2=a&P4=2&P6=c+d"},
         {"EmptyFirst", {std::wstring{}, 7}, L"Op=CUser.Do&P1=v6&P2=&P4=7"},
@@ -51,8 +38,8 @@ TEST(RequestText, NumbersTheParametersByTwo)
         {"Negative", {-2147483647 - 1}, L"Op=CUser.Do&P1=v6&P2=%2D2147483648"},
         {"PastTen", Parameters(6, 1), L"Op=CUser.Do&P1=v6&P2=1&P4=1&P6=1&P8=1&P10=1&P12=1"},
     };
-    for (const auto& item : kCases)
-        EXPECT_EQ(RequestQuery(L"CUser.Do", item.parameters), item.expected) << item.name;
+    for (const auto& [name, parameters, expected] : kCases)
+        EXPECT_EQ(RequestQuery(L"CUser.Do", parameters), expected) << name;
 }
 
 TEST(RequestText, LeavesTheServersAddressAsItIs)

@@ -1,21 +1,15 @@
 #include "webservice/UploadBody.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 #include <vector>
 
 namespace corvane
 {
 
-struct AttemptCase
-{
-    const char* name;
-    ReadAttempt attempt;
-    bool complete;
-};
-
 TEST(UploadBody, IsReadyWhenTheFileIsCompletelyWritten)
 {
-    constexpr AttemptCase kCases[] = {
+    constexpr std::tuple<const char*, ReadAttempt, bool> kCases[] = {
         {"Written", {10, 10, false}, true},       {"Empty", {0, 0, true}, false},
         {"EmptyThatGrew", {0, 10, false}, false}, {"OnlyZeros", {10, 10, true}, false},
         {"Growing", {10, 11, false}, false},      {"Shrinking", {10, 9, false}, false},

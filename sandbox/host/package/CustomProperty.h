@@ -24,6 +24,8 @@ struct CustomProperty
     std::string name;
     PropertyType type = PropertyType::Text;
     std::string value;
+
+    bool operator==(const CustomProperty&) const = default;
 };
 
 // What every format keeps of a document: its built-in properties, all of them texts, and its custom properties.

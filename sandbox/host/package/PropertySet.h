@@ -28,6 +28,8 @@ struct SetProperty
 {
     std::uint32_t id = 0;
     CustomProperty property; // unnamed outside the user-defined set
+
+    bool operator==(const SetProperty&) const = default;
 };
 
 // One section of an OLE property set stream.
