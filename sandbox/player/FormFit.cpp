@@ -229,11 +229,12 @@ std::wstring ScreenProblem(HWND form)
 std::wstring FitProblem(HWND form)
 {
     const auto items = ShownItems(form);
-    for (const Item& item : items) {
+    const bool isMessage = IsClass(form, L"#32770"); // the system lays it out, and it has no tooltips
+    for (const Item& item : isMessage ? std::vector<Item>{} : items) {
         const std::wstring problem = TextProblem(form, item);
         if (!problem.empty()) return item.name + L" " + problem;
     }
-    const std::wstring ofCaption = CaptionProblem(form);
+    const std::wstring ofCaption = isMessage ? L"" : CaptionProblem(form);
     if (!ofCaption.empty()) return L"the title bar " + ofCaption;
     for (const std::wstring& problem : {OverlapProblem(items), OutsideProblem(form, items)})
         if (!problem.empty()) return problem;

@@ -95,9 +95,9 @@ std::wstring PlaceProblem(HWND window, HWND owner)
 
 void LayoutFits(Stage&, Run& run, const Step& step)
 {
-    run.WaitFor([name = step.At(0)] {
-        const HWND form = FindForm(name);
-        return form == nullptr ? L"no window " + name : FitProblem(form);
+    run.WaitFor([&, name = step.At(0)] {
+        const HWND window = run.NamedWindow(name);
+        return window == nullptr ? L"no window " + name : FitProblem(window);
     });
 }
 

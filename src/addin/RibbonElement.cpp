@@ -1,6 +1,7 @@
 #include "addin/RibbonElement.h"
 
 #include "addin/Commands.h"
+#include "forms/ShownText.h"
 #include "shared/HostVersion.h"
 #include "support/Conversions.h"
 
@@ -79,6 +80,18 @@ void FillHelpTab(RibbonElement& tabs, const UICaptions& captions, RibbonTab kind
     }
 }
 
+// One attribute that the grammar does not take costs all commands. It takes neither an empty text nor one of more than
+// 1,024 letters, and wants no text.
+void FitToGrammar(RibbonElement& element)
+{
+    constexpr std::size_t kLongestText = 1024;
+    std::erase_if(element.attributes, [](const auto& attribute) { return attribute.second.empty(); });
+    for (auto& [name, text] : element.attributes)
+        text = ShortenedTo(kLongestText, text);
+    for (RibbonElement& child : element.children)
+        FitToGrammar(child);
+}
+
 } // namespace
 
 const wchar_t* CustomUINamespaceFor(int hostVersion) noexcept
@@ -130,6 +143,7 @@ RibbonElement BuildRibbon(int hostVersion, const UICaptions& captions, RibbonTab
     if (!HasBackstage(hostVersion)) FillOfficeMenu(ribbon, captions);
     FillHelpTab(ribbon.Add(L"tabs"), captions, tab);
     if (HasBackstage(hostVersion)) FillBackstage(root, captions);
+    FitToGrammar(root);
     return root;
 }
 

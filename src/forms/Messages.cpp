@@ -1,6 +1,11 @@
 #include "forms/Messages.h"
 
 #include "forms/Form.h"
+#include "forms/FormWindow.h"
+#include "forms/ShownText.h"
+
+#include <algorithm>
+#include <cstdlib>
 
 namespace corvane
 {
@@ -23,6 +28,20 @@ HWND ActiveHostWindow() noexcept
     return Form::IsForm(bottom) ? nullptr : bottom;
 }
 
+// The room that the screen has for a message beside the frame, the margins, the icon and the buttons of its box.
+MessageRoom RoomFor(HWND owner) noexcept
+{
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    ::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+    const int letter = std::max(std::abs(static_cast<int>(metrics.lfMessageFont.lfHeight)), 1); // no narrower than wide
+    const Extent screen = WorkAreaFor(owner).Size();
+    const int rows = screen.height / (letter * 3 / 2) - 12;
+    const int letters = screen.width / letter - 10;
+    return {.rows = static_cast<std::size_t>(std::clamp(rows, 5, 40)),
+            .letters = static_cast<std::size_t>(std::clamp(letters, 20, 200))};
+}
+
 } // namespace
 
 void SetApplicationTitle(std::wstring title) { Title() = std::move(title); }
@@ -36,7 +55,8 @@ HWND HostWindow() noexcept { return ::IsWindow(g_hostWindow) ? g_hostWindow : Ac
 int ShowMessage(const std::wstring& text, UINT style, const std::wstring& title)
 {
     const HWND form = Form::TopWindow();
-    return ::MessageBoxW(form != nullptr ? form : HostWindow(), text.c_str(),
+    const HWND owner = form != nullptr ? form : HostWindow();
+    return ::MessageBoxW(owner, MessageText(text, RoomFor(owner)).c_str(),
                          (title.empty() ? ApplicationTitle() : title).c_str(), style);
 }
 

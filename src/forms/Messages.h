@@ -26,7 +26,8 @@ void SetHostWindow(HWND told) noexcept;
 // The host's window; null while there is none. Never a form of ours: what a passing one owned would go with it.
 [[nodiscard]] HWND HostWindow() noexcept;
 
-// Shows text in a message box that belongs to the topmost form, or to the host. Without a title of its own it carries
+// Shows text, as much of it as MessageText has room for, in a message box that belongs to the topmost form, or to the
+// host. Without a title of its own it carries
 // the application title. Returns the button pressed (IDOK, IDCANCEL).
 int ShowMessage(const std::wstring& text, UINT style, const std::wstring& title = {});
 

@@ -1,4 +1,4 @@
-// Texts of controls as the user sees them: access-key marks, and what a narrow control shows of a long text.
+// Texts as the user sees them: access-key marks, and what a narrow control or a message box shows of a long text.
 #pragma once
 
 #include <functional>
@@ -13,5 +13,19 @@ namespace corvane
 // The text itself if it fits, otherwise its longest beginning that fits with an ellipsis behind it (the ellipsis alone
 // if none does). A doubled "&" and a pair of surrogates stay together.
 [[nodiscard]] std::wstring Shortened(const std::wstring& text, const std::function<bool(const std::wstring&)>& fits);
+
+// The same by the number of letters (UTF-16 code units, the ellipsis included).
+[[nodiscard]] std::wstring ShortenedTo(std::size_t letters, const std::wstring& text);
+
+// How much of a text a message box has room for that is to be inside of the screen.
+struct MessageRoom
+{
+    std::size_t rows = 0;
+    std::size_t letters = 0; // in one row, whatever letters they are; the system breaks rows between words only
+};
+
+// What a message box shows of a text: no more than 2,000 letters, no more rows than there is room for, and longer words
+// than that in pieces.
+[[nodiscard]] std::wstring MessageText(const std::wstring& text, const MessageRoom& room);
 
 } // namespace corvane

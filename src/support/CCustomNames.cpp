@@ -17,14 +17,14 @@ CCustomNames::CCustomNames(Query query) : m_query{std::move(query)}
 {
     const bool cached = Registry::KeyExists(kCacheKey);
     for (const auto& [key, cachedAs] : kCustomNameKeys)
-        m_names.Set(key, cached ? Registry::ReadText(kCacheKey, cachedAs).value_or(key) : key);
+        m_names.Set(key, cached ? KeptValue(Registry::ReadText(kCacheKey, cachedAs).value_or(key)) : key);
 }
 
 void CCustomNames::Refresh(const std::wstring& server, const std::wstring& page)
 {
     const ProcedureScope scope{L"CCustomNames.Refresh"};
     if (!Registry::KeyExists(kCacheKey)) Registry::CreateKey(kCacheKey);
-    for (const auto& [token, value] : m_query(server, page)) {
+    for (const auto& [token, value] : KeptRows(m_query(server, page))) {
         m_names.Set(token, value);
         if (Registry::ReadText(kCacheKey, token) != value) Registry::WriteText(kCacheKey, token, value);
     }

@@ -11,13 +11,6 @@
 namespace corvane
 {
 
-// One term as the server's configuration service tells it.
-struct CustomNameRow
-{
-    std::wstring token;
-    std::wstring value;
-};
-
 // Holds the customer's terms: the defaults, overlaid by the values cached in the user's registry, overlaid by the
 // server's once they were fetched.
 class CCustomNames
@@ -37,8 +30,8 @@ public:
     // Whether Refresh has completed.
     [[nodiscard]] bool IsRefreshed() const noexcept { return m_refreshed; }
 
-    // Takes the server's values into the dictionary and the registry cache. Throws Error; the rows applied until then
-    // stay, and IsRefreshed stays as it was.
+    // Takes the server's values into the dictionary and the registry cache, so many and so long as KeptRows has it.
+    // Throws Error; the rows applied until then stay, and IsRefreshed stays as it was.
     void Refresh(const std::wstring& server, const std::wstring& page);
 
     // The rule of every caller: refresh on the first server that the user works with, and never again.

@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace corvane
 {
@@ -36,6 +37,21 @@ inline constexpr std::array kCustomNameKeys{
     CustomNameKey{L"Not Required", L"Not Required"},
     CustomNameKey{L"Routed For Approval", L"Routed For Approval"},
 };
+
+// One term as the server's configuration service tells it.
+struct CustomNameRow
+{
+    std::wstring token;
+    std::wstring value;
+
+    bool operator==(const CustomNameRow&) const = default;
+};
+
+// What is kept of the value of a term, at most 1,024 letters.
+[[nodiscard]] std::wstring KeptValue(const std::wstring& value);
+
+// What is kept of the rows that a server tells: the first 300 of those whose names have no more than 255 letters.
+[[nodiscard]] std::vector<CustomNameRow> KeptRows(const std::vector<CustomNameRow>& rows);
 
 // A dictionary of texts whose keys are compared without regard to letter case.
 class CustomNameTable

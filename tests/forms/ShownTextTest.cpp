@@ -42,5 +42,19 @@ TEST(ShownText, EndsALongTextInAnEllipsis)
     }
 }
 
+TEST(ShownText, HasNoMoreOfAMessageThanItsBoxHasRoomFor)
+{
+    const std::wstring row(80, L'r');
+    const std::wstring tabs(1999, L'\t');
+    EXPECT_EQ(MessageText(L"a\r\n\r\nb", {3, 100}), L"a\r\n\r\nb");
+    EXPECT_EQ(MessageText(L"a\r\n\r\nb\nc", {3, 100}), L"a\r\n\r\nb…");
+    EXPECT_EQ(MessageText(row + L"r\rb", {2, 100}), row + L"r…") << "two rows of one line";
+    EXPECT_EQ(MessageText(L"a\n" + row + L" b", {2, 100}), L"a\n" + row.substr(1) + L"…");
+    EXPECT_EQ(MessageText(L"ab abcd\tabc", {9, 3}), L"ab abc\r\nd\tabc");
+    EXPECT_EQ(MessageText(L"ab\xD83D\xDCC8=", {9, 3}), L"ab\xD83D\xDCC8\r\n=") << "a pair at the break";
+    EXPECT_EQ(MessageText(tabs + L"x", {40, 100}), tabs + L"x");
+    EXPECT_EQ(MessageText(tabs + L"xx", {40, 100}), tabs + L"…");
+}
+
 } // namespace
 } // namespace corvane

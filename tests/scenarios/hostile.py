@@ -2,23 +2,16 @@
 import json
 
 
-def picture(width, height, filling=b""):
-    return b"GIF89a" + width.to_bytes(2, "little") + height.to_bytes(2, "little") + b"\xf7\0\0" + filling
-
-
 def attributes(count):
     return b" ".join(b"a%x=''" % n for n in range(count))
 
 
 HOSTILE = {  # files of a server that means ill, by the request that they answer
-    "broken.gif": ("P2=Broken", picture(17, 17)),
-    "wide.gif": ("P2=Wide", picture(65535, 65535, b"\0" * 768 + b",\0\0\0\0\xff\xff\xff\xff\0\x08\x01\0\0;")),
-    "fat.gif": ("P2=Fat", picture(17, 17, b"\xff" * 2**22)),
     "members.xml": ("GETPROJECTTEAMMEMBERS", b"<xml xmlns:z='#RowsetSchema'>" + b"".join(
         b"<z:row EMailAddress='member%d@example.org'/>" % n for n in range(10000)) + b"</xml>"),
     "row.xml": ("GETPROJECTDELIVERABLE", b"<xml xmlns:z='#RowsetSchema'><z:row ProjectName='%s' DeliverableName='\t|..' "
                 b"DeliverableID='45' OwnerID='99999999999' TeamLeaderID='-' %s/></xml>" % (b"n" * 100000, attributes(4000)))}
-ICON_SETS = ["..\\..\\evil", "C:evil", "a|b", "Broken", "Wide", "Fat", "x" * 2000]
+ICON_SETS = ["..\\..\\evil", "C:evil", "a|b", "x" * 2000]
 
 
 def hostile_tree():
@@ -37,8 +30,11 @@ def write_hostile(folder):
     rules = [{"match": match, "file": str(folder / name)} for name, (match, _) in files.items()]
     endless = b"<xml xmlns:z='#RowsetSchema'><z:row %s/></xml>" % attributes(1000000)
     (folder / "endless.xml").write_bytes(endless)
-    rules.insert(0, {"match": "GETPROJECTDELIVERABLE", "file": str(folder / "endless.xml"), "times": 1})
-    head = "#! faults " + json.dumps(rules) + "\n#! run --timeout 60\n"
+    words = "line&#10;" * 20 + "w" * 1000 + "&#10;line" * 100000
+    rules[:0] = [{"match": "GETPROJECTDELIVERABLE", "file": str(folder / "endless.xml"), "times": 1},
+                 {"match": "UploadAndUpdate", "body": f"<error number='7' source='' description='{words}'/>", "times": 1}]
+    cached = "#! registry Software\\Halvex\\Corvane\\CustomNames "  # by an older version
+    head = f"#! faults {json.dumps(rules)}\n#! run --timeout 60\n{cached}Corvane=\n{cached}Deliverable={'d' * 1025}\n"
     path = folder / "hostile-server.txt"
     path.write_text(head + HOSTILE_STEPS, encoding="utf-8")
     return path
@@ -75,9 +71,14 @@ command GateDoc
 pick "Apollo/Gate 1/Project charter"
 window frmSaveGateDoc
 press cmdSaveAndSend
+window message
+fits message
+message "Number: 7" OK
+press cmdSaveAndSend
 closed frmSaveGateDoc
 mail Subject "Project charter, Version 2 (${TODAY}) - Gate 1 - Apollo"
 no message
 #= requests 1 GETPROJECTTEAMMEMBERS
 #= versions 1
+#= ribbon 2009-07
 """

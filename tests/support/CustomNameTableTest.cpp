@@ -24,6 +24,17 @@ TEST(CustomNameTable, AddsAnUnknownKeyWhenItsItemIsAskedForButNotWhenItIsSought)
     EXPECT_EQ(table.Size(), 1U);
 }
 
+TEST(CustomNameTable, KeepsOnlySoMuchOfWhatAServerTells)
+{
+    const std::wstring longest(1024, L'v');
+    std::vector<CustomNameRow> rows(302, {std::wstring(255, L'n'), longest});
+    std::vector<CustomNameRow> expected(rows.begin(), rows.begin() + 300);
+    expected[0].value = longest.substr(1) + L"…";
+    rows[0].token += L"n";
+    rows[1].value += L"v";
+    EXPECT_EQ(KeptRows(rows), expected);
+}
+
 TEST(CustomNameTable, ReadsEveryTermFromTheCacheUnderItsOwnName)
 {
     std::wstring terms;
