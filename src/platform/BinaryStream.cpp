@@ -1,7 +1,5 @@
 #include "platform/BinaryStream.h"
 
-#include "platform/ByteArray.h"
-#include "platform/Files.h"
 #include "platform/HResult.h"
 
 namespace corvane
@@ -69,13 +67,13 @@ BinaryStream::~BinaryStream() = default;
 
 void BinaryStream::Write(const Variant& bytes) { Check(m_stream->Write(bytes.Get()), L"BinaryStream.Write"); }
 
-void BinaryStream::SaveTo(const std::wstring& path)
+Variant BinaryStream::ReadAll()
 {
-    constexpr const wchar_t* kSource = L"BinaryStream.SaveTo";
+    constexpr const wchar_t* kSource = L"BinaryStream.ReadAll";
     Check(m_stream->put_Position(0), kSource);
     Variant bytes;
     Check(m_stream->Read(kReadAll, bytes.Put()), kSource);
-    WriteFile(path, BytesIn(bytes.Get())); // an empty stream reads as Null
+    return bytes;
 }
 
 } // namespace corvane

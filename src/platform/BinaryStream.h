@@ -4,8 +4,6 @@
 #include "platform/Owners.h"
 #include "platform/Variant.h"
 
-#include <string>
-
 namespace corvane
 {
 
@@ -24,8 +22,8 @@ public:
     // Appends the bytes of a value (an array of unsigned bytes).
     void Write(const Variant& bytes);
 
-    // Rewinds the stream and writes all of it to a file, replacing one that is there.
-    void SaveTo(const std::wstring& path);
+    // Rewinds the stream and reads all of it: an array of unsigned bytes, or Null where there are none.
+    [[nodiscard]] Variant ReadAll();
 
 private:
     ComPtr<DataStream> m_stream;

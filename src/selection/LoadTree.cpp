@@ -2,9 +2,11 @@
 #include "selection/frmSaveTo.h"
 
 #include "forms/Messages.h"
+#include "platform/ByteArray.h"
 #include "platform/Files.h"
 #include "platform/Procedure.h"
 #include "resources/resource.h"
+#include "selection/IconRules.h"
 #include "webservice/Transfer.h"
 #include "webservice/WebService.h"
 
@@ -16,10 +18,13 @@ namespace
 // Fetches one picture of an icon set through a file of its own, as the system's picture loader wants it.
 void LoadIcon(TreeImages& images, const std::wstring& server, const std::wstring& iconSet, const std::wstring& kind)
 {
-    BinaryStream picture =
-        ExecuteASPWebserviceBinary(server, kServicePage, Operations::kSetIcon, {iconSet, kind + L"_offi.gif"});
+    const Variant picture =
+        ExecuteASPWebserviceBinary(server, kServicePage, Operations::kSetIcon, {iconSet, kind + L"_offi.gif"})
+            .ReadAll();
+    const auto bytes = BytesIn(picture.Get());
+    if (!IsIcon(bytes)) return;
     const TemporaryFile file{L"gif"};
-    picture.SaveTo(file.Path());
+    WriteFile(file.Path(), bytes);
     images.AddFile(kind + iconSet, file.Path());
 }
 

@@ -171,17 +171,19 @@ constexpr wchar_t kProjects[] =
 
 TEST_F(TreeForm, ShowsEachNodeWithItsPictureAndSelectsTheTargetThatItWasGiven)
 {
-    // By mode: without pictures of the server, and with those of project, stage and gate behind the fixed ones.
+    // By mode: where the server has pictures of another kind, and with those of project, stage and gate behind the
+    // fixed ones.
     constexpr const wchar_t* kNodes[][2] = {
         {L"P4 S4 D0 A1* ", L"P5 S6 D0 A1* "},
         {L"P4 [New Related Document]2 R2* ", L"P5 [New Related Document]2 R2* "},
         {L"P4 G4 GD3* ", L"P5 G7 GD3* "},
     };
     m_transport.text = kProjects;
-    const HRSRC picture = ::FindResourceW(nullptr, MAKEINTRESOURCEW(IDR_IMAGE_DELIVERABLE), RT_RCDATA);
-    const auto* bytes = static_cast<const char*>(::LockResource(::LoadResource(nullptr, picture)));
     for (const bool isSetThere : {false, true}) {
-        if (isSetThere) m_transport.bytes.assign(bytes, ::SizeofResource(nullptr, picture));
+        const int id = isSetThere ? IDR_IMAGE_DELIVERABLE : IDR_IMAGE_PLAIN; // a bitmap
+        const HRSRC picture = ::FindResourceW(nullptr, MAKEINTRESOURCEW(id), RT_RCDATA);
+        const auto* bytes = static_cast<const char*>(::LockResource(::LoadResource(nullptr, picture)));
+        m_transport.bytes.assign(bytes, ::SizeofResource(nullptr, picture));
         for (const int mode : {0, 1, 2}) {
             frmSaveTo tree;
             tree.DialogType = mode;
