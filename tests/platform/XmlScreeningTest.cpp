@@ -35,6 +35,11 @@ TEST(XmlScreening, LeavesOutDocumentTypesAndWhatTakesAParserTooLong)
         row += L" a=''";
     EXPECT_TRUE(IsFitToParse(row + L"/>" + row + L"/>"));
     EXPECT_FALSE(IsFitToParse(row + L" b='>'/>"));
+    std::wstring deep = L"</a>"; // refused by any parser, and no room for another level
+    for (int level = 0; level < 256; ++level)
+        deep += L"<d></d><a b='/>'><c/><!--/><b>-->";
+    EXPECT_TRUE(IsFitToParse(deep));
+    EXPECT_FALSE(IsFitToParse(deep + L"<a>"));
 }
 
 } // namespace corvane
