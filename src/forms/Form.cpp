@@ -2,6 +2,7 @@
 
 #include "forms/FormWindow.h"
 #include "forms/Messages.h"
+#include "platform/AnswerWait.h"
 #include "platform/MessageLoop.h"
 #include "platform/Procedure.h"
 
@@ -268,11 +269,14 @@ bool Form::OnNotification(int control, UINT notification) noexcept
     const auto handler = std::find_if(handlers.begin(), handlers.end(), [&](const FormHandler& entry) {
         return entry.control == control && entry.notification == notification;
     });
-    if (handler == handlers.end()) return false;
-    // Esc and Enter press their buttons even while these are out of use.
+    // Esc and Enter press their buttons even while these are out of use, and where there are none.
     const HWND window = Control(control);
-    if (notification == BN_CLICKED && window != nullptr && !(::IsWindowEnabled(window) && IsShown(control)))
-        return true;
+    const bool isUsable = window == nullptr || (::IsWindowEnabled(window) && IsShown(control));
+    if (notification == BN_CLICKED && (handler == handlers.end() || !isUsable)) {
+        if (control == IDCANCEL) AnswerWait::End(); // the form cannot be left
+        return handler != handlers.end();
+    }
+    if (handler == handlers.end()) return false;
     Run(handler->procedure, handler->run);
     return true;
 }

@@ -35,7 +35,7 @@ FormHandler Handle(int control, UINT notification, const wchar_t* procedure, voi
 }
 
 // A form is made, given its inputs, shown, read and unloaded by its opener. Hiding ends a modal show but keeps the
-// window and what the user put in.
+// window and what the user put in. Where Esc cannot leave a form, it ends the wait for an answer.
 class Form
 {
 public:

@@ -1,5 +1,6 @@
 #include "platform/HttpRequest.h"
 
+#include "platform/AnswerWait.h"
 #include "platform/Error.h"
 #include "platform/HResult.h"
 #include "platform/MessageLoop.h"
@@ -10,6 +11,7 @@
 
 #include <shlwapi.h>
 
+#include <cstdint>
 #include <cwchar>
 #include <string_view>
 #include <utility>
@@ -20,8 +22,10 @@ namespace
 {
 
 constexpr const wchar_t* kWaitSource = L"HttpRequest.Wait";
+constexpr long kHeadersMayBeThere = 2;
 constexpr long kComplete = 4;
 constexpr long kNoContentOfWindows = 1223; // what the component makes of status 204
+constexpr std::uint64_t kLargestAnswer = std::uint64_t{64} * 1024 * 1024;
 
 // IXMLHTTPRequest and the XMLHTTP classes 3.0 and 6.0, as registered by the platform.
 constexpr IID kRequest = {0xED8C108D, 0x4349, 0x11D2, {0x91, 0xA4, 0x00, 0xC0, 0x4F, 0x79, 0x69, 0xE8}};
@@ -111,14 +115,15 @@ void HttpRequest::SendBody(const Variant& body)
 
 void HttpRequest::Wait(std::optional<std::chrono::milliseconds> limit)
 {
+    const AnswerWait wait;
+    const auto hasEnded = [&] { return wait.IsEnded() || StateOf(*m_request.Get()) == kComplete || PromisesTooMuch(); };
     // Progress arrives as messages on this thread, so asking after each message misses nothing.
-    if (PumpUntil([this] { return StateOf(*m_request.Get()) == kComplete; }, limit) != WaitEnd::Done)
-        ThrowTransportFailure();
+    if (PumpUntil(hasEnded, limit) != WaitEnd::Done || StateOf(*m_request.Get()) != kComplete) ThrowTransportFailure();
     m_underWay = false;
     // The component reports a failed transport as a status of its own outside HTTP's range, or by refusing to tell.
     Check(m_request->get_status(&m_status), kWaitSource);
     if (m_status == kNoContentOfWindows) m_status = 204;
-    if (m_status < 100 || m_status > 599 || IsCutShort()) ThrowTransportFailure();
+    if (m_status < 100 || m_status > 599 || !IsWhole()) ThrowTransportFailure();
 }
 
 std::wstring HttpRequest::AnswerHeader(const wchar_t* name) const
@@ -128,17 +133,27 @@ std::wstring HttpRequest::AnswerHeader(const wchar_t* name) const
     return value.Text();
 }
 
-bool HttpRequest::IsCutShort() const
+std::uint64_t HttpRequest::PromisedLength() const
 {
+    return std::wcstoull(AnswerHeader(L"Content-Length").c_str(), nullptr, 10);
+}
+
+bool HttpRequest::PromisesTooMuch() const
+{
+    return StateOf(*m_request.Get()) >= kHeadersMayBeThere && PromisedLength() > kLargestAnswer;
+}
+
+bool HttpRequest::IsWhole() const
+{
+    Variant body;
+    if (FAILED(m_request->get_responseBody(body.Put()))) return true;
+    const std::uint64_t received = BytesIn(body.Get()).size();
+    if (received > kLargestAnswer) return false;
     // The component may pass off the beginning of an answer as the whole when the connection breaks. The length of an
     // encoded one tells nothing of what it decodes to, and the header that says so may have gone with the decoding.
-    if (!AnswerHeader(L"Content-Encoding").empty() ||
-        ::StrStrIW(AnswerHeader(L"Vary").c_str(), L"Accept-Encoding") != nullptr)
-        return false;
-    const auto promised = std::wcstoull(AnswerHeader(L"Content-Length").c_str(), nullptr, 10);
-    Variant body;
-    if (promised == 0 || FAILED(m_request->get_responseBody(body.Put()))) return false;
-    return promised > BytesIn(body.Get()).size();
+    const bool wasEncoded = !AnswerHeader(L"Content-Encoding").empty() ||
+                            ::StrStrIW(AnswerHeader(L"Vary").c_str(), L"Accept-Encoding") != nullptr;
+    return wasEncoded || PromisedLength() <= received;
 }
 
 std::wstring HttpRequest::Text() const

@@ -7,6 +7,7 @@
 #include <msxml2.h>
 
 #include <chrono>
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -37,8 +38,9 @@ public:
     void Send(const XmlDocument& document);
 
     // Waits for the whole answer while messages are handled. Throws Error when the transport failed, when the answer is
-    // shorter than it says, when the limit passed first, or when the thread is told to end. No limit means waiting for
-    // ever.
+    // shorter than it says or larger than 64 MiB, which is known as soon as the component tells the length, when the
+    // limit passed first, when the user ends the wait (AnswerWait.h), or when the thread is told to end. No limit means
+    // waiting for ever.
     void Wait(std::optional<std::chrono::milliseconds> limit);
 
     // The answer: its HTTP status, its text (empty when it cannot be read as text) and its bytes.
@@ -49,7 +51,9 @@ public:
 private:
     void SendBody(const Variant& body);
     [[nodiscard]] std::wstring AnswerHeader(const wchar_t* name) const;
-    [[nodiscard]] bool IsCutShort() const;
+    [[nodiscard]] std::uint64_t PromisedLength() const;
+    [[nodiscard]] bool PromisesTooMuch() const;
+    [[nodiscard]] bool IsWhole() const;
 
     ComPtr<IXMLHTTPRequest> m_request;
     long m_status = 0;

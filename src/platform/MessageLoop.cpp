@@ -16,11 +16,30 @@ std::vector<HWND>& DialogWindows()
     return windows;
 }
 
+// A key comes as one of the system's where the control that had the keyboard was put out of use.
+bool IsEsc(const MSG& message) noexcept
+{
+    constexpr LPARAM kWithAlt = 1 << 29;
+    const bool isDown =
+        message.message == WM_KEYDOWN || (message.message == WM_SYSKEYDOWN && (message.lParam & kWithAlt) == 0);
+    return isDown && message.wParam == VK_ESCAPE;
+}
+
+bool IsKeyOfDialog(HWND dialog, MSG& message)
+{
+    const HWND cancel = ::GetDlgItem(dialog, IDCANCEL);
+    if (!IsEsc(message) || cancel == nullptr || ::IsWindowEnabled(cancel))
+        return ::IsDialogMessageW(dialog, &message) != FALSE;
+    // The system would only beep.
+    ::SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), reinterpret_cast<LPARAM>(cancel));
+    return true;
+}
+
 void Dispatch(MSG& message)
 {
     const auto& dialogs = DialogWindows();
     const HWND top = message.hwnd == nullptr ? nullptr : ::GetAncestor(message.hwnd, GA_ROOT);
-    if (std::find(dialogs.begin(), dialogs.end(), top) != dialogs.end() && ::IsDialogMessageW(top, &message)) return;
+    if (std::find(dialogs.begin(), dialogs.end(), top) != dialogs.end() && IsKeyOfDialog(top, message)) return;
     ::TranslateMessage(&message);
     ::DispatchMessageW(&message);
 }

@@ -89,6 +89,19 @@ TEST_F(Request, AnAnswerShorterThanItSaysIsAFailureToSendUnlessItWasEncoded)
     }
 }
 
+TEST_F(Request, AnAnswerOfMoreThan64MiBIsAFailureToSendAsSoonAsTheComponentTellsItsLength)
+{
+    m_transport.bytes.resize(67108864);
+    EXPECT_EQ(Query().Number(), 0);
+    m_transport.bytes.push_back('b');
+    ExpectSendError();
+    m_transport.readyState = 3;
+    m_transport.headers = {{L"Content-Length", L"67108865"}};
+    const ULONGLONG start = ::GetTickCount64();
+    ExpectSendError();
+    EXPECT_LT(::GetTickCount64() - start, 10000U) << "it was waited for";
+}
+
 TEST_F(Request, WhatTheComponentMakesOfNoContentIsAnHttpStatus)
 {
     m_transport.status = 1223;
