@@ -6,6 +6,8 @@
 #include "support/Conversions.h"
 #include "webservice/Exchange.h"
 
+#include <algorithm>
+
 namespace corvane
 {
 namespace
@@ -20,14 +22,17 @@ constexpr long kFailedDependency = 424;
 
 bool m_bAccessLogged = false;
 
-std::wstring NowInLocaleFormat()
+// The local time as the user's locale writes it, or, where that takes letters that a header cannot carry, as the
+// neutral one does.
+std::wstring Now()
 {
-    SYSTEMTIME now{};
-    ::GetLocalTime(&now);
-    VARIANT date{};
-    date.vt = VT_DATE;
-    ::SystemTimeToVariantTime(&now, &date.date);
-    return Variant::TextOf(date);
+    SYSTEMTIME local{};
+    ::GetLocalTime(&local);
+    DATE date = 0;
+    ::SystemTimeToVariantTime(&local, &date);
+    const Variant now = Variant::OfDate(date);
+    const std::wstring text = now.Text();
+    return std::ranges::all_of(text, [](wchar_t letter) { return letter < 0x80; }) ? text : now.As(VT_BSTR).Text();
 }
 
 LateBound SiblingLogin()
@@ -88,7 +93,7 @@ WebAnswer ExecuteASPWebService(const std::wstring& sServer, const std::wstring& 
     OpenRequest(kOperationCall, [&] {
         request.Open(isPost ? L"POST" : L"GET", isPost ? endpoint : endpoint + L"?" + query);
         if (!isPost) return;
-        request.SetHeader(L"lastCached", NowInLocaleFormat());
+        request.SetHeader(L"lastCached", Now());
         request.SetHeader(L"Content-Type", kFormType);
     });
     WebAnswer answer;

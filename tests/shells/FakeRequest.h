@@ -25,6 +25,7 @@ public:
     const wchar_t* text = L"12";                    // of every answer,
     std::map<std::wstring, const wchar_t*> answers; // but for requests that hold a part
     std::vector<std::wstring> asked;                // each as its method, address, headers' names and text
+    std::wstring lastCached;                        // as the last request told it
     std::function<void()> onSend;
     std::string sent;                               // the bytes of the last binary body
     std::map<std::wstring, const wchar_t*> headers; // of every answer; with any, its body has no bytes
@@ -60,8 +61,9 @@ public:
         m_opened = true;
         return openResult;
     }
-    STDMETHODIMP setRequestHeader(BSTR name, BSTR) override
+    STDMETHODIMP setRequestHeader(BSTR name, BSTR value) override
     {
+        if (name == std::wstring{L"lastCached"}) lastCached = value;
         asked.back().append(L" ").append(name);
         return headerResult;
     }

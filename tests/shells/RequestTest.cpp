@@ -102,6 +102,16 @@ TEST_F(Request, AnAnswerOfMoreThan64MiBIsAFailureToSendAsSoonAsTheComponentTells
     EXPECT_LT(::GetTickCount64() - start, 10000U) << "it was waited for";
 }
 
+TEST_F(Request, TellsItsTimeInLettersThatAHeaderCanCarry)
+{
+    wchar_t format[80] = L"";
+    ::GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, format, 80);
+    ::SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, L"yyyy/MM/dd\x200F");
+    EXPECT_EQ(Query(Operations::kIsProjectTeamMember).Number(), 0);
+    ::SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, format);
+    EXPECT_EQ(m_transport.lastCached.find(L'/'), 2U) << m_transport.lastCached;
+}
+
 TEST_F(Request, WhatTheComponentMakesOfNoContentIsAnHttpStatus)
 {
     m_transport.status = 1223;
