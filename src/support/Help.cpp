@@ -3,7 +3,6 @@
 #include "forms/Messages.h"
 #include "platform/CodePage.h"
 #include "platform/Files.h"
-#include "platform/HResult.h"
 #include "platform/Owners.h"
 #include "platform/Procedure.h"
 #include "platform/SystemLibrary.h"
@@ -67,10 +66,7 @@ std::set<HWND>& OwnWindows()
 void LoadViewer()
 {
     if (Viewer() != nullptr) return;
-    const HMODULE library = LoadSystemLibrary(L"hhctrl.ocx");
-    CheckWin32(library != nullptr, L"HtmlHelpA");
-    Viewer() = reinterpret_cast<HtmlHelp>(reinterpret_cast<void*>(::GetProcAddress(library, "HtmlHelpA")));
-    CheckWin32(Viewer() != nullptr, L"HtmlHelpA");
+    Viewer() = SystemFunction{L"hhctrl.ocx", "HtmlHelpA"};
 }
 
 void Show(HWND owner, UINT command, DWORD_PTR data)
