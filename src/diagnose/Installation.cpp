@@ -1,9 +1,11 @@
 #include "diagnose/Installation.h"
 
+#include "diagnose/ProgramBits.h"
 #include "platform/Files.h"
 #include "platform/HttpRequest.h"
 #include "platform/Procedure.h"
 #include "platform/Registry.h"
+#include "platform/SystemLibrary.h"
 #include "platform/XmlDocument.h"
 
 #include <algorithm>
@@ -20,8 +22,6 @@ using corvane::Registry::Place;
 using corvane::Registry::ReadNumber;
 using corvane::Registry::ReadText;
 using corvane::Registry::View;
-
-constexpr const wchar_t* kAddIns = L"Software\\Microsoft\\Office\\PowerPoint\\Addins\\";
 
 struct Corner
 {
@@ -49,7 +49,13 @@ std::optional<std::wstring> ClassId()
 
 Registration Describe(const Corner& corner, const std::wstring& library)
 {
-    return {corner.name, corner.bits, library, corvane::FileExists(library), BitsOf(library), VersionOf(library)};
+    return {.where = corner.name,
+            .bits = corner.bits,
+            .isUsers = corner.place.hive == Hive::User,
+            .library = library,
+            .libraryExists = corvane::FileExists(library),
+            .libraryBits = BitsOf(library),
+            .libraryVersion = VersionOf(library)};
 }
 
 bool Fits(const Registration& entry) { return entry.bits == entry.libraryBits; }
@@ -86,12 +92,11 @@ std::vector<Registration> FindRegistrations()
 std::vector<AddInEntry> FindAddIns()
 {
     std::vector<AddInEntry> found;
-    const std::wstring key = std::wstring{kAddIns} + kProgId;
-    if (const auto value = ReadNumber(key, L"LoadBehavior")) found.push_back({L"user", 0, *value});
+    if (const auto value = ReadNumber(kAddInKey, kLoadBehavior)) found.push_back({L"user", 0, true, *value});
     for (const Corner& corner : kCorners) {
         if (corner.place.hive == Hive::User) continue;
-        if (const auto value = ReadNumber(key, L"LoadBehavior", corner.place))
-            found.push_back({corner.name, corner.bits, *value});
+        if (const auto value = ReadNumber(kAddInKey, kLoadBehavior, corner.place))
+            found.push_back({corner.name, corner.bits, false, *value});
     }
     return found;
 }
@@ -99,26 +104,22 @@ std::vector<AddInEntry> FindAddIns()
 int BitsOf(const std::wstring& file)
 {
     std::array<std::byte, 4096> head{};
-    const std::size_t length = corvane::ReadFile(file, head);
-    IMAGE_DOS_HEADER dos{};
-    if (length < sizeof dos) return 0;
-    std::memcpy(&dos, head.data(), sizeof dos);
-    IMAGE_FILE_HEADER header{};
-    const auto at = static_cast<std::size_t>(dos.e_lfanew) + sizeof(DWORD);
-    if (dos.e_magic != IMAGE_DOS_SIGNATURE || at + sizeof header > length) return 0;
-    std::memcpy(&header, head.data() + at, sizeof header);
-    return header.Machine == IMAGE_FILE_MACHINE_AMD64 ? 64 : header.Machine == IMAGE_FILE_MACHINE_I386 ? 32 : 0;
+    return ProgramBits(std::span{head}.first(corvane::ReadFile(file, head)));
 }
 
 std::wstring VersionOf(const std::wstring& file)
 {
-    std::vector<std::byte> data(::GetFileVersionInfoSizeW(file.c_str(), nullptr));
+    constexpr const wchar_t* kLibrary = L"version.dll";
+    const decltype(&::GetFileVersionInfoSizeW) size = corvane::SystemFunction{kLibrary, "GetFileVersionInfoSizeW"};
+    const decltype(&::GetFileVersionInfoW) read = corvane::SystemFunction{kLibrary, "GetFileVersionInfoW"};
+    const decltype(&::VerQueryValueW) query = corvane::SystemFunction{kLibrary, "VerQueryValueW"};
+    std::vector<std::byte> data(size(file.c_str(), nullptr));
     void* found = nullptr;
-    UINT size = 0;
-    if (data.empty() || !::GetFileVersionInfoW(file.c_str(), 0, static_cast<DWORD>(data.size()), data.data()) ||
-        !::VerQueryValueW(data.data(), L"\\", &found, &size))
-        return {};
+    UINT length = 0;
     VS_FIXEDFILEINFO info{};
+    if (data.empty() || !read(file.c_str(), 0, static_cast<DWORD>(data.size()), data.data()) ||
+        !query(data.data(), L"\\", &found, &length) || length < sizeof info)
+        return {};
     std::memcpy(&info, found, sizeof info);
     return std::to_wstring(HIWORD(info.dwFileVersionMS)) + L"." + std::to_wstring(LOWORD(info.dwFileVersionMS)) + L"." +
            std::to_wstring(HIWORD(info.dwFileVersionLS));

@@ -6,8 +6,6 @@
 namespace diagnose
 {
 
-inline constexpr const wchar_t* kProgId = L"CorvaneMSOfficePowerPoint.Connect";
-
 // The views of the registry that name a library for the add-in's class, and PowerPoint's entries for the add-in.
 [[nodiscard]] std::vector<Registration> FindRegistrations();
 [[nodiscard]] std::vector<AddInEntry> FindAddIns();

@@ -1,6 +1,7 @@
 #include "diagnose/Office.h"
 
 #include "diagnose/Installation.h"
+#include "diagnose/OfficeRules.h"
 #include "platform/Registry.h"
 #include "support/Conversions.h"
 
@@ -16,9 +17,16 @@ using corvane::Registry::ReadText;
 using corvane::Registry::ValueNames;
 using corvane::Registry::View;
 
-constexpr const wchar_t* kName = L"corvanemsofficepowerpoint";
 constexpr const wchar_t* kOffice = L"Software\\Microsoft\\Office\\";
-constexpr const wchar_t* kOfficePolicy = L"Software\\Policies\\Microsoft\\Office\\";
+
+// Where administrators set policies: by Group Policy, and by the service that Office itself asks.
+struct PolicyRoot
+{
+    const wchar_t* name;
+    const wchar_t* key;
+};
+constexpr PolicyRoot kPolicies[] = {{L"policy", L"Software\\Policies\\Microsoft\\Office"},
+                                    {L"cloud policy", L"Software\\Policies\\Microsoft\\Cloud\\Office"}};
 constexpr Place kPlaces[] = {{Hive::User, View::Own}, {Hive::Machine, View::Bits64}, {Hive::Machine, View::Bits32}};
 
 int BitsOfPlatform(const std::wstring& platform)
@@ -49,25 +57,14 @@ int DeclaredBits()
     return 0;
 }
 
-// True when a value, in its name or in its data, names the add-in or its library.
-bool NamesAddIn(const std::wstring& key, const std::wstring& value, Place place)
-{
-    const std::vector<std::byte> bytes = corvane::Registry::ReadBytes(key, value, place);
-    std::wstring data(bytes.size() / sizeof(wchar_t), L'\0');
-    for (std::size_t index = 0; index < data.size(); ++index)
-        data[index] = static_cast<wchar_t>(std::to_integer<unsigned>(bytes[2 * index]) |
-                                           std::to_integer<unsigned>(bytes[2 * index + 1]) << 8);
-    return corvane::ToLower(value + L" " + data).find(kName) != std::wstring::npos;
-}
-
 void ReadList(const std::wstring& version, const std::wstring& list, std::vector<OfficeEntry>& entries)
 {
     const std::wstring path = L"Resiliency\\" + list;
     const std::wstring key = kOffice + version + L"\\PowerPoint\\" + path;
     const std::wstring where = L"PowerPoint " + version + L", " + path;
-    const bool blocks = list == L"DisabledItems" || list == L"CrashingAddinList";
     for (const std::wstring& value : ValueNames(key))
-        if (NamesAddIn(key, value, {})) entries.push_back({where, blocks});
+        if (NamesAddIn(value, corvane::Registry::ReadBytes(key, value)))
+            entries.push_back({where, IsBlockingList(list), key, value});
 }
 
 void ReadResiliency(const std::wstring& version, std::vector<OfficeEntry>& entries)
@@ -76,33 +73,39 @@ void ReadResiliency(const std::wstring& version, std::vector<OfficeEntry>& entri
         ReadList(version, list, entries);
 }
 
-void ReadPolicy(const std::wstring& version, Place place, std::vector<OfficeEntry>& entries)
+void ReadPolicy(const std::wstring& office, const std::wstring& whose, Place place, std::vector<OfficeEntry>& entries)
 {
-    const std::wstring key = kOfficePolicy + version + L"\\PowerPoint\\Resiliency";
-    const auto listed = ReadText(key + L"\\AddinList", kProgId, place);
-    const bool restricted = corvane::Registry::ReadNumber(key, L"RestrictToList", place).value_or(0) == 1;
-    const std::wstring where = L"policy of PowerPoint " + version + L", Resiliency\\AddinList = ";
-    if (listed)
-        entries.push_back({where + *listed, *listed == L"0"});
-    else if (restricted)
-        entries.push_back({where + L"(not listed), RestrictToList = 1", true});
+    const std::wstring key = office + L"\\PowerPoint\\Resiliency";
+    const auto entry = ManagedEntry(whose, ReadText(key + L"\\AddinList", kProgId, place),
+                                    corvane::Registry::ReadNumber(key, L"RestrictToList", place).value_or(0) == 1);
+    if (entry) entries.push_back(*entry);
 }
 
 // Trust settings that keep add-ins out; the user's own stand beside the policy's.
-void ReadTrust(const std::wstring& office, const wchar_t* whose, const std::wstring& version, Place place,
-               std::vector<OfficeEntry>& entries)
+void ReadTrust(const std::wstring& office, const std::wstring& whose, Place place, std::vector<OfficeEntry>& entries)
 {
-    const std::wstring key = office + version + L"\\PowerPoint\\Security";
+    const std::wstring key = office + L"\\PowerPoint\\Security";
     for (const wchar_t* name : {L"DisableAllAddins", L"RequireAddinSig"}) {
         if (corvane::Registry::ReadNumber(key, name, place).value_or(0) != 1) continue;
-        std::wstring where = whose + (L" of PowerPoint " + version) + L", Security\\" + name + L" = 1";
+        std::wstring where = whose + L", Security\\" + name + L" = 1";
         if (name == std::wstring_view{L"RequireAddinSig"})
             where += L" (the library has to be signed by a trusted publisher)";
-        entries.push_back({std::move(where), true});
+        entries.push_back({.where = std::move(where), .blocks = true, .key = {}, .value = {}});
     }
 }
 
 bool IsVersion(const std::wstring& name) { return corvane::NumberIn(name).has_value(); }
+
+void ReadPolicies(const PolicyRoot& root, Place place, std::vector<OfficeEntry>& entries)
+{
+    for (const std::wstring& version : KeyNames(root.key, place)) {
+        if (!IsVersion(version)) continue;
+        const std::wstring office = root.key + (L"\\" + version);
+        const std::wstring whose = root.name + (L" of PowerPoint " + version);
+        ReadPolicy(office, whose, place, entries);
+        ReadTrust(office, whose, place, entries);
+    }
+}
 
 } // namespace
 
@@ -120,15 +123,11 @@ std::vector<OfficeEntry> FindOfficeEntries()
     for (const std::wstring& version : KeyNames(L"Software\\Microsoft\\Office")) {
         if (!IsVersion(version)) continue;
         ReadResiliency(version, entries);
-        ReadTrust(kOffice, L"settings", version, {.hive = Hive::User}, entries);
+        ReadTrust(kOffice + version, L"settings of PowerPoint " + version, {.hive = Hive::User}, entries);
     }
-    for (const Place place : {Place{.hive = Hive::User}, Place{.hive = Hive::Machine}}) {
-        for (const std::wstring& version : KeyNames(L"Software\\Policies\\Microsoft\\Office", place)) {
-            if (!IsVersion(version)) continue;
-            ReadPolicy(version, place, entries);
-            ReadTrust(kOfficePolicy, L"policy", version, place, entries);
-        }
-    }
+    for (const PolicyRoot& root : kPolicies)
+        for (const Place place : {Place{.hive = Hive::User}, Place{.hive = Hive::Machine}})
+            ReadPolicies(root, place, entries);
     return entries;
 }
 

@@ -1,6 +1,7 @@
 #include "diagnose/ServerCheck.h"
 
 #include "platform/Owners.h"
+#include "platform/SystemLibrary.h"
 #include "support/ServerList.h"
 #include "support/ServerRules.h"
 #include "webservice/AnswerRules.h"
@@ -17,11 +18,30 @@ namespace diagnose
 namespace
 {
 
+// The system's functions of that name; a library that the program links would be looked for beside it first.
+struct Internet
+{
+    decltype(&::InternetOpenW) open = Named("InternetOpenW");
+    decltype(&::InternetOpenUrlW) openUrl = Named("InternetOpenUrlW");
+    decltype(&::InternetReadFile) readFile = Named("InternetReadFile");
+    decltype(&::InternetSetOptionW) setOption = Named("InternetSetOptionW");
+    decltype(&::InternetCloseHandle) closeHandle = Named("InternetCloseHandle");
+    decltype(&::HttpQueryInfoW) queryInfo = Named("HttpQueryInfoW");
+
+    static corvane::SystemFunction Named(const char* name) { return {L"wininet.dll", name}; }
+};
+
+const Internet& WinInet()
+{
+    static const Internet functions;
+    return functions;
+}
+
 struct InternetTraits
 {
     using Value = HINTERNET;
     static constexpr Value kEmpty = nullptr;
-    static void Free(Value handle) noexcept { ::InternetCloseHandle(handle); }
+    static void Free(Value handle) noexcept { WinInet().closeHandle(handle); }
 };
 using UniqueInternet = corvane::Unique<InternetTraits>;
 
@@ -70,7 +90,7 @@ DWORD StatusOf(const UniqueInternet& answer)
 {
     DWORD status = 0;
     DWORD size = sizeof status;
-    ::HttpQueryInfoW(answer.Get(), HTTP_QUERY_STATUS_CODE | HTTP_QUERY_FLAG_NUMBER, &status, &size, nullptr);
+    WinInet().queryInfo(answer.Get(), HTTP_QUERY_STATUS_CODE | HTTP_QUERY_FLAG_NUMBER, &status, &size, nullptr);
     return status;
 }
 
@@ -79,13 +99,14 @@ std::wstring BeginningOf(const UniqueInternet& answer)
 {
     std::array<char, 4096> bytes{};
     DWORD length = 0;
-    ::InternetReadFile(answer.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &length);
+    WinInet().readFile(answer.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &length);
     return {bytes.begin(), bytes.begin() + length};
 }
 
 void Judge(const UniqueInternet& answer, ServerAnswer& result)
 {
     const DWORD status = StatusOf(answer);
+    result.status = static_cast<int>(status);
     result.outcome = L"HTTP " + std::to_wstring(status) + TextOf(kStatuses, status);
     if (status != HTTP_STATUS_OK) return;
     const std::wstring text = BeginningOf(answer);
@@ -101,10 +122,10 @@ void Judge(const UniqueInternet& answer, ServerAnswer& result)
 
 UniqueInternet OpenSession(std::chrono::seconds limit)
 {
-    UniqueInternet session{::InternetOpenW(L"corvane-diagnose", INTERNET_OPEN_TYPE_PRECONFIG, nullptr, nullptr, 0)};
+    UniqueInternet session{WinInet().open(L"corvane-diagnose", INTERNET_OPEN_TYPE_PRECONFIG, nullptr, nullptr, 0)};
     auto milliseconds = static_cast<DWORD>(std::chrono::milliseconds{limit}.count());
     for (const DWORD option : {DWORD{INTERNET_OPTION_CONNECT_TIMEOUT}, DWORD{INTERNET_OPTION_RECEIVE_TIMEOUT}})
-        ::InternetSetOptionW(session.Get(), option, &milliseconds, sizeof milliseconds);
+        WinInet().setOption(session.Get(), option, &milliseconds, sizeof milliseconds);
     return session;
 }
 
@@ -113,12 +134,12 @@ UniqueInternet OpenSession(std::chrono::seconds limit)
 ServerAnswer AskServer(const std::wstring& server, std::chrono::seconds limit)
 {
     const std::wstring address = corvane::VerifyServerURL(server);
-    ServerAnswer result{.server = corvane::WithoutCredentials(address), .outcome = {}, .good = false};
+    ServerAnswer result{.server = corvane::WithoutCredentials(address), .outcome = {}, .status = 0, .good = false};
     const std::wstring question = corvane::Endpoint(address, corvane::kServicePage) + L"?" +
                                   corvane::RequestQuery(corvane::Operations::kGetUserId.name, {});
     const UniqueInternet session = OpenSession(limit);
     constexpr DWORD kFlags = INTERNET_FLAG_RELOAD | INTERNET_FLAG_NO_CACHE_WRITE | INTERNET_FLAG_NO_UI;
-    const UniqueInternet answer{::InternetOpenUrlW(session.Get(), question.c_str(), nullptr, 0, kFlags, 0)};
+    const UniqueInternet answer{WinInet().openUrl(session.Get(), question.c_str(), nullptr, 0, kFlags, 0)};
     if (answer)
         Judge(answer, result);
     else

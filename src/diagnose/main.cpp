@@ -5,12 +5,14 @@
 #include "diagnose/Office.h"
 #include "diagnose/Report.h"
 #include "diagnose/ServerCheck.h"
+#include "diagnose/SwitchOn.h"
 #include "diagnose/TraceFiles.h"
 
 #include "platform/ComObject.h"
 #include "platform/Files.h"
 #include "platform/Procedure.h"
 #include "platform/Registry.h"
+#include "platform/SystemLibrary.h"
 #include "support/CMRUServers.h"
 #include "support/Conversions.h"
 #include "support/Policy.h"
@@ -34,16 +36,21 @@ struct Options
 {
     std::wstring server;
     std::chrono::seconds limit{20};
+    bool switchesOn = false;
 };
 
 std::optional<Options> Read(std::span<wchar_t*> arguments)
 {
     Options options;
-    for (std::size_t index = 1; index < arguments.size(); index += 2) {
+    for (std::size_t index = 1; index < arguments.size(); ++index) {
         const std::wstring name = arguments[index];
+        if (name == L"--switch-on") {
+            options.switchesOn = true;
+            continue;
+        }
         const bool known = name == L"--server" || name == L"--timeout";
-        if (!known || index + 1 == arguments.size()) return std::nullopt;
-        const std::wstring value = arguments[index + 1];
+        if (!known || ++index == arguments.size()) return std::nullopt;
+        const std::wstring value = arguments[index];
         if (name == L"--server")
             options.server = value;
         else
@@ -72,7 +79,8 @@ void TellProgram(Report& report)
     report.Line(L"Program", std::to_wstring(corvane::kVersionMajor) + L"." + std::to_wstring(corvane::kVersionMinor) +
                                 L"." + std::to_wstring(corvane::kVersionRevision) + L", " +
                                 BitsText(8 * static_cast<int>(sizeof(void*))));
-    report.Line(L"Windows", windows(L"ProductName") + L", build " + windows(L"CurrentBuild"));
+    const std::wstring build = windows(L"CurrentBuild");
+    report.Line(L"Windows", WindowsName(windows(L"ProductName"), corvane::ToLongSafe(build)) + L", build " + build);
 }
 
 void TellInstallation(Report& report, const Facts& facts)
@@ -170,6 +178,7 @@ int Run(const Options& options)
     facts.server = Ask(options);
     Report report;
     TellProgram(report);
+    if (options.switchesOn) report.Line(L"Switched on", SwitchOn(facts));
     TellInstallation(report, facts);
     TellSettings(report, facts);
     report.Line(L"Server", facts.server ? facts.server->server + L": " + facts.server->outcome : L"not asked");
@@ -185,10 +194,11 @@ int Run(const Options& options)
 
 int wmain(int count, wchar_t** arguments)
 {
+    corvane::SearchSystemFolderOnly();
     corvane::Library::SetModule(::GetModuleHandleW(nullptr));
     const auto options = diagnose::Read({arguments, static_cast<std::size_t>(count)});
     if (!options) {
-        std::fputs("usage: corvane-diagnose [--server URL] [--timeout SECONDS]\n", stderr);
+        std::fputs("usage: corvane-diagnose [--server URL] [--timeout SECONDS] [--switch-on]\n", stderr);
         return diagnose::kWrongUse;
     }
     ::CoInitialize(nullptr);
