@@ -31,7 +31,7 @@ public:
     {}
 
     // How often the class was asked for.
-    [[nodiscard]] int Asked() const { return m_asked; }
+    [[nodiscard]] int TimesAsked() const { return m_asked; }
 
 private:
     int m_asked = 0;

@@ -257,7 +257,7 @@ TEST_F(Request, TheComponentOfVersion6ServesWhereVersion3IsMissing)
     const OfferedClass missing{kXmlHttp3};
     const OfferedClass newer{kXmlHttp6, m_transport.Creator()};
     EXPECT_EQ(Query().Number(), 0);
-    EXPECT_GT(newer.Asked(), 0);
+    EXPECT_GT(newer.TimesAsked(), 0);
 }
 
 TEST(Wait, HandlesMessagesUntilTheLimit)

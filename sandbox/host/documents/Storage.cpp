@@ -7,6 +7,7 @@
 #include <wrl/client.h>
 
 #include "automation/Errors.h"
+#include "platform/Owners.h"
 
 namespace host
 {
@@ -18,6 +19,14 @@ using Microsoft::WRL::ComPtr;
 constexpr DWORD kExclusive = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
 constexpr wchar_t kFailed[] = L"The compound file could not be processed.";
 constexpr char kSignature[] = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1";
+
+// A text that COM hands over to be freed.
+struct TaskTextTraits
+{
+    using Value = wchar_t*;
+    static constexpr Value kEmpty = nullptr;
+    static void Free(Value text) noexcept { ::CoTaskMemFree(text); }
+};
 
 ComPtr<ILockBytes> MemoryBytes(const std::string& bytes)
 {
@@ -67,8 +76,8 @@ bool NextStream(IEnumSTATSTG& elements, std::wstring& name)
 {
     STATSTG element{};
     while (elements.Next(1, &element, nullptr) == S_OK) {
-        name = element.pwcsName;
-        ::CoTaskMemFree(element.pwcsName);
+        const corvane::Unique<TaskTextTraits> found{element.pwcsName};
+        name = found.Get();
         if (element.type == STGTY_STREAM) return true;
     }
     return false;
