@@ -1,7 +1,7 @@
 # The commands for a person. Each first installs what the machine lacks. ARCH=x86 tests, or opens, the 32-bit add-in.
 ARCH ?= x64
 
-.PHONY: all demo test faults soak check bench fuzz sandbox shots package test-package packages clean
+.PHONY: all demo test faults checked soak check bench fuzz sandbox shots package test-package packages clean
 
 all: packages
 	@tools/build x64
@@ -23,10 +23,18 @@ test: packages
 	@tools/build native
 	tests/run $(ARCH)
 
-# Every fault of the server: in each call, and in each request of each dialog.
+# Every fault of the server: in each call, and in each request of each dialog; and the faults of our own that show only
+# where they are trapped.
 faults: all
 	tests/faults/run $(ARCH)
 	tests/scenarios/run $(ARCH) stories
+	$(MAKE) --no-print-directory checked
+
+# The scenarios with a library and a host that end at undefined behaviour and at misused containers.
+checked: all
+	@[ -e build/checked/build.ninja ] || cmake --preset checked >/dev/null
+	ninja -C build/checked --quiet addin corvane-host help-file
+	tests/scenarios/run checked
 
 # A thousand saves in one host; what it holds after each round is in build/scenarios/soak/host.txt.
 soak: all
