@@ -1,6 +1,7 @@
-// Texts of any kind end up in the mail, and the link begins with the server.
+// Texts of any kind end up in the mail, and the link begins with the server, without user name and password.
 #include "shared/NotificationTexts.h"
 #include "Input.h"
+#include "support/ServerRules.h"
 
 void Fuzz(Input& input)
 {
@@ -14,5 +15,5 @@ void Fuzz(Input& input)
     facts.projectName = input.Rest();
     Require(corvane::NotificationSubject(facts).find(facts.projectName) != std::wstring::npos);
     Require(!corvane::NotificationBody(facts).empty());
-    Require(corvane::NotificationLink(facts).starts_with(facts.server));
+    Require(corvane::NotificationLink(facts).starts_with(corvane::WithoutCredentials(facts.server)));
 }
