@@ -135,7 +135,7 @@ std::wstring StatusProblem(HWND form, const Item& item)
         const std::wstring text = PartText(item.window, part).value_or(L"");
         if (Measure(item, text, DT_SINGLELINE | DT_NOPREFIX, 0).cx > place.right - place.left)
             return L"cuts \"" + text + L"\" off";
-        const std::wstring problem = ShorteningProblem(text, TipOf(form, item.window));
+        std::wstring problem = ShorteningProblem(text, TipOf(form, item.window));
         if (!problem.empty()) return problem;
     }
     return {};

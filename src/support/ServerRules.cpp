@@ -163,7 +163,7 @@ std::wstring Renamed(std::wstring_view address, const std::vector<std::wstring>&
     for (const std::wstring_view rename : renames) {
         const std::size_t sign = rename.find(L'=');
         if (sign == std::wstring_view::npos || Trim(rename.substr(0, sign)).empty()) continue;
-        const std::wstring renamed = DocumentServer(VerifyServerURL(rename.substr(sign + 1)));
+        std::wstring renamed = DocumentServer(VerifyServerURL(rename.substr(sign + 1)));
         if (!renamed.empty() && Comparable(rename.substr(0, sign)) == wanted) return renamed;
     }
     return std::wstring{address};
