@@ -1,4 +1,5 @@
-// A document type is seen behind any comment, and nothing without markup is held back.
+// A document type is seen behind any comment, elements in each other behind any fit text, and nothing without markup is
+// held back.
 #include "platform/XmlScreening.h"
 #include "Input.h"
 
@@ -9,4 +10,8 @@ void Fuzz(Input& input)
     if (text.find(L'<') == std::wstring::npos) Require(isFit);
     if (text.find(L"-->") == std::wstring::npos)
         Require(!corvane::IsFitToParse(L"<?xml version='1.0'?><!--" + text + L"--><!DOCTYPE a><a/>"));
+    std::wstring deep;
+    for (int level = 0; level < 257; ++level)
+        deep += L"<a>";
+    if (isFit) Require(!corvane::IsFitToParse(text + deep));
 }
