@@ -37,19 +37,7 @@ std::wstring Environment(const wchar_t* name)
 class FakeAddIn final : public AutomationObject<IDTExtensibility2>
 {
 public:
-    FakeAddIn() : AutomationObject{L"FakeAddIn"} {}
-
-    std::span<const Member> Members() const override
-    {
-        static constexpr Member kMembers[] = {
-            {101, L"onLoad", kMethod, Answer<&FakeAddIn::OnLoad>},
-            {102, L"Press", kMethod, Answer<&FakeAddIn::Press>},
-            {103, L"GetLabel", kMethod, Answer<&FakeAddIn::GetLabel>},
-            {2009, L"WindowActivate", kMethod, Answer<&FakeAddIn::WindowActivate>},
-            {2004, L"PresentationClose", kMethod, Answer<&FakeAddIn::PresentationClose>},
-        };
-        return kMembers;
-    }
+    FakeAddIn() : AutomationObject{L"FakeAddIn", kMembers} {}
 
     void* Interface(REFIID id) override
     {
@@ -82,11 +70,12 @@ public:
     STDMETHODIMP OnBeginShutdown(SAFEARRAY**) override { return S_OK; }
 
 private:
+    static const Member kMembers[5];
+
     // The second interface of the object, with the same identity.
     struct RibbonSide final : AutomationObject<IRibbonExtensibility>
     {
         explicit RibbonSide(FakeAddIn& owner) : AutomationObject{L"RibbonSide"}, m_owner{owner} {}
-        std::span<const Member> Members() const override { return {}; }
         STDMETHODIMP QueryInterface(REFIID id, void** object) noexcept override
         {
             return m_owner.QueryInterface(id, object);
@@ -125,6 +114,14 @@ private:
     DWORD m_cookie = 0;
     long m_activations = 0;
     long m_closes = 0;
+};
+
+const Member FakeAddIn::kMembers[] = {
+    {101, L"onLoad", kMethod, Answer<&FakeAddIn::OnLoad>},
+    {102, L"Press", kMethod, Answer<&FakeAddIn::Press>},
+    {103, L"GetLabel", kMethod, Answer<&FakeAddIn::GetLabel>},
+    {2009, L"WindowActivate", kMethod, Answer<&FakeAddIn::WindowActivate>},
+    {2004, L"PresentationClose", kMethod, Answer<&FakeAddIn::PresentationClose>},
 };
 
 HRESULT Create(REFIID id, void** object) { return MakeObject<FakeAddIn>()->QueryInterface(id, object); }

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "package/FileTime.h"
-
 namespace host
 {
 namespace

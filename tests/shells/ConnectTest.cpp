@@ -31,17 +31,16 @@ constexpr wchar_t kPolicies[] = L"Software\\Policies\\Halvex\\Corvane";
 class CountingRibbon final : public host::AutomationObject<IDispatch>
 {
 public:
-    CountingRibbon() : AutomationObject{L"Ribbon", __uuidof(host::IRibbonUI)} {}
+    CountingRibbon() : AutomationObject{L"Ribbon", kMembers, __uuidof(host::IRibbonUI)} {}
 
     int invalidated = 0;
 
-    [[nodiscard]] std::span<const host::Member> Members() const override
-    {
-        static constexpr host::Member kMembers[] = {
-            {1, L"Invalidate", host::kMethod, host::Answer<[](CountingRibbon& ribbon) { ++ribbon.invalidated; }>}};
-        return kMembers;
-    }
+private:
+    static const host::Member kMembers[1];
 };
+
+const host::Member CountingRibbon::kMembers[] = {
+    {1, L"Invalidate", host::kMethod, host::Answer<[](CountingRibbon& ribbon) { ++ribbon.invalidated; }>}};
 
 class ConnectTest : public host::test::HostTest
 {

@@ -23,30 +23,27 @@ namespace
 class Readings final : public host::AutomationObject<IDispatch>
 {
 public:
-    Readings() : AutomationObject{L"Readings", IID_IDispatch} {}
+    Readings() : AutomationObject{L"Readings", kMembers, IID_IDispatch} {}
 
     std::vector<std::wstring> names;
 
-    [[nodiscard]] std::span<const host::Member> Members() const override
-    {
-        using host::Answer;
-        static constexpr host::Member kMembers[] = {
-            {1, L"Name", host::kGet, Answer<[](Readings&) { return L"Microsoft PowerPoint"; }>},
-            {2, L"Version", host::kGet, Answer<[](Readings&) { return L"16.0"; }>},
-            {3, L"ActivePresentation", host::kGet, Answer<[](Readings& own) { return &own; }>},
-            {4, L"CustomDocumentProperties", host::kGet, Answer<[](Readings& own) { return &own; }>},
-            {5, L"Item", host::kEither, Answer<&Readings::Item>},
-            {6, L"Value", host::kGet, Answer<[](Readings& own) { return static_cast<long>(own.names.size()); }>},
-        };
-        return kMembers;
-    }
-
 private:
+    static const host::Member kMembers[6];
+
     Readings* Item(const host::Arguments& arguments)
     {
         names.push_back(arguments.At(0).Text());
         return this;
     }
+};
+
+const host::Member Readings::kMembers[] = {
+    {1, L"Name", host::kGet, host::Answer<[](Readings&) { return L"Microsoft PowerPoint"; }>},
+    {2, L"Version", host::kGet, host::Answer<[](Readings&) { return L"16.0"; }>},
+    {3, L"ActivePresentation", host::kGet, host::Answer<[](Readings& own) { return &own; }>},
+    {4, L"CustomDocumentProperties", host::kGet, host::Answer<[](Readings& own) { return &own; }>},
+    {5, L"Item", host::kEither, host::Answer<&Readings::Item>},
+    {6, L"Value", host::kGet, host::Answer<[](Readings& own) { return static_cast<long>(own.names.size()); }>},
 };
 
 TEST(Binding, IsReadInTheOrderOfTheInterface)

@@ -41,7 +41,12 @@ Variant Arguments::At(std::size_t index) const
     return Variant::Of(m_parameters.rgvarg[Count() - 1 - index]);
 }
 
-ObjectCore::ObjectCore(const wchar_t* className) : m_className{className} { ++Ledger()[className]; }
+ObjectCore::ObjectCore(const wchar_t* className, std::span<const Member> members)
+    : m_className{className}, m_members{members}
+{
+    ++Ledger()[className];
+}
+
 ObjectCore::~ObjectCore() { --Ledger()[m_className]; }
 
 void ObjectCore::SetSource(const wchar_t* source) { Source() = source; }
@@ -58,9 +63,8 @@ HRESULT ObjectCore::FindNames(LPOLESTR* names, UINT count, DISPID* ids) const no
 {
     if (names == nullptr || ids == nullptr || count == 0) return E_INVALIDARG;
     std::fill(ids, ids + count, DISPID_UNKNOWN);
-    const auto members = Members();
-    const auto found = std::ranges::find_if(members, [&](const Member& m) { return SameText(m.name, names[0]); });
-    if (found == members.end()) return DISP_E_UNKNOWNNAME;
+    const auto found = std::ranges::find_if(m_members, [&](const Member& m) { return SameText(m.name, names[0]); });
+    if (found == m_members.end()) return DISP_E_UNKNOWNNAME;
     ids[0] = found->id;
     return count == 1 ? S_OK : DISP_E_UNKNOWNNAME; // named arguments are not offered
 }
@@ -68,9 +72,8 @@ HRESULT ObjectCore::FindNames(LPOLESTR* names, UINT count, DISPID* ids) const no
 HRESULT ObjectCore::Call(DISPID id, WORD flags, const DISPPARAMS* parameters, VARIANT* result,
                          EXCEPINFO* exception) noexcept
 {
-    const auto members = Members();
-    const auto found = std::ranges::find_if(members, [&](const Member& m) { return m.id == id; });
-    if (found == members.end() || (found->kinds & flags) == 0) return DISP_E_MEMBERNOTFOUND;
+    const auto found = std::ranges::find(m_members, id, &Member::id);
+    if (found == m_members.end() || (found->kinds & flags) == 0) return DISP_E_MEMBERNOTFOUND;
     const DISPPARAMS none{};
     try {
         return CallMember(*found, flags, parameters != nullptr ? *parameters : none, result);

@@ -57,12 +57,10 @@ constexpr WORD kEither = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
 class ObjectCore
 {
 public:
-    explicit ObjectCore(const wchar_t* className);
+    ObjectCore(const wchar_t* className, std::span<const Member> members);
     ObjectCore(const ObjectCore&) = delete;
     ObjectCore& operator=(const ObjectCore&) = delete;
     virtual ~ObjectCore();
-
-    [[nodiscard]] virtual std::span<const Member> Members() const = 0;
 
     // The interfaces of the object beyond IDispatch and its own, or null.
     [[nodiscard]] virtual void* Interface(REFIID) { return nullptr; }
@@ -80,15 +78,17 @@ private:
     HRESULT CallMember(const Member& member, WORD flags, const DISPPARAMS& parameters, VARIANT* result);
 
     const wchar_t* m_className;
+    std::span<const Member> m_members;
 };
 
-// A host object with the dispatch-based interface I, found under an id of its own as well.
+// A host object with the dispatch-based interface I, found under an id of its own as well. Its members live on.
 template<class I>
 class AutomationObject : public corvane::ComObject<AutomationObject<I>, I>, public ObjectCore
 {
 public:
-    explicit AutomationObject(const wchar_t* className, REFIID ownId = __uuidof(I))
-        : ObjectCore{className}, m_ownId{ownId}
+    explicit AutomationObject(const wchar_t* className, std::span<const Member> members = {},
+                              REFIID ownId = __uuidof(I))
+        : ObjectCore{className, members}, m_ownId{ownId}
     {}
 
     STDMETHODIMP QueryInterface(REFIID id, void** object) noexcept override

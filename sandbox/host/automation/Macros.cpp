@@ -21,15 +21,11 @@ constexpr wchar_t kPrelude[] =
 class Creator final : public AutomationObject<IDispatch>
 {
 public:
-    explicit Creator(ClassLoader& classes) : AutomationObject{L"Creator"}, m_classes{classes} {}
-
-    [[nodiscard]] std::span<const Member> Members() const override
-    {
-        static constexpr Member kMembers[] = {{1, L"Create", kMethod, Answer<&Creator::Create>}};
-        return kMembers;
-    }
+    explicit Creator(ClassLoader& classes) : AutomationObject{L"Creator", kMembers}, m_classes{classes} {}
 
 private:
+    static const Member kMembers[1];
+
     Variant Create(const Arguments& arguments)
     {
         ComPtr<IDispatch> object;
@@ -40,6 +36,8 @@ private:
 
     ClassLoader& m_classes;
 };
+
+const Member Creator::kMembers[] = {{1, L"Create", kMethod, Answer<&Creator::Create>}};
 
 // What the engine asks of the program that it runs in. Keeps what a script raised.
 class Site final : public corvane::ComObject<Site, IActiveScriptSite, IActiveScriptSiteWindow>

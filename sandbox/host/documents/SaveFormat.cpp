@@ -120,16 +120,12 @@ const SaveFormat& FormatOfFile(HostKind host, const std::wstring& path, bool com
 {
     const std::wstring extension = Extension(path);
     const HostFormats& own = FormatsOf(host);
-    const auto isCompound = [](const SaveFormat& f) {
-        return f.container == Container::Compound || f.container == Container::Message;
-    };
     const auto matches = [&](const SaveFormat& f) {
-        return extension == f.extension && isCompound(f) == compound && version <= f.lastVersion;
+        return extension == f.extension && (f.container != Container::Package) == compound && version <= f.lastVersion;
     };
     const auto found = std::ranges::find_if(own.formats, matches);
     if (found != own.formats.end()) return *found;
-    const auto sameKind = [&](const SaveFormat& f) { return f.number == (compound ? own.classic : own.current); };
-    return *std::ranges::find_if(own.formats, sameKind);
+    return *std::ranges::find(own.formats, compound ? own.classic : own.current, &SaveFormat::number);
 }
 
 bool IsKnownExtension(HostKind host, const std::wstring& extension)

@@ -20,11 +20,10 @@ IID EventsOf(const HostModel& model) { return model.events != nullptr ? model.ev
 } // namespace
 
 ApplicationObject::ApplicationObject(Session& session)
-    : AutomationObject{session.Model().application.name, session.Model().application.id}, m_session{session},
-      m_events{*this, EventsOf(session.Model())}
+    : AutomationObject{session.Model().application.name, session.MembersOf(&HostModel::application),
+                       session.Model().application.id},
+      m_session{session}, m_events{*this, EventsOf(session.Model())}
 {}
-
-std::span<const Member> ApplicationObject::Members() const { return m_session.MembersOf(&HostModel::application); }
 
 void* ApplicationObject::Interface(REFIID id)
 {
@@ -80,10 +79,10 @@ ComPtr<DocumentObject> ApplicationObject::CreateItem(const Arguments& arguments)
 }
 
 DocumentsObject::DocumentsObject(Session& session)
-    : AutomationObject{session.Model().documents.name, session.Model().documents.id}, m_session{session}
+    : AutomationObject{session.Model().documents.name, session.MembersOf(&HostModel::documents),
+                       session.Model().documents.id},
+      m_session{session}
 {}
-
-std::span<const Member> DocumentsObject::Members() const { return m_session.MembersOf(&HostModel::documents); }
 
 std::vector<DocumentObject*> DocumentsObject::Reachable() const
 {

@@ -13,7 +13,6 @@ class ApplicationObject final : public AutomationObject<IDispatch>
 public:
     explicit ApplicationObject(Session& session);
 
-    [[nodiscard]] std::span<const Member> Members() const override;
     [[nodiscard]] void* Interface(REFIID id) override;
     [[nodiscard]] EventSource& Events() { return m_events; }
     [[nodiscard]] Session& Owner() { return m_session; }
@@ -51,7 +50,6 @@ class DocumentsObject final : public AutomationObject<IDispatch>
 public:
     explicit DocumentsObject(Session& session);
 
-    [[nodiscard]] std::span<const Member> Members() const override;
     [[nodiscard]] Session& Owner() { return m_session; }
 
     // The answers of the member tables. Open takes the path first and, at this index, whether it is for reading only.

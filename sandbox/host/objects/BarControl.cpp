@@ -6,12 +6,15 @@ namespace host
 namespace
 {
 
+using C = BarControlObject;
+using A = const Arguments&;
+
 constexpr DISPID kClick = 1; // of _CommandBarButtonEvents
 
 } // namespace
 
 BarControlObject::BarControlObject(long type, long id, std::wstring caption, CommandBarObject* parent)
-    : AutomationObject{L"CommandBarControl", kCommandBarControlId}, m_type{type}, m_id{id},
+    : AutomationObject{L"CommandBarControl", kMembers, kCommandBarControlId}, m_type{type}, m_id{id},
       m_caption{std::move(caption)}, m_parent{parent}, m_clicks{*this, kCommandBarButtonEventsId}
 {
     if (type == kBarPopup) m_menu = MakeObject<CommandBarObject>(m_caption);
@@ -27,37 +30,28 @@ Variant BarControlObject::Property(const Arguments& arguments, const wchar_t* na
     return answer;
 }
 
-std::span<const Member> BarControlObject::Members() const
-{
-    using C = BarControlObject;
-    using A = const Arguments&;
-    static constexpr Member kMembers[] = {
-        {0, L"Caption", kGetPut,
-         Answer<[](C& own, A value) { return own.Property<&C::m_caption>(value, L"Caption"); }>},
-        {1, L"BeginGroup", kGetPut,
-         Answer<[](C& own, A value) { return own.Property<&C::m_beginGroup>(value, L"BeginGroup"); }>},
-        {2, L"Controls", kGet, Answer<[](C& own) { return own.MenuOrFail().Controls(); }>},
-        {3, L"CommandBar", kGet, Answer<[](C& own) { return &own.MenuOrFail(); }>},
-        {4, L"Delete", kMethod, Answer<&C::Delete>},
-        {5, L"Enabled", kGetPut,
-         Answer<[](C& own, A value) { return own.Property<&C::m_enabled>(value, L"Enabled"); }>},
-        {6, L"Execute", kMethod, Answer<&C::Press>},
-        {7, L"Id", kGet, Answer<[](C& own) { return own.CheckTells(L"id"), own.m_id; }>},
-        {8, L"Index", kGet, Answer<&C::Index>},
-        {9, L"Parameter", kGetPut,
-         Answer<[](C& own, A value) { return own.Property<&C::m_parameter>(value, L"Parameter"); }>},
-        {10, L"Parent", kGet, Answer<[](C& own) { return own.m_parent; }>},
-        {11, L"Style", kGetPut, Answer<[](C& own, A value) { return own.Property<&C::m_style>(value, L"Style"); }>},
-        {12, L"Tag", kGetPut,
-         Answer<[](C& own, A value) { return own.CheckTells(L"tag"), own.Property<&C::m_tag>(value, L"Tag"); }>},
-        {13, L"TooltipText", kGetPut,
-         Answer<[](C& own, A value) { return own.Property<&C::m_tip>(value, L"TooltipText"); }>},
-        {14, L"Type", kGet, Answer<&C::Type>},
-        {15, L"Visible", kGetPut,
-         Answer<[](C& own, A value) { return own.Property<&C::m_visible>(value, L"Visible"); }>},
-    };
-    return kMembers;
-}
+const Member BarControlObject::kMembers[] = {
+    {0, L"Caption", kGetPut, Answer<[](C& own, A value) { return own.Property<&C::m_caption>(value, L"Caption"); }>},
+    {1, L"BeginGroup", kGetPut,
+     Answer<[](C& own, A value) { return own.Property<&C::m_beginGroup>(value, L"BeginGroup"); }>},
+    {2, L"Controls", kGet, Answer<[](C& own) { return own.MenuOrFail().Controls(); }>},
+    {3, L"CommandBar", kGet, Answer<[](C& own) { return &own.MenuOrFail(); }>},
+    {4, L"Delete", kMethod, Answer<&C::Delete>},
+    {5, L"Enabled", kGetPut, Answer<[](C& own, A value) { return own.Property<&C::m_enabled>(value, L"Enabled"); }>},
+    {6, L"Execute", kMethod, Answer<&C::Press>},
+    {7, L"Id", kGet, Answer<[](C& own) { return own.CheckTells(L"id"), own.m_id; }>},
+    {8, L"Index", kGet, Answer<&C::Index>},
+    {9, L"Parameter", kGetPut,
+     Answer<[](C& own, A value) { return own.Property<&C::m_parameter>(value, L"Parameter"); }>},
+    {10, L"Parent", kGet, Answer<[](C& own) { return own.m_parent; }>},
+    {11, L"Style", kGetPut, Answer<[](C& own, A value) { return own.Property<&C::m_style>(value, L"Style"); }>},
+    {12, L"Tag", kGetPut,
+     Answer<[](C& own, A value) { return own.CheckTells(L"tag"), own.Property<&C::m_tag>(value, L"Tag"); }>},
+    {13, L"TooltipText", kGetPut,
+     Answer<[](C& own, A value) { return own.Property<&C::m_tip>(value, L"TooltipText"); }>},
+    {14, L"Type", kGet, Answer<&C::Type>},
+    {15, L"Visible", kGetPut, Answer<[](C& own, A value) { return own.Property<&C::m_visible>(value, L"Visible"); }>},
+};
 
 void* BarControlObject::Interface(REFIID id)
 {

@@ -14,16 +14,11 @@ std::size_t ItemPosition(const Variant& index, std::size_t count)
     return static_cast<std::size_t>(position);
 }
 
-std::span<const Member> ListObject::Members() const
-{
-    using L = ListObject;
-    static constexpr Member kMembers[] = {
-        {0, L"Item", kEither, Answer<[](const L& list, const Arguments& arguments) {
-             return list.m_items[ItemPosition(arguments.At(0), list.m_items.size()) - 1];
-         }>},
-        {11, L"Count", kGet, Answer<[](const L& list) { return static_cast<long>(list.m_items.size()); }>},
-    };
-    return kMembers;
-}
+const Member ListObject::kMembers[] = {
+    {0, L"Item", kEither, Answer<[](const ListObject& list, const Arguments& arguments) {
+         return list.m_items[ItemPosition(arguments.At(0), list.m_items.size()) - 1];
+     }>},
+    {11, L"Count", kGet, Answer<[](const ListObject& list) { return static_cast<long>(list.m_items.size()); }>},
+};
 
 } // namespace host

@@ -28,12 +28,12 @@ class ListObject final : public AutomationObject<IDispatch>
 {
 public:
     ListObject(const wchar_t* className, REFIID id, std::vector<ComPtr<IDispatch>> items)
-        : AutomationObject{className, id}, m_items{std::move(items)}
+        : AutomationObject{className, kMembers, id}, m_items{std::move(items)}
     {}
 
-    [[nodiscard]] std::span<const Member> Members() const override;
-
 private:
+    static const Member kMembers[2];
+
     std::vector<ComPtr<IDispatch>> m_items;
 };
 

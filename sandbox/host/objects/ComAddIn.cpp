@@ -8,21 +8,17 @@ namespace host
 {
 
 ComAddInObject::ComAddInObject(std::wstring progId, std::wstring description)
-    : AutomationObject{L"COMAddIn", kComAddInId}, m_progId{std::move(progId)}, m_description{std::move(description)}
+    : AutomationObject{L"COMAddIn", kMembers, kComAddInId}, m_progId{std::move(progId)}, m_description{
+                                                                                             std::move(description)}
 {}
 
-std::span<const Member> ComAddInObject::Members() const
-{
-    using C = ComAddInObject;
-    static constexpr Member kMembers[] = {
-        {0, L"Description", kGet, Answer<[](const C& addIn) { return addIn.m_description; }>},
-        {3, L"ProgId", kGet, Answer<&C::ProgId>},
-        {4, L"Guid", kGet, Answer<[](const C& addIn) { return corvane::GuidText(addIn.m_classId); }>},
-        {6, L"Connect", kGet, Answer<[](const C& addIn) { return addIn.m_connected; }>},
-        {7, L"Object", kGetPut, Answer<&C::Offered>},
-    };
-    return kMembers;
-}
+const Member ComAddInObject::kMembers[] = {
+    {0, L"Description", kGet, Answer<[](const ComAddInObject& addIn) { return addIn.m_description; }>},
+    {3, L"ProgId", kGet, Answer<&ComAddInObject::ProgId>},
+    {4, L"Guid", kGet, Answer<[](const ComAddInObject& addIn) { return corvane::GuidText(addIn.m_classId); }>},
+    {6, L"Connect", kGet, Answer<[](const ComAddInObject& addIn) { return addIn.m_connected; }>},
+    {7, L"Object", kGetPut, Answer<&ComAddInObject::Offered>},
+};
 
 Variant ComAddInObject::Offered(const Arguments& arguments)
 {
@@ -31,18 +27,16 @@ Variant ComAddInObject::Offered(const Arguments& arguments)
     return {};
 }
 
-ComAddInsObject::ComAddInsObject(Session& session) : AutomationObject{L"COMAddIns", kComAddInsId}, m_session{session} {}
+ComAddInsObject::ComAddInsObject(Session& session)
+    : AutomationObject{L"COMAddIns", kMembers, kComAddInsId}, m_session{session}
+{}
 
-std::span<const Member> ComAddInsObject::Members() const
-{
-    using C = ComAddInsObject;
-    static constexpr Member kMembers[] = {
-        {0, L"Item", kEither, Answer<[](const C& own, const Arguments& arguments) {
-             return ItemOf(own.m_session.AddIns(), arguments.At(0), [](const auto& one) { return one->ProgId(); });
-         }>},
-        {1, L"Count", kGet, Answer<[](const C& own) { return static_cast<long>(own.m_session.AddIns().size()); }>},
-    };
-    return kMembers;
-}
+const Member ComAddInsObject::kMembers[] = {
+    {0, L"Item", kEither, Answer<[](const ComAddInsObject& own, const Arguments& arguments) {
+         return ItemOf(own.m_session.AddIns(), arguments.At(0), [](const auto& one) { return one->ProgId(); });
+     }>},
+    {1, L"Count", kGet,
+     Answer<[](const ComAddInsObject& own) { return static_cast<long>(own.m_session.AddIns().size()); }>},
+};
 
 } // namespace host

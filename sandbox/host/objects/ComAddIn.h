@@ -14,8 +14,6 @@ class ComAddInObject final : public AutomationObject<IDispatch>
 public:
     ComAddInObject(std::wstring progId, std::wstring description);
 
-    [[nodiscard]] std::span<const Member> Members() const override;
-
     [[nodiscard]] const std::wstring& ProgId() const { return m_progId; }
     void SetClass(REFCLSID classId) { m_classId = classId; }
     void SetConnected(bool connected) { m_connected = connected; }
@@ -24,6 +22,8 @@ public:
     void DropOffered() { m_offered.Reset(); }
 
 private:
+    static const Member kMembers[5];
+
     Variant Offered(const Arguments& arguments);
 
     std::wstring m_progId;
@@ -39,9 +39,9 @@ class ComAddInsObject final : public AutomationObject<IDispatch>
 public:
     explicit ComAddInsObject(Session& session);
 
-    [[nodiscard]] std::span<const Member> Members() const override;
-
 private:
+    static const Member kMembers[2];
+
     Session& m_session;
 };
 

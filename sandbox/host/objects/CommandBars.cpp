@@ -7,7 +7,7 @@ namespace host
 {
 
 CommandBarObject::CommandBarObject(std::wstring name)
-    : AutomationObject{L"CommandBar", kCommandBarId}, m_name{std::move(name)}
+    : AutomationObject{L"CommandBar", kMembers, kCommandBarId}, m_name{std::move(name)}
 {}
 
 CommandBarObject::~CommandBarObject()
@@ -16,16 +16,11 @@ CommandBarObject::~CommandBarObject()
         entry->Detach();
 }
 
-std::span<const Member> CommandBarObject::Members() const
-{
-    using B = CommandBarObject;
-    static constexpr Member kMembers[] = {
-        {0, L"Name", kGet, Answer<[](const B& bar) { return bar.m_name; }>},
-        {1, L"Controls", kEither, Answer<&B::ControlsOrOne>},
-        {2, L"FindControl", kMethod, Answer<&B::FindControl>},
-    };
-    return kMembers;
-}
+const Member CommandBarObject::kMembers[] = {
+    {0, L"Name", kGet, Answer<[](const CommandBarObject& bar) { return bar.m_name; }>},
+    {1, L"Controls", kEither, Answer<&CommandBarObject::ControlsOrOne>},
+    {2, L"FindControl", kMethod, Answer<&CommandBarObject::FindControl>},
+};
 
 template<class Matches>
 BarControlObject* CommandBarObject::Find(bool recursive, const Matches& matches)
@@ -90,23 +85,19 @@ BarControlObject* CommandBarObject::FindControl(const Arguments& arguments)
 }
 
 BarControlsObject::BarControlsObject(CommandBarObject* bar)
-    : AutomationObject{L"CommandBarControls", kCommandBarControlsId}, m_bar{bar}
+    : AutomationObject{L"CommandBarControls", kMembers, kCommandBarControlsId}, m_bar{bar}
 {}
 
-std::span<const Member> BarControlsObject::Members() const
-{
-    using C = BarControlsObject;
-    static constexpr Member kMembers[] = {
-        {0, L"Item", kEither, Answer<[](const C& own, const Arguments& arguments) {
-             Variant index = arguments.At(0);
-             if (index.Type() == VT_BSTR) index = WithoutMark(index.Text());
-             return ItemOf(own.m_bar->Entries(), index, [](const auto& one) { return WithoutMark(one->Caption()); });
-         }>},
-        {1, L"Add", kMethod, Answer<&C::Add>},
-        {2, L"Count", kGet, Answer<[](const C& own) { return static_cast<long>(own.m_bar->Entries().size()); }>},
-    };
-    return kMembers;
-}
+const Member BarControlsObject::kMembers[] = {
+    {0, L"Item", kEither, Answer<[](const BarControlsObject& own, const Arguments& arguments) {
+         Variant index = arguments.At(0);
+         if (index.Type() == VT_BSTR) index = WithoutMark(index.Text());
+         return ItemOf(own.m_bar->Entries(), index, [](const auto& one) { return WithoutMark(one->Caption()); });
+     }>},
+    {1, L"Add", kMethod, Answer<&BarControlsObject::Add>},
+    {2, L"Count", kGet,
+     Answer<[](const BarControlsObject& own) { return static_cast<long>(own.m_bar->Entries().size()); }>},
+};
 
 // Add(Type, Id, Parameter, Before, Temporary)
 BarControlObject* BarControlsObject::Add(const Arguments& arguments)
@@ -127,22 +118,16 @@ BarControlObject* BarControlsObject::Add(const Arguments& arguments)
 }
 
 CommandBarsObject::CommandBarsObject(std::wstring menuBar)
-    : AutomationObject{L"CommandBars", kCommandBarsId}, m_name{std::move(menuBar)}, m_menuBar{
-                                                                                        MakeObject<CommandBarObject>(
-                                                                                            m_name)}
+    : AutomationObject{L"CommandBars", kMembers, kCommandBarsId}, m_name{std::move(menuBar)},
+      m_menuBar{MakeObject<CommandBarObject>(m_name)}
 {}
 
-std::span<const Member> CommandBarsObject::Members() const
-{
-    using C = CommandBarsObject;
-    static constexpr Member kMembers[] = {
-        {0, L"Item", kEither, Answer<[](const C& own, const Arguments& arguments) {
-             return ItemOf(std::span{own.m_menuBar.GetAddressOf(), 1}, arguments.At(0),
-                           [&](const auto&) { return own.m_name; });
-         }>},
-        {1, L"Count", kGet, Answer<[](const C&) { return 1L; }>},
-    };
-    return kMembers;
-}
+const Member CommandBarsObject::kMembers[] = {
+    {0, L"Item", kEither, Answer<[](const CommandBarsObject& own, const Arguments& arguments) {
+         return ItemOf(std::span{own.m_menuBar.GetAddressOf(), 1}, arguments.At(0),
+                       [&](const auto&) { return own.m_name; });
+     }>},
+    {1, L"Count", kGet, Answer<[](const CommandBarsObject&) { return 1L; }>},
+};
 
 } // namespace host

@@ -23,7 +23,6 @@ public:
     BarControlObject(long type, long id, std::wstring caption, CommandBarObject* parent);
     ~BarControlObject() override;
 
-    [[nodiscard]] std::span<const Member> Members() const override;
     [[nodiscard]] void* Interface(REFIID id) override;
 
     [[nodiscard]] long Type() const { return m_type; }
@@ -49,6 +48,8 @@ public:
     void Detach();
 
 private:
+    static const Member kMembers[16];
+
     void CheckTells(const wchar_t* what) const;
     [[nodiscard]] CommandBarObject& MenuOrFail();
     long Index() const;
@@ -80,8 +81,6 @@ public:
     explicit CommandBarObject(std::wstring name);
     ~CommandBarObject() override;
 
-    [[nodiscard]] std::span<const Member> Members() const override;
-
     [[nodiscard]] const std::vector<ComPtr<BarControlObject>>& Entries() const { return m_entries; }
 
     // The first entry with this tag, or the first command with this id, here or in a menu below; null when there is
@@ -96,6 +95,8 @@ public:
     [[nodiscard]] ComPtr<IDispatch> Controls();
 
 private:
+    static const Member kMembers[3];
+
     template<class Matches>
     BarControlObject* Find(bool recursive, const Matches& matches);
     Variant ControlsOrOne(const Arguments& arguments);
@@ -111,9 +112,9 @@ class BarControlsObject final : public AutomationObject<IDispatch>
 public:
     explicit BarControlsObject(CommandBarObject* bar);
 
-    [[nodiscard]] std::span<const Member> Members() const override;
-
 private:
+    static const Member kMembers[3];
+
     BarControlObject* Add(const Arguments& arguments);
 
     ComPtr<CommandBarObject> m_bar;
@@ -125,10 +126,11 @@ class CommandBarsObject final : public AutomationObject<IDispatch>
 public:
     explicit CommandBarsObject(std::wstring menuBar);
 
-    [[nodiscard]] std::span<const Member> Members() const override;
     [[nodiscard]] CommandBarObject& MenuBar() { return *m_menuBar.Get(); }
 
 private:
+    static const Member kMembers[2];
+
     std::wstring m_name; // of the menu bar
     ComPtr<CommandBarObject> m_menuBar;
 };

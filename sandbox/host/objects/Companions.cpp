@@ -5,29 +5,23 @@ namespace host
 namespace
 {
 
+using M = MailItemObject;
+using A = const Arguments&;
+
 constexpr long kMailItem = 0; // of OlItemType
 constexpr HRESULT kDeclined = static_cast<HRESULT>(0x800A011FL);
 
 } // namespace
 
-std::span<const Member> LoginObject::Members() const
-{
-    static constexpr Member kMembers[] = {
-        {1, L"IsLoggedIn", kGetPut, Answer<[](LoginObject& login, const Arguments& arguments) {
-             return ReadOrWrite(arguments, login.m_loggedIn);
-         }>}};
-    return kMembers;
-}
+const Member LoginObject::kMembers[] = {
+    {1, L"IsLoggedIn", kGetPut,
+     Answer<[](LoginObject& login, const Arguments& arguments) { return ReadOrWrite(arguments, login.m_loggedIn); }>}};
 
-std::span<const Member> OutlookObject::Members() const
-{
-    static constexpr Member kMembers[] = {
-        {1, L"Name", kGet, Answer<[](OutlookObject&) { return L"Outlook"; }>},
-        {2, L"Version", kGet, Answer<[](OutlookObject&) { return L"16.0.0.4266"; }>},
-        {3, L"CreateItem", kMethod, Answer<&OutlookObject::CreateItem>},
-    };
-    return kMembers;
-}
+const Member OutlookObject::kMembers[] = {
+    {1, L"Name", kGet, Answer<[](OutlookObject&) { return L"Outlook"; }>},
+    {2, L"Version", kGet, Answer<[](OutlookObject&) { return L"16.0.0.4266"; }>},
+    {3, L"CreateItem", kMethod, Answer<&OutlookObject::CreateItem>},
+};
 
 void OutlookObject::Display(const MailFields& fields)
 {
@@ -49,24 +43,16 @@ ComPtr<IDispatch> OutlookObject::CreateItem(const Arguments& arguments)
     return MakeObject<MailItemObject>(this);
 }
 
-std::span<const Member> MailItemObject::Members() const
-{
-    using M = MailItemObject;
-    using A = const Arguments&;
-    static constexpr Member kMembers[] = {
-        {1, L"To", kGetPut, Answer<[](M& mail, A value) {
-             mail.m_outlook->FailWhere(MailMood::Refusing);
-             return ReadOrWrite(value, mail.m_fields[L"To"]);
-         }>},
-        {2, L"CC", kGetPut, Answer<[](M& mail, A value) { return ReadOrWrite(value, mail.m_fields[L"CC"]); }>},
-        {3, L"Subject", kGetPut,
-         Answer<[](M& mail, A value) { return ReadOrWrite(value, mail.m_fields[L"Subject"]); }>},
-        {4, L"Body", kGetPut, Answer<[](M& mail, A value) { return ReadOrWrite(value, mail.m_fields[L"Body"]); }>},
-        {5, L"HTMLBody", kGetPut,
-         Answer<[](M& mail, A value) { return ReadOrWrite(value, mail.m_fields[L"HTMLBody"]); }>},
-        {6, L"Display", kMethod, Answer<[](M& mail) { mail.m_outlook->Display(mail.m_fields); }>},
-    };
-    return kMembers;
-}
+const Member MailItemObject::kMembers[] = {
+    {1, L"To", kGetPut, Answer<[](M& mail, A value) {
+         mail.m_outlook->FailWhere(MailMood::Refusing);
+         return ReadOrWrite(value, mail.m_fields[L"To"]);
+     }>},
+    {2, L"CC", kGetPut, Answer<[](M& mail, A value) { return ReadOrWrite(value, mail.m_fields[L"CC"]); }>},
+    {3, L"Subject", kGetPut, Answer<[](M& mail, A value) { return ReadOrWrite(value, mail.m_fields[L"Subject"]); }>},
+    {4, L"Body", kGetPut, Answer<[](M& mail, A value) { return ReadOrWrite(value, mail.m_fields[L"Body"]); }>},
+    {5, L"HTMLBody", kGetPut, Answer<[](M& mail, A value) { return ReadOrWrite(value, mail.m_fields[L"HTMLBody"]); }>},
+    {6, L"Display", kMethod, Answer<[](M& mail) { mail.m_outlook->Display(mail.m_fields); }>},
+};
 
 } // namespace host

@@ -15,11 +15,11 @@ namespace host
 class LoginObject final : public AutomationObject<IDispatch>
 {
 public:
-    explicit LoginObject(bool loggedIn) : AutomationObject{L"CLogin"}, m_loggedIn{loggedIn} {}
-
-    [[nodiscard]] std::span<const Member> Members() const override;
+    explicit LoginObject(bool loggedIn) : AutomationObject{L"CLogin", kMembers}, m_loggedIn{loggedIn} {}
 
 private:
+    static const Member kMembers[1];
+
     bool m_loggedIn;
 };
 
@@ -37,9 +37,7 @@ enum class MailMood
 class OutlookObject final : public AutomationObject<IDispatch>
 {
 public:
-    explicit OutlookObject(MailMood mood) : AutomationObject{L"Outlook.Application"}, m_mood{mood} {}
-
-    [[nodiscard]] std::span<const Member> Members() const override;
+    explicit OutlookObject(MailMood mood) : AutomationObject{L"Outlook.Application", kMembers}, m_mood{mood} {}
 
     // The items that were shown to the user, the last one last.
     [[nodiscard]] const std::vector<MailFields>& Displayed() const { return m_displayed; }
@@ -50,6 +48,8 @@ public:
     void FailWhere(MailMood mood) const;
 
 private:
+    static const Member kMembers[3];
+
     ComPtr<IDispatch> CreateItem(const Arguments& arguments);
 
     MailMood m_mood;
@@ -60,11 +60,11 @@ private:
 class MailItemObject final : public AutomationObject<IDispatch>
 {
 public:
-    explicit MailItemObject(OutlookObject* outlook) : AutomationObject{L"MailItem"}, m_outlook{outlook} {}
-
-    [[nodiscard]] std::span<const Member> Members() const override;
+    explicit MailItemObject(OutlookObject* outlook) : AutomationObject{L"MailItem", kMembers}, m_outlook{outlook} {}
 
 private:
+    static const Member kMembers[6];
+
     ComPtr<OutlookObject> m_outlook;
     MailFields m_fields;
 };

@@ -38,12 +38,11 @@ std::optional<long> FormatArgument(const Arguments& arguments)
 } // namespace
 
 DocumentObject::DocumentObject(Session& session, Document document)
-    : AutomationObject{session.Model().document.name, session.Model().document.id}, m_session{session},
-      m_document{std::move(document)},
+    : AutomationObject{session.Model().document.name, session.MembersOf(&HostModel::document),
+                       session.Model().document.id},
+      m_session{session}, m_document{std::move(document)},
       m_protected{session.Settings().Setting("document.view") == "protected"}, m_windows{session.WindowsOfNext()}
 {}
-
-std::span<const Member> DocumentObject::Members() const { return m_session.MembersOf(&HostModel::document); }
 
 void* DocumentObject::Interface(REFIID id)
 {
@@ -179,14 +178,10 @@ STDMETHODIMP PersistFile::Save(LPCOLESTR path, BOOL remember)
 }
 
 DocumentWindowObject::DocumentWindowObject(DocumentObject* document, long number)
-    : AutomationObject{document->Owner().Model().window.name, document->Owner().Model().window.id},
+    : AutomationObject{document->Owner().Model().window.name, document->Owner().MembersOf(&HostModel::window),
+                       document->Owner().Model().window.id},
       m_document{document}, m_number{number}
 {}
-
-std::span<const Member> DocumentWindowObject::Members() const
-{
-    return m_document->Owner().MembersOf(&HostModel::window);
-}
 
 std::wstring DocumentWindowObject::Caption() const
 {

@@ -50,7 +50,6 @@ class DocumentObject final : public AutomationObject<IDispatch>
 public:
     DocumentObject(Session& session, Document document);
 
-    [[nodiscard]] std::span<const Member> Members() const override;
     [[nodiscard]] void* Interface(REFIID id) override;
 
     [[nodiscard]] Document& File() { return m_document; }
@@ -113,8 +112,6 @@ class DocumentWindowObject final : public AutomationObject<IDispatch>
 {
 public:
     explicit DocumentWindowObject(DocumentObject* document, long number = 1);
-
-    [[nodiscard]] std::span<const Member> Members() const override;
 
     // The answers of the member tables.
     std::wstring Caption() const;

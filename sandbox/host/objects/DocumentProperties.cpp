@@ -2,7 +2,6 @@
 
 #include "automation/OfficeInterfaces.h"
 #include "objects/Collections.h"
-#include "package/FileTime.h"
 
 namespace host
 {
@@ -89,20 +88,16 @@ Variant ToValue(const CustomProperty& property)
 }
 
 DocumentPropertiesObject::DocumentPropertiesObject(DocumentObject* document, PropertySet set)
-    : AutomationObject{L"DocumentProperties", kDocumentPropertiesId}, m_document{document}, m_set{set}
+    : AutomationObject{L"DocumentProperties", kMembers, kDocumentPropertiesId}, m_document{document}, m_set{set}
 {}
 
-std::span<const Member> DocumentPropertiesObject::Members() const
-{
-    using C = DocumentPropertiesObject;
-    static constexpr Member kMembers[] = {
-        {0, L"Item", kEither, Answer<&C::Item>},
-        {4, L"Count", kGet,
-         Answer<[](const C& own) { return static_cast<long>(PropertiesOf(*own.m_document.Get(), own.m_set).size()); }>},
-        {5, L"Add", kMethod, Answer<&C::Add>},
-    };
-    return kMembers;
-}
+const Member DocumentPropertiesObject::kMembers[] = {
+    {0, L"Item", kEither, Answer<&DocumentPropertiesObject::Item>},
+    {4, L"Count", kGet, Answer<[](const DocumentPropertiesObject& own) {
+         return static_cast<long>(PropertiesOf(*own.m_document.Get(), own.m_set).size());
+     }>},
+    {5, L"Add", kMethod, Answer<&DocumentPropertiesObject::Add>},
+};
 
 ComPtr<IDispatch> DocumentPropertiesObject::Item(const Arguments& arguments)
 {
@@ -130,21 +125,17 @@ ComPtr<IDispatch> DocumentPropertiesObject::Add(const Arguments& arguments)
 }
 
 DocumentPropertyObject::DocumentPropertyObject(DocumentObject* document, PropertySet set, std::string name)
-    : AutomationObject{L"DocumentProperty", kDocumentPropertyId}, m_document{document}, m_set{set}, m_name{
-                                                                                                        std::move(name)}
+    : AutomationObject{L"DocumentProperty", kMembers, kDocumentPropertyId},
+      m_document{document}, m_set{set}, m_name{std::move(name)}
 {}
 
-std::span<const Member> DocumentPropertyObject::Members() const
-{
-    using P = DocumentPropertyObject;
-    static constexpr Member kMembers[] = {
-        {0, L"Value", kGetPut, Answer<&P::Value>},
-        {2, L"Delete", kMethod, Answer<&P::Delete>},
-        {3, L"Name", kGet, Answer<[](const P& own) { return Widen(own.Property().name); }>},
-        {5, L"Type", kGet, Answer<[](const P& own) { return static_cast<long>(own.Property().type); }>},
-    };
-    return kMembers;
-}
+const Member DocumentPropertyObject::kMembers[] = {
+    {0, L"Value", kGetPut, Answer<&DocumentPropertyObject::Value>},
+    {2, L"Delete", kMethod, Answer<&DocumentPropertyObject::Delete>},
+    {3, L"Name", kGet, Answer<[](const DocumentPropertyObject& own) { return Widen(own.Property().name); }>},
+    {5, L"Type", kGet,
+     Answer<[](const DocumentPropertyObject& own) { return static_cast<long>(own.Property().type); }>},
+};
 
 CustomProperty& DocumentPropertyObject::Property() const
 {

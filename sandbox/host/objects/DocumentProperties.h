@@ -15,12 +15,12 @@ class DocumentPropertiesObject final : public AutomationObject<IDispatch>
 public:
     DocumentPropertiesObject(DocumentObject* document, PropertySet set);
 
-    [[nodiscard]] std::span<const Member> Members() const override;
-
     // By name, without regard to case, or by position.
     ComPtr<IDispatch> Item(const Arguments& arguments);
 
 private:
+    static const Member kMembers[3];
+
     ComPtr<IDispatch> Add(const Arguments& arguments);
 
     ComPtr<DocumentObject> m_document;
@@ -33,9 +33,9 @@ class DocumentPropertyObject final : public AutomationObject<IDispatch>
 public:
     DocumentPropertyObject(DocumentObject* document, PropertySet set, std::string name);
 
-    [[nodiscard]] std::span<const Member> Members() const override;
-
 private:
+    static const Member kMembers[4];
+
     Variant Value(const Arguments& arguments);
     void Delete();
 

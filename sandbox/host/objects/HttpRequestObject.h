@@ -26,8 +26,6 @@ class HttpRequestObject final : public AutomationObject<IXMLHTTPRequest>
 public:
     HttpRequestObject() : AutomationObject{L"XMLHTTPRequest"} {}
 
-    [[nodiscard]] std::span<const Member> Members() const override { return {}; }
-
     STDMETHODIMP open(BSTR method, BSTR url, VARIANT isAsynchronous, VARIANT user, VARIANT password) override;
     STDMETHODIMP setRequestHeader(BSTR name, BSTR value) override;
     STDMETHODIMP send(VARIANT body) override;

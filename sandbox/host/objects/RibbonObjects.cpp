@@ -5,33 +5,25 @@
 namespace host
 {
 
-std::span<const Member> RibbonUiObject::Members() const
-{
-    constexpr auto* kAsk = &Answer<[](RibbonUiObject& ribbon) {
-        if (ribbon.m_invalidate) ribbon.m_invalidate();
-    }>;
-    static constexpr Member kMembers[] = {
-        {1, L"Invalidate", kMethod, kAsk},           {2, L"InvalidateControl", kMethod, kAsk},
-        {3, L"InvalidateControlMso", kMethod, kAsk}, {4, L"ActivateTab", kMethod, kAsk},
-        {5, L"ActivateTabMso", kMethod, kAsk},       {6, L"ActivateTabQ", kMethod, kAsk},
-    };
-    return kMembers;
-}
+const Member RibbonUiObject::kMembers[] = {
+    {1, L"Invalidate", kMethod, Answer<&RibbonUiObject::Ask>},
+    {2, L"InvalidateControl", kMethod, Answer<&RibbonUiObject::Ask>},
+    {3, L"InvalidateControlMso", kMethod, Answer<&RibbonUiObject::Ask>},
+    {4, L"ActivateTab", kMethod, Answer<&RibbonUiObject::Ask>},
+    {5, L"ActivateTabMso", kMethod, Answer<&RibbonUiObject::Ask>},
+    {6, L"ActivateTabQ", kMethod, Answer<&RibbonUiObject::Ask>},
+};
 
 RibbonControlObject::RibbonControlObject(std::wstring id, std::wstring tag, ComPtr<IDispatch> context)
-    : AutomationObject{L"IRibbonControl"}, m_id{std::move(id)}, m_tag{std::move(tag)}, m_context{std::move(context)}
+    : AutomationObject{L"IRibbonControl", kMembers}, m_id{std::move(id)}, m_tag{std::move(tag)}, m_context{
+                                                                                                     std::move(context)}
 {}
 
-std::span<const Member> RibbonControlObject::Members() const
-{
-    using C = RibbonControlObject;
-    static constexpr Member kMembers[] = {
-        {1, L"Id", kGet, Answer<[](const C& own) { return own.m_id; }>},
-        {2, L"Context", kGet, Answer<[](const C& own) { return own.m_context; }>},
-        {3, L"Tag", kGet, Answer<[](const C& own) { return own.m_tag; }>},
-    };
-    return kMembers;
-}
+const Member RibbonControlObject::kMembers[] = {
+    {1, L"Id", kGet, Answer<[](const RibbonControlObject& own) { return own.m_id; }>},
+    {2, L"Context", kGet, Answer<[](const RibbonControlObject& own) { return own.m_context; }>},
+    {3, L"Tag", kGet, Answer<[](const RibbonControlObject& own) { return own.m_tag; }>},
+};
 
 STDMETHODIMP RibbonControlObject::get_Id(BSTR* id) { return corvane::HandOut(m_id, id); }
 STDMETHODIMP RibbonControlObject::get_Tag(BSTR* tag) { return corvane::HandOut(m_tag, tag); }

@@ -14,10 +14,8 @@ class RibbonUiObject final : public AutomationObject<IRibbonUI>
 {
 public:
     explicit RibbonUiObject(std::function<void()> invalidate)
-        : AutomationObject{L"IRibbonUI"}, m_invalidate{std::move(invalidate)}
+        : AutomationObject{L"IRibbonUI", kMembers}, m_invalidate{std::move(invalidate)}
     {}
-
-    [[nodiscard]] std::span<const Member> Members() const override;
 
     // The host no longer shows this ribbon: later calls do nothing.
     void Disconnect() { m_invalidate = nullptr; }
@@ -30,6 +28,13 @@ public:
     STDMETHODIMP ActivateTabQ(BSTR, BSTR) override { return Invalidate(); }
 
 private:
+    static const Member kMembers[6];
+
+    void Ask()
+    {
+        if (m_invalidate) m_invalidate();
+    }
+
     std::function<void()> m_invalidate;
 };
 
@@ -39,13 +44,13 @@ class RibbonControlObject final : public AutomationObject<IRibbonControl>
 public:
     RibbonControlObject(std::wstring id, std::wstring tag, ComPtr<IDispatch> context);
 
-    [[nodiscard]] std::span<const Member> Members() const override;
-
     STDMETHODIMP get_Id(BSTR* id) override;
     STDMETHODIMP get_Context(IDispatch** context) override;
     STDMETHODIMP get_Tag(BSTR* tag) override;
 
 private:
+    static const Member kMembers[3];
+
     std::wstring m_id;
     std::wstring m_tag;
     ComPtr<IDispatch> m_context;

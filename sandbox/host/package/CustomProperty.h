@@ -1,6 +1,10 @@
-// Properties of a document.
+// Properties of a document, and the dates among them.
 #pragma once
 
+#include <windows.h>
+
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,5 +51,13 @@ struct DocumentContents
 [[nodiscard]] std::vector<CustomProperty> ReadCustomProperties(std::string_view part);
 
 [[nodiscard]] std::string WriteCustomProperties(const std::vector<CustomProperty>& properties);
+
+// A date's text, "2024-05-01T10:00:00Z", and the system's times; nothing where the text is no date.
+[[nodiscard]] std::optional<SYSTEMTIME> ToSystemTime(const std::string& text);
+[[nodiscard]] std::string FromSystemTime(const SYSTEMTIME& time);
+
+// File times are steps of 100 ns since 1601; 0 where the text is no date.
+[[nodiscard]] std::int64_t ToFileTime(const std::string& text);
+[[nodiscard]] std::string FromFileTime(std::int64_t steps);
 
 } // namespace host

@@ -8,7 +8,6 @@
 #include <stdexcept>
 
 #include "package/Bytes.h"
-#include "package/FileTime.h"
 #include "platform/Utf8.h"
 
 namespace host

@@ -1,13 +1,13 @@
 #include "package/Zip.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstdint>
 #include <limits>
 #include <stdexcept>
 
 #include <zlib.h>
 
+#include "base/Text.h"
 #include "package/Bytes.h"
 
 namespace host
@@ -119,10 +119,9 @@ ZipEntry ReadEntry(std::string_view bytes, std::size_t central)
     return entry;
 }
 
-bool SameName(std::string_view a, std::string_view b)
+auto IsNamed(std::string_view name)
 {
-    return std::ranges::equal(a, b,
-                              [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
+    return [wanted = Widen(name)](const ZipEntry& entry) { return SameText(Widen(entry.name), wanted); };
 }
 
 // The fields that the local header and the directory have in common, from "version needed" to the extra length.
@@ -178,13 +177,13 @@ std::string Zip::Write() const
 
 const std::string* Zip::Find(std::string_view name) const
 {
-    const auto found = std::ranges::find_if(m_entries, [&](const ZipEntry& e) { return SameName(e.name, name); });
+    const auto found = std::ranges::find_if(m_entries, IsNamed(name));
     return found == m_entries.end() ? nullptr : &found->data;
 }
 
 void Zip::Set(std::string_view name, std::string data)
 {
-    const auto found = std::ranges::find_if(m_entries, [&](const ZipEntry& e) { return SameName(e.name, name); });
+    const auto found = std::ranges::find_if(m_entries, IsNamed(name));
     if (found == m_entries.end())
         m_entries.push_back({std::string{name}, std::move(data)});
     else
