@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <new>
 #include <stdexcept>
+#include <tuple>
 #include <vector>
 
 namespace
@@ -90,27 +91,19 @@ TEST(HostBoundary, HoldsWithoutAWatch)
     EXPECT_TRUE(ran);
 }
 
-struct ForeignCase
-{
-    const char* name;
-    void (*body)();
-    std::int32_t number;
-    const wchar_t* description;
-};
-
 TEST(HostBoundary, MakesAnErrorOfEveryException)
 {
-    constexpr ForeignCase kCases[] = {
+    constexpr std::tuple<const char*, void (*)(), std::int32_t, const wchar_t*> kCases[] = {
         {"Own", [] { Fail(); }, 225, L"Description"},
         {"Standard", [] { throw std::runtime_error{"secret"}; }, 51, L"Internal error"},
         {"NoObject", [] { throw 5; }, 51, L"Internal error"},
     };
-    for (const auto& item : kCases) {
-        SCOPED_TRACE(item.name);
-        const auto error = Catch(item.body);
+    for (const auto& [name, body, number, description] : kCases) {
+        SCOPED_TRACE(name);
+        const auto error = Catch(body);
         ASSERT_TRUE(error.has_value());
-        EXPECT_EQ(error->Number(), item.number);
-        EXPECT_EQ(error->Description(), item.description);
+        EXPECT_EQ(error->Number(), number);
+        EXPECT_EQ(error->Description(), description);
     }
     EXPECT_FALSE(Catch([] {}).has_value());
 }

@@ -52,11 +52,7 @@ std::wstring NodesOf(HWND tree, HTREEITEM item)
     std::wstring nodes;
     for (; item != nullptr; item = TreeView_GetNextSibling(tree, item)) {
         wchar_t text[64] = L"";
-        TVITEMW node{};
-        node.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
-        node.hItem = item;
-        node.pszText = text;
-        node.cchTextMax = 64;
+        TVITEMW node{TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE, item, 0, 0, text, 64, 0, 0, 0, 0};
         TreeView_GetItem(tree, &node);
         const bool isSelected = item == TreeView_GetSelection(tree);
         nodes += text + std::to_wstring(isSelected ? node.iSelectedImage : node.iImage) + (isSelected ? L"* " : L" ");

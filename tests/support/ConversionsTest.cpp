@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <limits>
+#include <tuple>
 
 namespace corvane
 {
@@ -69,18 +70,9 @@ TEST(Conversions, TrimTakesBlanksAtTheEndsOnly)
     EXPECT_EQ(Trim(L"   "), L"");
 }
 
-struct ReplaceCase
-{
-    const char* name;
-    const wchar_t* text;
-    const wchar_t* what;
-    const wchar_t* with;
-    const wchar_t* expected;
-};
-
 TEST(Conversions, ReplaceEveryOccurrenceFromLeftToRight)
 {
-    constexpr ReplaceCase kCases[] = {
+    constexpr std::tuple<const char*, const wchar_t*, const wchar_t*, const wchar_t*, const wchar_t*> kCases[] = {
         {"AllOccurrences", L"Gate and Gate", L"Gate", L"Door", L"Door and Door"},
         {"OnlyTheSameLetterCase", L"gate GATE Gate", L"Gate", L"Door", L"gate GATE Door"},
         {"NeverInsideWhatWasPut", L"aba", L"a", L"aa", L"aabaa"},
@@ -88,8 +80,8 @@ TEST(Conversions, ReplaceEveryOccurrenceFromLeftToRight)
         {"ByNothing", L"a&b&", L"&", L"", L"ab"},
         {"NothingToFind", L"text", L"", L"x", L"text"},
     };
-    for (const auto& item : kCases)
-        EXPECT_EQ(ReplaceAll(item.text, item.what, item.with), item.expected) << item.name;
+    for (const auto& [name, text, what, with, expected] : kCases)
+        EXPECT_EQ(ReplaceAll(text, what, with), expected) << name;
 }
 
 } // namespace corvane

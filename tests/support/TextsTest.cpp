@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <limits>
+#include <tuple>
 
 namespace corvane
 {
@@ -45,18 +46,9 @@ TEST(TraceText, NamesTheFileByItsTimeWithoutLeadingZeros)
     EXPECT_EQ(TraceFileName(L"AddIn", {2024, 12, 31, 23, 59, 0}), L"AddIn_2024_12_31__23_59_0.log");
 }
 
-struct LineCase
-{
-    const char* name;
-    std::int32_t level;
-    std::int32_t extraIndent;
-    const wchar_t* text;
-    const wchar_t* expected;
-};
-
 TEST(TraceText, IndentsALineByTheExtraIndentAndOneMoreThanItsLevel)
 {
-    constexpr LineCase kCases[] = {
+    constexpr std::tuple<const char*, std::int32_t, std::int32_t, const wchar_t*, const wchar_t*> kCases[] = {
         {"Outermost", 0, 0, L"--> A", L"\t\t--> A"},
         {"Nested", 2, 0, L"x = ", L"\t\t\t\tx = "},
         {"ExtraIndent", 1, 2, L"x", L"\t\t\t\t\tx"},
@@ -65,10 +57,9 @@ TEST(TraceText, IndentsALineByTheExtraIndentAndOneMoreThanItsLevel)
         {"DriftedLevelHasNoTabs", -1, 0, L"x", L"\tx"},
         {"FarDriftedLevelHasNoTabs", std::numeric_limits<std::int32_t>::min(), 1, L"", L"\t\t"},
     };
-    for (const auto& item : kCases) {
-        EXPECT_EQ(TraceLine(kMorning, item.level, item.extraIndent, item.text),
-                  std::wstring{L"2013-07-04 09:05:03"} + item.expected)
-            << item.name;
+    for (const auto& [name, level, extraIndent, text, expected] : kCases) {
+        EXPECT_EQ(TraceLine(kMorning, level, extraIndent, text), std::wstring{L"2013-07-04 09:05:03"} + expected)
+            << name;
     }
 }
 
