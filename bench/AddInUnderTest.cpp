@@ -1,9 +1,8 @@
 #include "AddInUnderTest.h"
 
 #include "BareRequest.h"
+#include "objects/AddInObjects.h"
 #include "objects/Application.h"
-#include "objects/ComAddIn.h"
-#include "objects/RibbonObjects.h"
 #include "platform/LateBound.h"
 
 namespace bench

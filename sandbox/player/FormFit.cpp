@@ -1,4 +1,4 @@
-#include "player/FormFit.h"
+#include "player/Screen.h"
 
 #include <algorithm>
 #include <vector>
@@ -6,7 +6,6 @@
 #include <commctrl.h>
 
 #include "platform/Owners.h"
-#include "player/Screen.h"
 
 namespace corvane::player
 {

@@ -9,7 +9,6 @@
 #include <oleacc.h>
 
 #include "platform/Owners.h"
-#include "player/FormFit.h"
 #include "player/Run.h"
 #include "player/Screen.h"
 #include "player/Script.h"

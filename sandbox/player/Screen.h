@@ -52,8 +52,7 @@ namespace corvane::player
 constexpr std::size_t kAnswerLength = 65536;
 [[nodiscard]] wchar_t* AnswerBuffer();
 
-// The message boxes, the topmost first.
-[[nodiscard]] std::vector<HWND> MessageBoxes();
+[[nodiscard]] std::vector<HWND> MessageBoxes(); // the topmost first
 
 // The box's text as it was given to it, blanks and line breaks included.
 [[nodiscard]] std::wstring MessageText(HWND box);
@@ -74,8 +73,7 @@ constexpr std::size_t kAnswerLength = 65536;
 [[nodiscard]] bool IsExpanded(HWND tree, HTREEITEM node); // or does not answer
 [[nodiscard]] HTREEITEM NextNode(HWND tree, UINT relation, HTREEITEM node);
 
-// The tooltip that a form has for a control, or, where the control is the form itself, for its title bar; empty without
-// one.
+// A form's tooltip for a control, or for its title bar where the control is the form itself; empty without one.
 [[nodiscard]] std::wstring TipOf(HWND form, HWND control);
 
 // The form's tooltip that is on the screen; empty when there is none.
@@ -93,5 +91,10 @@ void SaveScreenshot(const std::wstring& path, HWND window);
 
 // The name of a control id, or the number as text.
 [[nodiscard]] std::wstring ControlNameOf(int id);
+
+// What a user would see wrong in a form's layout: a text cut off (an ellipsis counts only where a tooltip carries the
+// whole text), controls over each other, a control outside the form, the form outside the screen's work area. Empty
+// when all is well. What is scrolled out of view counts as inside. Of a message box, only the places are looked at.
+[[nodiscard]] std::wstring FitProblem(HWND form);
 
 } // namespace corvane::player

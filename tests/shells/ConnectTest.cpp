@@ -13,7 +13,7 @@
 
 #include "automation/OfficeInterfaces.h"
 #include "documents/Files.h"
-#include "objects/ComAddIn.h"
+#include "objects/AddInObjects.h"
 
 #include <algorithm>
 #include <regex>

@@ -9,10 +9,8 @@
 #include <vector>
 
 #include "automation/ClassLoader.h"
-#include "automation/OfficeInterfaces.h"
 #include "base/HostFacts.h"
-#include "objects/ComAddIn.h"
-#include "objects/RibbonObjects.h"
+#include "objects/AddInObjects.h"
 #include "ribbon/Ribbon.h"
 
 namespace host

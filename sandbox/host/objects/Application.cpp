@@ -1,8 +1,8 @@
 #include "objects/Application.h"
 
 #include "documents/Refusal.h"
+#include "objects/AddInObjects.h"
 #include "objects/Collections.h"
-#include "objects/ComAddIn.h"
 #include "objects/CommandBars.h"
 
 #include <algorithm>

@@ -6,9 +6,9 @@
 
 #include "base/Text.h"
 #include "documents/Refusal.h"
+#include "objects/AddInObjects.h"
 #include "objects/Application.h"
 #include "objects/Collections.h"
-#include "objects/ComAddIn.h"
 #include "objects/CommandBars.h"
 #include "platform/MessageLoop.h"
 
