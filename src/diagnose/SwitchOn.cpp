@@ -33,7 +33,8 @@ std::wstring SwitchOn(Facts& facts)
     std::wstring undone;
     for (const SwitchOnStep& step : steps)
         if (std::ranges::find(left, step) == left.end()) undone += step.what + L"; ";
-    return undone.empty() ? L"nothing of this user was off" : undone + L"restart PowerPoint";
+    if (steps.empty()) return L"nothing of this user was off";
+    return undone.empty() ? L"nothing, the registry refuses it" : undone + L"restart PowerPoint";
 }
 
 } // namespace diagnose
