@@ -166,9 +166,9 @@ std::string Zip::Write() const
         const std::string fields = CommonFields(entry, smaller ? kDeflated : kStored, packed.size());
 
         // Between the common fields and the place: comment length, disk, internal and external attributes.
-        directory += Numbers({{kCentralHeader, 4}, {kVersionNeeded, 2}}) + fields;
-        directory += Numbers({{0, 10}, {ZlibSize(out.size()), 4}}) + entry.name;
-        out += Numbers({{kLocalHeader, 4}}) + fields + entry.name + packed;
+        directory.append(Numbers({{kCentralHeader, 4}, {kVersionNeeded, 2}})).append(fields);
+        directory.append(Numbers({{0, 10}, {ZlibSize(out.size()), 4}})).append(entry.name);
+        out.append(Numbers({{kLocalHeader, 4}})).append(fields).append(entry.name).append(packed);
     }
     const std::size_t count = ZlibSize(m_entries.size());
     const std::string end = Numbers({{kEndRecord, 4}, {0, 4}, {count, 2}, {count, 2}, {ZlibSize(directory.size()), 4}});
