@@ -1,5 +1,7 @@
 #include "shared/SaveResult.h"
 
+#include "support/ServerRules.h"
+
 #include <utility>
 
 namespace corvane
@@ -15,6 +17,7 @@ void SaveResult::Save(SavedVersion version)
 {
     m_outcome = SaveOutcome::Saved;
     m_version = std::move(version);
+    m_version.server = WithoutCredentials(m_version.server);
     m_errorNumber = 0;
     m_errorDescription.clear();
 }

@@ -22,7 +22,7 @@ enum class SaveOutcome
 // What a saved version is, and where.
 struct SavedVersion
 {
-    std::wstring server;
+    std::wstring server; // kept without the name and password of an address
     Target target;
     std::wstring link;     // to the target's page
     std::wstring fileName; // on the server
