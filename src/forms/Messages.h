@@ -27,8 +27,7 @@ void SetHostWindow(HWND told) noexcept;
 [[nodiscard]] HWND HostWindow() noexcept;
 
 // Shows text, as much of it as MessageText has room for, in a message box that belongs to the topmost form, or to the
-// host. Without a title of its own it carries
-// the application title. Returns the button pressed (IDOK, IDCANCEL).
+// host. Without a title of its own it carries the application title. Returns the button pressed (IDOK, IDCANCEL).
 int ShowMessage(const std::wstring& text, UINT style, const std::wstring& title = {});
 
 } // namespace corvane
