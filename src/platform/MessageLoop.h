@@ -41,8 +41,8 @@ private:
     std::chrono::steady_clock::time_point m_last; // long ago: what came before the first step may have taken long
 };
 
-// Windows whose dialog keys (Tab, Enter, Esc, access keys) the loops above serve. Esc presses its button even while that
-// is out of use.
+// Windows whose dialog keys (Tab, Enter, Esc, access keys) the loops above serve. Esc presses its button even while
+// that is out of use.
 void AddDialogWindow(HWND window);
 void RemoveDialogWindow(HWND window) noexcept;
 
