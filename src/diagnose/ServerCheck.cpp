@@ -7,6 +7,7 @@
 #include "webservice/AnswerRules.h"
 #include "webservice/Operations.h"
 #include "webservice/RequestText.h"
+#include "webservice/RequestTrace.h"
 
 #include <wininet.h>
 
@@ -51,21 +52,6 @@ struct Meaning
     const wchar_t* text;
 };
 
-constexpr Meaning kTransport[] = {
-    {ERROR_INTERNET_TIMEOUT, L"it did not answer in time"},
-    {ERROR_INTERNET_NAME_NOT_RESOLVED, L"its name is not known in this network"},
-    {ERROR_INTERNET_CANNOT_CONNECT, L"it refuses the connection, or nothing listens there"},
-    {ERROR_INTERNET_CONNECTION_ABORTED, L"the connection was cut"},
-    {ERROR_INTERNET_CONNECTION_RESET, L"the connection was reset"},
-    {ERROR_INTERNET_SEC_CERT_DATE_INVALID, L"its certificate has expired"},
-    {ERROR_INTERNET_SEC_CERT_CN_INVALID, L"its certificate is for another name"},
-    {ERROR_INTERNET_INVALID_CA, L"its certificate comes from an unknown authority"},
-    {ERROR_INTERNET_SECURITY_CHANNEL_ERROR, L"no secure channel could be made"},
-    {ERROR_INTERNET_INVALID_URL, L"the address is no web address"},
-    {ERROR_INTERNET_UNRECOGNIZED_SCHEME, L"the address is no web address"},
-    {ERROR_HTTP_INVALID_SERVER_RESPONSE, L"its answer is not HTTP"},
-};
-
 constexpr Meaning kStatuses[] = {
     {401, L"it wants a sign-in that Windows did not give"},
     {403, L"it refuses this user, or wants https"},
@@ -73,17 +59,19 @@ constexpr Meaning kStatuses[] = {
     {407, L"the proxy wants a sign-in"},
 };
 
-template<std::size_t Count>
-std::wstring TextOf(const Meaning (&meanings)[Count], DWORD code)
+std::wstring MeaningOfStatus(DWORD status)
 {
-    const auto* const found = std::ranges::find(meanings, code, &Meaning::code);
-    return found == std::end(meanings) ? std::wstring{} : std::wstring{L", "} + found->text;
+    const auto* const found = std::ranges::find(kStatuses, status, &Meaning::code);
+    return found == std::end(kStatuses) ? std::wstring{} : std::wstring{L", "} + found->text;
 }
 
 std::wstring LastError()
 {
     const DWORD code = ::GetLastError();
-    return L"error " + std::to_wstring(code) + TextOf(kTransport, code);
+    const auto [meaning, remedy] = corvane::MeaningOfTransport(static_cast<long>(code));
+    std::wstring text = L"error " + std::to_wstring(code);
+    if (*meaning != L'\0') text.append(L", ").append(meaning).append(L". ").append(remedy);
+    return text;
 }
 
 DWORD StatusOf(const UniqueInternet& answer)
@@ -107,7 +95,7 @@ void Judge(const UniqueInternet& answer, ServerAnswer& result)
 {
     const DWORD status = StatusOf(answer);
     result.status = static_cast<int>(status);
-    result.outcome = L"HTTP " + std::to_wstring(status) + TextOf(kStatuses, status);
+    result.outcome = L"HTTP " + std::to_wstring(status) + MeaningOfStatus(status);
     if (status != HTTP_STATUS_OK) return;
     const std::wstring text = BeginningOf(answer);
     // The answer to this question is a number.

@@ -7,6 +7,7 @@
 #include "platform/OwnerlessRequests.h"
 #include "platform/Procedure.h"
 #include "platform/SystemLibrary.h"
+#include "platform/Utf8.h"
 #include "platform/XmlDocument.h"
 
 #include <shlwapi.h>
@@ -69,14 +70,15 @@ HttpRequest::HttpRequest()
 }
 
 HttpRequest::HttpRequest(HttpRequest&& other) noexcept
-    : m_request{std::move(other.m_request)}, m_status{other.m_status}, m_underWay{
-                                                                           std::exchange(other.m_underWay, false)}
+    : m_request{std::move(other.m_request)}, m_facts{other.m_facts}, m_sent{other.m_sent}, m_underWay{std::exchange(
+                                                                                               other.m_underWay, false)}
 {}
 
 HttpRequest& HttpRequest::operator=(HttpRequest other) noexcept
 {
     std::swap(m_request, other.m_request);
-    std::swap(m_status, other.m_status);
+    std::swap(m_facts, other.m_facts);
+    std::swap(m_sent, other.m_sent);
     std::swap(m_underWay, other.m_underWay);
     return *this;
 }
@@ -99,31 +101,59 @@ void HttpRequest::SetHeader(const wchar_t* name, const std::wstring& value)
     Check(m_request->setRequestHeader(Bstr{name}.Get(), Bstr{value}.Get()), L"HttpRequest.SetHeader");
 }
 
-void HttpRequest::Send() { SendBody(Variant{}); }
+void HttpRequest::Send() { SendBody(Variant{}, 0); }
 
-void HttpRequest::Send(const std::wstring& text) { SendBody(Variant{text}); }
+void HttpRequest::Send(const std::wstring& text) { SendBody(Variant{text}, ToUtf8(text).size()); }
 
-void HttpRequest::Send(ByteArray bytes) { SendBody(bytes.Detach()); }
-
-void HttpRequest::Send(const XmlDocument& document) { SendBody(Variant{static_cast<IDispatch*>(document.Get())}); }
-
-void HttpRequest::SendBody(const Variant& body)
+void HttpRequest::Send(ByteArray bytes)
 {
+    const std::size_t size = bytes.Bytes().size();
+    SendBody(bytes.Detach(), size);
+}
+
+void HttpRequest::Send(const XmlDocument& document) { SendBody(Variant{static_cast<IDispatch*>(document.Get())}, 0); }
+
+void HttpRequest::SendBody(const Variant& body, std::size_t bytes)
+{
+    m_sent = std::chrono::steady_clock::now();
     Check(m_request->send(body.Get()), L"HttpRequest.Send");
+    m_facts.sent = bytes;
     m_underWay = true;
 }
 
 void HttpRequest::Wait(std::optional<std::chrono::milliseconds> limit)
 {
+    AwaitEnd(limit);
+    const auto time = std::chrono::steady_clock::now() - m_sent;
+    m_facts.milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(time).count();
+    if (m_facts.end == RequestEnd::Answered) ReadStatus();
+    if (m_facts.end != RequestEnd::Answered) ThrowTransportFailure();
+}
+
+void HttpRequest::AwaitEnd(std::optional<std::chrono::milliseconds> limit)
+{
     const AnswerWait wait;
     const auto hasEnded = [&] { return wait.IsEnded() || StateOf(*m_request.Get()) == kComplete || PromisesTooMuch(); };
     // Progress arrives as messages on this thread, so asking after each message misses nothing.
-    if (PumpUntil(hasEnded, limit) != WaitEnd::Done || StateOf(*m_request.Get()) != kComplete) ThrowTransportFailure();
+    const WaitEnd end = PumpUntil(hasEnded, limit);
+    if (end == WaitEnd::TimedOut) m_facts.end = RequestEnd::TimedOut;
+    if (end == WaitEnd::Quit) m_facts.end = RequestEnd::ThreadEnded;
+    if (end != WaitEnd::Done) return;
+    if (StateOf(*m_request.Get()) == kComplete)
+        m_facts.end = RequestEnd::Answered;
+    else
+        m_facts.end = wait.IsEnded() ? RequestEnd::EndedByUser : RequestEnd::CutShort;
+}
+
+// The component reports a failed transport as a status of its own outside HTTP's range, or by refusing to tell.
+void HttpRequest::ReadStatus()
+{
     m_underWay = false;
-    // The component reports a failed transport as a status of its own outside HTTP's range, or by refusing to tell.
-    Check(m_request->get_status(&m_status), kWaitSource);
-    if (m_status == kNoContentOfWindows) m_status = 204;
-    if (m_status < 100 || m_status > 599 || !IsWhole()) ThrowTransportFailure();
+    m_facts.end = RequestEnd::TransportFailed;
+    Check(m_request->get_status(&m_facts.status), kWaitSource);
+    if (m_facts.status == kNoContentOfWindows) m_facts.status = 204;
+    if (m_facts.status < 100 || m_facts.status > 599) return;
+    m_facts.end = IsWhole() ? RequestEnd::Answered : RequestEnd::CutShort;
 }
 
 std::wstring HttpRequest::AnswerHeader(const wchar_t* name) const
@@ -143,11 +173,12 @@ bool HttpRequest::PromisesTooMuch() const
     return StateOf(*m_request.Get()) >= kHeadersMayBeThere && PromisedLength() > kLargestAnswer;
 }
 
-bool HttpRequest::IsWhole() const
+bool HttpRequest::IsWhole()
 {
     Variant body;
     if (FAILED(m_request->get_responseBody(body.Put()))) return true;
     const std::uint64_t received = BytesIn(body.Get()).size();
+    m_facts.received = static_cast<std::size_t>(received);
     if (received > kLargestAnswer) return false;
     // The component may pass off the beginning of an answer as the whole when the connection breaks. The length of an
     // encoded one tells nothing of what it decodes to, and the header that says so may have gone with the decoding.

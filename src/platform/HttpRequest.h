@@ -3,6 +3,7 @@
 
 #include "platform/ByteArray.h"
 #include "platform/Owners.h"
+#include "platform/RequestFacts.h"
 
 #include <msxml2.h>
 
@@ -44,19 +45,25 @@ public:
     void Wait(std::optional<std::chrono::milliseconds> limit);
 
     // The answer: its HTTP status, its text (empty when it cannot be read as text) and its bytes.
-    [[nodiscard]] long Status() const noexcept { return m_status; }
+    [[nodiscard]] long Status() const noexcept { return m_facts.status; }
     [[nodiscard]] std::wstring Text() const;
     [[nodiscard]] Variant Body() const;
 
+    // How it went, also after an error.
+    [[nodiscard]] const RequestFacts& Facts() const noexcept { return m_facts; }
+
 private:
-    void SendBody(const Variant& body);
+    void SendBody(const Variant& body, std::size_t bytes);
+    void AwaitEnd(std::optional<std::chrono::milliseconds> limit);
+    void ReadStatus();
     [[nodiscard]] std::wstring AnswerHeader(const wchar_t* name) const;
     [[nodiscard]] std::uint64_t PromisedLength() const;
     [[nodiscard]] bool PromisesTooMuch() const;
-    [[nodiscard]] bool IsWhole() const;
+    [[nodiscard]] bool IsWhole();
 
     ComPtr<IXMLHTTPRequest> m_request;
-    long m_status = 0;
+    RequestFacts m_facts;
+    std::chrono::steady_clock::time_point m_sent;
     bool m_underWay = false;
 };
 

@@ -1,6 +1,8 @@
 #include "webservice/Exchange.h"
 
 #include "platform/XmlDocument.h"
+#include "support/CTraceLog.h"
+#include "webservice/RequestTrace.h"
 
 namespace corvane
 {
@@ -30,6 +32,12 @@ std::optional<std::chrono::milliseconds> RequestLimit(std::size_t bytes) noexcep
     constexpr std::size_t kBytesPerSecond = std::size_t{32} * 1024;
     if (g_timeout.count() == 0) return std::nullopt;
     return g_timeout + std::chrono::seconds{bytes / kBytesPerSecond};
+}
+
+void TraceRequest(const HttpRequest& request, std::wstring_view operation, std::wstring_view server) noexcept
+{
+    if (g_oTraceLog == nullptr || !g_oTraceLog->IsEnabled()) return;
+    Ignoring([&] { TraceText(RequestLine(operation, server, request.Facts())); });
 }
 
 std::wstring JudgeAnswer(const HttpRequest& request, const ServiceProcedure& procedure, const std::wstring& server)

@@ -8,6 +8,7 @@
 #include <chrono>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace corvane
 {
@@ -28,16 +29,20 @@ void OpenRequest(const ServiceProcedure& procedure, Open&& open)
 // The text of the answer where it is a success; else throws the Error that the answer stands for.
 std::wstring JudgeAnswer(const HttpRequest& request, const ServiceProcedure& procedure, const std::wstring& server);
 
-// Sends the request by the given step, waits for its answer and judges it; any failure until then becomes the
-// procedure's send error.
+// Writes to the process's trace how the request went. The server's messages to the user tell less.
+void TraceRequest(const HttpRequest& request, std::wstring_view operation, std::wstring_view server) noexcept;
+
+// Sends the request of an operation by the given step, waits for its answer and judges it; any failure until then
+// becomes the procedure's send error.
 template<class Send>
-std::wstring Exchange(HttpRequest& request, const ServiceProcedure& procedure, const std::wstring& server,
-                      std::optional<std::chrono::milliseconds> limit, Send&& send)
+std::wstring Exchange(HttpRequest& request, const ServiceProcedure& procedure, std::wstring_view operation,
+                      const std::wstring& server, std::optional<std::chrono::milliseconds> limit, Send&& send)
 {
     const auto failure = Catch([&] {
         send();
         request.Wait(limit);
     });
+    TraceRequest(request, operation, server);
     if (failure) throw SendError(server, procedure);
     return JudgeAnswer(request, procedure, server);
 }

@@ -99,7 +99,7 @@ void ExecuteASPWSUploadFile(const std::wstring& sServer, const std::wstring& sFi
     request.Open(L"POST", Endpoint(sServer, kTransferPage));
     request.SetHeader(L"Content-Type", L"multipart/form-data; boundary=" + std::wstring{kUploadBoundary});
     request.SetHeader(L"CharSet", L"UTF-8");
-    Exchange(request, kUploadCall, sServer, limit, [&] { request.Send(std::move(body)); });
+    Exchange(request, kUploadCall, kTransferPage, sServer, limit, [&] { request.Send(std::move(body)); });
 }
 
 BinaryStream ExecuteASPWebserviceBinary(const std::wstring& sServer, const std::wstring& sWebService,
@@ -111,7 +111,7 @@ BinaryStream ExecuteASPWebserviceBinary(const std::wstring& sServer, const std::
     OpenRequest(kBinaryCall, [&] {
         request.Open(L"GET", Endpoint(sServer, sWebService) + L"?" + RequestQuery(sOperation, vParams));
     });
-    Exchange(request, kBinaryCall, sServer, RequestLimit(), [&] { request.Send(); });
+    Exchange(request, kBinaryCall, sOperation, sServer, RequestLimit(), [&] { request.Send(); });
     stream.Write(request.Body());
     return stream;
 }

@@ -66,7 +66,7 @@ void UpdateUserLog(const std::wstring& sServer, const std::wstring& sWebService)
     OpenRequest(kAccessLogCall, [&] { request.Open(L"POST", url); });
     const XmlDocument empty;
     const auto failure = Catch([&] {
-        Exchange(request, kAccessLogCall, sServer, RequestLimit(), [&] {
+        Exchange(request, kAccessLogCall, Operations::kUpdateUserAccessLog, sServer, RequestLimit(), [&] {
             if (!Catch([&] { request.Send(empty); })) return;
             // A component may refuse the document of another version, and forget with it what was opened. Without a
             // document the request is the same.
@@ -97,7 +97,7 @@ WebAnswer ExecuteASPWebService(const std::wstring& sServer, const std::wstring& 
         request.SetHeader(L"Content-Type", kFormType);
     });
     WebAnswer answer;
-    answer.text = Exchange(request, kOperationCall, sServer, RequestLimit(),
+    answer.text = Exchange(request, kOperationCall, sOperation.name, sServer, RequestLimit(),
                            [&] { isPost ? request.Send(query) : request.Send(); });
     if (sOperation.answer == AnswerForm::Xml)
         static_cast<void>(answer.document.emplace().Load(answer.text, kNamespaces));

@@ -78,6 +78,23 @@ TEST_F(Request, AStatusThatIsNoneOfHttpIsAFailureToSend)
     }
 }
 
+TEST_F(Request, KnowsHowItEnded)
+{
+    const auto facts = [] {
+        HttpRequest request;
+        request.Open(L"POST", L"http://server");
+        request.Send(L"P1=\x00E9");
+        static_cast<void>(Catch([&] { request.Wait(std::chrono::milliseconds{1}); }));
+        return request.Facts();
+    };
+    m_transport.status = 12007;
+    EXPECT_EQ(facts().end, RequestEnd::TransportFailed);
+    EXPECT_EQ(facts().status, 12007);
+    EXPECT_EQ(facts().sent, 5U) << "in UTF-8";
+    m_transport.readyState = 1;
+    EXPECT_EQ(facts().end, RequestEnd::TimedOut);
+}
+
 TEST_F(Request, AnAnswerShorterThanItSaysIsAFailureToSendUnlessItWasEncoded)
 {
     m_transport.headers = {{L"Content-Length", L"5"}};
