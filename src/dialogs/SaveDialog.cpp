@@ -75,6 +75,12 @@ void SaveDialog::LoadInputs()
 
 void SaveDialog::ShowStatusDetail() const { SetStatusDetail(StatusBar1, WithoutCredentials(ServerURL)); }
 
+void SaveDialog::ShowWait(const std::wstring& text)
+{
+    if (text.empty()) return ShowStatusDetail();
+    SetStatusDetail(StatusBar1, text);
+}
+
 void SaveDialog::ShowProject(const std::wstring& name) const
 {
     SetText(txtProject, name, WithoutCredentials(ServerURL));

@@ -136,6 +136,7 @@ private:
     void LoadInputs();
     // What stands beside the status: the server that is saved to.
     void ShowStatusDetail() const;
+    void ShowWait(const std::wstring& text) override;
     void ReloadTarget();
     void SetControlsEnabled(bool enabled);
     void EnableSave(bool enabled) const noexcept;

@@ -2,6 +2,7 @@
 
 #include "forms/FormWindow.h"
 #include "forms/Messages.h"
+#include "forms/ShownText.h"
 #include "platform/AnswerWait.h"
 #include "platform/MessageLoop.h"
 #include "platform/Procedure.h"
@@ -61,6 +62,7 @@ void Form::CreateWindowFromTemplate(HWND owner)
     OpenForms().reserve(OpenForms().size() + 1);
     m_window = CreateFormWindow(m_name, m_templateId, owner, &Form::DialogProcedure, reinterpret_cast<LPARAM>(this));
     AddDialogWindow(m_window);
+    AnswerWait::SetWatch(&Form::OnWait);
     OpenForms().push_back(this);
     m_caption = WindowText(m_window);
     m_tips = FormTips{m_window};
@@ -252,6 +254,16 @@ INT_PTR Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept
     default:
         return FALSE;
     }
+}
+
+void Form::OnWait(const WaitProgress* progress) noexcept
+{
+    Ignoring([&] {
+        const std::wstring text = progress != nullptr ? WaitText(*progress) : std::wstring{};
+        const HWND top = TopWindow();
+        for (Form* form : OpenForms())
+            if (progress == nullptr || form->m_window == top) form->ShowWait(text);
+    });
 }
 
 void Form::OnActivated() const noexcept

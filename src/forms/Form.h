@@ -15,6 +15,8 @@
 namespace corvane
 {
 
+struct WaitProgress;
+
 class Form;
 
 // A control's notification (WM_COMMAND or WM_NOTIFY code) and the form's procedure that answers it. The procedure is
@@ -78,6 +80,8 @@ protected:
     virtual void Form_Activate() {}
     virtual void Form_Unload() {}
     virtual void Timer() {}
+    // Shows how a wait for the server goes, each second while the form is in front; an empty text when it is over.
+    virtual void ShowWait(const std::wstring& /*text*/) {}
     // The control that has the keyboard first; 0 for the first that takes it.
     [[nodiscard]] virtual int FirstControl() const noexcept { return 0; }
     // The control that F1 presses; 0 for none.
@@ -125,6 +129,7 @@ private:
     static INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     void OnActivated() const noexcept;
+    static void OnWait(const WaitProgress* progress) noexcept;
     bool OnNotification(int control, UINT notification) noexcept;
     void Run(const wchar_t* procedure, void (Form::*run)()) noexcept;
     void CreateWindowFromTemplate(HWND owner);

@@ -105,7 +105,7 @@ void Form::SetStatus(int statusBar, const std::wstring& text) const noexcept
 
 void Form::SetStatusDetail(int statusBar, const std::wstring& text) const
 {
-    m_tips.SetStatusDetail(Control(statusBar), text);
+    if (Control(statusBar) != nullptr) m_tips.SetStatusDetail(Control(statusBar), text);
 }
 
 void Form::SetProgress(int bar, int percent) const noexcept

@@ -91,6 +91,24 @@ std::wstring ShortenedTo(std::size_t letters, const std::wstring& text)
     return Shortened(text.substr(0, letters + 1), [&](const std::wstring& part) { return part.size() <= letters; });
 }
 
+std::wstring WaitText(const WaitProgress& progress)
+{
+    constexpr std::size_t kKilobyte = 1024;
+    constexpr std::size_t kTenthOfMegabyte = kKilobyte * kKilobyte / 10;
+    std::wstring size;
+    if (progress.sent >= kKilobyte * kKilobyte) {
+        const std::size_t tenths = (progress.sent + kTenthOfMegabyte / 2) / kTenthOfMegabyte;
+        size = std::to_wstring(tenths / 10) + L"." + std::to_wstring(tenths % 10) + L" MB, ";
+    } else if (progress.sent >= 10 * kKilobyte) {
+        size = std::to_wstring(progress.sent / kKilobyte) + L" KB, ";
+    }
+    const auto seconds = progress.gone.count();
+    const std::wstring rest = std::to_wstring(seconds % 60);
+    // Dots and blanks are equally wide, so the text stays in its place.
+    const wchar_t* const marks[] = {L" .  ", L" .. ", L" ..."};
+    return size + std::to_wstring(seconds / 60) + (rest.size() == 1 ? L":0" : L":") + rest + marks[seconds % 3];
+}
+
 std::wstring MessageText(const std::wstring& text, const MessageRoom& room)
 {
     const std::wstring beginning = WithLongWordsBroken(text.substr(0, kMostInMessage + 1), room.letters);

@@ -1,6 +1,8 @@
 // Texts as the user sees them: access-key marks, and what a narrow control or a message box shows of a long text.
 #pragma once
 
+#include "platform/AnswerWait.h"
+
 #include <functional>
 #include <string>
 
@@ -16,6 +18,10 @@ namespace corvane
 
 // The same by the number of letters (UTF-16 code units, the ellipsis included).
 [[nodiscard]] std::wstring ShortenedTo(std::size_t letters, const std::wstring& text);
+
+// How long a wait has lasted and what is sent meanwhile: "12.4 MB, 0:07 ..", with a mark that moves by the second.
+// Bodies below 10 KB are not worth telling.
+[[nodiscard]] std::wstring WaitText(const WaitProgress& progress);
 
 // How much of a text a message box has room for that is to be inside of the screen.
 struct MessageRoom

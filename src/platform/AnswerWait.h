@@ -1,21 +1,46 @@
-// The wait for an answer that a key of the user may end.
+// The wait for an answer, which a key of the user may end and whoever shows it hears of.
 #pragma once
 
+#include <chrono>
+#include <cstddef>
 #include <utility>
 
 namespace corvane
 {
 
+// How far a wait has come.
+struct WaitProgress
+{
+    std::chrono::seconds gone{0};
+    std::size_t sent = 0; // bytes of the request's body
+};
+
 // Stands for a wait for as long as it lives. Where a command runs within the wait of another, the inner one counts.
 class AnswerWait
 {
 public:
+    // Hears of a wait each second, and once, with null, when it is over. One hears of all waits.
+    using Watch = void (*)(const WaitProgress* progress) noexcept;
+    static void SetWatch(Watch watch) noexcept { s_watch = watch; }
+
     AnswerWait() noexcept : m_outer{std::exchange(s_innermost, this)} {}
     AnswerWait(const AnswerWait&) = delete;
     AnswerWait& operator=(const AnswerWait&) = delete;
-    ~AnswerWait() { s_innermost = m_outer; }
+    ~AnswerWait()
+    {
+        s_innermost = m_outer;
+        if (m_wasTold && s_watch != nullptr) s_watch(nullptr);
+    }
 
     [[nodiscard]] bool IsEnded() const noexcept { return m_isEnded; }
+
+    // Tells of the wait, unless another runs within it.
+    void Tell(const WaitProgress& progress) noexcept
+    {
+        if (s_innermost != this || s_watch == nullptr) return;
+        m_wasTold = true;
+        s_watch(&progress);
+    }
 
     // Ends the innermost wait of all; does nothing where there is none.
     static void End() noexcept
@@ -25,9 +50,11 @@ public:
 
 private:
     static inline AnswerWait* s_innermost = nullptr; // of the host's own thread, the only one that waits
+    static inline Watch s_watch = nullptr;
 
     AnswerWait* m_outer;
     bool m_isEnded = false;
+    bool m_wasTold = false;
 };
 
 } // namespace corvane

@@ -12,6 +12,7 @@
 
 #include <shlwapi.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cwchar>
 #include <string_view>
@@ -51,6 +52,21 @@ void ForgetAnswer(const std::wstring& url) noexcept
     static const auto forget =
         reinterpret_cast<Delete>(reinterpret_cast<void*>(::GetProcAddress(wininet, "DeleteUrlCacheEntryW")));
     if (forget != nullptr) forget(url.c_str());
+}
+
+// PumpUntil that ticks whenever a second has passed.
+WaitEnd PumpBySeconds(const std::function<bool()>& done, std::optional<std::chrono::milliseconds> limit,
+                      const std::function<void()>& tick)
+{
+    constexpr std::chrono::milliseconds kSecond{1000};
+    for (;;) {
+        const auto piece = std::min(limit.value_or(kSecond), kSecond);
+        const WaitEnd end = PumpUntil(done, piece);
+        if (end != WaitEnd::TimedOut) return end;
+        if (limit) *limit -= piece;
+        if (limit && limit->count() <= 0) return end;
+        tick();
+    }
 }
 
 [[noreturn]] void ThrowTransportFailure() { throw Error{ErrorNumberOf(E_FAIL), kWaitSource, MessageOf(E_FAIL)}; }
@@ -132,10 +148,13 @@ void HttpRequest::Wait(std::optional<std::chrono::milliseconds> limit)
 
 void HttpRequest::AwaitEnd(std::optional<std::chrono::milliseconds> limit)
 {
-    const AnswerWait wait;
+    AnswerWait wait;
     const auto hasEnded = [&] { return wait.IsEnded() || StateOf(*m_request.Get()) == kComplete || PromisesTooMuch(); };
     // Progress arrives as messages on this thread, so asking after each message misses nothing.
-    const WaitEnd end = PumpUntil(hasEnded, limit);
+    const WaitEnd end = PumpBySeconds(hasEnded, limit, [&] {
+        const auto gone = std::chrono::steady_clock::now() - m_sent;
+        wait.Tell({std::chrono::duration_cast<std::chrono::seconds>(gone), m_facts.sent});
+    });
     if (end == WaitEnd::TimedOut) m_facts.end = RequestEnd::TimedOut;
     if (end == WaitEnd::Quit) m_facts.end = RequestEnd::ThreadEnded;
     if (end != WaitEnd::Done) return;

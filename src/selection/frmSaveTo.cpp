@@ -80,6 +80,8 @@ void frmSaveTo::FillServers()
     SetText(cmbServerURL, text.empty() ? std::wstring{kSchemeOnly} : text);
 }
 
+void frmSaveTo::ShowWait(const std::wstring& text) { SetStatusDetail(StatusBar1, text); }
+
 void frmSaveTo::Form_Unload()
 {
     m_tree.reset();

@@ -44,6 +44,7 @@ private:
     void Form_Load() override;
     void Form_Activate() override;
     void Form_Unload() override;
+    void ShowWait(const std::wstring& text) override;
     [[nodiscard]] int HelpControl() const noexcept override;
 
     void cmbServerURL_Click();

@@ -56,5 +56,17 @@ TEST(ShownText, HasNoMoreOfAMessageThanItsBoxHasRoomFor)
     EXPECT_EQ(MessageText(tabs + L"xx", {40, 100}), tabs + L"…");
 }
 
+TEST(ShownText, TellsHowAWaitGoes)
+{
+    using std::chrono::seconds;
+    const std::pair<WaitProgress, const wchar_t*> cases[] = {
+        {{seconds{7}, 13002342}, L"12.4 MB, 0:07 .. "},   {{seconds{0}, 10239}, L"0:00 .  "},
+        {{seconds{62}, 10240}, L"10 KB, 1:02 ..."},       {{seconds{3600}, 1048576}, L"1.0 MB, 60:00 .  "},
+        {{seconds{1}, 104805376}, L"100.0 MB, 0:01 .. "},
+    };
+    for (const auto& [progress, text] : cases)
+        EXPECT_EQ(WaitText(progress), text);
+}
+
 } // namespace
 } // namespace corvane
