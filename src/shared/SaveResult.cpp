@@ -6,6 +6,10 @@
 
 namespace corvane
 {
+namespace
+{
+SaveResult& g_last = *new SaveResult; // outlives every object that may ask
+} // namespace
 
 void SaveResult::Begin()
 {
@@ -40,10 +44,6 @@ void SaveResult::End() noexcept
     if (m_outcome == SaveOutcome::None) m_outcome = SaveOutcome::Cancelled;
 }
 
-SaveResult& LastSave() noexcept
-{
-    static SaveResult& last = *new SaveResult; // outlives every object that may ask
-    return last;
-}
+SaveResult& LastSave() noexcept { return g_last; }
 
 } // namespace corvane
