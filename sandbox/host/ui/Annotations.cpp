@@ -28,7 +28,8 @@ class NamedAccessible final : public AutomationObject<IAccessible>
 {
 public:
     NamedAccessible(ComPtr<IAccessible> window, std::wstring name)
-        : AutomationObject{L"Accessible", {}, kAccessibleId}, m_window{std::move(window)}, m_name{std::move(name)}
+        : AutomationObject{L"Accessible", std::span<const Member>{}, kAccessibleId}, m_window{std::move(window)},
+          m_name{std::move(name)}
     {}
 
     STDMETHODIMP get_accName(VARIANT child, BSTR* name) override
