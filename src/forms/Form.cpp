@@ -2,7 +2,6 @@
 
 #include "forms/FormWindow.h"
 #include "forms/Messages.h"
-#include "forms/ShownText.h"
 #include "platform/AnswerWait.h"
 #include "platform/MessageLoop.h"
 #include "platform/Procedure.h"
@@ -10,7 +9,6 @@
 #include <windowsx.h>
 
 #include <algorithm>
-#include <vector>
 
 namespace corvane
 {
@@ -19,43 +17,9 @@ namespace
 
 constexpr UINT kActivatedMessage = WM_APP + 1;
 
-// The loaded forms, the last opened at the end.
-std::vector<Form*>& OpenForms()
-{
-    static std::vector<Form*> forms;
-    return forms;
-}
-
-void TakeOut(Form* form) noexcept
-{
-    auto& forms = OpenForms();
-    forms.erase(std::remove(forms.begin(), forms.end(), form), forms.end());
-}
-
 } // namespace
 
 Form::~Form() { Unload(); }
-
-bool Form::IsForm(HWND window) noexcept
-{
-    const auto& forms = OpenForms();
-    return std::any_of(forms.begin(), forms.end(), [&](const Form* form) { return form->m_window == window; });
-}
-
-HWND Form::TopWindow() noexcept
-{
-    const auto& forms = OpenForms();
-    const auto top = std::find_if(forms.rbegin(), forms.rend(), [](const Form* form) { return form->m_shown; });
-    return top == forms.rend() ? nullptr : (*top)->m_window;
-}
-
-void Form::UnloadNamed(std::wstring_view name) noexcept
-{
-    const auto& forms = OpenForms();
-    const auto named =
-        std::find_if(forms.rbegin(), forms.rend(), [&](const Form* form) { return form->m_name == name; });
-    if (named != forms.rend()) (*named)->Unload();
-}
 
 void Form::CreateWindowFromTemplate(HWND owner)
 {
@@ -71,10 +35,7 @@ void Form::CreateWindowFromTemplate(HWND owner)
 void Form::Load()
 {
     if (m_window != nullptr) return;
-    const auto& forms = OpenForms();
-    const auto owner = std::find_if(forms.rbegin(), forms.rend(),
-                                    [](const Form* form) { return form->m_shown && !form->IsPassing(); });
-    CreateWindowFromTemplate(owner == forms.rend() ? HostWindow() : (*owner)->m_window);
+    CreateWindowFromTemplate(NextOwner());
     Run(L"Form_Load", &Form::Form_Load);
 }
 
@@ -87,39 +48,6 @@ void Form::ShowModal()
     FitToScreen();
     SetShown(true);
     if (PumpUntil([this] { return !m_shown; }) == WaitEnd::Quit) Hide();
-}
-
-// A host may have a window for each document, and every document but the active one has to wait as well.
-void Form::DisableOthers() noexcept
-{
-    for (const Form* form : OpenForms())
-        form->DisableOthersAgain();
-    ::EnumThreadWindows(::GetCurrentThreadId(), &Form::DisableOther, reinterpret_cast<LPARAM>(this));
-}
-
-BOOL CALLBACK Form::DisableOther(HWND window, LPARAM form) noexcept
-{
-    auto& self = *reinterpret_cast<Form*>(form);
-    if (window != self.m_window && ::IsWindowVisible(window) && ::IsWindowEnabled(window) &&
-        !Catch([&] { self.m_disabled.push_back(window); }))
-        ::EnableWindow(window, FALSE);
-    return TRUE;
-}
-
-void Form::DisableOthersAgain() const noexcept
-{
-    for (const HWND window : m_disabled)
-        ::EnableWindow(window, FALSE);
-}
-
-void Form::KeepOthersOut() noexcept
-{
-    const auto& forms = OpenForms();
-    const auto top = std::find_if(forms.rbegin(), forms.rend(), [](const Form* form) { return form->m_shown; });
-    if (top == forms.rend() || !::IsWindowEnabled((*top)->m_window)) return;
-    (*top)->DisableOthers();
-    const HWND active = ::GetActiveWindow();
-    if (active != nullptr && !::IsWindowEnabled(active)) ::SetActiveWindow((*top)->m_window);
 }
 
 void Form::FitToScreen() noexcept
@@ -169,19 +97,12 @@ void Form::Hide() noexcept
     if (isActive) GiveFocusBack();
 }
 
-void Form::EnableOthers() noexcept
-{
-    for (const HWND window : m_disabled)
-        ::EnableWindow(window, TRUE);
-    m_disabled.clear();
-}
-
 // A window goes with its owner, and a host may close that at any time: the command behind the form ends.
 void Form::OnWindowGone() noexcept
 {
     EnableOthers();
     m_shown = false;
-    TakeOut(this);
+    std::erase(OpenForms(), this);
     RemoveDialogWindow(m_window);
     m_window = nullptr;
 }
@@ -191,7 +112,7 @@ void Form::Unload() noexcept
     if (m_window == nullptr) return;
     Hide();
     Run(L"Form_Unload", &Form::Form_Unload);
-    TakeOut(this);
+    std::erase(OpenForms(), this);
     m_tips.TakeAllBack();
     RemoveDialogWindow(m_window);
     ::DestroyWindow(std::exchange(m_window, nullptr));
@@ -256,21 +177,10 @@ INT_PTR Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept
     }
 }
 
-void Form::OnWait(const WaitProgress* progress) noexcept
-{
-    Ignoring([&] {
-        const std::wstring text = progress != nullptr ? WaitText(*progress) : std::wstring{};
-        const HWND top = TopWindow();
-        for (Form* form : OpenForms())
-            if (progress == nullptr || form->m_window == top) form->ShowWait(text);
-    });
-}
-
 void Form::OnActivated() const noexcept
 {
     // No other windows than those: one that has come since may be the host's question, which waits for its answer.
-    for (const Form* form : OpenForms())
-        form->DisableOthersAgain();
+    DisableAgain();
     // What activation starts may last: it runs from the message loop, not inside the activation.
     ::PostMessageW(m_window, kActivatedMessage, 0, 0);
 }

@@ -126,6 +126,9 @@ protected:
     void ChangeLayout(const std::function<void()>& change);
 
 private:
+    static std::vector<Form*>& OpenForms(); // the last opened at the end
+    [[nodiscard]] static Form* Top() noexcept;
+    [[nodiscard]] static HWND NextOwner() noexcept; // of a form that is loaded now
     static INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     void OnActivated() const noexcept;
@@ -136,10 +139,9 @@ private:
     void SetShown(bool shown) noexcept;
     void FitToScreen() noexcept;
     void DisableOthers() noexcept;
-    void DisableOthersAgain() const noexcept;
+    static void DisableAgain() noexcept;
     void EnableOthers() noexcept;
     void OnWindowGone() noexcept;
-    static BOOL CALLBACK DisableOther(HWND window, LPARAM form) noexcept;
     void GiveFocusBack() noexcept;
 
     const wchar_t* m_name;
