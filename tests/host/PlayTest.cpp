@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <iostream>
 #include <objbase.h>
 
 #include "FakeAddIn.h"
@@ -31,6 +32,17 @@ std::wstring OwnFolder()
 int WidthOf(const std::string& png)
 {
     return png.size() < 24 ? 0 : static_cast<unsigned char>(png[18]) * 256 + static_cast<unsigned char>(png[19]);
+}
+
+// Wine, on a busy machine, has once failed to start a program that was there: such a start is told and tried again.
+bool Start(std::wstring& line, STARTUPINFOW& start, PROCESS_INFORMATION& process)
+{
+    for (int attempt = 1; attempt <= 3; ++attempt) {
+        if (::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &process))
+            return true;
+        std::cerr << "CreateProcess, attempt " << attempt << ": error " << ::GetLastError() << '\n';
+    }
+    return false;
 }
 
 struct Outcome
@@ -73,8 +85,7 @@ protected:
         start.hStdOutput = log.Get();
         start.hStdError = log.Get();
         PROCESS_INFORMATION process{};
-        EXPECT_TRUE(
-            ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &process));
+        EXPECT_TRUE(Start(line, start, process));
         const UniqueFile handle{process.hProcess};
         const UniqueFile thread{process.hThread};
         Outcome outcome;
