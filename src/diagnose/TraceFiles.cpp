@@ -3,6 +3,7 @@
 #include "platform/Files.h"
 #include "support/TraceText.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace diagnose
@@ -25,38 +26,45 @@ std::wstring TraceFolder()
     return folder + L"\\";
 }
 
-std::wstring NewestFile(const std::wstring& folder)
+std::uint64_t Wide(DWORD high, DWORD low) { return std::uint64_t{high} << 32U | low; }
+
+std::uint64_t Now()
 {
-    WIN32_FIND_DATAW entry{};
-    const HANDLE first = ::FindFirstFileW((folder + L"*.log").c_str(), &entry);
-    if (first == INVALID_HANDLE_VALUE) return {};
-    const corvane::Unique<FindTraits> search{first};
-    std::wstring newest;
-    FILETIME latest{};
-    do {
-        if (!newest.empty() && ::CompareFileTime(&entry.ftLastWriteTime, &latest) <= 0) continue;
-        newest = entry.cFileName;
-        latest = entry.ftLastWriteTime;
-    } while (::FindNextFileW(search.Get(), &entry));
-    return newest;
+    FILETIME now{};
+    ::GetSystemTimeAsFileTime(&now);
+    return Wide(now.dwHighDateTime, now.dwLowDateTime);
 }
 
-std::string TextOf(const std::wstring& file)
+bool IsTrace(const WIN32_FIND_DATAW& entry)
 {
-    std::string text(static_cast<std::size_t>(corvane::FileLength(file).value_or(0)), '\0');
-    text.resize(corvane::ReadFile(file, std::as_writable_bytes(std::span{text})));
-    return text;
+    return (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 &&
+           corvane::IsTraceFileName(corvane::kTraceApplication, entry.cFileName);
 }
 
 } // namespace
 
+std::vector<TraceFile> FindTraces()
+{
+    std::vector<TraceFile> files;
+    WIN32_FIND_DATAW entry{};
+    const HANDLE first = ::FindFirstFileW((TraceFolder() + L"*.log").c_str(), &entry);
+    if (first == INVALID_HANDLE_VALUE) return files;
+    const corvane::Unique<FindTraits> search{first};
+    do {
+        if (IsTrace(entry))
+            files.push_back({entry.cFileName, Wide(entry.nFileSizeHigh, entry.nFileSizeLow),
+                             Wide(entry.ftLastWriteTime.dwHighDateTime, entry.ftLastWriteTime.dwLowDateTime)});
+    } while (::FindNextFileW(search.Get(), &entry));
+    std::ranges::sort(files, std::ranges::greater{}, &TraceFile::written);
+    return files;
+}
+
 std::optional<LastTrace> FindLastTrace()
 {
-    const std::wstring folder = TraceFolder();
-    const std::wstring name = NewestFile(folder);
-    if (name.empty()) return std::nullopt;
-    LastTrace trace{.file = folder + name, .errors = 0, .lastNumber = {}};
-    const std::string text = TextOf(trace.file);
+    const std::vector<TraceFile> files = FindTraces();
+    if (files.empty()) return std::nullopt;
+    LastTrace trace{.file = TraceFolder() + files.front().name, .errors = 0, .lastNumber = {}};
+    const std::string text = ReadTrace({files.front(), 0});
     constexpr std::string_view kError = "\r\n\tNumber = ";
     for (std::size_t at = text.find(kError); at != std::string::npos; at = text.find(kError, at + 1)) {
         const std::size_t number = at + kError.size();
@@ -65,6 +73,29 @@ std::optional<LastTrace> FindLastTrace()
         ++trace.errors;
     }
     return trace;
+}
+
+std::string ReadTrace(const TraceEnd& end)
+{
+    const std::wstring path = TraceFolder() + end.file.name;
+    // A file that is being written is listed with an old size.
+    const std::uint64_t length = corvane::FileLength(path).value_or(0);
+    std::string text(static_cast<std::size_t>(length - std::min(length, end.from)), '\0');
+    text.resize(corvane::ReadFile(path, std::as_writable_bytes(std::span{text}), end.from));
+    return end.from == 0 ? text : WithoutCutLine(std::move(text));
+}
+
+TraceRemoval RemoveTraces(int days)
+{
+    TraceRemoval removal;
+    const std::uint64_t now = Now();
+    for (const TraceFile& file : FindTraces()) {
+        const bool isOld = IsOlder(file, days, now);
+        const bool isGone = isOld && ::DeleteFileW((TraceFolder() + file.name).c_str());
+        ++(isGone ? removal.removed : removal.left);
+        if (isOld && !isGone) ++removal.refused;
+    }
+    return removal;
 }
 
 } // namespace diagnose

@@ -23,6 +23,13 @@ UniqueFile OpenFile(const std::wstring& path, DWORD access, DWORD disposition) n
     return UniqueFile{file == INVALID_HANDLE_VALUE ? nullptr : file};
 }
 
+std::wstring ShellFolder(int id, const wchar_t* source)
+{
+    std::array<wchar_t, MAX_PATH> path{};
+    Check(::SHGetFolderPathW(nullptr, id | CSIDL_FLAG_CREATE, nullptr, SHGFP_TYPE_CURRENT, path.data()), source);
+    return path.data();
+}
+
 } // namespace
 
 std::wstring TemporaryFolder()
@@ -37,13 +44,9 @@ std::wstring TemporaryFolder()
     return folder;
 }
 
-std::wstring DocumentsFolder()
-{
-    std::array<wchar_t, MAX_PATH> path{};
-    Check(::SHGetFolderPathW(nullptr, CSIDL_PERSONAL | CSIDL_FLAG_CREATE, nullptr, SHGFP_TYPE_CURRENT, path.data()),
-          L"DocumentsFolder");
-    return path.data();
-}
+std::wstring DocumentsFolder() { return ShellFolder(CSIDL_PERSONAL, L"DocumentsFolder"); }
+
+std::wstring DesktopFolder() { return ShellFolder(CSIDL_DESKTOPDIRECTORY, L"DesktopFolder"); }
 
 std::wstring ApplicationDataFolder()
 {
@@ -99,11 +102,14 @@ std::optional<std::uint64_t> LastWriteTime(const std::wstring& path) noexcept
     return (std::uint64_t{facts.ftLastWriteTime.dwHighDateTime} << 32U) | facts.ftLastWriteTime.dwLowDateTime;
 }
 
-std::size_t ReadFile(const std::wstring& path, std::span<std::byte> into) noexcept
+std::size_t ReadFile(const std::wstring& path, std::span<std::byte> into, std::uint64_t from) noexcept
 {
     const UniqueFile file = OpenFile(path, GENERIC_READ, OPEN_EXISTING);
+    LARGE_INTEGER place{};
+    place.QuadPart = static_cast<LONGLONG>(from);
+    const bool isReady = file && ::SetFilePointerEx(file.Get(), place, nullptr, FILE_BEGIN) != FALSE;
     std::size_t total = 0;
-    while (file && total < into.size()) {
+    while (isReady && total < into.size()) {
         constexpr std::size_t kStep = std::size_t{1} << 26U;
         DWORD read = 0;
         const auto step = static_cast<DWORD>(std::min(kStep, into.size() - total));

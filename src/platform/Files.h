@@ -12,10 +12,11 @@
 namespace corvane
 {
 
-// The user's temporary folder in its long form, and the user's Documents folder; without a closing backslash. Both
-// throw the system's error where there is none.
+// The user's temporary folder in its long form, and the user's Documents folder and desktop; without a closing
+// backslash. All throw the system's error where there is none.
 [[nodiscard]] std::wstring TemporaryFolder();
 [[nodiscard]] std::wstring DocumentsFolder();
+[[nodiscard]] std::wstring DesktopFolder();
 
 // The folder of the user's settings that roam (%APPDATA%), without a closing backslash; empty where there is none.
 [[nodiscard]] std::wstring ApplicationDataFolder();
@@ -40,8 +41,8 @@ namespace corvane
 // When the file was last written, in units of 100 ns; nothing when it cannot be told.
 [[nodiscard]] std::optional<std::uint64_t> LastWriteTime(const std::wstring& path) noexcept;
 
-// Reads the file from its start, letting others read, write and delete it meanwhile; returns how much was read.
-std::size_t ReadFile(const std::wstring& path, std::span<std::byte> into) noexcept;
+// Reads the file from that place on, letting others read, write and delete it meanwhile; returns how much was read.
+std::size_t ReadFile(const std::wstring& path, std::span<std::byte> into, std::uint64_t from = 0) noexcept;
 
 // Writes a new file or replaces one; throws Error.
 void WriteFile(const std::wstring& path, std::span<const std::byte> bytes);

@@ -11,8 +11,6 @@ namespace corvane
 namespace
 {
 
-constexpr const wchar_t* kApplicationName = L"CorvaneMSOfficePowerPoint";
-
 LocalTime Now() noexcept
 {
     SYSTEMTIME now{};
@@ -35,7 +33,7 @@ void CTraceLog::Open()
     for (const wchar_t* name : kTraceFolders)
         ::CreateDirectoryW((folder += name).c_str(), nullptr);
     const HANDLE file =
-        ::CreateFileW((folder + L"\\" + TraceFileName(kApplicationName, Now())).c_str(), GENERIC_WRITE,
+        ::CreateFileW((folder + L"\\" + TraceFileName(kTraceApplication, Now())).c_str(), GENERIC_WRITE,
                       FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file != INVALID_HANDLE_VALUE) m_file = UniqueFile{file};
 }

@@ -7,7 +7,6 @@ namespace corvane::Policy
 namespace
 {
 
-constexpr const wchar_t* kKey = L"Software\\Policies\\Halvex\\Corvane";
 constexpr Registry::Place kMachine{.hive = Registry::Hive::Machine};
 constexpr Registry::Place kUser{.hive = Registry::Hive::User};
 

@@ -9,7 +9,9 @@
 namespace corvane::Policy
 {
 
-// A value of "Software\\Policies\\Halvex\\Corvane": the machine's if it is there, else the user's; nothing when
+inline constexpr const wchar_t* kKey = L"Software\\Policies\\Halvex\\Corvane";
+
+// A value of that key: the machine's if it is there, else the user's; nothing when
 // neither is.
 [[nodiscard]] std::optional<std::int32_t> Number(const std::wstring& name) noexcept;
 

@@ -20,6 +20,19 @@ std::wstring TraceFileName(std::wstring_view application, const LocalTime& time)
     return name + L".log";
 }
 
+bool IsTraceFileName(std::wstring_view application, std::wstring_view name)
+{
+    constexpr std::wstring_view kShape = L"_0_0_0__0_0_0.log"; // a 0 for each number
+    if (!name.starts_with(application)) return false;
+    name.remove_prefix(application.size());
+    for (const wchar_t part : kShape) {
+        const std::size_t digits = std::min(name.find_first_not_of(L"0123456789"), name.size());
+        if (part == L'0' ? digits == 0 : !name.starts_with(part)) return false;
+        name.remove_prefix(part == L'0' ? digits : 1);
+    }
+    return name.empty();
+}
+
 std::wstring SortableTime(const LocalTime& time)
 {
     std::array<wchar_t, 80> text{};

@@ -22,9 +22,14 @@ struct LocalTime
 // The folders that lead from the user's application data to the trace files.
 inline constexpr const wchar_t* kTraceFolders[] = {L"\\Halvex", L"\\Corvane for MS Office"};
 
+inline constexpr const wchar_t* kTraceApplication = L"CorvaneMSOfficePowerPoint";
+
 // The name of a trace file: the add-in's name and the time of its making, numbers without leading zeros
 // ("Name_2013_7_4__9_5_3.log").
 [[nodiscard]] std::wstring TraceFileName(std::wstring_view application, const LocalTime& time);
+
+// Whether a file of that name is one of these.
+[[nodiscard]] bool IsTraceFileName(std::wstring_view application, std::wstring_view name);
 
 // "2013-07-04 09:05:03"
 [[nodiscard]] std::wstring SortableTime(const LocalTime& time);

@@ -44,6 +44,10 @@ TEST(TraceText, NamesTheFileByItsTimeWithoutLeadingZeros)
 {
     EXPECT_EQ(TraceFileName(L"AddIn", kMorning), L"AddIn_2013_7_4__9_5_3.log");
     EXPECT_EQ(TraceFileName(L"AddIn", {2024, 12, 31, 23, 59, 0}), L"AddIn_2024_12_31__23_59_0.log");
+    EXPECT_TRUE(IsTraceFileName(L"AddIn", TraceFileName(L"AddIn", kMorning)));
+    for (const wchar_t* other :
+         {L"AddIn.log", L"AddIn_2013_7_4__9_5_.log", L"AddIn_2013_7_4__9_5_3.log.x", L"Other_2013_7_4__9_5_3.log"})
+        EXPECT_FALSE(IsTraceFileName(L"AddIn", other)) << other;
 }
 
 TEST(TraceText, IndentsALineByTheExtraIndentAndOneMoreThanItsLevel)
