@@ -1,5 +1,5 @@
-"""A Wine of its own with a display of its own, both kept up, which makes each program start fast."""
-import fcntl, os, pathlib, subprocess
+"""A Wine of its own with a display of its own, both kept up, which makes each program start fast, and a server beside it."""
+import fcntl, json, os, pathlib, subprocess
 
 TOP = pathlib.Path(__file__).resolve().parents[1]
 
@@ -51,3 +51,24 @@ class Desk:
         self.screen.terminate()
         self.screen.wait()
         self.lock.close()
+
+
+class Server:
+    """corvane-server with these faults, on data of its own below a folder."""
+
+    def __init__(self, folder, faults=()):
+        (folder / "data").mkdir()
+        (folder / "faults.json").write_text(json.dumps(list(faults)), encoding="utf-8")
+        self.data = folder / "data"
+        self.process = subprocess.Popen([TOP / "build/native/sandbox/server/corvane-server", "--data", self.data,
+                                         "--log", folder / "requests.log", "--faults", folder / "faults.json"],
+                                        stdout=subprocess.PIPE, text=True)
+        self.url = self.process.stdout.readline().split()[-1]
+
+    def versions(self):
+        file = self.data / "versions.json"
+        return json.loads(file.read_text(encoding="utf-8")) if file.exists() else []
+
+    def stop(self):
+        self.process.terminate()
+        self.process.communicate(timeout=20)

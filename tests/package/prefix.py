@@ -7,6 +7,19 @@ from desk import TOP, Desk, windows_path
 PATIENCE = 120  # seconds for one program
 
 
+class Failure(Exception):
+    """What does not hold, in words."""
+
+
+def require(holds, words):
+    if not holds:
+        raise Failure(words)
+
+
+def equal(what, found, wanted):
+    require(found == wanted, f"{what}: {found}\n  instead of: {wanted}")
+
+
 def values_of(export):
     """Every value of an exported registry as key, name and data."""
     values, key = set(), ""

@@ -1,8 +1,7 @@
 """Broken set-ups, and what the diagnosis says of each."""
 from dataclasses import dataclass
 
-from checks import equal, require
-from prefix import TOP, windows_path
+from prefix import TOP, equal, require, windows_path
 
 CLASSES = r"HKEY_CURRENT_USER\Software\Classes"
 PROG_ID = "CorvaneMSOfficePowerPoint.Connect"

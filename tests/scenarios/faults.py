@@ -218,13 +218,11 @@ class Story:
 
 
 def write_stories(folder):
-    """Writes the scenarios; the paths of those that are always played, and of the stories of every fault."""
-    folder.mkdir(parents=True, exist_ok=True)
-    huge = folder / "huge"
+    """Writes the scenarios that are always played into the folder, and those of every fault into its "stories"."""
+    (folder / "stories").mkdir(parents=True, exist_ok=True)
+    huge = folder / "stories/huge"
     huge.exists() or huge.write_bytes(b"x" * 2**26)
-    stories = {}
     for family, name in itertools.product(["told", *FAMILIES], STORIES):
-        path = folder / f"{family}-{name}.txt"
-        path.write_text(Story(name, family).text().replace("HUGE", str(huge)), encoding="utf-8")
-        stories.setdefault(family == "told", []).append(path)
-    return [*stories[True], write_hostile(folder)], stories[False]
+        path = folder / ("" if family == "told" else "stories") / f"{family}-{name}.txt"
+        path.write_text(Story(name, family).text().replace("HUGE", "${BESIDE}/huge"), encoding="utf-8")
+    write_hostile(folder)

@@ -22,22 +22,20 @@ def hostile_tree():
 
 
 def write_hostile(folder):
-    """Everything that the server tells of a save is oversized or malformed; the path of the scenario."""
+    """Writes the scenario, and beside it the files of its server."""
     files = {**HOSTILE, "tree.xml": ("GetMyAssignmentsAsTree", hostile_tree().encode()),
              "many.xml": ("GetMyProjectsRelatedFiles", b"<xml>" + b"<project pid='1' name='P'/>" * 10000 + b"</xml>")}
     for name, (_, content) in files.items():
         (folder / name).write_bytes(content)
-    rules = [{"match": match, "file": str(folder / name)} for name, (match, _) in files.items()]
+    rules = [{"match": match, "file": "${BESIDE}/" + name} for name, (match, _) in files.items()]
     endless = b"<xml xmlns:z='#RowsetSchema'><z:row %s/></xml>" % attributes(1000000)
     (folder / "endless.xml").write_bytes(endless)
     words = "line&#10;" * 20 + "w" * 1000 + "&#10;line" * 100000
-    rules[:0] = [{"match": "GETPROJECTDELIVERABLE", "file": str(folder / "endless.xml"), "times": 1},
+    rules[:0] = [{"match": "GETPROJECTDELIVERABLE", "file": "${BESIDE}/endless.xml", "times": 1},
                  {"match": "UploadAndUpdate", "body": f"<error number='7' source='' description='{words}'/>", "times": 1}]
     cached = "#! registry Software\\Halvex\\Corvane\\CustomNames "  # by an older version
     head = f"#! faults {json.dumps(rules)}\n#! run --timeout 60\n{cached}Corvane=\n{cached}Deliverable={'d' * 1025}\n"
-    path = folder / "hostile-server.txt"
-    path.write_text(head + HOSTILE_STEPS, encoding="utf-8")
-    return path
+    (folder / "hostile-server.txt").write_text(head + HOSTILE_STEPS, encoding="utf-8")
 
 
 HOSTILE_STEPS = r"""#! set mail.client=outlook
