@@ -64,13 +64,16 @@ void FileMissing(Stage&, Run& run, const Step& step)
     });
 }
 
-// The server reads its rules again at each request. They take their name when they are whole.
+// The server reads its rules again at each request. They take their name when they are whole, and when it does not read
+// them just then.
 void Faults(Stage&, Run& run, const Step& step)
 {
     const std::wstring file = run.OutFile(L"faults.json");
     WriteText(file + L".new", step.At(0));
-    if (!::MoveFileExW((file + L".new").c_str(), file.c_str(), MOVEFILE_REPLACE_EXISTING))
-        Fail(L"the rules cannot be put in place");
+    run.WaitFor([&] {
+        const bool moved = ::MoveFileExW((file + L".new").c_str(), file.c_str(), MOVEFILE_REPLACE_EXISTING) != FALSE;
+        return Unless(moved, L"the rules cannot be put in place");
+    });
 }
 
 void MailField(Stage& stage, Run& run, const Step& step)

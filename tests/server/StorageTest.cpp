@@ -1,4 +1,5 @@
 #include "core/Archive.h"
+#include "core/Files.h"
 #include "shell/DataFolder.h"
 
 #include <fstream>
@@ -11,8 +12,13 @@ namespace server
 TEST(Storage, FileNamesStayInTheirFolderAndDiffer)
 {
     const std::string longName(300, 'x');
-    const std::string names[] = {"plan.pptx", "../plan.pptx", "..",           ".",         "", "a/b", "a\\b", "a%2Fb",
-                                 "\"q\"",     longName + "1", longName + "2", "Größe.pptx"};
+    std::string wide;
+    while (wide.size() < longName.size())
+        wide += "日";
+    const std::string names[] = {
+        "plan.pptx",    "../plan.pptx", "..",         ".",  "",         "a/b", "a\\b",      "a%2Fb", "\"q\"",
+        longName + "1", longName + "2", "Größe.pptx", wide, "x" + wide, "nul", "Com1.pptx", "plan. "};
+    const DataFolder folder{""};
     std::set<std::string> safe;
     for (const auto& name : names) {
         const auto made = SafeFileName(name);
@@ -20,7 +26,12 @@ TEST(Storage, FileNamesStayInTheirFolderAndDiffer)
         EXPECT_FALSE(made.starts_with('.')) << name;
         EXPECT_TRUE(!made.empty() && made.size() < 200) << name;
         EXPECT_TRUE(safe.insert(made).second) << name;
+        EXPECT_NO_THROW((void)nlohmann::json(made).dump()) << name << " was cut within a letter";
+        WriteFile(folder.Path() / PathOf(made), name);
     }
+    for (const auto& file : std::filesystem::directory_iterator{folder.Path()})
+        EXPECT_EQ(safe.erase(Utf8Of(file.path().filename())), 1U) << file;
+    EXPECT_TRUE(safe.empty()) << *safe.begin() << " is not in the folder";
     EXPECT_EQ(SafeFileName("Größe.pptx"), "Größe.pptx");
 }
 

@@ -1,9 +1,11 @@
 #include "core/Archive.h"
 
+#include "core/Files.h"
+#include "core/Text.h"
+
+#include <algorithm>
 #include <array>
 #include <cstdio>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 
 namespace server
@@ -14,20 +16,13 @@ namespace
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t kLongestFileName = 160;
+constexpr std::size_t kLongestFileName = 120; // with that of its folder it stays below what Windows takes
 
 std::string ReadFile(const fs::path& path)
 {
-    std::ifstream file{path, std::ios::binary};
-    if (!file) throw std::runtime_error{"Cannot read " + path.string()};
-    return {std::istreambuf_iterator<char>{file}, {}};
-}
-
-void WriteFile(const fs::path& path, std::string_view bytes)
-{
-    std::ofstream file{path, std::ios::binary};
-    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    if (!file.flush()) throw std::runtime_error{"Cannot write " + path.string()};
+    auto bytes = ReadIfThere(path);
+    if (!bytes) throw std::runtime_error{"Cannot read " + Utf8Of(path)};
+    return std::move(*bytes);
 }
 
 nlohmann::ordered_json ReadJson(const fs::path& path)
@@ -35,14 +30,33 @@ nlohmann::ordered_json ReadJson(const fs::path& path)
     try {
         return nlohmann::ordered_json::parse(ReadFile(path));
     } catch (const nlohmann::json::exception& problem) {
-        throw std::runtime_error{path.string() + ": " + problem.what()};
+        throw std::runtime_error{Utf8Of(path) + ": " + problem.what()};
     }
 }
 
-bool MustBeEscaped(char c, bool first)
+// Whether Windows takes the name for that of a device, as it does whatever extension follows.
+bool IsDevice(std::string_view name)
 {
+    constexpr std::array<std::string_view, 4> kDevices{"con", "prn", "aux", "nul"};
+    const auto stem = name.substr(0, name.find_first_of(" ."));
+    const bool numbered = stem.size() == 4 && stem.back() >= '0' && stem.back() <= '9';
+    return std::ranges::any_of(kDevices, [&](auto device) { return EqualNoCase(stem, device); }) ||
+           (numbered && (EqualNoCase(stem.substr(0, 3), "com") || EqualNoCase(stem.substr(0, 3), "lpt")));
+}
+
+bool MustBeEscaped(std::string_view name, std::size_t at)
+{
+    const char c = name[at];
     return (c >= 0 && c < ' ') || c == 0x7F || std::string_view{"%/\\:*?\"<>|"}.find(c) != std::string_view::npos ||
-           (first && c == '.');
+           (at == 0 && (c == '.' || IsDevice(name))) || (at + 1 == name.size() && (c == '.' || c == ' '));
+}
+
+// As many bytes of a longer UTF-8 text as make whole letters, up to this number.
+std::string_view Start(std::string_view text, std::size_t size)
+{
+    while ((static_cast<unsigned char>(text[size]) & 0xC0U) == 0x80U)
+        --size;
+    return text.substr(0, size);
 }
 
 std::string FolderName(const Version& version)
@@ -73,10 +87,11 @@ constexpr std::array<std::uint32_t, 256> CrcTable()
 std::string SafeFileName(std::string_view name)
 {
     std::string safe;
-    for (const char c : name)
-        safe += MustBeEscaped(c, safe.empty()) ? Hex(static_cast<unsigned char>(c), "%%%02X") : std::string(1, c);
+    for (std::size_t at = 0; at < name.size(); ++at)
+        safe +=
+            MustBeEscaped(name, at) ? Hex(static_cast<unsigned char>(name[at]), "%%%02X") : std::string(1, name[at]);
     if (safe.empty()) return "%";
-    return safe.size() <= kLongestFileName ? safe : safe.substr(0, kLongestFileName) + '%' + Crc32(name);
+    return safe.size() <= kLongestFileName ? safe : std::string{Start(safe, kLongestFileName)} + '%' + Crc32(name);
 }
 
 std::string Crc32(std::string_view bytes)
@@ -105,7 +120,10 @@ nlohmann::json Archive::Settings() const
     return fs::exists(path) ? nlohmann::json(ReadJson(path)) : nlohmann::json::object();
 }
 
-fs::path Archive::TransferPath(std::string_view name) const { return m_folder / "transfer" / SafeFileName(name); }
+fs::path Archive::TransferPath(std::string_view name) const
+{
+    return m_folder / "transfer" / PathOf(SafeFileName(name));
+}
 
 void Archive::KeepUpload(std::string_view name, std::string_view bytes) const { WriteFile(TransferPath(name), bytes); }
 
@@ -113,12 +131,12 @@ bool Archive::HasUpload(std::string_view name) const { return fs::exists(Transfe
 
 Version Archive::Record(Version version)
 {
-    const auto folder = fs::path{"versions"} / FolderName(version);
-    const auto stored = folder / SafeFileName(std::to_string(version.number) + ' ' + version.file);
+    const auto folder = fs::path{"versions"} / PathOf(FolderName(version));
+    const auto stored = folder / PathOf(SafeFileName(std::to_string(version.number) + ' ' + version.file));
     const auto bytes = ReadFile(TransferPath(version.file));
     fs::create_directories(m_folder / folder);
-    fs::rename(TransferPath(version.file), m_folder / stored);
-    version.storedAs = stored.string();
+    Rename(TransferPath(version.file), m_folder / stored);
+    version.storedAs = Utf8Of(stored);
     version.size = bytes.size();
     version.crc32 = Crc32(bytes);
     m_versions.push_back(version);
@@ -129,7 +147,7 @@ Version Archive::Record(Version version)
 std::optional<std::string> Archive::Read(const Version& version) const
 {
     if (version.storedAs.empty()) return std::nullopt;
-    return ReadFile(m_folder / version.storedAs);
+    return ReadFile(m_folder / PathOf(version.storedAs));
 }
 
 // Written beside and renamed, so that a reader never meets half a list.
@@ -138,7 +156,7 @@ void Archive::WriteList() const
     const auto list = m_folder / "versions.json";
     const auto fresh = m_folder / "versions.json.new";
     WriteFile(fresh, nlohmann::ordered_json(m_versions).dump(2) + '\n');
-    fs::rename(fresh, list);
+    Rename(fresh, list);
 }
 
 } // namespace server

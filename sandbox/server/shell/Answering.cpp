@@ -1,7 +1,8 @@
 #include "shell/Answering.h"
 
+#include "shell/System.h"
+
 #include <algorithm>
-#include <cstdio>
 
 namespace server
 {
@@ -48,7 +49,7 @@ Fault Answering::NextFault(const Request& request)
     try {
         return m_faults.Next(request.target, request.body).value_or(Fault{});
     } catch (const std::exception& problem) {
-        std::fprintf(stderr, "corvane-server: faults file ignored: %s\n", problem.what());
+        PrintError(std::string{"corvane-server: faults file ignored: "} + problem.what() + '\n');
         return {};
     }
 }

@@ -1,5 +1,7 @@
 #include "shell/CommandLine.h"
 
+#include "core/Files.h"
+
 #include <charconv>
 #include <string_view>
 
@@ -18,25 +20,25 @@ int ParsePort(std::string_view text)
     return port;
 }
 
-void Take(Options& options, std::string_view name, const char* value)
+void Take(Options& options, std::string_view name, const std::string& value)
 {
     if (name == "--port")
         options.port = ParsePort(value);
     else if (name == "--data")
-        options.data = value;
+        options.data = PathOf(value);
     else if (name == "--user")
         options.user = value;
     else if (name == "--log")
-        options.log = value;
+        options.log = PathOf(value);
     else if (name == "--faults")
-        options.faults = value;
+        options.faults = PathOf(value);
     else
         throw UsageError{"Unknown argument '" + std::string{name} + "'."};
 }
 
 } // namespace
 
-Options ParseCommandLine(std::span<const char* const> arguments)
+Options ParseCommandLine(const std::vector<std::string>& arguments)
 {
     Options options;
     for (std::size_t at = 0; at < arguments.size(); at += 2) {
@@ -46,11 +48,11 @@ Options ParseCommandLine(std::span<const char* const> arguments)
             return options;
         }
         const bool last = at + 1 == arguments.size();
-        if (!last && *arguments[at + 1] == '\0')
+        if (!last && arguments[at + 1].empty())
             throw UsageError{std::string{name} + " needs a value that is not empty."};
         if (last && name.starts_with("--"))
             throw UsageError{"'" + std::string{name} + "' is unknown or lacks its value."};
-        Take(options, name, last ? "" : arguments[at + 1]);
+        Take(options, name, last ? std::string{} : arguments[at + 1]);
     }
     return options;
 }

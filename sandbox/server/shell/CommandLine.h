@@ -2,9 +2,9 @@
 #pragma once
 
 #include <filesystem>
-#include <span>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace server
 {
@@ -26,7 +26,8 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-[[nodiscard]] Options ParseCommandLine(std::span<const char* const> arguments);
+// Takes UTF-8.
+[[nodiscard]] Options ParseCommandLine(const std::vector<std::string>& arguments);
 
 [[nodiscard]] const char* UsageText();
 

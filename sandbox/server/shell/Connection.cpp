@@ -8,6 +8,7 @@
 #include <asio/write.hpp>
 #include <charconv>
 #include <chrono>
+#include <new>
 #include <optional>
 
 namespace server
@@ -74,7 +75,11 @@ void Connection::ReadBody(std::size_t size)
     if (EqualNoCase(m_request.Header("Expect"), "100-continue"))
         asio::write(m_socket, asio::buffer(std::string_view{"HTTP/1.1 100 Continue\r\n\r\n"}), ignored);
     if (m_received.size() > size) m_received.resize(size);
-    m_received.reserve(size);
+    try {
+        m_received.reserve(size);
+    } catch (const std::bad_alloc&) {
+        return Refuse(413);
+    }
     asio::async_read(m_socket, asio::dynamic_buffer(m_received), asio::transfer_exactly(size - m_received.size()),
                      [self = shared_from_this()](const ErrorCode& error, std::size_t) {
                          if (!error) self->Respond();

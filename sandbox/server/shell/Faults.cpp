@@ -1,7 +1,7 @@
 #include "shell/Faults.h"
 
-#include <fstream>
-#include <iterator>
+#include "core/Files.h"
+
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 
@@ -12,12 +12,6 @@ namespace
 {
 
 using Json = nlohmann::json;
-
-std::string ReadAll(const std::filesystem::path& path)
-{
-    std::ifstream file{path, std::ios::binary};
-    return {std::istreambuf_iterator<char>{file}, {}};
-}
 
 Drop ParseDrop(const std::string& text)
 {
@@ -40,7 +34,7 @@ Fault ParseFault(const Json& rule)
                 .heldIn = {}};
     if (rule.contains("status")) fault.status = rule["status"].get<int>();
     if (rule.contains("body")) fault.body = rule["body"].get<std::string>();
-    if (rule.contains("file")) fault.body = ReadAll(rule["file"].get<std::string>());
+    if (rule.contains("file")) fault.body = ReadIfThere(PathOf(rule["file"].get<std::string>())).value_or("");
     return fault;
 }
 
@@ -79,7 +73,7 @@ bool Faults::Holds(const Fault& fault)
 
 void Faults::Read()
 {
-    auto content = ReadAll(m_file);
+    auto content = ReadIfThere(m_file).value_or("");
     if (content == m_content) return;
     m_content = std::move(content);
     m_uses.clear();

@@ -1,5 +1,6 @@
 #include "shell/RequestLog.h"
 
+#include "core/Files.h"
 #include "core/Text.h"
 
 #include <array>
@@ -65,7 +66,7 @@ RequestLog::RequestLog(const std::filesystem::path& file)
 {
     if (file.empty()) return;
     m_file.open(file, std::ios::app | std::ios::binary);
-    if (!m_file) throw std::runtime_error{"Cannot write the log file " + file.string()};
+    if (!m_file) throw std::runtime_error{"Cannot write the log file " + Utf8Of(file)};
 }
 
 void RequestLog::Write(const Request& request, int status)

@@ -4,11 +4,9 @@
 #include "shell/CommandLine.h"
 #include "shell/DataFolder.h"
 #include "shell/HttpFront.h"
+#include "shell/System.h"
 
 #include <asio/io_context.hpp>
-#include <asio/signal_set.hpp>
-#include <csignal>
-#include <iostream>
 
 namespace
 {
@@ -20,23 +18,22 @@ constexpr int kBadArguments = 2;
 int Serve(const Options& options)
 {
     asio::io_context context;
-    // From here on they end the server in order.
-    asio::signal_set stops{context, SIGINT, SIGTERM};
+    Stops stops{context};
     const DataFolder folder{options.data};
     Site site{Service{nlohmann::json::parse(SeedText()), options.user, Archive{folder.Path()}, LocalTime}};
     RequestLog log{options.log};
     Faults faults{options.faults};
     HttpFront front{context, {[&](const Request& request) { return site.Handle(request); }, log, faults}};
     const int port = front.Bind(options.port);
-    stops.async_wait([&](const std::error_code&, int) { front.Stop(); });
-    std::cout << "listening on http://127.0.0.1:" << port << std::endl;
+    stops.WhenAsked([&] { front.Stop(); });
+    Print("listening on http://127.0.0.1:" + std::to_string(port) + '\n');
     context.run();
     return 0;
 }
 
-int RefuseArguments(const char* problem)
+int RefuseArguments(const std::string& problem)
 {
-    std::cerr << "corvane-server: " << problem << "\nSee corvane-server --help.\n";
+    PrintError("corvane-server: " + problem + "\nSee corvane-server --help.\n");
     return kBadArguments;
 }
 
@@ -45,16 +42,16 @@ int RefuseArguments(const char* problem)
 int main(int count, char** arguments)
 {
     try {
-        const auto options = ParseCommandLine({arguments + 1, static_cast<std::size_t>(count - 1)});
+        const auto options = ParseCommandLine(Arguments(count, arguments));
         if (!options.help) return Serve(options);
-        std::cout << UsageText();
+        Print(UsageText());
         return 0;
     } catch (const UsageError& problem) {
         return RefuseArguments(problem.what());
     } catch (const std::invalid_argument& problem) {
         return RefuseArguments(problem.what());
     } catch (const std::exception& failure) {
-        std::cerr << "corvane-server: " << failure.what() << '\n';
+        PrintError(std::string{"corvane-server: "} + failure.what() + '\n');
         return 1;
     }
 }
