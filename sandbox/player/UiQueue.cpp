@@ -10,7 +10,16 @@ namespace
 {
 
 constexpr UINT kWork = WM_APP + 1;
-constexpr wchar_t kClassName[] = L"CorvaneHostQueue";
+constexpr wchar_t kClassName[] = L"CorvanePlayerQueue";
+
+// The program or the library that holds this code: each has window classes of its own.
+HINSTANCE OwnModule()
+{
+    HMODULE module = nullptr;
+    ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                         reinterpret_cast<LPCWSTR>(&OwnModule), &module);
+    return module;
+}
 
 } // namespace
 
@@ -18,14 +27,18 @@ UiQueue::UiQueue() : m_threadId{::GetCurrentThreadId()}
 {
     WNDCLASSW windowClass{};
     windowClass.lpfnWndProc = WindowProc;
-    windowClass.hInstance = ::GetModuleHandleW(nullptr);
+    windowClass.hInstance = OwnModule();
     windowClass.lpszClassName = kClassName;
     ::RegisterClassW(&windowClass);
     m_window =
         ::CreateWindowExW(0, kClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, windowClass.hInstance, nullptr);
 }
 
-UiQueue::~UiQueue() { ::DestroyWindow(m_window); }
+UiQueue::~UiQueue()
+{
+    ::DestroyWindow(m_window);
+    ::UnregisterClassW(kClassName, OwnModule()); // a library that is gone would leave it behind
+}
 
 void UiQueue::Post(std::function<void()> work) const
 {

@@ -41,6 +41,7 @@ Host::Host(Options options)
     m_window = std::make_unique<MainWindow>(*this);
     m_session.window = m_window->Handle();
     m_session.onChanged = [this] { m_window->Refresh(); };
+    m_session.onQuit = [this] { Perform(HostCommand::Exit); };
     m_annotations.emplace(m_window->Handle());
     m_mail = std::make_unique<MailWindow>(m_window->Handle());
     m_programs->OnMail([this](const MailFields& mail) { m_mail->Show(mail); });

@@ -33,6 +33,7 @@ public:
     ComPtr<IDispatch> CommandBars();
     ComPtr<IDispatch> ComAddIns();
     void Run(const Arguments& arguments) { m_session.RunMacro(arguments.At(0).Text()); }
+    void Quit() { m_session.onQuit(); }
     void Activate() { ::SetForegroundWindow(m_session.window); }
     Variant Interactive(const Arguments& arguments);
     bool Ready() const { return !m_session.IsEditing(); }

@@ -35,6 +35,7 @@ constexpr Member kApplication[] = {
     {2007, L"CommandBars", kGet, Answer<&A::CommandBars>},
     {2013, L"Build", kGet, Answer<&A::Build>},
     {2014, L"Version", kGet, Answer<&A::Version>},
+    {2021, L"Quit", kMethod, Answer<&A::Quit>},
     {2022, L"Run", kMethod, Answer<&A::Run>},
     {2023, L"Activate", kMethod, Answer<&A::Activate>},
     {2031, L"HWND", kGet, Answer<&A::WindowHandle>},

@@ -91,6 +91,7 @@ public:
     // Something that the window shows has changed.
     void Changed();
     std::function<void()> onChanged;
+    std::function<void()> onQuit; // a program wants the host to end
     HWND window = nullptr;
 
     // Drops everything that the session holds; its objects live on only as long as others hold them.
