@@ -45,57 +45,56 @@ bool IsLocked(HWND form)
 struct StateRow
 {
     std::wstring_view name;
+    std::wstring_view opposite; // empty: it has no name
     bool (*holds)(const Run& run, HWND control);
 };
 
 constexpr StateRow kStates[] = {
-    {L"enabled", [](const Run&, HWND control) { return ::IsWindowEnabled(control) != FALSE; }},
-    {L"disabled", [](const Run&, HWND control) { return ::IsWindowEnabled(control) == FALSE; }},
-    {L"visible", [](const Run&, HWND control) { return ::IsWindowVisible(control) != FALSE; }},
-    {L"hidden", [](const Run&, HWND control) { return ::IsWindowVisible(control) == FALSE; }},
-    {L"checked", [](const Run&, HWND control) { return IsChecked(control); }},
-    {L"unchecked", [](const Run&, HWND control) { return !IsChecked(control); }},
-    {L"focused", [](const Run& run, HWND control) { return run.HasFocus(control); }},
-    {L"locked", [](const Run& run, HWND) { return IsLocked(run.Form()); }},
-    {L"inview", [](const Run& run, HWND control) { return IsInView(run.Form(), control); }},
-    {L"default", [](const Run& run, HWND control) { return IsDefaultButton(run.Form(), control); }},
-    {L"notdefault", [](const Run& run, HWND control) { return !IsDefaultButton(run.Form(), control); }},
+    {L"enabled", L"disabled", [](const Run&, HWND control) { return ::IsWindowEnabled(control) != FALSE; }},
+    {L"visible", L"hidden", [](const Run&, HWND control) { return ::IsWindowVisible(control) != FALSE; }},
+    {L"checked", L"unchecked", [](const Run&, HWND control) { return IsChecked(control); }},
+    {L"focused", {}, [](const Run& run, HWND control) { return run.HasFocus(control); }},
+    {L"locked", {}, [](const Run& run, HWND) { return IsLocked(run.Form()); }},
+    {L"inview", {}, [](const Run& run, HWND control) { return IsInView(run.Form(), control); }},
+    {L"default", L"notdefault", [](const Run& run, HWND control) { return IsDefaultButton(run.Form(), control); }},
 };
 
 void ExpectState(Run& run, const std::wstring& name, const std::wstring& state)
 {
-    const auto row = std::ranges::find(kStates, state, &StateRow::name);
+    const auto isNamed = [&](const StateRow& row) { return row.name == state || row.opposite == state; };
+    const auto row = std::ranges::find_if(kStates, isNamed);
     if (row == std::end(kStates)) Fail(L"no state is named " + state);
-    run.WaitOn(name, [&](HWND control) { return Unless(row->holds(run, control), L"it is not " + state); });
+    run.WaitOn(name, [&](HWND control) {
+        return Unless(row->holds(run, control) == (row->name == state), L"it is not " + state);
+    });
+}
+
+// Waits until this text of the control is the wanted one.
+template<class TextOf>
+void ExpectText(Run& run, const std::wstring& control, const std::wstring& wanted, const TextOf& textOf)
+{
+    run.WaitOn(control, [&](HWND window) {
+        const std::optional<std::wstring> text = textOf(window);
+        return Unless(text == wanted, L"it is " + Quoted(text));
+    });
 }
 
 // A control in a state, by one word, or with a text, by quoted ones.
 void ExpectControl(Stage&, Run& run, const Step& step)
 {
     if (!step.words[1].quoted) return ExpectState(run, step.At(0), step.At(1));
-    run.WaitOn(step.At(0), [&](HWND control) {
-        const auto text = ControlText(control);
-        return Unless(text == step.Lines(1), L"it is " + Quoted(text));
-    });
+    ExpectText(run, step.At(0), step.Lines(1), &ControlText);
 }
 
 // A part of the form's status bar, by its number from 1.
 void ExpectPart(Stage&, Run& run, const Step& step)
 {
-    run.WaitOn(L"form", [&](HWND form) {
-        const HWND statusBar = ::FindWindowExW(form, nullptr, STATUSCLASSNAMEW, nullptr);
-        const auto text = PartText(statusBar, std::stoi(step.At(0)) - 1);
-        return Unless(text == step.At(1), L"it is " + Quoted(text));
+    ExpectText(run, L"form", step.At(1), [&](HWND form) {
+        return PartText(::FindWindowExW(form, nullptr, STATUSCLASSNAMEW, nullptr), std::stoi(step.At(0)) - 1);
     });
 }
 
-void ExpectCaption(Stage&, Run& run, const Step& step)
-{
-    run.WaitOn(L"form", [&](HWND form) {
-        const auto text = WindowText(form);
-        return Unless(text == step.Lines(0), L"it is " + Quoted(text));
-    });
-}
+void ExpectCaption(Stage&, Run& run, const Step& step) { ExpectText(run, L"form", step.Lines(0), &WindowText); }
 
 // Waits until what can be so or not is as the step's word says; any word but these two is a slip of the scenario.
 void ExpectEither(Run& run, const std::wstring& word, std::wstring_view yes, std::wstring_view no,

@@ -25,12 +25,6 @@ HWND EditOf(HWND control)
     return edit;
 }
 
-void Notify(HWND control, WORD code)
-{
-    const auto id = static_cast<WORD>(::GetDlgCtrlID(control));
-    ::PostMessageW(::GetParent(control), WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(control));
-}
-
 std::wstring Joined(const std::vector<std::wstring>& texts)
 {
     std::wstring all;
@@ -169,7 +163,8 @@ void Choose(Stage&, Run& run, const Step& step)
     run.Focus(list);
     ::PostMessageW(list, combo ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(index), 0);
     static_assert(CBN_SELCHANGE == LBN_SELCHANGE);
-    Notify(list, LBN_SELCHANGE);
+    ::PostMessageW(::GetParent(list), WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(list), LBN_SELCHANGE),
+                   reinterpret_cast<LPARAM>(list));
     run.Settle();
 }
 

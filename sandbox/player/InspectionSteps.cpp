@@ -18,10 +18,6 @@ namespace corvane::player
 namespace
 {
 
-constexpr IID kAccessibleId{0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
-
-bool HasStyle(HWND window, DWORD style) { return (::GetWindowLongPtrW(window, GWL_STYLE) & style) != 0; }
-
 std::optional<wchar_t> AccessKeyOf(const std::wstring& text)
 {
     std::optional<wchar_t> key;
@@ -42,8 +38,8 @@ std::wstring WithoutPairs(std::wstring name)
 std::wstring SpokenName(HWND control)
 {
     ComPtr<IAccessible> accessible;
-    void** const place = reinterpret_cast<void**>(accessible.GetAddressOf());
-    if (FAILED(::AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT), kAccessibleId, place)))
+    if (FAILED(::AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT),
+                                            IID_PPV_ARGS(accessible.GetAddressOf()))))
         return {};
     VARIANT self{};
     self.vt = VT_I4;
@@ -60,7 +56,8 @@ std::wstring ReadingProblem(HWND form)
     for (HWND child = ::GetWindow(form, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
         if (!::IsWindowVisible(child)) continue;
         const std::wstring name = ControlNameOf(::GetDlgCtrlID(child));
-        if (HasStyle(child, WS_TABSTOP) && SpokenName(child).empty()) nameless = name;
+        const bool takesKeys = (::GetWindowLongPtrW(child, GWL_STYLE) & WS_TABSTOP) != 0;
+        if (takesKeys && SpokenName(child).empty()) nameless = name;
         if (!IsClass(child, WC_STATICW) && !IsClass(child, WC_BUTTONW)) continue;
         const auto key = AccessKeyOf(WindowText(child).value_or(L""));
         if (!key) continue;

@@ -23,19 +23,13 @@ struct WantedMessage
 
 WantedMessage WantedBy(const Step& step)
 {
-    auto words = std::span{step.words};
-    WantedMessage wanted;
-    wanted.isWhole = words.front().text == L"exactly" && !words.front().quoted;
-    if (wanted.isWhole) words = words.subspan(1);
-    const auto texts = static_cast<std::size_t>(std::ranges::find(words, false, &Word::quoted) - words.begin());
-    if (texts == 0 || words.size() > texts + 2) Fail(L"a message step takes quoted texts, one button and one form");
-    if (texts < words.size()) wanted.button = words[texts].text;
-    if (texts + 2 == words.size()) wanted.form = words.back().text;
-    words = words.first(texts);
-    for (const Word& line : words)
-        wanted.text += (&line == &words.front() ? L"" : L"\r\n") + line.text;
-    wanted.isOneLine = words.size() == 1;
-    return wanted;
+    const std::size_t first = step.At(0) == L"exactly" && !step.words[0].quoted ? 1 : 0;
+    const auto texts = std::span{step.words}.subspan(first);
+    const auto button =
+        first + static_cast<std::size_t>(std::ranges::find(texts, false, &Word::quoted) - texts.begin());
+    if (button == first || step.words.size() > button + 2)
+        Fail(L"a message step takes quoted texts, one button and one form");
+    return {step.Lines(first, button), step.At(button), step.At(button + 1), first == 1, button == first + 1};
 }
 
 bool IsWanted(const WantedMessage& wanted, const std::wstring& found)

@@ -1,7 +1,11 @@
 #include <algorithm>
+#include <filesystem>
+
+#include <windows.h>
+
+#include <shlwapi.h>
 
 #include "platform/Files.h"
-#include "platform/Owners.h"
 #include "platform/Utf8.h"
 #include "player/Run.h"
 #include "player/Screen.h"
@@ -25,23 +29,15 @@ bool AwaitsPaint()
     });
 }
 
-struct SearchTraits
-{
-    using Value = HANDLE;
-    static constexpr Value kEmpty = nullptr;
-    static void Free(Value search) noexcept { ::FindClose(search); }
-};
-
 // The first file of the pattern's, or an empty text.
 std::wstring FileMatching(const std::wstring& pattern)
 {
-    WIN32_FIND_DATAW data{};
-    const HANDLE found = ::FindFirstFileW(pattern.c_str(), &data);
-    if (found == INVALID_HANDLE_VALUE) return {};
-    const Unique<SearchTraits> search{found};
-    do
-        if ((data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) return data.cFileName;
-    while (::FindNextFileW(search.Get(), &data));
+    const std::filesystem::path path{pattern};
+    std::error_code none; // of a folder that is not there
+    for (const auto& entry : std::filesystem::directory_iterator{path.parent_path(), none})
+        if (const auto name = entry.path().filename();
+            entry.is_regular_file() && ::PathMatchSpecW(name.c_str(), path.filename().c_str()))
+            return name;
     return {};
 }
 

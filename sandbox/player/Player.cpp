@@ -10,11 +10,6 @@ namespace corvane::player
 namespace
 {
 
-std::wstring Place(std::size_t number, std::size_t count)
-{
-    return L"[" + std::to_wstring(number) + L"/" + std::to_wstring(count) + L"] ";
-}
-
 void PerformAll(Stage& stage, const std::vector<Step>& steps, const Settings& settings, const Step*& current)
 {
     Run run{stage};
@@ -25,7 +20,8 @@ void PerformAll(Stage& stage, const std::vector<Step>& steps, const Settings& se
     for (const Step& step : steps) {
         current = &step;
         ++number;
-        if (tells) stage.Tell(Place(number, steps.size()) + step.source);
+        const std::wstring place = std::to_wstring(number) + L"/" + std::to_wstring(steps.size());
+        if (tells) stage.Tell(L"[" + place + L"] " + step.source);
         if (run.HasQuit()) Fail(L"the host has quit");
         step.row->perform(stage, run, step);
         run.CheckFaults();

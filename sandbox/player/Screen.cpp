@@ -19,13 +19,6 @@ BOOL CALLBACK AddWindow(HWND window, LPARAM list)
     return TRUE;
 }
 
-bool IsShownHere(HWND window)
-{
-    DWORD process = 0;
-    ::GetWindowThreadProcessId(window, &process);
-    return process == ::GetCurrentProcessId() && ::IsWindowVisible(window);
-}
-
 // The text that the window writes into the buffer.
 std::optional<std::wstring> Answer(HWND window, UINT message, WPARAM wParam)
 {
@@ -46,13 +39,10 @@ std::optional<std::wstring> ListEntry(HWND list)
     return Answer(list, LB_GETTEXT, static_cast<WPARAM>(*chosen));
 }
 
-std::wstring DescribeControl(HWND control)
+std::wstring Described(HWND window, const std::optional<std::wstring>& text)
 {
-    const auto text = ControlText(control);
-    std::wstring line = L"    " + ControlNameOf(::GetDlgCtrlID(control)) + L" " + ClassOf(control) + L" \"" +
-                        text.value_or(L"(does not answer)") + L"\"";
-    if (!::IsWindowEnabled(control)) line += L" disabled";
-    return line + L"\n";
+    return ClassOf(window) + L" \"" + text.value_or(L"(does not answer)") + L"\"" +
+           (::IsWindowEnabled(window) ? L"\n" : L" disabled\n");
 }
 
 } // namespace
@@ -71,11 +61,25 @@ wchar_t* AnswerBuffer()
     return buffer;
 }
 
-std::vector<HWND> VisibleWindows()
+bool IsOwn(HWND window)
+{
+    DWORD process = 0;
+    ::GetWindowThreadProcessId(window, &process);
+    return process == ::GetCurrentProcessId();
+}
+
+std::vector<HWND> OwnWindows()
 {
     Windows windows;
     ::EnumWindows(AddWindow, reinterpret_cast<LPARAM>(&windows));
-    std::erase_if(windows, [](HWND window) { return !IsShownHere(window); });
+    std::erase_if(windows, [](HWND window) { return !IsOwn(window); });
+    return windows;
+}
+
+std::vector<HWND> VisibleWindows()
+{
+    Windows windows = OwnWindows();
+    std::erase_if(windows, [](HWND window) { return !::IsWindowVisible(window); });
     return windows;
 }
 
@@ -154,11 +158,10 @@ std::wstring DescribeScreen()
 {
     std::wstring report = L"visible windows:\n";
     for (HWND window : VisibleWindows()) {
-        report += L"  " + ClassOf(window) + L" \"" + WindowText(window).value_or(L"(does not answer)") + L"\"";
-        if (!::IsWindowEnabled(window)) report += L" disabled";
-        report += L"\n";
+        report += L"  " + Described(window, WindowText(window));
         for (HWND child : ChildrenOf(window))
-            if (::IsWindowVisible(child)) report += DescribeControl(child);
+            if (::IsWindowVisible(child))
+                report += L"    " + ControlNameOf(::GetDlgCtrlID(child)) + L" " + Described(child, ControlText(child));
     }
     return report;
 }

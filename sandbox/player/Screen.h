@@ -14,7 +14,9 @@
 namespace corvane::player
 {
 
-// The visible top-level windows of this process, the topmost first.
+// The top-level windows of this process, and those of them that show, the topmost first.
+[[nodiscard]] bool IsOwn(HWND window);
+[[nodiscard]] std::vector<HWND> OwnWindows();
 [[nodiscard]] std::vector<HWND> VisibleWindows();
 [[nodiscard]] std::vector<HWND> ChildrenOf(HWND window); // at any depth
 
@@ -83,7 +85,7 @@ constexpr std::size_t kAnswerLength = 65536;
 void PointAt(HWND form, HWND control);
 
 // Writes a window as it shows on the screen, or the whole screen for null, as a PNG. Throws Error when the
-// screen cannot be read or the file not written. COM must be initialised on the calling thread.
+// screen cannot be read or the file not written.
 void SaveScreenshot(const std::wstring& path, HWND window);
 
 // The id of a control by the name that the forms' resource header gives it; "IDOK" and the like stand for themselves.

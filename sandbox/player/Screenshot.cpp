@@ -1,9 +1,8 @@
 #include "player/Screen.h"
 
-#include <initguid.h>
-#include <windows.h>
+#include <ole2.h>
 
-#include <wincodec.h>
+#include <gdiplus.h>
 
 #include "platform/Owners.h"
 #include "player/Run.h"
@@ -13,12 +12,7 @@ namespace corvane::player
 namespace
 {
 
-constexpr wchar_t kNotWritten[] = L"The picture cannot be written.";
-
-void Require(HRESULT result, const std::wstring& otherwise = kNotWritten)
-{
-    if (FAILED(result)) Fail(otherwise);
-}
+constexpr CLSID kPngEncoder{0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
 
 RECT PlaceOf(HWND window)
 {
@@ -40,35 +34,24 @@ UniqueBitmap CopyOfScreen(const RECT& part)
     return bitmap;
 }
 
-void Encode(IWICImagingFactory& factory, IWICStream& stream, IWICBitmap& picture)
+// Stays for the next picture.
+void StartGdiPlus()
 {
-    ComPtr<IWICBitmapEncoder> encoder;
-    ComPtr<IWICBitmapFrameEncode> frame;
-    Require(factory.CreateEncoder(GUID_ContainerFormatPng, nullptr, encoder.GetAddressOf()));
-    Require(encoder->Initialize(&stream, WICBitmapEncoderNoCache));
-    Require(encoder->CreateNewFrame(frame.GetAddressOf(), nullptr));
-    Require(frame->Initialize(nullptr));
-    Require(frame->WriteSource(&picture, nullptr));
-    Require(frame->Commit());
-    Require(encoder->Commit());
+    static ULONG_PTR token = 0;
+    const Gdiplus::GdiplusStartupInput input;
+    if (token == 0 && Gdiplus::GdiplusStartup(&token, &input, nullptr) != Gdiplus::Ok)
+        Fail(L"The imaging component is missing.");
 }
 
 } // namespace
 
 void SaveScreenshot(const std::wstring& path, HWND window)
 {
+    StartGdiPlus();
     const UniqueBitmap bitmap = CopyOfScreen(PlaceOf(window));
-    ComPtr<IWICImagingFactory> factory;
-    ComPtr<IWICBitmap> picture;
-    ComPtr<IWICStream> stream;
-    Require(::CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
-                               reinterpret_cast<void**>(factory.GetAddressOf())),
-            L"The imaging component is missing.");
-    // The screen has no transparency.
-    Require(factory->CreateBitmapFromHBITMAP(bitmap.Get(), nullptr, WICBitmapIgnoreAlpha, picture.GetAddressOf()));
-    Require(factory->CreateStream(stream.GetAddressOf()));
-    Require(stream->InitializeFromFilename(path.c_str(), GENERIC_WRITE), L"The picture cannot be written to " + path);
-    Encode(*factory.Get(), *stream.Get(), *picture.Get());
+    Gdiplus::Bitmap picture{bitmap.Get(), nullptr};
+    if (picture.Save(path.c_str(), &kPngEncoder, nullptr) != Gdiplus::Ok)
+        Fail(L"The picture cannot be written to " + path);
 }
 
 } // namespace corvane::player

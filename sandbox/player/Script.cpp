@@ -35,10 +35,8 @@ public:
     {
         while (SkipBlanks())
             ReadWord();
-        Step step{m_line, FromUtf8(m_source), FindRow(), {}};
-        for (const auto& [text, quoted] : m_words)
-            step.words.push_back({FromUtf8(text), quoted});
-        return step;
+        const StepRow* const row = FindRow();
+        return {m_line, FromUtf8(m_source), row, std::move(m_words)};
     }
 
 private:
@@ -55,13 +53,14 @@ private:
 
     void ReadWord()
     {
-        if (m_source[m_at] == '"') {
-            m_words.emplace_back(Replace(Quoted()), true);
-            return;
-        }
-        const std::size_t end = std::min(m_source.find_first_of(kBlanks, m_at), m_source.size());
-        m_words.emplace_back(Replace(m_source.substr(m_at, end - m_at)), false);
-        m_at = end;
+        const bool quoted = m_source[m_at] == '"';
+        m_words.push_back({FromUtf8(Replace(quoted ? Quoted() : Bare())), quoted});
+    }
+
+    std::string Bare()
+    {
+        const std::size_t start = std::exchange(m_at, std::min(m_source.find_first_of(kBlanks, m_at), m_source.size()));
+        return std::string{m_source.substr(start, m_at - start)};
     }
 
     // A quoted text; two quotes in it stand for one.
@@ -107,9 +106,9 @@ private:
     // Takes the step's name off the words.
     const StepRow* FindRow()
     {
-        const std::string verb = m_words.front().first;
-        const bool hasSecond = m_words.size() > 1 && !m_words[1].second;
-        const StepRow* row = hasSecond ? RowNamed(verb + " " + m_words[1].first) : nullptr;
+        const std::string verb = ToUtf8(m_words.front().text);
+        const bool hasSecond = m_words.size() > 1 && !m_words[1].quoted;
+        const StepRow* row = hasSecond ? RowNamed(verb + " " + ToUtf8(m_words[1].text)) : nullptr;
         m_words.erase(m_words.begin(), m_words.begin() + (row == nullptr ? 1 : 2));
         if (row == nullptr) row = RowNamed(verb);
         if (row == nullptr) Fail("no step is named " + verb);
@@ -122,7 +121,7 @@ private:
     std::string_view m_source;
     const Settings& m_settings;
     std::span<const StepRow> m_rows;
-    std::vector<std::pair<std::string, bool>> m_words; // with whether it was quoted
+    std::vector<Word> m_words;
     std::size_t m_at = 0;
 };
 
@@ -156,10 +155,10 @@ std::vector<Step> Unrolled(const std::vector<Step>& steps)
 
 std::wstring Step::At(std::size_t index) const { return index < words.size() ? words[index].text : std::wstring{}; }
 
-std::wstring Step::Lines(std::size_t first) const
+std::wstring Step::Lines(std::size_t first, std::size_t end) const
 {
     std::wstring text;
-    for (std::size_t i = first; i < words.size(); ++i)
+    for (std::size_t i = first; i < std::min(end, words.size()); ++i)
         text += (i == first ? L"" : L"\r\n") + words[i].text;
     return text;
 }

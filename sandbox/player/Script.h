@@ -44,8 +44,8 @@ struct Step
     // The word at this position, or an empty text.
     [[nodiscard]] std::wstring At(std::size_t index) const;
 
-    // The words from this position on, as the lines of one text.
-    [[nodiscard]] std::wstring Lines(std::size_t first) const;
+    // The words from this position on, up to the other, as the lines of one text.
+    [[nodiscard]] std::wstring Lines(std::size_t first, std::size_t end = kAny) const;
 };
 
 // A line that is no step.

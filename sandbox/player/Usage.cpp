@@ -5,6 +5,8 @@
 #include <cstring>
 #include <psapi.h>
 
+#include "player/Screen.h"
+
 namespace corvane::player
 {
 namespace
@@ -47,26 +49,13 @@ std::size_t GdiObjects()
     return count;
 }
 
-BOOL CALLBACK CountOwn(HWND window, LPARAM count)
-{
-    DWORD process = 0;
-    ::GetWindowThreadProcessId(window, &process);
-    if (process == ::GetCurrentProcessId()) ++*reinterpret_cast<std::size_t*>(count);
-    return TRUE;
-}
-
-BOOL CALLBACK CountWithChildren(HWND window, LPARAM count)
-{
-    ::EnumChildWindows(window, &CountOwn, count);
-    return CountOwn(window, count);
-}
-
 std::size_t Windows()
 {
     std::size_t count = 0;
-    ::EnumWindows(&CountWithChildren, reinterpret_cast<LPARAM>(&count));
+    for (HWND window : OwnWindows())
+        count += 1 + ChildrenOf(window).size();
     for (HWND hidden = nullptr; (hidden = ::FindWindowExW(HWND_MESSAGE, hidden, nullptr, nullptr)) != nullptr;)
-        CountOwn(hidden, reinterpret_cast<LPARAM>(&count));
+        count += IsOwn(hidden) ? 1 : 0;
     return count;
 }
 

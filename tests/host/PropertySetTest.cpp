@@ -8,8 +8,8 @@ namespace
 {
 
 const std::vector<PropertySection> kSections = {
-    {kDocumentSummarySet, {}},
-    {kUserDefinedSet,
+    {FMTID_DocSummaryInformation, {}},
+    {FMTID_UserDefinedProperties,
      {{2, {"KRX_SYS_Server", PropertyType::Text, "http://h\xc3\xb6st"}},
       {3, {"KRX_SYS_ProjectID", PropertyType::Number, "-12"}},
       {4, {"Flag", PropertyType::Boolean, "true"}},
@@ -21,7 +21,7 @@ TEST(PropertySetTest, KeepsNamesTypesAndValuesOfEverySection)
 {
     const auto read = ReadPropertySet(WritePropertySet(kSections));
     ASSERT_EQ(read.size(), 2u);
-    EXPECT_EQ(read[0].format, kDocumentSummarySet);
+    EXPECT_EQ(read[0].format, FMTID_DocSummaryInformation);
     EXPECT_EQ(read[1].properties, kSections[1].properties);
 }
 

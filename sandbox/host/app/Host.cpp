@@ -184,12 +184,10 @@ void Host::Guarded(const std::function<void()>& action)
     ++m_running;
     try {
         action();
-    } catch (const Error& error) {
-        AddFault(error.Description());
-        if (m_session.Settings().playFile.empty())
-            ::MessageBoxW(m_window->Handle(), error.Description().c_str(), L"Stand-in host", MB_ICONEXCLAMATION);
     } catch (const std::exception& error) {
-        AddFault(Widen(error.what()));
+        AddFault(ReasonOf(error));
+        if (m_session.Settings().playFile.empty())
+            ::MessageBoxW(m_window->Handle(), ReasonOf(error).c_str(), L"Stand-in host", MB_ICONEXCLAMATION);
     }
     --m_running;
 }

@@ -11,9 +11,9 @@ namespace host
 namespace
 {
 
-const wchar_t*& Source()
+std::wstring& Source()
 {
-    static const wchar_t* source = L"Microsoft Office";
+    static std::wstring source = L"Microsoft Office";
     return source;
 }
 
@@ -49,7 +49,7 @@ ObjectCore::ObjectCore(const wchar_t* className, std::span<const Member> members
 
 ObjectCore::~ObjectCore() { --Ledger()[m_className]; }
 
-void ObjectCore::SetSource(const wchar_t* source) { Source() = source; }
+void ObjectCore::SetSource(const std::wstring& source) { Source() = source; }
 
 std::wstring ObjectCore::StillReferenced()
 {

@@ -69,7 +69,7 @@ public:
     HRESULT Call(DISPID id, WORD flags, const DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception) noexcept;
 
     // What all objects of this process name as the source of their errors.
-    static void SetSource(const wchar_t* source);
+    static void SetSource(const std::wstring& source);
 
     // The objects that are still referred to, as "Application x1, Presentation x2"; an empty text where none is.
     static std::wstring StillReferenced();

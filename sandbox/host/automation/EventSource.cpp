@@ -57,21 +57,6 @@ STDMETHODIMP EventSource::FindConnectionPoint(REFIID id, IConnectionPoint** poin
     return S_OK;
 }
 
-STDMETHODIMP EventSource::GetConnectionInterface(IID* id)
-{
-    if (id == nullptr) return E_POINTER;
-    *id = m_events;
-    return S_OK;
-}
-
-STDMETHODIMP EventSource::GetConnectionPointContainer(IConnectionPointContainer** container)
-{
-    if (container == nullptr) return E_POINTER;
-    *container = this;
-    AddRef();
-    return S_OK;
-}
-
 STDMETHODIMP EventSource::Advise(IUnknown* sink, DWORD* cookie)
 {
     if (sink == nullptr || cookie == nullptr) return E_POINTER;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "base/Text.h"
+
 namespace host
 {
 namespace
@@ -14,10 +16,8 @@ constexpr int kEveryVersion = 99;
 
 constexpr HostFacts kHosts[] = {
     {.kind = HostKind::PowerPoint,
-     .option = L"powerpoint",
      .name = L"Microsoft PowerPoint",
      .product = L"PowerPoint",
-     .source = L"Microsoft PowerPoint",
      .ribbonId = L"Microsoft.PowerPoint.Presentation",
      .noun = L"presentation",
      .newName = L"Presentation",
@@ -27,10 +27,8 @@ constexpr HostFacts kHosts[] = {
      .fileTypes = L"Presentations\0*.pptx;*.pptm;*.ppsx;*.ppt\0All files\0*.*\0"sv,
      .lastMarkingVersion = kEveryVersion},
     {.kind = HostKind::Word,
-     .option = L"word",
      .name = L"Microsoft Word",
      .product = L"Word",
-     .source = L"Microsoft Word",
      .ribbonId = L"Microsoft.Word.Document",
      .noun = L"document",
      .newName = L"Document",
@@ -41,10 +39,8 @@ constexpr HostFacts kHosts[] = {
      .savesOnlyChanges = true,
      .asksForName = true},
     {.kind = HostKind::Excel,
-     .option = L"excel",
      .name = L"Microsoft Excel",
      .product = L"Excel",
-     .source = L"Microsoft Excel",
      .ribbonId = L"Microsoft.Excel.Workbook",
      .noun = L"workbook",
      .newName = L"Book",
@@ -57,10 +53,8 @@ constexpr HostFacts kHosts[] = {
      .lastMarkingVersion = 11,
      .savesOnlyChanges = true},
     {.kind = HostKind::Outlook,
-     .option = L"outlook",
      .name = L"Outlook",
      .product = L"Outlook",
-     .source = L"Microsoft Outlook",
      .ribbonId = L"Microsoft.Outlook.Mail.Compose",
      .noun = L"item",
      .newName = L"Untitled",
@@ -79,7 +73,8 @@ const HostFacts& FactsOf(HostKind kind) { return *std::ranges::find(kHosts, kind
 
 const HostFacts* FindHost(std::wstring_view option)
 {
-    const auto found = std::ranges::find(kHosts, option, &HostFacts::option);
+    const auto found =
+        std::ranges::find_if(kHosts, [&](const HostFacts& one) { return SameText(one.product, option); });
     return found == std::end(kHosts) ? nullptr : &*found;
 }
 

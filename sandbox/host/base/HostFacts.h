@@ -35,14 +35,12 @@ enum class Edition
 struct HostFacts
 {
     HostKind kind;
-    std::wstring_view option;             // of --host, and the stem of its key below the add-ins
-    const wchar_t* name;                  // Application.Name
-    const wchar_t* product;               // in captions and messages, and its key below Software\Microsoft\Office
-    const wchar_t* source;                // of its errors
-    const wchar_t* ribbonId;              // handed to GetCustomUI
-    const wchar_t* noun;                  // one document
-    const wchar_t* newName;               // of a never-saved document
-    bool numbersNew = true;               // "Book1", "Book2"
+    const wchar_t* name;     // Application.Name
+    const wchar_t* product;  // in captions and messages; its key below Software\Microsoft\Office; its option
+    const wchar_t* ribbonId; // handed to GetCustomUI
+    const wchar_t* noun;     // one document
+    const wchar_t* newName;  // of a never-saved document
+    bool numbersNew = true;  // "Book1", "Book2"
     const wchar_t* menuBar = L"Menu Bar"; // the command bar with its menus
     const wchar_t* versionEnd = L"";      // behind the version that the options name, in Application.Version
     int pageWidth;                        // the shape of what the window shows

@@ -21,7 +21,7 @@ constexpr std::pair<const char*, std::uint32_t> kSummaryIds[] = {
 
 PropertySection SummarySection(const std::vector<CustomProperty>& summary)
 {
-    PropertySection section{kSummarySet, {}};
+    PropertySection section{FMTID_SummaryInformation, {}};
     for (const auto& [name, id] : kSummaryIds)
         for (const CustomProperty& property : summary)
             if (property.name == name && !property.value.empty()) section.properties.push_back({id, property});
@@ -30,7 +30,7 @@ PropertySection SummarySection(const std::vector<CustomProperty>& summary)
 
 PropertySection UserDefinedSection(const std::vector<CustomProperty>& custom)
 {
-    PropertySection section{kUserDefinedSet, {}};
+    PropertySection section{FMTID_UserDefinedProperties, {}};
     std::uint32_t id = kFirstUserId;
     for (const CustomProperty& property : custom)
         section.properties.push_back({id++, property});
@@ -40,8 +40,9 @@ PropertySection UserDefinedSection(const std::vector<CustomProperty>& custom)
 void Take(const PropertySection& section, DocumentContents& contents)
 {
     for (const SetProperty& row : section.properties) {
-        if (section.format == kUserDefinedSet && !row.property.name.empty()) contents.custom.push_back(row.property);
-        if (section.format != kSummarySet) continue;
+        if (section.format == FMTID_UserDefinedProperties && !row.property.name.empty())
+            contents.custom.push_back(row.property);
+        if (section.format != FMTID_SummaryInformation) continue;
         for (const auto& [name, id] : kSummaryIds)
             if (id == row.id) contents.builtIn.push_back({name, PropertyType::Text, row.property.value});
     }
@@ -99,11 +100,11 @@ DocumentContents ReadCompoundFile(const std::string& bytes)
 std::string WriteCompoundFile(HostKind host, bool isTemplate, const DocumentContents& contents)
 {
     const MainStream& main = *std::ranges::find(kMainStreams, host, &MainStream::host);
-    return WriteStorage(
-        main.classId,
-        {{main.name, main.start(isTemplate)},
-         {kSummaryStream, WritePropertySet({SummarySection(contents.builtIn)})},
-         {kDocumentSummaryStream, WritePropertySet({{kDocumentSummarySet, {}}, UserDefinedSection(contents.custom)})}});
+    return WriteStorage(main.classId,
+                        {{main.name, main.start(isTemplate)},
+                         {kSummaryStream, WritePropertySet({SummarySection(contents.builtIn)})},
+                         {kDocumentSummaryStream,
+                          WritePropertySet({{FMTID_DocSummaryInformation, {}}, UserDefinedSection(contents.custom)})}});
 }
 
 } // namespace host

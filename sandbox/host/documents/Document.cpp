@@ -65,7 +65,10 @@ Document Document::Open(HostVersion host, const std::wstring& path, bool readOnl
         Refuse(host.kind, RefusalOf(*failure), full);
     const bool storage = IsStorage(bytes);
     try {
-        document.Read(bytes, storage);
+        if (storage)
+            document.Take(host.kind == HostKind::Outlook ? ReadMessageFile(bytes) : ReadCompoundFile(bytes));
+        else
+            document.ReadPackage(bytes);
     } catch (const std::exception& error) {
         Refuse(host.kind, Refusal::NotRead, full + L": " + ReasonOf(error));
     }
@@ -170,33 +173,14 @@ void Document::CheckEditable() const
 
 std::string Document::Bytes(const SaveFormat& format) const
 {
-    switch (format.container) {
-    case Container::Compound:
-        return WriteCompoundFile(m_host.kind, format.isTemplate, m_contents);
-    case Container::Message:
-        return WriteMessageFile(format.number == kUnicodeMessage, m_contents);
-    case Container::Package:
-        break;
-    }
-    return PackageBytes(format);
-}
-
-std::string Document::PackageBytes(const SaveFormat& format) const
-{
+    if (format.container == Container::Compound) return WriteCompoundFile(m_host.kind, format.isTemplate, m_contents);
+    if (format.container == Container::Message) return WriteMessageFile(format.number == kUnicodeMessage, m_contents);
     OfficePackage package = m_package ? *m_package : OfficePackage::New(m_host.kind, m_contents.BuiltIn("Title"), {});
     for (const BuiltInProperty& row : BuiltInOf(m_host.kind))
         if (row.coreElement != nullptr) package.SetCoreProperty(row.coreElement, m_contents.BuiltIn(row.name));
     package.SetCustomProperties(m_contents.custom);
     package.SetMainType(format.type);
     return package.Write();
-}
-
-void Document::Read(const std::string& bytes, bool storage)
-{
-    if (!storage)
-        ReadPackage(bytes);
-    else
-        Take(m_host.kind == HostKind::Outlook ? ReadMessageFile(bytes) : ReadCompoundFile(bytes));
 }
 
 void Document::ReadPackage(const std::string& bytes)

@@ -68,8 +68,6 @@ private:
     void Write(const std::wstring& path, const SaveFormat& format, SaveFault fault);
     [[nodiscard]] std::wstring CheckedPath(const std::wstring& path, const SaveFormat& format) const;
     [[nodiscard]] std::string Bytes(const SaveFormat& format) const;
-    [[nodiscard]] std::string PackageBytes(const SaveFormat& format) const;
-    void Read(const std::string& bytes, bool storage);
     void ReadPackage(const std::string& bytes);
     void Take(const DocumentContents& read);
     void TakeFile(const std::wstring& path);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cwctype>
+#include <regex>
 #include <thread>
 
 #include "automation/Errors.h"
@@ -125,15 +126,9 @@ bool IsWriteProtected(const std::wstring& path)
 
 bool IsUsableName(const std::wstring& path)
 {
+    static const std::wregex device{L"(CON|PRN|AUX|NUL|(COM|LPT)[1-9]) *(\\..*)?", std::regex::icase};
     const std::wstring name = FileName(path);
-    std::wstring stem = name.substr(0, name.find(L'.'));
-    while (stem.ends_with(L' '))
-        stem.pop_back();
-    std::ranges::transform(stem, stem.begin(), [](wchar_t c) { return std::towupper(c); });
-    const bool numbered = stem.size() == 4 && stem[3] >= L'1' && stem[3] <= L'9';
-    const bool port = numbered && (stem.starts_with(L"COM") || stem.starts_with(L"LPT"));
-    const bool device = stem == L"CON" || stem == L"PRN" || stem == L"AUX" || stem == L"NUL";
-    return !name.empty() && !port && !device && name.find_first_of(L"<>:\"|?*") == std::wstring::npos;
+    return !name.empty() && !std::regex_match(name, device) && name.find_first_of(L"<>:\"|?*") == std::wstring::npos;
 }
 
 std::wstring FullPath(const std::wstring& path)
@@ -146,8 +141,7 @@ std::wstring FullPath(const std::wstring& path)
 
 std::wstring FileName(const std::wstring& path)
 {
-    const std::size_t slash = path.find_last_of(L"\\/");
-    return slash == std::wstring::npos ? path : path.substr(slash + 1);
+    return path.substr(path.find_last_of(L"\\/") + 1); // from the start where there is no folder
 }
 
 std::wstring FolderOf(const std::wstring& path)

@@ -20,14 +20,9 @@ constexpr std::uint32_t kStoreMask = 0x340D'0003; // its bit 18: texts are Unico
 constexpr std::uint32_t kUnicodeStore = 0x0004'0000;
 constexpr std::uint32_t kReadableAndWritable = 6;
 
-struct MessageField
-{
-    const char* name;
-    std::uint32_t tag;
-};
-
-constexpr MessageField kFields[] = {{"Subject", 0x0037}, {"Body", 0x1000}, {"To", 0x0E04}, {"CC", 0x0E03}};
-constexpr MessageField kMessageKind{"IPM.Note", 0x001A};
+constexpr std::uint32_t kKindTag = 0x001A;
+constexpr std::pair<const char*, std::uint32_t> kFields[] = {
+    {"Subject", 0x0037}, {"Body", 0x1000}, {"To", 0x0E04}, {"CC", 0x0E03}};
 
 std::wstring StreamOf(std::uint32_t tag, std::uint32_t type)
 {
@@ -36,45 +31,18 @@ std::wstring StreamOf(std::uint32_t tag, std::uint32_t type)
     return name;
 }
 
-std::string WideBytes(const std::wstring& text)
+// The bytes of a text, and how many more end it where it is read.
+std::pair<std::string, std::size_t> BytesOf(const std::wstring& text, bool unicode)
 {
-    return {reinterpret_cast<const char*>(text.data()), text.size() * sizeof(wchar_t)};
+    if (!unicode) return {corvane::ToCodePage(text), 1};
+    return {{reinterpret_cast<const char*>(text.data()), text.size() * sizeof(wchar_t)}, sizeof(wchar_t)};
 }
 
-// Collects the streams of a message and the table that lists its properties.
-class MessageWriter
+// A row of the table that lists a message's properties.
+std::string RowOf(std::uint32_t tag, std::size_t value)
 {
-public:
-    explicit MessageWriter(bool unicode) : m_type{unicode ? kUnicodeText : kAnsiText}
-    {
-        if (unicode) AddRow(kStoreMask, kUnicodeStore, 0);
-    }
-
-    void Add(std::uint32_t tag, const std::string& value)
-    {
-        const bool unicode = m_type == kUnicodeText;
-        const std::string bytes = unicode ? WideBytes(Widen(value)) : corvane::ToCodePage(Widen(value));
-        AddRow(tag << 16 | m_type, static_cast<std::uint32_t>(bytes.size() + (unicode ? 2 : 1)), 0);
-        m_streams.push_back({StreamOf(tag, m_type), bytes});
-    }
-
-    [[nodiscard]] std::string Write()
-    {
-        m_streams.push_back({kPropertiesStream, std::string(32, '\0') + m_rows});
-        return WriteStorage(kMessageClass, m_streams);
-    }
-
-private:
-    void AddRow(std::uint32_t tag, std::uint32_t first, std::uint32_t second)
-    {
-        for (const std::uint32_t number : {tag, kReadableAndWritable, first, second})
-            AppendNumber(m_rows, number, 4);
-    }
-
-    std::uint32_t m_type;
-    std::string m_rows;
-    std::vector<StorageStream> m_streams;
-};
+    return Numbers({{tag, 4}, {kReadableAndWritable, 4}, {value, 4}, {0, 4}});
+}
 
 std::wstring FieldText(const std::vector<StorageStream>& streams, std::uint32_t tag)
 {
@@ -89,18 +57,26 @@ DocumentContents ReadMessageFile(const std::string& bytes)
 {
     const auto streams = ReadStorage(bytes);
     DocumentContents contents;
-    for (const MessageField& field : kFields)
-        contents.builtIn.push_back({field.name, PropertyType::Text, Narrow(FieldText(streams, field.tag))});
+    for (const auto& [name, tag] : kFields)
+        contents.builtIn.push_back({name, PropertyType::Text, Narrow(FieldText(streams, tag))});
     return contents;
 }
 
 std::string WriteMessageFile(bool unicode, const DocumentContents& contents)
 {
-    MessageWriter writer{unicode};
-    writer.Add(kMessageKind.tag, kMessageKind.name);
-    for (const MessageField& field : kFields)
-        writer.Add(field.tag, contents.BuiltIn(field.name));
-    return writer.Write();
+    std::string rows(32, '\0');
+    if (unicode) rows += RowOf(kStoreMask, kUnicodeStore);
+    std::vector<StorageStream> streams;
+    const auto add = [&, type = unicode ? kUnicodeText : kAnsiText](std::uint32_t tag, const std::string& value) {
+        const auto [bytes, end] = BytesOf(Widen(value), unicode);
+        rows += RowOf(tag << 16 | type, bytes.size() + end);
+        streams.push_back({StreamOf(tag, type), bytes});
+    };
+    add(kKindTag, "IPM.Note");
+    for (const auto& [name, tag] : kFields)
+        add(tag, contents.BuiltIn(name));
+    streams.push_back({kPropertiesStream, rows});
+    return WriteStorage(kMessageClass, streams);
 }
 
 } // namespace host

@@ -55,22 +55,14 @@ constexpr std::pair<int, Refusal> kMeanings[] = {
     {ERROR_INVALID_NAME, Refusal::WrongName},
 };
 
-void Fill(std::wstring& text, std::wstring_view mark, const std::wstring& by)
-{
-    const std::size_t at = text.find(mark);
-    if (at != std::wstring::npos) text.replace(at, mark.size(), by);
-}
-
 } // namespace
 
 void Refuse(HostKind host, Refusal refusal, const std::wstring& subject)
 {
     const auto at = static_cast<std::size_t>(host);
     const RefusalRow& row = *std::ranges::find(kRows, refusal, &RefusalRow::refusal);
-    std::wstring text = row.text;
-    Fill(text, L"%2", FactsOf(host).product);
-    Fill(text, L"%3", FactsOf(host).noun);
-    Fill(text, L"%1", subject);
+    std::wstring text = Replaced<std::wstring>(row.text, L"%2", FactsOf(host).product);
+    text = Replaced(Replaced(text, L"%3", FactsOf(host).noun), L"%1", subject);
     throw Error{row.numbers[at] != 0 ? row.numbers[at] : kUsual[at], {}, text};
 }
 

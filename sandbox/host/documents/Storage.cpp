@@ -1,7 +1,6 @@
 #include "documents/CompoundFile.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include <ole2.h>
 #include <wrl/client.h>
@@ -17,7 +16,6 @@ namespace
 using Microsoft::WRL::ComPtr;
 
 constexpr DWORD kExclusive = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
-constexpr wchar_t kFailed[] = L"The compound file could not be processed.";
 constexpr char kSignature[] = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1";
 
 // A text that COM hands over to be freed.
@@ -28,47 +26,42 @@ struct TaskTextTraits
     static void Free(Value text) noexcept { ::CoTaskMemFree(text); }
 };
 
-ComPtr<ILockBytes> MemoryBytes(const std::string& bytes)
+void Ensure(HRESULT result) { ThrowIfFailed(result, L"The compound file could not be processed."); }
+
+ComPtr<ILockBytes> MemoryWith(const std::string& bytes)
 {
-    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, bytes.size());
-    if (memory == nullptr) throw Error{E_OUTOFMEMORY, {}, kFailed};
-    std::memcpy(::GlobalLock(memory), bytes.data(), bytes.size());
-    ::GlobalUnlock(memory);
-    ComPtr<ILockBytes> lockBytes;
-    ThrowIfFailed(::CreateILockBytesOnHGlobal(memory, TRUE, lockBytes.GetAddressOf()), kFailed);
-    return lockBytes;
+    ComPtr<ILockBytes> memory;
+    Ensure(::CreateILockBytesOnHGlobal(nullptr, TRUE, memory.GetAddressOf()));
+    Ensure(memory->WriteAt({}, bytes.data(), static_cast<ULONG>(bytes.size()), nullptr));
+    return memory;
 }
 
-std::string BytesOf(ILockBytes& lockBytes)
+// All of a stream or of a memory, from which this reads.
+template<class Source, class Read>
+std::string AllOf(Source& source, const Read& read)
 {
     STATSTG stat{};
-    ThrowIfFailed(lockBytes.Stat(&stat, STATFLAG_NONAME), kFailed);
+    Ensure(source.Stat(&stat, STATFLAG_NONAME));
     std::string bytes(static_cast<std::size_t>(stat.cbSize.QuadPart), '\0');
-    ULONG read = 0;
-    ThrowIfFailed(lockBytes.ReadAt({}, bytes.data(), static_cast<ULONG>(bytes.size()), &read), kFailed);
-    bytes.resize(read);
+    ULONG got = 0;
+    Ensure(read(bytes.data(), static_cast<ULONG>(bytes.size()), &got));
+    bytes.resize(got);
     return bytes;
 }
 
 void WriteStream(IStorage& storage, const wchar_t* name, const std::string& bytes)
 {
     ComPtr<IStream> stream;
-    ThrowIfFailed(storage.CreateStream(name, STGM_CREATE | kExclusive, 0, 0, stream.GetAddressOf()), kFailed);
-    ThrowIfFailed(stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr), kFailed);
+    Ensure(storage.CreateStream(name, STGM_CREATE | kExclusive, 0, 0, stream.GetAddressOf()));
+    Ensure(stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr));
 }
 
 std::string ReadStream(IStorage& storage, const wchar_t* name)
 {
     ComPtr<IStream> stream;
-    STATSTG stat{};
     if (FAILED(storage.OpenStream(name, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0, stream.GetAddressOf())))
         return {};
-    ThrowIfFailed(stream->Stat(&stat, STATFLAG_NONAME), kFailed);
-    std::string bytes(static_cast<std::size_t>(stat.cbSize.QuadPart), '\0');
-    ULONG read = 0;
-    ThrowIfFailed(stream->Read(bytes.data(), static_cast<ULONG>(bytes.size()), &read), kFailed);
-    bytes.resize(read);
-    return bytes;
+    return AllOf(*stream.Get(), [&](auto... into) { return stream->Read(into...); });
 }
 
 // The next stream of the root; false when there is none left. Storages inside it are passed over.
@@ -89,26 +82,23 @@ bool IsStorage(const std::string& bytes) { return bytes.starts_with(kSignature);
 
 std::string WriteStorage(REFCLSID classId, const std::vector<StorageStream>& streams)
 {
-    ComPtr<ILockBytes> memory;
+    const ComPtr<ILockBytes> memory = MemoryWith({});
     ComPtr<IStorage> storage;
-    ThrowIfFailed(::CreateILockBytesOnHGlobal(nullptr, TRUE, memory.GetAddressOf()), kFailed);
-    ThrowIfFailed(::StgCreateDocfileOnILockBytes(memory.Get(), STGM_CREATE | kExclusive, 0, storage.GetAddressOf()),
-                  kFailed);
-    ThrowIfFailed(storage->SetClass(classId), kFailed);
+    Ensure(::StgCreateDocfileOnILockBytes(memory.Get(), STGM_CREATE | kExclusive, 0, storage.GetAddressOf()));
+    Ensure(storage->SetClass(classId));
     for (const StorageStream& stream : streams)
         WriteStream(*storage.Get(), stream.name.c_str(), stream.bytes);
-    ThrowIfFailed(storage->Commit(STGC_DEFAULT), kFailed);
-    return BytesOf(*memory.Get());
+    Ensure(storage->Commit(STGC_DEFAULT));
+    return AllOf(*memory.Get(), [&](auto... into) { return memory->ReadAt({}, into...); });
 }
 
 std::vector<StorageStream> ReadStorage(const std::string& bytes)
 {
-    const auto memory = MemoryBytes(bytes);
+    const ComPtr<ILockBytes> memory = MemoryWith(bytes);
     ComPtr<IStorage> storage;
-    ThrowIfFailed(::StgOpenStorageOnILockBytes(memory.Get(), nullptr, kExclusive, nullptr, 0, storage.GetAddressOf()),
-                  kFailed);
+    Ensure(::StgOpenStorageOnILockBytes(memory.Get(), nullptr, kExclusive, nullptr, 0, storage.GetAddressOf()));
     ComPtr<IEnumSTATSTG> elements;
-    ThrowIfFailed(storage->EnumElements(0, nullptr, 0, elements.GetAddressOf()), kFailed);
+    Ensure(storage->EnumElements(0, nullptr, 0, elements.GetAddressOf()));
     std::vector<StorageStream> streams;
     for (std::wstring name; NextStream(*elements.Get(), name);)
         streams.push_back({name, ReadStream(*storage.Get(), name.c_str())});

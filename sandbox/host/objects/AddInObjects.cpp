@@ -39,14 +39,7 @@ const Member ComAddInsObject::kMembers[] = {
      Answer<[](const ComAddInsObject& own) { return static_cast<long>(own.m_session.AddIns().size()); }>},
 };
 
-const Member RibbonUiObject::kMembers[] = {
-    {1, L"Invalidate", kMethod, Answer<&RibbonUiObject::Ask>},
-    {2, L"InvalidateControl", kMethod, Answer<&RibbonUiObject::Ask>},
-    {3, L"InvalidateControlMso", kMethod, Answer<&RibbonUiObject::Ask>},
-    {4, L"ActivateTab", kMethod, Answer<&RibbonUiObject::Ask>},
-    {5, L"ActivateTabMso", kMethod, Answer<&RibbonUiObject::Ask>},
-    {6, L"ActivateTabQ", kMethod, Answer<&RibbonUiObject::Ask>},
-};
+const Member RibbonUiObject::kMembers[] = {{1, L"Invalidate", kMethod, Answer<&RibbonUiObject::Ask>}};
 
 RibbonControlObject::RibbonControlObject(std::wstring id, std::wstring tag, ComPtr<IDispatch> context)
     : AutomationObject{L"IRibbonControl", kMembers}, m_id{std::move(id)}, m_tag{std::move(tag)}, m_context{

@@ -67,7 +67,7 @@ public:
     STDMETHODIMP ActivateTabQ(BSTR, BSTR) override { return Invalidate(); }
 
 private:
-    static const Member kMembers[6];
+    static const Member kMembers[1];
 
     void Ask()
     {

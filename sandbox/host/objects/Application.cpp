@@ -70,8 +70,6 @@ DocumentObject* ApplicationObject::ActiveDocument()
 ComPtr<IDispatch> ApplicationObject::CommandBars() { return &m_session.CommandBars(); }
 ComPtr<IDispatch> ApplicationObject::ComAddIns() { return MakeObject<ComAddInsObject>(m_session); }
 
-Variant ApplicationObject::Interactive(const Arguments& arguments) { return ReadOrWrite(arguments, m_interactive); }
-
 ComPtr<DocumentObject> ApplicationObject::CreateItem(const Arguments& arguments)
 {
     if (arguments.At(0).Number() != kMailItem) throw Error{E_INVALIDARG, {}, L"Only mail items are offered."};

@@ -34,8 +34,7 @@ public:
     ComPtr<IDispatch> ComAddIns();
     void Run(const Arguments& arguments) { m_session.RunMacro(arguments.At(0).Text()); }
     void Quit() { m_session.onQuit(); }
-    void Activate() { ::SetForegroundWindow(m_session.window); }
-    Variant Interactive(const Arguments& arguments);
+    Variant Interactive(const Arguments& arguments) { return ReadOrWrite(arguments, m_interactive); }
     bool Ready() const { return !m_session.IsEditing(); }
     ComPtr<DocumentObject> CreateItem(const Arguments& arguments);
 

@@ -32,23 +32,14 @@ Variant BarControlObject::Property(const Arguments& arguments, const wchar_t* na
 
 const Member BarControlObject::kMembers[] = {
     {0, L"Caption", kGetPut, Answer<[](C& own, A value) { return own.Property<&C::m_caption>(value, L"Caption"); }>},
-    {1, L"BeginGroup", kGetPut,
-     Answer<[](C& own, A value) { return own.Property<&C::m_beginGroup>(value, L"BeginGroup"); }>},
-    {2, L"Controls", kGet, Answer<[](C& own) { return own.MenuOrFail().Controls(); }>},
-    {3, L"CommandBar", kGet, Answer<[](C& own) { return &own.MenuOrFail(); }>},
+    {2, L"Controls", kGet, Answer<&C::Controls>},
     {4, L"Delete", kMethod, Answer<&C::Delete>},
     {5, L"Enabled", kGetPut, Answer<[](C& own, A value) { return own.Property<&C::m_enabled>(value, L"Enabled"); }>},
-    {6, L"Execute", kMethod, Answer<&C::Press>},
     {7, L"Id", kGet, Answer<[](C& own) { return own.CheckTells(L"id"), own.m_id; }>},
     {8, L"Index", kGet, Answer<&C::Index>},
-    {9, L"Parameter", kGetPut,
-     Answer<[](C& own, A value) { return own.Property<&C::m_parameter>(value, L"Parameter"); }>},
-    {10, L"Parent", kGet, Answer<[](C& own) { return own.m_parent; }>},
     {11, L"Style", kGetPut, Answer<[](C& own, A value) { return own.Property<&C::m_style>(value, L"Style"); }>},
     {12, L"Tag", kGetPut,
      Answer<[](C& own, A value) { return own.CheckTells(L"tag"), own.Property<&C::m_tag>(value, L"Tag"); }>},
-    {13, L"TooltipText", kGetPut,
-     Answer<[](C& own, A value) { return own.Property<&C::m_tip>(value, L"TooltipText"); }>},
     {14, L"Type", kGet, Answer<&C::Type>},
     {15, L"Visible", kGetPut, Answer<[](C& own, A value) { return own.Property<&C::m_visible>(value, L"Visible"); }>},
 };
@@ -77,15 +68,14 @@ void BarControlObject::CheckTells(const wchar_t* what) const
     if (m_id == kUntoldId) throw Error{E_FAIL, {}, std::wstring{L"The control does not tell its "} + what + L"."};
 }
 
-CommandBarObject& BarControlObject::MenuOrFail()
+ComPtr<IDispatch> BarControlObject::Controls()
 {
     if (m_menu == nullptr) throw Error{DISP_E_MEMBERNOTFOUND, {}, L"A button has no controls."};
-    return *m_menu.Get();
+    return m_menu->Controls();
 }
 
 void BarControlObject::NoteAdded(const Arguments& arguments)
 {
-    if (arguments.Has(2)) m_parameter = arguments.At(2).Text();
     m_history = L"Add";
     for (std::size_t index = 0; index < 5; ++index)
         m_history += L" " + (arguments.Has(index) ? arguments.At(index).Text() : L"-");

@@ -1,3 +1,4 @@
+#include "base/Text.h"
 #include "objects/CommandBars.h"
 
 namespace host
@@ -8,7 +9,6 @@ namespace
 constexpr long kSaveAs = 748;
 constexpr long kHelpTopics = 984;
 constexpr long kHelpMenu = 30010;
-constexpr std::wstring_view kProductMark = L"%1";
 constexpr long kCustom = 1; // the id of every control that an add-in makes
 
 struct BuiltInEntry
@@ -39,12 +39,6 @@ const std::vector<BuiltInMenu>& BuiltInMenus()
         {{kHelpMenu, L"&Help"}, {{kHelpTopics, L"Microsoft %1 &Help"}, {927, L"&About Microsoft %1"}}},
     };
     return kMenus;
-}
-
-std::wstring WithProduct(std::wstring caption, const std::wstring& product)
-{
-    const std::size_t mark = caption.find(kProductMark);
-    return mark == std::wstring::npos ? caption : caption.replace(mark, kProductMark.size(), product);
 }
 
 BarControlObject& Append(CommandBarObject& bar, long type, long id, const std::wstring& caption)
@@ -78,7 +72,7 @@ void FillMenuBar(CommandBarObject& bar, const std::wstring& product, std::string
         CommandBarObject& below = *Append(bar, kBarPopup, menu.menu.id, menu.menu.caption).Menu();
         for (const BuiltInEntry& entry : menu.entries)
             if (kind != "bare" || (entry.id != kSaveAs && entry.id != kHelpTopics))
-                Append(below, kBarButton, entry.id, WithProduct(entry.caption, product));
+                Append(below, kBarButton, entry.id, Replaced<std::wstring>(entry.caption, L"%1", product));
     }
     if (kind == "leftover") AddLeftovers(*bar.Entries().front()->Menu(), *bar.Entries().back()->Menu());
 }

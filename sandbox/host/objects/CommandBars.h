@@ -48,10 +48,10 @@ public:
     void Detach();
 
 private:
-    static const Member kMembers[16];
+    static const Member kMembers[10];
 
     void CheckTells(const wchar_t* what) const;
-    [[nodiscard]] CommandBarObject& MenuOrFail();
+    ComPtr<IDispatch> Controls();
     long Index() const;
     void Delete();
 
@@ -62,12 +62,9 @@ private:
     long m_id;
     std::wstring m_caption;
     std::wstring m_tag;
-    std::wstring m_parameter;
-    std::wstring m_tip;
     std::wstring m_history;
     bool m_enabled = true;
     bool m_visible = true;
-    bool m_beginGroup = false;
     long m_style = 0;
     CommandBarObject* m_parent; // null once detached
     ComPtr<CommandBarObject> m_menu;

@@ -13,14 +13,12 @@ constexpr HRESULT kDeclined = static_cast<HRESULT>(0x800A011FL);
 
 } // namespace
 
-const Member LoginObject::kMembers[] = {{1, L"IsLoggedIn", kGetPut, Answer<&LoginObject::IsLoggedIn>}};
-
-Variant LoginObject::IsLoggedIn(const Arguments& arguments) { return ReadOrWrite(arguments, m_loggedIn); }
+const Member LoginObject::kMembers[] = {
+    {1, L"IsLoggedIn", kGetPut, Answer<[](LoginObject& own, A value) { return ReadOrWrite(value, own.m_loggedIn); }>},
+};
 
 const Member OutlookObject::kMembers[] = {
-    {1, L"Name", kGet, Answer<[](OutlookObject&) { return L"Outlook"; }>},
-    {2, L"Version", kGet, Answer<[](OutlookObject&) { return L"16.0.0.4266"; }>},
-    {3, L"CreateItem", kMethod, Answer<&OutlookObject::CreateItem>},
+    {1, L"CreateItem", kMethod, Answer<&OutlookObject::CreateItem>},
 };
 
 void OutlookObject::Display(const MailFields& fields)

@@ -20,8 +20,6 @@ public:
 private:
     static const Member kMembers[1];
 
-    Variant IsLoggedIn(const Arguments& arguments);
-
     bool m_loggedIn;
 };
 
@@ -50,7 +48,7 @@ public:
     void FailWhere(MailMood mood) const;
 
 private:
-    static const Member kMembers[3];
+    static const Member kMembers[1];
 
     ComPtr<IDispatch> CreateItem(const Arguments& arguments);
 

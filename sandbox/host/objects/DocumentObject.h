@@ -116,9 +116,8 @@ public:
     // The answers of the member tables.
     std::wstring Caption() const;
     DocumentObject* Document() const { return m_document.Get(); }
-    bool IsActive() const { return m_number == 1 && m_document->Owner().Active() == m_document.Get(); }
-    ComPtr<IDispatch> CommandBars() const;
     void Activate() { m_document->Owner().Activate(*m_document.Get()); }
+    ComPtr<IDispatch> CommandBars() const;
 
 private:
     ComPtr<DocumentObject> m_document;

@@ -41,22 +41,20 @@ std::string TextOfDate(DATE date)
     return FromSystemTime(time);
 }
 
+// How Automation holds a value of the type.
+VARTYPE KindOf(PropertyType type)
+{
+    static constexpr VARTYPE kKinds[] = {VT_EMPTY, VT_I4, VT_BOOL, VT_DATE, VT_BSTR, VT_R8}; // by Office's numbers
+    return kKinds[static_cast<std::size_t>(type)];
+}
+
 // The value converted to the type. Throws Error when it does not convert.
 std::string PackageText(PropertyType type, const Variant& value)
 {
-    switch (type) {
-    case PropertyType::Number:
-        return std::to_string(value.Number());
-    case PropertyType::Boolean:
-        return value.Boolean() ? "true" : "false";
-    case PropertyType::Date:
-        return TextOfDate(value.As(VT_DATE).Get().date);
-    case PropertyType::Float:
-        return Narrow(value.As(VT_R8).As(VT_BSTR).Text());
-    case PropertyType::Text:
-        return Narrow(value.Text());
-    }
-    throw Error{E_INVALIDARG, {}, L"Unknown property type."};
+    if (type == PropertyType::Text) return Narrow(value.Text());
+    if (type == PropertyType::Boolean) return value.Boolean() ? "true" : "false";
+    const Variant converted = value.As(KindOf(type));
+    return type == PropertyType::Date ? TextOfDate(converted.Get().date) : Narrow(converted.As(VT_BSTR).Text());
 }
 
 } // namespace
@@ -66,22 +64,10 @@ Variant ToValue(const CustomProperty& property)
     Variant text{Widen(property.value)};
     Variant value;
     corvane::Ignoring([&] {
-        switch (property.type) {
-        case PropertyType::Number:
-            value = text.As(VT_I4);
-            break;
-        case PropertyType::Boolean:
-            value = property.value == "true";
-            break;
-        case PropertyType::Date:
-            if (const auto time = ToSystemTime(property.value)) value = DateOf(*time);
-            break;
-        case PropertyType::Float:
-            value = text.As(VT_R8);
-            break;
-        case PropertyType::Text:
-            break;
-        }
+        if (property.type != PropertyType::Date)
+            value = text.As(KindOf(property.type));
+        else if (const auto time = ToSystemTime(property.value))
+            value = DateOf(*time);
     });
     // A file may hold a value that its type does not allow: its text is all there is to show.
     return value.IsMissing() ? std::move(text) : std::move(value);

@@ -37,7 +37,6 @@ constexpr Member kApplication[] = {
     {2014, L"Version", kGet, Answer<&A::Version>},
     {2021, L"Quit", kMethod, Answer<&A::Quit>},
     {2022, L"Run", kMethod, Answer<&A::Run>},
-    {2023, L"Activate", kMethod, Answer<&A::Activate>},
     {2031, L"HWND", kGet, Answer<&A::WindowHandle>},
     {2035, L"COMAddIns", kGet, Answer<&A::ComAddIns>},
 };
@@ -69,7 +68,6 @@ constexpr Member kPresentation[] = {
 
 constexpr Member kWindow[] = {
     {2005, L"Presentation", kGet, Answer<&W::Document>},
-    {2009, L"Active", kGet, AsNumber<&W::IsActive>},
     {2011, L"Caption", kGet, Answer<&W::Caption>},
     {2017, L"Activate", kMethod, Answer<&W::Activate>},
 };
@@ -96,7 +94,6 @@ constexpr Member kApplication[] = {
     {6, L"Build", kGet, Answer<&A::Build>},
     {7, L"Version", kGet, Answer<&A::Version>},
     {8, L"Run", kMethod, Answer<&A::Run>},
-    {9, L"Activate", kMethod, Answer<&A::Activate>},
     {10, L"COMAddIns", kGet, Answer<&A::ComAddIns>},
 };
 
@@ -127,8 +124,6 @@ constexpr Member kDocument[] = {
 constexpr Member kWindow[] = {
     {0, L"Caption", kGet, Answer<&W::Caption>},
     {1, L"Document", kGet, Answer<&W::Document>},
-    {2, L"Active", kGet, Answer<&W::IsActive>},
-    {3, L"Activate", kMethod, Answer<&W::Activate>},
 };
 
 constexpr HostModel kModel{{L"Application", OfficeId(0x00020970), kApplication},
@@ -199,7 +194,6 @@ constexpr Member kWorkbook[] = {
 
 constexpr Member kWindow[] = {
     {0, L"Caption", kGet, Answer<&W::Caption>},
-    {1, L"Activate", kMethod, Answer<&W::Activate>},
 };
 
 constexpr HostModel kModel{{L"Application", OfficeId(0x000208D5), kApplication},
@@ -235,7 +229,6 @@ constexpr Member kInspector[] = {
     {0, L"Caption", kGet, Answer<&W::Caption>},
     {1, L"CurrentItem", kGet, Answer<&W::Document>},
     {2, L"CommandBars", kGet, Answer<&W::CommandBars>},
-    {3, L"Activate", kMethod, Answer<&W::Activate>},
 };
 
 constexpr HostModel kModel{{L"Application", OfficeId(0x00063001), kApplication},

@@ -1,9 +1,6 @@
 #include "objects/HttpRequestObject.h"
 
 #include <algorithm>
-#include <memory>
-
-#include <winhttp.h>
 
 #include "platform/ByteArray.h"
 
@@ -12,16 +9,9 @@ namespace host
 namespace
 {
 
-constexpr IID kDocumentId{0x2933BF81, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
 constexpr long kOpened = 1;
 constexpr long kComplete = 4;
 constexpr long kCannotConnect = 12029; // what XMLHTTP tells of a failed transport
-
-struct CloseHandle
-{
-    void operator()(HINTERNET handle) const { ::WinHttpCloseHandle(handle); }
-};
-using Handle = std::unique_ptr<void, CloseHandle>;
 
 // A body as it is sent: the bytes of an array, a text in UTF-8, the markup of a document.
 std::string BytesOf(const VARIANT& body)
@@ -32,18 +22,9 @@ std::string BytesOf(const VARIANT& body)
     ComPtr<IXMLDOMDocument> document;
     Bstr markup;
     void** const place = reinterpret_cast<void**>(document.GetAddressOf());
-    if (body.vt == VT_DISPATCH && SUCCEEDED(body.pdispVal->QueryInterface(kDocumentId, place)))
+    if (body.vt == VT_DISPATCH && SUCCEEDED(body.pdispVal->QueryInterface(IID_IXMLDOMDocument, place)))
         document->get_xml(markup.Put());
     return Narrow(markup.Text());
-}
-
-std::wstring HeadersOf(HINTERNET request)
-{
-    DWORD size = 0;
-    ::WinHttpQueryHeaders(request, WINHTTP_QUERY_RAW_HEADERS_CRLF, nullptr, nullptr, &size, nullptr);
-    std::wstring headers(size / sizeof(wchar_t), L'\0');
-    ::WinHttpQueryHeaders(request, WINHTTP_QUERY_RAW_HEADERS_CRLF, nullptr, headers.data(), &size, nullptr);
-    return headers;
 }
 
 std::string AnswerOf(HINTERNET request)
@@ -90,21 +71,20 @@ void HttpRequestObject::Exchange()
     parts.dwHostNameLength = parts.dwUrlPathLength = static_cast<DWORD>(-1);
     if (!::WinHttpCrackUrl(m_url.c_str(), 0, 0, &parts)) return;
     const std::wstring server{parts.lpszHostName, parts.dwHostNameLength};
-    const Handle session{::WinHttpOpen(nullptr, WINHTTP_ACCESS_TYPE_NO_PROXY, nullptr, nullptr, 0)};
-    const Handle connection{::WinHttpConnect(session.get(), server.c_str(), parts.nPort, 0)};
-    const Handle request{::WinHttpOpenRequest(connection.get(), m_method.c_str(), parts.lpszUrlPath, nullptr, nullptr,
-                                              nullptr, WINHTTP_FLAG_ESCAPE_DISABLE)};
+    m_session = HttpHandle{::WinHttpOpen(nullptr, WINHTTP_ACCESS_TYPE_NO_PROXY, nullptr, nullptr, 0)};
+    m_connection = HttpHandle{::WinHttpConnect(m_session.Get(), server.c_str(), parts.nPort, 0)};
+    m_request = HttpHandle{::WinHttpOpenRequest(m_connection.Get(), m_method.c_str(), parts.lpszUrlPath, nullptr,
+                                                nullptr, nullptr, WINHTTP_FLAG_ESCAPE_DISABLE)};
     const auto size = static_cast<DWORD>(m_body.size());
-    if (!::WinHttpSendRequest(request.get(), m_headers.empty() ? nullptr : m_headers.c_str(), static_cast<DWORD>(-1),
+    if (!::WinHttpSendRequest(m_request.Get(), m_headers.empty() ? nullptr : m_headers.c_str(), static_cast<DWORD>(-1),
                               m_body.data(), size, size, 0) ||
-        !::WinHttpReceiveResponse(request.get(), nullptr))
+        !::WinHttpReceiveResponse(m_request.Get(), nullptr))
         return;
     DWORD status = 0;
     DWORD length = sizeof status;
-    ::WinHttpQueryHeaders(request.get(), WINHTTP_QUERY_STATUS_CODE | WINHTTP_QUERY_FLAG_NUMBER, nullptr, &status,
+    ::WinHttpQueryHeaders(m_request.Get(), WINHTTP_QUERY_STATUS_CODE | WINHTTP_QUERY_FLAG_NUMBER, nullptr, &status,
                           &length, nullptr);
-    m_answerHeaders = HeadersOf(request.get());
-    m_answer = AnswerOf(request.get());
+    m_answer = AnswerOf(m_request.Get());
     m_status = static_cast<long>(status);
 }
 
@@ -116,13 +96,10 @@ HRESULT HttpRequestObject::abort()
 
 HRESULT HttpRequestObject::getResponseHeader(BSTR name, BSTR* value)
 {
-    const std::wstring wanted = std::wstring{L"\r\n"} + name + L": ";
-    for (std::size_t at = 0; at + wanted.size() < m_answerHeaders.size(); ++at) {
-        const auto size = static_cast<int>(wanted.size());
-        if (::CompareStringOrdinal(&m_answerHeaders[at], size, wanted.c_str(), size, TRUE) != CSTR_EQUAL) continue;
-        const std::size_t from = at + wanted.size();
-        return corvane::HandOut(m_answerHeaders.substr(from, m_answerHeaders.find(L"\r\n", from) - from), value);
-    }
+    wchar_t text[1024];
+    DWORD size = sizeof text;
+    if (::WinHttpQueryHeaders(m_request.Get(), WINHTTP_QUERY_CUSTOM, name, text, &size, nullptr))
+        return corvane::HandOut(text, value);
     *value = nullptr;
     return S_FALSE;
 }

@@ -6,6 +6,7 @@
 #include <thread>
 
 #include <msxml2.h>
+#include <winhttp.h>
 
 #include "automation/AutomationObject.h"
 #include "base/Text.h"
@@ -18,6 +19,14 @@ namespace host
 
 // The platform's XMLHTTP class 3.0.
 inline constexpr CLSID kXmlHttpClass{0xF5078F35, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
+
+struct HttpTraits
+{
+    using Value = HINTERNET;
+    static constexpr Value kEmpty = nullptr;
+    static void Free(Value handle) noexcept { ::WinHttpCloseHandle(handle); }
+};
+using HttpHandle = corvane::Unique<HttpTraits>;
 
 // An XMLHTTP object over WinHTTP, for one request. It stands in where Wine's own, which keeps every body that it sent,
 // would hide what an add-in keeps. Answers are text in UTF-8 or bytes; there are no documents and no events.
@@ -50,7 +59,9 @@ private:
     std::wstring m_headers;
     std::string m_body;
     long m_status = 0;
-    std::wstring m_answerHeaders;
+    HttpHandle m_session;
+    HttpHandle m_connection;
+    HttpHandle m_request; // tells the headers of the answer
     std::string m_answer;
     std::atomic<long> m_state = 0;
     std::jthread m_exchange; // the last member, so that it has ended before the others go

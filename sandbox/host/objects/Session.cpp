@@ -42,7 +42,7 @@ Session::Session(Options options)
     : m_options{std::move(options)}, m_application{MakeObject<ApplicationObject>(*this)},
       m_commandBars{MakeObject<CommandBarsObject>(Facts().menuBar)}
 {
-    ObjectCore::SetSource(Facts().source);
+    ObjectCore::SetSource(std::wstring{L"Microsoft "} + Facts().product);
     FillMenuBar(m_commandBars->MenuBar(), Facts().product, m_options.Setting("menus"));
     ShowEditing();
 }

@@ -31,12 +31,13 @@ inline void AppendNumber(std::string& out, std::uint64_t number, std::size_t wid
         AppendNumber(out, number, width);
     return out;
 }
-[[nodiscard]] inline std::uint64_t ReadNumber(std::string_view bytes, std::size_t at, std::size_t width)
+template<class Number = std::uint64_t>
+[[nodiscard]] Number ReadNumber(std::string_view bytes, std::size_t at, std::size_t width)
 {
     std::uint64_t number = 0;
     for (const std::string_view digits = Slice(bytes, at, width); width-- > 0;)
         number = (number << 8) | static_cast<unsigned char>(digits[width]);
-    return number;
+    return static_cast<Number>(number);
 }
 
 } // namespace host

@@ -1,5 +1,6 @@
 #include "package/NewParts.h"
 
+#include "base/Text.h"
 #include "package/Xml.h"
 
 namespace host
@@ -74,24 +75,10 @@ constexpr std::string_view kTitleFrame =
     R"(<p:spPr><a:xfrm><a:off x="1524000" y="2130425"/><a:ext cx="9144000" cy="1470025"/></a:xfrm>)"
     R"(<a:prstGeom prst="rect"><a:avLst/></a:prstGeom></p:spPr>)";
 
-// A format scheme holds three of each style: subtle, moderate, intense.
+// The styles of a format scheme, which holds three of each: subtle, moderate, intense.
 constexpr std::string_view kFill = R"(<a:solidFill><a:schemeClr val="phClr"/></a:solidFill>)";
 constexpr std::string_view kLine = R"(<a:ln w="9525"><a:solidFill><a:schemeClr val="phClr"/></a:solidFill></a:ln>)";
 constexpr std::string_view kEffect = R"(<a:effectStyle><a:effectLst/></a:effectStyle>)";
-
-std::string Thrice(std::string_view text)
-{
-    std::string out;
-    for (int i = 0; i < 3; ++i)
-        out += text;
-    return out;
-}
-
-void ReplaceAll(std::string& text, std::string_view mark, std::string_view by)
-{
-    for (std::size_t at = text.find(mark); at != std::string::npos; at = text.find(mark, at + by.size()))
-        text.replace(at, mark.size(), by);
-}
 
 const NewPackage& NewPackageOf(HostKind host)
 {
@@ -114,9 +101,9 @@ Zip NewPackageParts(HostKind host, std::string_view title, std::string_view auth
         {"@TITLEFRAME@", std::string{kTitleFrame}},
         {"@REL@", "http://schemas.openxmlformats.org/officeDocument/2006/relationships"},
         {"@TYPE@", "application/vnd.openxmlformats-officedocument"},
-        {"@FILL@", Thrice(kFill)},
-        {"@LINE@", Thrice(kLine)},
-        {"@EFFECT@", Thrice(kEffect)},
+        {"@FILL@", std::string{kFill}},
+        {"@LINE@", std::string{kLine}},
+        {"@EFFECT@", std::string{kEffect}},
         {"@TITLE@", EscapeXml(title)},
         {"@AUTHOR@", EscapeXml(author)},
     };
@@ -126,7 +113,7 @@ Zip NewPackageParts(HostKind host, std::string_view title, std::string_view auth
         for (const NewPart& part : parts) {
             std::string text{part.text};
             for (const auto& [mark, by] : marks)
-                ReplaceAll(text, mark, by);
+                text = Replaced(std::move(text), mark, by);
             zip.Set(part.name, std::string{kDeclaration} + text);
         }
     return zip;

@@ -69,8 +69,8 @@ constexpr NewPart kParts[] = {
      R"(<a:hlink><a:srgbClr val="2A6FB7"/></a:hlink><a:folHlink><a:srgbClr val="7A4FA0"/></a:folHlink></a:clrScheme>)"
      R"(<a:fontScheme name="Plain"><a:majorFont><a:latin typeface="Calibri"/><a:ea typeface=""/><a:cs typeface=""/>)"
      R"(</a:majorFont><a:minorFont><a:latin typeface="Calibri"/><a:ea typeface=""/><a:cs typeface=""/></a:minorFont>)"
-     R"(</a:fontScheme><a:fmtScheme name="Plain"><a:fillStyleLst>@FILL@</a:fillStyleLst><a:lnStyleLst>@LINE@)"
-     R"(</a:lnStyleLst><a:effectStyleLst>@EFFECT@</a:effectStyleLst><a:bgFillStyleLst>@FILL@</a:bgFillStyleLst>)"
+     R"(</a:fontScheme><a:fmtScheme name="Plain"><a:fillStyleLst>@FILL@@FILL@@FILL@</a:fillStyleLst><a:lnStyleLst>@LINE@@LINE@@LINE@)"
+     R"(</a:lnStyleLst><a:effectStyleLst>@EFFECT@@EFFECT@@EFFECT@</a:effectStyleLst><a:bgFillStyleLst>@FILL@@FILL@@FILL@</a:bgFillStyleLst>)"
      R"(</a:fmtScheme></a:themeElements></a:theme>)"},
 };
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <bit>
 #include <charconv>
+#include <cstdlib>
+#include <cstring>
 #include <map>
 #include <optional>
 #include <stdexcept>
@@ -41,14 +43,6 @@ std::string Padded(std::string bytes)
     return bytes;
 }
 
-template<class Number>
-Number ParseNumber(const std::string& text)
-{
-    Number number{};
-    std::from_chars(text.data(), text.data() + text.size(), number);
-    return number;
-}
-
 std::string WriteText(const std::string& text) { return Numbers({{text.size() + 1, 4}}) + text + '\0'; }
 
 std::string WriteValue(const CustomProperty& property)
@@ -58,11 +52,11 @@ std::string WriteValue(const CustomProperty& property)
     };
     switch (property.type) {
     case PropertyType::Number:
-        return write(kLong, static_cast<std::uint32_t>(ParseNumber<std::int32_t>(property.value)), 4);
+        return write(kLong, static_cast<std::uint32_t>(std::strtol(property.value.c_str(), nullptr, 10)), 4);
     case PropertyType::Boolean:
         return write(kBoolean, property.value == "true" ? 0xffff : 0, 2);
     case PropertyType::Float:
-        return write(kDouble, std::bit_cast<std::uint64_t>(ParseNumber<double>(property.value)), 8);
+        return write(kDouble, std::bit_cast<std::uint64_t>(std::strtod(property.value.c_str(), nullptr)), 8);
     case PropertyType::Date:
         return write(kFileTime, static_cast<std::uint64_t>(ToFileTime(property.value)), 8);
     case PropertyType::Text:
@@ -82,7 +76,7 @@ std::string WriteDictionary(const PropertySection& section)
 std::string WriteSection(const PropertySection& section)
 {
     std::vector<std::pair<std::uint32_t, std::string>> rows;
-    if (section.format == kUserDefinedSet) rows.emplace_back(kDictionaryId, WriteDictionary(section));
+    if (section.format == FMTID_UserDefinedProperties) rows.emplace_back(kDictionaryId, WriteDictionary(section));
     rows.emplace_back(kCodePageId, Padded(Numbers({{kShort, 4}, {kUtf8CodePage, 2}})));
     for (const SetProperty& row : section.properties)
         rows.emplace_back(row.id, WriteValue(row.property));
@@ -105,7 +99,7 @@ public:
     {
         const std::uint64_t count = Number(4, 4);
         for (std::uint64_t i = 0; i < count; ++i)
-            m_index[static_cast<std::uint32_t>(Number(8 + 8 * i, 4))] = Number(12 + 8 * i, 4);
+            m_index[Number(8 + 8 * i, 4)] = Number(12 + 8 * i, 4);
         if (m_index.contains(kCodePageId)) m_codePage = Number(m_index[kCodePageId] + 4, 2);
     }
 
@@ -117,7 +111,7 @@ public:
             if (!property) continue;
             const auto name = names.find(id);
             if (name != names.end()) property->name = name->second;
-            section.properties.push_back({id, *property});
+            section.properties.push_back({static_cast<std::uint32_t>(id), *property});
         }
     }
 
@@ -127,39 +121,29 @@ private:
         return ReadNumber(m_bytes, static_cast<std::size_t>(at), width);
     }
 
-    [[nodiscard]] std::string WideText(std::uint64_t at, std::uint64_t letters) const
+    // Letters of two bytes, or of one in the section's code page; any but UTF-8 is read as Latin-1. A zero ends them.
+    [[nodiscard]] std::string Text(std::uint64_t at, std::uint64_t letters, std::size_t width) const
     {
         std::wstring text;
         for (std::uint64_t i = 0; i < letters; ++i)
-            text += static_cast<wchar_t>(Number(at + 2 * i, 2));
-        return corvane::ToUtf8(std::wstring_view{text}.substr(0, text.find(L'\0')));
+            text += static_cast<wchar_t>(Number(at + width * i, width));
+        text.resize(std::min(text.find(L'\0'), text.size()));
+        if (width == 1 && m_codePage == kUtf8CodePage) return {text.begin(), text.end()};
+        return corvane::ToUtf8(text);
     }
 
-    // Text in the section's code page; any but UTF-8 is read as Latin-1.
-    [[nodiscard]] std::string ByteText(std::uint64_t at, std::uint64_t size) const
+    [[nodiscard]] std::map<std::uint64_t, std::string> Names() const
     {
-        const std::string_view raw = Slice(m_bytes, static_cast<std::size_t>(at), static_cast<std::size_t>(size));
-        const std::string_view text = raw.substr(0, raw.find('\0'));
-        if (m_codePage == kUtf8CodePage) return std::string{text};
-        std::wstring letters;
-        for (const char letter : text)
-            letters += static_cast<unsigned char>(letter);
-        return corvane::ToUtf8(letters);
-    }
-
-    [[nodiscard]] std::map<std::uint32_t, std::string> Names() const
-    {
-        std::map<std::uint32_t, std::string> names;
+        std::map<std::uint64_t, std::string> names;
         const auto dictionary = m_index.find(kDictionaryId);
         if (dictionary == m_index.end()) return names;
         std::uint64_t at = dictionary->second;
         const std::uint64_t count = Number(at, 4);
         at += 4;
         for (std::uint64_t i = 0; i < count; ++i) {
-            const auto id = static_cast<std::uint32_t>(Number(at, 4));
             const std::uint64_t length = Number(at + 4, 4);
             const bool wide = m_codePage == kUnicodeCodePage;
-            names[id] = wide ? WideText(at + 8, length) : ByteText(at + 8, length);
+            names[Number(at, 4)] = Text(at + 8, length, wide ? 2 : 1);
             at += 8 + (wide ? (2 * length + 3) / 4 * 4 : length);
         }
         return names;
@@ -184,9 +168,9 @@ private:
         case kFileTime:
             return given(PropertyType::Date, FromFileTime(static_cast<std::int64_t>(Number(value, 8))));
         case kByteText:
-            return given(PropertyType::Text, ByteText(value + 4, Number(value, 4)));
+            return given(PropertyType::Text, Text(value + 4, Number(value, 4), 1));
         case kWideText:
-            return given(PropertyType::Text, WideText(value + 4, Number(value, 4)));
+            return given(PropertyType::Text, Text(value + 4, Number(value, 4), 2));
         default:
             return std::nullopt;
         }
@@ -200,7 +184,7 @@ private:
     }
 
     std::string_view m_bytes;
-    std::map<std::uint32_t, std::uint64_t> m_index;
+    std::map<std::uint64_t, std::uint64_t> m_index; // places by ids
     std::uint64_t m_codePage = 0;
 };
 
@@ -213,8 +197,7 @@ std::string WritePropertySet(const std::vector<PropertySection>& sections)
     std::string bodies;
     const std::size_t bodiesAt = kHeaderSize + kSectionRowSize * sections.size();
     for (const PropertySection& section : sections) {
-        for (const std::uint8_t byte : section.format)
-            AppendNumber(out, byte, 1);
+        out.append(reinterpret_cast<const char*>(&section.format), sizeof section.format);
         AppendNumber(out, bodiesAt + bodies.size(), 4);
         bodies += WriteSection(section);
     }
@@ -229,9 +212,9 @@ std::vector<PropertySection> ReadPropertySet(std::string_view bytes)
     for (std::uint64_t i = 0; i < count; ++i) {
         const std::size_t row = kHeaderSize + kSectionRowSize * static_cast<std::size_t>(i);
         PropertySection section;
-        std::ranges::copy(Slice(bytes, row, section.format.size()), section.format.begin());
-        const auto at = static_cast<std::size_t>(ReadNumber(bytes, row + section.format.size(), 4));
-        const auto size = static_cast<std::size_t>(ReadNumber(bytes, at, 4));
+        std::memcpy(&section.format, Slice(bytes, row, sizeof section.format).data(), sizeof section.format);
+        const auto at = ReadNumber<std::size_t>(bytes, row + sizeof section.format, 4);
+        const auto size = ReadNumber<std::size_t>(bytes, at, 4);
         SectionReader{Slice(bytes, at, size)}.Read(section);
         sections.push_back(std::move(section));
     }

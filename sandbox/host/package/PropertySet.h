@@ -1,28 +1,19 @@
 // OLE property sets. They are read and written here, not by the system: Wine reads no section but the first.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include <windows.h>
+
+#include <objidl.h>
+
 #include "package/CustomProperty.h"
 
 namespace host
 {
-
-using FormatId = std::array<std::uint8_t, 16>; // as it stands in the stream
-
-// F29F85E0-4FF9-1068-AB91-08002B27B3D9
-constexpr FormatId kSummarySet{0xE0, 0x85, 0x9F, 0xF2, 0xF9, 0x4F, 0x68, 0x10,
-                               0xAB, 0x91, 0x08, 0x00, 0x2B, 0x27, 0xB3, 0xD9};
-// D5CDD502-2E9C-101B-9397-08002B2CF9AE
-constexpr FormatId kDocumentSummarySet{0x02, 0xD5, 0xCD, 0xD5, 0x9C, 0x2E, 0x1B, 0x10,
-                                       0x93, 0x97, 0x08, 0x00, 0x2B, 0x2C, 0xF9, 0xAE};
-// D5CDD505-2E9C-101B-9397-08002B2CF9AE
-constexpr FormatId kUserDefinedSet{0x05, 0xD5, 0xCD, 0xD5, 0x9C, 0x2E, 0x1B, 0x10,
-                                   0x93, 0x97, 0x08, 0x00, 0x2B, 0x2C, 0xF9, 0xAE};
 
 struct SetProperty
 {
@@ -35,7 +26,7 @@ struct SetProperty
 // One section of an OLE property set stream.
 struct PropertySection
 {
-    FormatId format{};
+    FMTID format{};
     std::vector<SetProperty> properties;
 };
 

@@ -13,6 +13,11 @@ namespace host
 namespace
 {
 
+constexpr std::pair<char, std::string_view> kReferences[] = {
+    {'&', "&amp;"},   {'<', "&lt;"},  {'>', "&gt;"},   {'"', "&quot;"},
+    {'\'', "&apos;"}, {'\t', "&#9;"}, {'\n', "&#10;"}, {'\r', "&#13;"},
+};
+
 class Reader
 {
 public:
@@ -80,10 +85,8 @@ private:
 
     void AppendReference(std::string& out)
     {
-        static constexpr std::pair<std::string_view, char> kNamed[] = {
-            {"&amp;", '&'}, {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}, {"&apos;", '\''}};
-        for (const auto& [token, letter] : kNamed)
-            if (Take(token)) {
+        for (const auto& [letter, reference] : kReferences)
+            if (Take(reference)) {
                 out += letter;
                 return;
             }
@@ -201,9 +204,6 @@ XmlElement* XmlElement::Child(std::string_view localName)
 
 std::string EscapeXml(std::string_view text)
 {
-    static constexpr std::pair<char, std::string_view> kReferences[] = {
-        {'&', "&amp;"}, {'<', "&lt;"},   {'>', "&gt;"},  {'"', "&quot;"},
-        {'\t', "&#9;"}, {'\n', "&#10;"}, {'\r', "&#13;"}};
     std::string out;
     for (const char letter : text) {
         const auto* reference = std::ranges::find(kReferences, letter, &std::pair<char, std::string_view>::first);

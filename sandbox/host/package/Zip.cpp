@@ -28,14 +28,8 @@ constexpr std::uint16_t kStored = 0;
 constexpr std::uint16_t kDeflated = 8;
 constexpr std::uint16_t kDosDate = (1 << 5) | 1; // 1 January 1980, as packages write it
 
-std::uint32_t Read16(std::string_view bytes, std::size_t at)
-{
-    return static_cast<std::uint32_t>(ReadNumber(bytes, at, 2));
-}
-std::uint32_t Read32(std::string_view bytes, std::size_t at)
-{
-    return static_cast<std::uint32_t>(ReadNumber(bytes, at, 4));
-}
+std::uint32_t Read16(std::string_view bytes, std::size_t at) { return ReadNumber<std::uint32_t>(bytes, at, 2); }
+std::uint32_t Read32(std::string_view bytes, std::size_t at) { return ReadNumber<std::uint32_t>(bytes, at, 4); }
 
 uInt ZlibSize(std::size_t size)
 {
@@ -48,19 +42,30 @@ Bytef* ZlibInput(std::string_view bytes)
     return reinterpret_cast<Bytef*>(const_cast<char*>(bytes.data())); // zlib does not write to its input
 }
 
-std::string Inflate(std::string_view packed, std::size_t size)
+using ZlibStep = int (*)(z_streamp, int);
+using ZlibEnd = int (*)(z_streamp);
+
+// What a stream that is set up makes of the data, in one step and in no more than this room.
+std::string Transform(z_stream& stream, ZlibStep step, ZlibEnd end, std::string_view data, std::size_t room)
 {
-    std::string out(size + 1, '\0'); // one more, so that a longer stream is noticed
-    z_stream stream{};
-    stream.next_in = ZlibInput(packed);
-    stream.avail_in = ZlibSize(packed.size());
+    std::string out(room, '\0');
+    stream.next_in = ZlibInput(data);
+    stream.avail_in = ZlibSize(data.size());
     stream.next_out = reinterpret_cast<Bytef*>(out.data());
     stream.avail_out = ZlibSize(out.size());
+    const int result = step(&stream, Z_FINISH);
+    end(&stream);
+    if (result != Z_STREAM_END) throw std::runtime_error{"a part cannot be packed or unpacked"};
+    out.resize(stream.total_out);
+    return out;
+}
+
+std::string Inflate(std::string_view packed, std::size_t size)
+{
+    z_stream stream{};
     if (inflateInit2(&stream, -MAX_WBITS) != Z_OK) throw std::runtime_error{"zlib does not start"};
-    const int result = inflate(&stream, Z_FINISH);
-    inflateEnd(&stream);
-    if (result != Z_STREAM_END || stream.total_out != size) throw std::runtime_error{"a packed part is damaged"};
-    out.resize(size);
+    std::string out = Transform(stream, inflate, inflateEnd, packed, size + 1); // so that a longer one is noticed
+    if (out.size() != size) throw std::runtime_error{"a packed part is damaged"};
     return out;
 }
 
@@ -69,16 +74,7 @@ std::string Deflate(std::string_view data)
     z_stream stream{};
     if (deflateInit2(&stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, -MAX_WBITS, 8, Z_DEFAULT_STRATEGY) != Z_OK)
         throw std::runtime_error{"zlib does not start"};
-    std::string out(deflateBound(&stream, static_cast<uLong>(data.size())), '\0');
-    stream.next_in = ZlibInput(data);
-    stream.avail_in = ZlibSize(data.size());
-    stream.next_out = reinterpret_cast<Bytef*>(out.data());
-    stream.avail_out = ZlibSize(out.size());
-    const int result = deflate(&stream, Z_FINISH);
-    deflateEnd(&stream);
-    if (result != Z_STREAM_END) throw std::runtime_error{"a part could not be packed"};
-    out.resize(stream.total_out);
-    return out;
+    return Transform(stream, deflate, deflateEnd, data, deflateBound(&stream, static_cast<uLong>(data.size())));
 }
 
 std::uint32_t Checksum(std::string_view data)

@@ -7,20 +7,15 @@
 #include <oleacc.h>
 
 #include "automation/AutomationObject.h"
+#include "platform/HandOut.h"
 
 namespace host
 {
 namespace
 {
 
-// The service that annotates windows, its interface, and the property that is the name.
-constexpr CLSID kServiceClass{0xb5f8350b, 0x0548, 0x48b1, {0xa6, 0xee, 0x88, 0xbd, 0x00, 0xb4, 0xa5, 0xe7}};
-constexpr IID kServiceId{0x6e26e776, 0x04f0, 0x495d, {0x80, 0xe4, 0x33, 0x30, 0x35, 0x2e, 0x31, 0x69}};
-constexpr GUID kNameProperty{0x608d3df8, 0x8128, 0x4aa7, {0xa4, 0x28, 0xf5, 0x5e, 0x49, 0x26, 0x72, 0x91}};
-
 constexpr auto kClientObject = static_cast<DWORD>(OBJID_CLIENT);
 
-constexpr IID kAccessibleId{0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
 constexpr UINT_PTR kSubclass = 1;
 
 // A window's accessible object but for its name.
@@ -28,15 +23,13 @@ class NamedAccessible final : public AutomationObject<IAccessible>
 {
 public:
     NamedAccessible(ComPtr<IAccessible> window, std::wstring name)
-        : AutomationObject{L"Accessible", std::span<const Member>{}, kAccessibleId}, m_window{std::move(window)},
-          m_name{std::move(name)}
+        : AutomationObject{L"Accessible"}, m_window{std::move(window)}, m_name{std::move(name)}
     {}
 
     STDMETHODIMP get_accName(VARIANT child, BSTR* name) override
     {
         if (child.vt != VT_I4 || child.lVal != CHILDID_SELF) return m_window->get_accName(child, name);
-        *name = corvane::Bstr{m_name}.Detach();
-        return S_OK;
+        return corvane::HandOut(m_name, name);
     }
 
     STDMETHODIMP get_accParent(IDispatch** parent) override { return m_window->get_accParent(parent); }
@@ -104,8 +97,8 @@ LRESULT CALLBACK NamedProc(HWND window, UINT message, WPARAM wParam, LPARAM lPar
         return ::DefSubclassProc(window, message, wParam, lParam);
     ComPtr<IAccessible> own;
     void** const place = reinterpret_cast<void**>(own.GetAddressOf());
-    if (FAILED(::CreateStdAccessibleObject(window, OBJID_CLIENT, kAccessibleId, place))) return 0;
-    return ::LresultFromObject(kAccessibleId, wParam, MakeObject<NamedAccessible>(own, name->second).Get());
+    if (FAILED(::CreateStdAccessibleObject(window, OBJID_CLIENT, __uuidof(IAccessible), place))) return 0;
+    return ::LresultFromObject(__uuidof(IAccessible), wParam, MakeObject<NamedAccessible>(own, name->second).Get());
 }
 
 // As much of the system's service as names of windows need. Lives as long as the process; the count is not kept.
@@ -114,7 +107,7 @@ class Service final : public IAccPropServices
 public:
     STDMETHODIMP QueryInterface(REFIID id, void** object) override
     {
-        *object = id == IID_IUnknown || id == kServiceId ? this : nullptr;
+        *object = id == IID_IUnknown || id == IID_IAccPropServices ? this : nullptr;
         return *object ? S_OK : E_NOINTERFACE;
     }
     STDMETHODIMP_(ULONG) AddRef() override { return 2; }
@@ -122,7 +115,8 @@ public:
 
     STDMETHODIMP SetHwndPropStr(HWND window, DWORD object, DWORD child, MSAAPROPID property, LPCWSTR text) override
     {
-        if (object != kClientObject || child != CHILDID_SELF || property != kNameProperty || !text) return E_INVALIDARG;
+        if (object != kClientObject || child != CHILDID_SELF || property != PROPID_ACC_NAME || !text)
+            return E_INVALIDARG;
         Names()[window] = text;
         return ::SetWindowSubclass(window, NamedProc, kSubclass, 0) ? S_OK : E_FAIL;
     }
@@ -160,9 +154,10 @@ bool DoesSystemAnnotate(HWND window)
 {
     ComPtr<IAccPropServices> service;
     void** const place = reinterpret_cast<void**>(service.GetAddressOf());
-    if (FAILED(::CoCreateInstance(kServiceClass, nullptr, CLSCTX_INPROC_SERVER, kServiceId, place))) return false;
-    if (FAILED(service->SetHwndPropStr(window, kClientObject, CHILDID_SELF, kNameProperty, L""))) return false;
-    service->ClearHwndProps(window, kClientObject, CHILDID_SELF, &kNameProperty, 1);
+    if (FAILED(::CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices, place)))
+        return false;
+    if (FAILED(service->SetHwndPropStr(window, kClientObject, CHILDID_SELF, PROPID_ACC_NAME, L""))) return false;
+    service->ClearHwndProps(window, kClientObject, CHILDID_SELF, &PROPID_ACC_NAME, 1);
     return true;
 }
 
@@ -171,7 +166,7 @@ bool DoesSystemAnnotate(HWND window)
 Annotations::Annotations(HWND window)
 {
     if (DoesSystemAnnotate(window)) return;
-    m_service.emplace(kServiceClass, [](REFIID id, void** object) {
+    m_service.emplace(CLSID_AccPropServices, [](REFIID id, void** object) {
         static Service service;
         return service.QueryInterface(id, object);
     });

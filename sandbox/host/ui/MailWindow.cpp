@@ -15,18 +15,6 @@ constexpr int kLineHeight = 22;
 constexpr int kTeamHeight = 36; // a team's addresses wrap
 constexpr int kGap = 8;
 
-void RegisterWindowClass()
-{
-    WNDCLASSEXW windowClass{};
-    windowClass.cbSize = sizeof windowClass;
-    windowClass.lpfnWndProc = ::DefWindowProcW;
-    windowClass.hInstance = ::GetModuleHandleW(nullptr);
-    windowClass.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-    windowClass.hbrBackground = ::GetSysColorBrush(COLOR_3DFACE);
-    windowClass.lpszClassName = kClassName;
-    ::RegisterClassExW(&windowClass);
-}
-
 // What the window shows of a field: wrapping a line of many thousand addresses takes an edit control minutes.
 std::wstring FieldOf(const MailFields& mail, const wchar_t* name)
 {
@@ -40,7 +28,7 @@ std::wstring FieldOf(const MailFields& mail, const wchar_t* name)
 
 void MailWindow::Show(const MailFields& mail)
 {
-    RegisterWindowClass();
+    RegisterWindowClass(kClassName, ::DefWindowProcW);
     Close();
     RECT below{};
     ::GetWindowRect(m_owner, &below);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <uxtheme.h>
 #include <windowsx.h>
 
 namespace host
@@ -10,29 +11,15 @@ namespace
 {
 
 constexpr wchar_t kClassName[] = L"CorvaneHostWindow";
-constexpr WORD kIconId = 1;
 constexpr UINT kOpenFileMenu = WM_APP + 1;
 
 std::wstring ProductName(const Desk& desk) { return std::wstring{desk.Facts().product} + L" (stand-in)"; }
-
-void RegisterWindowClass(WNDPROC procedure)
-{
-    WNDCLASSEXW windowClass{};
-    windowClass.cbSize = sizeof windowClass;
-    windowClass.style = CS_HREDRAW | CS_VREDRAW;
-    windowClass.lpfnWndProc = procedure;
-    windowClass.hInstance = ::GetModuleHandleW(nullptr);
-    windowClass.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-    windowClass.hIcon = ::LoadIconW(windowClass.hInstance, MAKEINTRESOURCEW(kIconId));
-    windowClass.lpszClassName = kClassName;
-    ::RegisterClassExW(&windowClass);
-}
 
 } // namespace
 
 MainWindow::MainWindow(Desk& desk) : m_desk{desk}, m_menus{desk}
 {
-    RegisterWindowClass(WindowProc);
+    RegisterWindowClass(kClassName, WindowProc);
     RECT work{};
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
     const int margin = m_theme.Scale(16);
@@ -135,9 +122,15 @@ void MainWindow::OpenBackstage(const std::string& page)
 
 void MainWindow::Paint()
 {
-    const PaintBuffer buffer{m_window};
-    if (!m_scene.backstage) PaintSlideArea(buffer.Dc(), m_scene.content, m_theme, m_desk.ActiveDocument());
-    PaintScene(buffer.Dc(), m_scene, m_theme, m_size, m_hovered);
+    PAINTSTRUCT paint{};
+    const RECT area{0, 0, m_size.cx, m_size.cy};
+    HDC sheet = nullptr; // off the screen, which shows it whole
+    const HPAINTBUFFER buffer =
+        ::BeginBufferedPaint(::BeginPaint(m_window, &paint), &area, BPBF_COMPATIBLEBITMAP, nullptr, &sheet);
+    if (!m_scene.backstage) PaintSlideArea(sheet, m_scene.content, m_theme, m_desk.ActiveDocument());
+    PaintScene(sheet, m_scene, m_theme, m_size, m_hovered);
+    ::EndBufferedPaint(buffer, TRUE);
+    ::EndPaint(m_window, &paint);
 }
 
 const SceneItem* MainWindow::ItemAt(POINT at) const

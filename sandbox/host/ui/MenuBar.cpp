@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/Utf8.h"
+#include "base/Text.h"
 
 namespace host
 {
@@ -45,7 +45,7 @@ std::function<void()> MenuBuilder::ActionOf(BarControlObject& entry)
     const auto own = std::ranges::find(kOwnEntries, entry.Id(), &OwnEntry::barId);
     if (own != std::end(kOwnEntries)) return [this, command = own->command] { m_desk.Perform(command); };
     if (entry.Tag().empty()) return nullptr;
-    return [this, tag = corvane::ToUtf8(entry.Tag())] { m_desk.Press(tag); };
+    return [this, tag = Narrow(entry.Tag())] { m_desk.Press(tag); };
 }
 
 void MenuBuilder::FillFromRibbon(HMENU menu, const ShownRibbon& shown, const std::vector<RibbonControl>& controls)
@@ -53,9 +53,7 @@ void MenuBuilder::FillFromRibbon(HMENU menu, const ShownRibbon& shown, const std
     for (const RibbonControl& control : controls) {
         if (!shown.IsShown(control)) continue;
         // A label's own access key marks are gone; what is left is plain text.
-        std::wstring label = shown.Label(control);
-        for (std::size_t at = label.find(L'&'); at != std::wstring::npos; at = label.find(L'&', at + 2))
-            label.insert(at, 1, L'&');
+        const std::wstring label = Replaced(shown.Label(control), L"&", L"&&");
         if (control.LocalName() == "menu") {
             const HMENU popup = ::CreatePopupMenu();
             FillFromRibbon(popup, shown, control.children);

@@ -7,7 +7,6 @@ namespace host
 namespace
 {
 
-constexpr UINT kCentered = DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS;
 constexpr UINT kLeft = DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS;
 
 // Draws one scene; every item is drawn by its kind.

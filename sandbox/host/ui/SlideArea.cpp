@@ -8,7 +8,6 @@ namespace host
 namespace
 {
 
-constexpr UINT kCentered = DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS;
 constexpr UINT kLeft = DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_PATH_ELLIPSIS;
 constexpr int kStatusHeight = 26;
 constexpr int kThumbnailsWidth = 190;

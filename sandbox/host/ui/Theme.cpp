@@ -7,6 +7,8 @@ namespace host
 namespace
 {
 
+constexpr WORD kIconId = 1;
+
 UniqueFont MakeFont(LOGFONTW shape, int percent, LONG weight)
 {
     shape.lfHeight = ::MulDiv(shape.lfHeight, percent, 100);
@@ -59,13 +61,6 @@ void DrawLetter(HDC dc, const RECT& box, const wchar_t* letter, COLORREF color)
     shape.lfHeight = -(box.bottom - box.top) * 6 / 10;
     const UniqueFont font = MakeFont(shape, 100, FW_BOLD);
     Write(dc, box, letter, font.Get(), color, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
-}
-
-RECT AreaOf(HWND window)
-{
-    RECT area{};
-    ::GetClientRect(window, &area);
-    return area;
 }
 
 } // namespace
@@ -128,18 +123,17 @@ void DrawPicture(HDC dc, const RECT& box, const std::string& name, COLORREF colo
     DrawPage(dc, box.left + w / 8, box.top, w * 6 / 8, h);
 }
 
-PaintBuffer::PaintBuffer(HWND window)
-    : m_window{window}, m_area{AreaOf(window)}, m_screen{::BeginPaint(window, &m_paint)}, m_memory{::CreateCompatibleDC(
-                                                                                              m_screen)},
-      m_bitmap{::CreateCompatibleBitmap(m_screen, m_area.right, m_area.bottom)}, m_before{::SelectObject(
-                                                                                     m_memory.Get(), m_bitmap.Get())}
-{}
-
-PaintBuffer::~PaintBuffer()
+void RegisterWindowClass(const wchar_t* name, WNDPROC procedure)
 {
-    ::BitBlt(m_screen, 0, 0, m_area.right, m_area.bottom, m_memory.Get(), 0, 0, SRCCOPY);
-    ::SelectObject(m_memory.Get(), m_before);
-    ::EndPaint(m_window, &m_paint);
+    WNDCLASSW windowClass{};
+    windowClass.style = CS_HREDRAW | CS_VREDRAW;
+    windowClass.lpfnWndProc = procedure;
+    windowClass.hInstance = ::GetModuleHandleW(nullptr);
+    windowClass.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    windowClass.hIcon = ::LoadIconW(windowClass.hInstance, MAKEINTRESOURCEW(kIconId));
+    windowClass.hbrBackground = ::GetSysColorBrush(COLOR_3DFACE);
+    windowClass.lpszClassName = name;
+    ::RegisterClassW(&windowClass);
 }
 
 } // namespace host

@@ -1,4 +1,4 @@
-// The window's colours, fonts and strokes, and the sheet that they are put on.
+// The windows' colours, fonts and strokes.
 #pragma once
 
 #include <string>
@@ -25,6 +25,7 @@ constexpr COLORREF kText = RGB(37, 36, 35);
 constexpr COLORREF kSoftText = RGB(96, 94, 92);
 constexpr COLORREF kDisabledText = RGB(161, 159, 157);
 constexpr COLORREF kLight = RGB(255, 255, 255);
+constexpr UINT kCentered = DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS;
 
 // The system's message font in the sizes that the window uses, and lengths at the system's resolution.
 class Theme
@@ -59,25 +60,7 @@ void Write(HDC dc, const RECT& box, const std::wstring& text, HFONT font, COLORR
 // A drawn picture for the name of an Office image; unknown names get a plain page.
 void DrawPicture(HDC dc, const RECT& box, const std::string& name, COLORREF color);
 
-// Paints off the screen and shows the result at once when the scope ends.
-class PaintBuffer
-{
-public:
-    explicit PaintBuffer(HWND window);
-    PaintBuffer(const PaintBuffer&) = delete;
-    PaintBuffer& operator=(const PaintBuffer&) = delete;
-    ~PaintBuffer();
-
-    [[nodiscard]] HDC Dc() const { return m_memory.Get(); }
-
-private:
-    HWND m_window;
-    PAINTSTRUCT m_paint{};
-    RECT m_area;
-    HDC m_screen;
-    corvane::UniqueDeviceContext m_memory;
-    corvane::UniqueBitmap m_bitmap;
-    HGDIOBJ m_before;
-};
+// Registers a window class of this program; again does nothing.
+void RegisterWindowClass(const wchar_t* name, WNDPROC procedure);
 
 } // namespace host
