@@ -110,7 +110,7 @@ void Select(Stage&, Run& run, const Step& step) { SelectNode(run, run.UsableCont
 // In the add-in's tree of targets, as soon as it offers one.
 void Pick(Stage&, Run& run, const Step& step)
 {
-    run.AddressForm(L"frmSaveTo");
+    run.Address(L"frmSaveTo");
     static_cast<void>(run.UsableControl(L"cmdOK"));
     SelectNode(run, run.UsableControl(L"TreeView1"), step.At(0));
     Click(run, run.UsableControl(L"cmdOK"));

@@ -75,12 +75,6 @@ void Run::Address(const std::wstring& window)
     WaitFor([&] { return Unless(Form() != nullptr, L"no window " + window); });
 }
 
-void Run::AddressForm(const std::wstring& form)
-{
-    m_onMessage = false;
-    m_form = form;
-}
-
 HWND Run::Form() const
 {
     if (m_onMessage) return NamedWindow(L"message");

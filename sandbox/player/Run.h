@@ -64,7 +64,6 @@ public:
     // The window that the next steps address: a form by its class, or the topmost message box. Address waits for it,
     // Form gives it or null, Control gives its control, or null while either is not there.
     void Address(const std::wstring& window);
-    void AddressForm(const std::wstring& form);  // without waiting for it
     void LeaveMessage() { m_onMessage = false; } // for the form addressed before
     [[nodiscard]] bool IsOnMessage() const { return m_onMessage; }
     [[nodiscard]] const std::wstring& FormName() const { return m_form; }
