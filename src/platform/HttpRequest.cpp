@@ -47,11 +47,10 @@ long StateOf(IXMLHTTPRequest& request)
 // the server is meant anew. Only so can it be said without a header of ours on the wire.
 void ForgetAnswer(const std::wstring& url) noexcept
 {
-    using Delete = BOOL(WINAPI*)(LPCWSTR url);
-    static const HMODULE wininet = LoadSystemLibrary(L"wininet.dll");
-    static const auto forget =
-        reinterpret_cast<Delete>(reinterpret_cast<void*>(::GetProcAddress(wininet, "DeleteUrlCacheEntryW")));
-    if (forget != nullptr) forget(url.c_str());
+    Ignoring([&] {
+        static BOOL(WINAPI* const forget)(LPCWSTR url) = SystemFunction{L"wininet.dll", "DeleteUrlCacheEntryW"};
+        forget(url.c_str());
+    });
 }
 
 // PumpUntil that ticks whenever a second has passed.

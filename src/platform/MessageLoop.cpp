@@ -121,10 +121,6 @@ void WorkPauses::Step()
 
 void AddDialogWindow(HWND window) { DialogWindows().push_back(window); }
 
-void RemoveDialogWindow(HWND window) noexcept
-{
-    auto& windows = DialogWindows();
-    windows.erase(std::remove(windows.begin(), windows.end(), window), windows.end());
-}
+void RemoveDialogWindow(HWND window) noexcept { std::erase(DialogWindows(), window); }
 
 } // namespace corvane

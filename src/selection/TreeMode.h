@@ -47,14 +47,14 @@ struct TreeKind
 {
     TreeMode mode;
     std::span<const TreeLevel> levels; // below each other, the project first
-    const wchar_t* newEntry;           // the entry for a new target, of id 0, first in every project; null for none
+    const wchar_t* newEntry = nullptr; // the entry for a new target, of id 0, first in every project; null for none
     Operation operation;               // fetches the tree
     HelpTopic helpTopic;
     const wchar_t* caption;
     const wchar_t* treeLabel;
     const wchar_t* emptyText;       // stands in place of a tree without projects
     const wchar_t* nothingSelected; // the refusal of OK without a target
-    bool refusalIsCritical;
+    bool refusalIsCritical = true;
 };
 
 [[nodiscard]] const TreeKind& TreeKindOf(TreeMode mode) noexcept;

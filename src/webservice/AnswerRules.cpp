@@ -30,31 +30,16 @@ std::optional<Error> IntegerFailure(std::wstring_view text, const wchar_t* sourc
 
 // The two forms "ASPWebService" and "ASPWebservice" are the interface's.
 const ServiceProcedure kOperationCall{.unreachable = kOperationUnreachable,
-                                      .secureChannel = true,
-                                      .documentStatus = true,
                                       .source = L"ExecuteASPWebService",
-                                      .invalidUrlSource = L"ExecuteASPWebservice",
-                                      .tooOldSource = L"ExecuteASPWebService",
-                                      .unreachableText = &UnableToContact};
-const ServiceProcedure kAccessLogCall{.unreachable = kOperationUnreachable,
-                                      .secureChannel = true,
-                                      .documentStatus = true,
-                                      .source = L"UpdateUserLog",
-                                      .invalidUrlSource = L"UpdateUserLog",
-                                      .tooOldSource = L"UpdateUserLog",
-                                      .unreachableText = &UnableToContact};
+                                      .invalidUrlSource = L"ExecuteASPWebservice"};
+const ServiceProcedure kAccessLogCall{.unreachable = kOperationUnreachable, .source = L"UpdateUserLog"};
 const ServiceProcedure kBinaryCall{.unreachable = kBinaryUnreachable,
-                                   .secureChannel = true,
-                                   .documentStatus = true,
                                    .strictNumber = true,
                                    .source = L"ExecuteASPWebserviceBinary",
-                                   .invalidUrlSource = L"ExecuteASPWebserviceBinary",
-                                   .tooOldSource = L"ExecuteASPWebServiceBinary",
-                                   .unreachableText = &UnableToContact};
+                                   .tooOldSource = L"ExecuteASPWebServiceBinary"};
 const ServiceProcedure kUploadCall{.unreachable = kUploadUnreachable,
+                                   .ownStatuses = false,
                                    .source = L"ExecuteASPWSUploadFile",
-                                   .invalidUrlSource = L"ExecuteASPWSUploadFile",
-                                   .tooOldSource = L"ExecuteASPWSUploadFile",
                                    .unreachableText = &UnableToConnect};
 
 bool IsErrorDocument(std::wstring_view text)
@@ -94,8 +79,8 @@ AnswerMeaning MeaningOf(long status, bool isErrorDocument, const ServiceProcedur
     if (status == kOk && !isErrorDocument) return AnswerMeaning::Success;
     if (std::find(procedure.unreachable.begin(), procedure.unreachable.end(), status) != procedure.unreachable.end())
         return AnswerMeaning::Unreachable;
-    if (status == kForbidden && procedure.secureChannel) return AnswerMeaning::SecureChannel;
-    if (status == kErrorDocumentStatus && procedure.documentStatus) return AnswerMeaning::ErrorDocument;
+    if (status == kForbidden && procedure.ownStatuses) return AnswerMeaning::SecureChannel;
+    if (status == kErrorDocumentStatus && procedure.ownStatuses) return AnswerMeaning::ErrorDocument;
     return isErrorDocument ? AnswerMeaning::ErrorDocument : AnswerMeaning::HttpStatus;
 }
 

@@ -45,13 +45,12 @@ enum class AnswerMeaning
 struct ServiceProcedure
 {
     std::span<const long> unreachable; // statuses that count as "no such server"
-    bool secureChannel = false;        // 403 has its own text
-    bool documentStatus = false;       // 509 stands for an error document whatever the text
+    bool ownStatuses = true;           // 403 has its own text, and 509 stands for an error document whatever the text
     bool strictNumber = false;         // an error document's number must be an integer, and is used as it is
     const wchar_t* source;
-    const wchar_t* invalidUrlSource;
-    const wchar_t* tooOldSource;
-    std::wstring (*unreachableText)(std::wstring_view server);
+    const wchar_t* invalidUrlSource = source;
+    const wchar_t* tooOldSource = source;
+    std::wstring (*unreachableText)(std::wstring_view server) = &UnableToContact;
 };
 
 extern const ServiceProcedure kOperationCall;
