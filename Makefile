@@ -1,7 +1,7 @@
 # The commands for a person. Each first installs what the machine lacks. ARCH=x86 tests, or opens, the 32-bit add-in.
 ARCH ?= x64
 
-.PHONY: all demo test faults checked soak check bench fuzz sandbox shots package test-package packages clean
+.PHONY: all demo test faults checked soak check bench fuzz sandbox shots package kit test-package packages clean
 
 all: packages
 	@tools/build x64
@@ -60,6 +60,10 @@ fuzz:
 # Installers and policy templates, to dist. SIGN_PFX and SIGN_PASS sign them.
 package: all
 	packaging/build
+
+# What is tried on Windows without installing anything, to dist.
+kit: all
+	packaging/kit
 
 test-package: all
 	tests/package/run $(ARCH)
