@@ -124,7 +124,7 @@ std::string ReportText(const Report& report)
     for (const auto& result : report.results) {
         text += ResultText(result);
         for (const auto& remark : result.remarks)
-            text += "  " + remark + "\n";
+            text.append("  ").append(remark).append("\n");
     }
     return text + SummaryText(report) + "\n";
 }

@@ -1,4 +1,4 @@
-#include "machine/WineMachine.h"
+#include "wine/WineMachine.h"
 
 #include "judge/Failure.h"
 #include "judge/Text.h"

@@ -2,7 +2,7 @@
 #include "machine/Choosing.h"
 #include "machine/Playing.h"
 #include "machine/Reports.h"
-#include "machine/WineMachine.h"
+#include "wine/WineMachine.h"
 
 #include <algorithm>
 #include <future>

@@ -1,0 +1,271 @@
+#include "windows/WindowsMachine.h"
+
+#include "judge/Failure.h"
+#include "judge/Text.h"
+#include "machine/Files.h"
+#include "machine/Process.h"
+#include "platform/Owners.h"
+#include "platform/Registry.h"
+#include "platform/Utf8.h"
+
+#include <algorithm>
+
+namespace verify
+{
+namespace
+{
+
+namespace fs = std::filesystem;
+namespace Registry = corvane::Registry;
+using corvane::FromUtf8;
+using Clock = std::chrono::steady_clock;
+
+constexpr auto kMeasured = std::chrono::milliseconds{50};
+constexpr wchar_t kTrial[] = L"Software\\Corvane Verify";
+constexpr wchar_t kPolicies[] = L"Software\\Policies\\Halvex";
+constexpr wchar_t kOwn[] = L"Software\\Halvex";
+constexpr wchar_t kUserShellFolders[] = L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders";
+constexpr wchar_t kShellFolders[] = L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
+constexpr const char* kLibrary = "CorvaneMSOfficePowerPoint.dll";
+constexpr const char* kHelp = "CorvaneMSOfficeAddin.chm";
+
+// What a host writes while it stands in for other programs, and takes back unless it is killed.
+constexpr const wchar_t* kOfHosts[] = {L"Software\\Classes\\mailto", L"Software\\Classes\\Outlook.Application",
+                                       L"Software\\Classes\\CorvaneMSOfficeExcel.CLogin"};
+
+class Library
+{
+public:
+    explicit Library(const fs::path& file) : m_module{::LoadLibraryW(file.c_str())}
+    {
+        if (m_module == nullptr) throw std::runtime_error{Utf8Of(file) + " cannot be loaded"};
+    }
+    Library(const Library&) = delete;
+    Library& operator=(const Library&) = delete;
+    ~Library() { ::FreeLibrary(m_module); }
+
+    void Register() const
+    {
+        using Entry = HRESULT(STDAPICALLTYPE*)();
+        const auto entry =
+            reinterpret_cast<Entry>(reinterpret_cast<void*>(::GetProcAddress(m_module, "DllRegisterServer")));
+        if (entry == nullptr || FAILED(entry())) throw std::runtime_error{"the add-in cannot be registered"};
+    }
+
+private:
+    HMODULE m_module;
+};
+
+// The user's part of the registry is a key of it for as long as this lives.
+class RedirectedUser
+{
+public:
+    explicit RedirectedUser(const wchar_t* key)
+    {
+        corvane::UniqueRegistryKey opened;
+        ::RegCreateKeyExW(HKEY_CURRENT_USER, key, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, opened.Put(), nullptr);
+        if (::RegOverridePredefKey(HKEY_CURRENT_USER, opened.Get()) != ERROR_SUCCESS)
+            throw std::runtime_error{"the registry cannot be redirected"};
+    }
+    RedirectedUser(const RedirectedUser&) = delete;
+    RedirectedUser& operator=(const RedirectedUser&) = delete;
+    ~RedirectedUser() { ::RegOverridePredefKey(HKEY_CURRENT_USER, nullptr); }
+};
+
+// Which keys the library writes when it is registered.
+std::vector<std::wstring> KeysOf(const Library& library)
+{
+    {
+        const RedirectedUser trial{kTrial};
+        library.Register();
+    }
+    auto keys = KeysWithValues(kTrial);
+    Registry::DeleteTree(kTrial);
+    return keys;
+}
+
+double SecondsOf(const FILETIME& time)
+{
+    return static_cast<double>((static_cast<std::uint64_t>(time.dwHighDateTime) << 32U) | time.dwLowDateTime) / 1e7;
+}
+
+ProcessorNote NoteOf(long process)
+{
+    const corvane::UniqueFile opened{
+        ::OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, static_cast<DWORD>(process))};
+    FILETIME begun{};
+    FILETIME ended{};
+    FILETIME kernel{};
+    FILETIME user{};
+    ::GetProcessTimes(opened.Get(), &begun, &ended, &kernel, &user);
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    return {std::chrono::duration<double>(now).count(), SecondsOf(kernel) + SecondsOf(user)};
+}
+
+bool HasOutlook()
+{
+    CLSID found{};
+    return SUCCEEDED(::CLSIDFromProgID(L"Outlook.Application", &found));
+}
+
+bool Mentions(const Scenario& scenario, std::string_view words)
+{
+    return scenario.text.find(words) != std::string::npos;
+}
+
+bool WritesPolicies(const Scenario& scenario)
+{
+    const auto values = scenario.All("registry");
+    return std::ranges::any_of(values, [](const auto& one) { return one.starts_with("Software\\Policies"); });
+}
+
+struct Lack
+{
+    bool (*keepsOff)(const Scenario& scenario);
+    const char* reason;
+};
+constexpr Lack kLacks[] = {
+    {[](const Scenario& one) { return Mentions(one, R"(\\corvane\)"); }, R"(there is no share \\corvane\documents)"},
+    {[](const Scenario& one) { return one.One("run").find("--dpi") != std::string::npos; },
+     "it wants another resolution of the screen"},
+    {[](const Scenario& one) { return Mentions(one, "mail.client=outlook") && HasOutlook(); },
+     "Outlook is installed, where a stand-in is wanted"},
+    {[](const Scenario& one) { return WritesPolicies(one) && !MayWriteBelow(L"Software\\Policies"); },
+     "only an administrator may write the policies that it wants"}};
+
+void WriteWish(const std::string& wish)
+{
+    const auto [key, value] = CutAt(wish, " ");
+    const auto [name, text] = CutAt(value, "=");
+    if (text.starts_with("dword:"))
+        Registry::WriteNumber(FromUtf8(key), FromUtf8(name),
+                              static_cast<std::int32_t>(std::stoul(text.substr(6), nullptr, 16)));
+    else
+        Registry::WriteText(FromUtf8(key), FromUtf8(name), FromUtf8(text));
+}
+
+void Empty(const fs::path& folder)
+{
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+}
+
+} // namespace
+
+WindowsMachine::WindowsMachine(fs::path home)
+    : m_home{std::move(home)}, m_work{m_home / "work"}, m_note{m_work / "registry.json"}
+{
+    m_note.PutBackAll();
+    fs::create_directories(m_work / "addin");
+    fs::copy_file(m_home / kLibrary, m_work / "addin" / kLibrary, fs::copy_options::overwrite_existing);
+    Register();
+}
+
+WindowsMachine::~WindowsMachine()
+{
+    try {
+        m_note.PutBackAll();
+        fs::remove_all(m_work);
+    } catch (const std::exception&) {
+        return; // the note is there for the next start
+    }
+}
+
+void WindowsMachine::CleanUp(const fs::path& home)
+{
+    RegistryNote{home / "work/registry.json"}.PutBackAll();
+    fs::remove_all(home / "work");
+}
+
+void WindowsMachine::Register()
+{
+    const Library library{m_work / "addin" / kLibrary};
+    std::vector<std::wstring> keys{std::begin(kOfHosts), std::end(kOfHosts)};
+    keys.insert(keys.end(), {kTrial, kOwn, kPolicies});
+    m_note.Add(keys, {{kUserShellFolders, L"Personal"}, {kShellFolders, L"Personal"}});
+    m_note.Add(KeysOf(library), {});
+    library.Register();
+}
+
+std::string WindowsMachine::Refuses(const Scenario& scenario) const
+{
+    const auto lack = std::ranges::find_if(kLacks, [&](const Lack& one) { return one.keepsOff(scenario); });
+    return lack == std::end(kLacks) ? "" : lack->reason;
+}
+
+std::string WindowsMachine::HostPath(const fs::path& path) const { return Utf8Of(path); }
+
+void WindowsMachine::Reset(const fs::path& folder, const std::vector<std::string>& values)
+{
+    for (const wchar_t* key : kOfHosts)
+        m_note.PutBack(key);
+    Empty(m_work / "temp");
+    Empty(m_work / "appdata");
+    Registry::DeleteTree(kOwn);
+    Registry::DeleteTree(kPolicies);
+    Registry::WriteText(kUserShellFolders, L"Personal", (folder / "documents").wstring());
+    for (const auto& value : values)
+        WriteWish(value);
+}
+
+void WindowsMachine::WriteSettings(const std::vector<std::string>& options) const
+{
+    const auto has = [&](const char* option) { return std::ranges::find(options, option) != options.end(); };
+    const auto timeout = std::ranges::find(options, "--timeout");
+    WriteBytes(m_work / "addin/settings.config",
+               std::string{"<settings>\n  <setting name=\"EnableTraceLogs\" value=\""} +
+                   (has("--trace") ? "true" : "false") + "\"/>\n  <setting name=\"RequestTimeoutSeconds\" value=\"" +
+                   (timeout == options.end() ? "20" : *(timeout + 1)) + "\"/>\n</settings>\n");
+    fs::remove(m_work / "addin" / kHelp);
+    if (!has("--no-help")) fs::copy_file(m_home / kHelp, m_work / "addin" / kHelp);
+}
+
+std::map<std::string, std::string> WindowsMachine::Environment() const
+{
+    const auto temporary = Utf8Of(m_work / "temp");
+    return {{"APPDATA", Utf8Of(m_work / "appdata")}, {"TEMP", temporary}, {"TMP", temporary}};
+}
+
+Played WindowsMachine::Run(const Play& play)
+{
+    const auto& scenario = play.scenario;
+    WriteSettings(Words(scenario.One("run")));
+    Command command{.words = {Utf8Of(m_home / "corvane-host.exe"), "--play", HostPath(scenario.file), "--out",
+                              HostPath(play.folder)},
+                    .settings = Environment(),
+                    .output = play.folder / "host.txt"};
+    std::ranges::move(Words(scenario.One("host")), std::back_inserter(command.words));
+    for (const auto& setting : play.settings)
+        command.words.insert(command.words.end(), {"--set", setting});
+    Played played;
+    {
+        Process host{command};
+        const bool measured = scenario.IsChecked("cpu-below");
+        const auto end = Clock::now() + play.patience.value_or(std::chrono::hours{24 * 365});
+        while (!played.status && Clock::now() < end && !Stopping()) {
+            if (measured) played.processor.push_back(NoteOf(host.Id()));
+            played.status = host.Wait(measured ? kMeasured : std::chrono::milliseconds{1000});
+        }
+    }
+    played.printed = ReadableUtf8(ReadOrEmpty(command.output));
+    return played;
+}
+
+void WindowsMachine::RunForPerson()
+{
+    WriteSettings({"--trace"});
+    Process host{{.words = {Utf8Of(m_home / "corvane-host.exe")}, .settings = Environment()}};
+    while (!host.Wait(std::chrono::hours{1}) && !Stopping()) {
+    }
+}
+
+std::vector<fs::path> WindowsMachine::TemporaryFiles() const
+{
+    auto files = FilesIn(m_work / "temp", "");
+    std::erase_if(files, [](const fs::path& file) { return !HasGuidName(file); });
+    return files;
+}
+
+std::vector<fs::path> WindowsMachine::Traces() const { return FilesBelow(m_work / "appdata/Halvex", ".log"); }
+
+} // namespace verify
