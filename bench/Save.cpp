@@ -4,9 +4,12 @@
 #include "Measure.h"
 #include "objects/Application.h"
 #include "objects/DocumentObject.h"
+#include "platform/MessageLoop.h"
 #include "resources/resource.h"
 #include "shared/DocumentProperties.h"
 #include "shared/HostDocument.h"
+
+#include <commctrl.h>
 
 namespace bench
 {
@@ -16,12 +19,21 @@ namespace
 constexpr long kPptx = 24;
 
 // Presses Save in the dialog of this process as soon as it can be pressed, as an instant user would; again while it
-// still can, because a dialog that is still loading overhears it.
+// still can, because a dialog that is still loading overhears it. Looks at every message, and where none comes by a
+// timer.
 class InstantUser
 {
 public:
-    InstantUser() : m_timer{::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, &Look)} {}
-    ~InstantUser() { ::KillTimer(nullptr, m_timer); }
+    InstantUser()
+        : m_timer{::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, &Look)}, m_hook{::SetWindowsHookExW(
+                                                                          WH_GETMESSAGE, &Overhear, nullptr,
+                                                                          ::GetCurrentThreadId())}
+    {}
+    ~InstantUser()
+    {
+        ::UnhookWindowsHookEx(m_hook);
+        ::KillTimer(nullptr, m_timer);
+    }
     InstantUser(const InstantUser&) = delete;
     InstantUser& operator=(const InstantUser&) = delete;
 
@@ -29,6 +41,11 @@ private:
     static void CALLBACK Look(HWND, UINT, UINT_PTR, DWORD)
     {
         ::EnumThreadWindows(::GetCurrentThreadId(), &PressSave, 0);
+    }
+    static LRESULT CALLBACK Overhear(int code, WPARAM word, LPARAM data)
+    {
+        Look(nullptr, WM_TIMER, 0, 0);
+        return ::CallNextHookEx(nullptr, code, word, data);
     }
     static BOOL CALLBACK PressSave(HWND window, LPARAM)
     {
@@ -40,6 +57,26 @@ private:
     }
 
     UINT_PTR m_timer;
+    HHOOK m_hook;
+};
+
+// A window of the host's, shown and painted: with it come the system's theme and fonts, which every host has loaded.
+class HostWindow
+{
+public:
+    HostWindow()
+        : m_window{::CreateWindowW(WC_BUTTONW, L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 500, 400, nullptr,
+                                   nullptr, nullptr, nullptr)}
+    {
+        ::UpdateWindow(m_window);
+        corvane::PumpPending();
+    }
+    ~HostWindow() { ::DestroyWindow(m_window); }
+    HostWindow(const HostWindow&) = delete;
+    HostWindow& operator=(const HostWindow&) = delete;
+
+private:
+    HWND m_window;
 };
 
 } // namespace
@@ -57,6 +94,7 @@ void SaveBoundDocument(const Words& words)
     corvane::SetBindingProperties(document, binding);
     presentation.SaveAs(words[2], kPptx);
     WarmUp();
+    const HostWindow window;
     const InstantUser user;
     const Stopwatch watch;
     addIn.Press(L"DelivAct");

@@ -1,4 +1,5 @@
-// The tree of targets filled from an answer, against parsing the same answer and inserting the same nodes.
+// The tree of targets filled from an answer, against parsing the same answer and inserting the same nodes; and, with
+// another thread that posts messages meanwhile, how long these wait.
 #include "BareRequest.h"
 #include "Benchmarks.h"
 #include "Measure.h"
@@ -206,13 +207,13 @@ void FillTree(const Words& words)
     const TreeWindow window;
     ParseBare({{}, L"<x/>"}); // loads the parser
     if (words[0] == L"bare") return FillBare(window.Tree(), answer);
+    if (words[0] == L"add-in") return FillAsTheAddIn(window.Tree(), answer);
     {
         const Heart heart{window.Window()};
         corvane::PumpFor(std::chrono::milliseconds{50});
         FillAsTheAddIn(window.Tree(), answer);
         corvane::PumpFor(std::chrono::milliseconds{50});
     }
-    Tell("nodes", static_cast<double>(answer.nodes.size()));
     Tell("gap", TreeWindow::LongestGap());
 }
 

@@ -70,6 +70,7 @@ Variant Variant::As(VARTYPE type) const
 std::wstring Variant::TextOf(const VARIANT& value)
 {
     if (value.vt == VT_EMPTY || value.vt == VT_NULL) return {};
+    if (value.vt == VT_BSTR) return std::wstring{ViewOf(value.bstrVal)};
     Variant text;
     Check(::VariantChangeTypeEx(text.Put(), const_cast<VARIANT*>(&value), LOCALE_USER_DEFAULT, VARIANT_ALPHABOOL,
                                 VT_BSTR),

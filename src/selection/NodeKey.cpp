@@ -20,7 +20,10 @@ std::optional<std::int32_t> IdBehind(std::wstring_view key, std::wstring_view ma
 
 std::wstring NodeKey(std::wstring_view parentKey, const TreeLevel& level, std::wstring_view id)
 {
-    return std::wstring{parentKey} + level.marker + std::wstring{id};
+    std::wstring key;
+    const std::wstring_view marker = level.marker;
+    key.reserve(parentKey.size() + marker.size() + id.size()); // there are tens of thousands of them
+    return key.append(parentKey).append(marker).append(id);
 }
 
 std::optional<Target> TargetOfKey(TreeMode mode, std::wstring_view key)

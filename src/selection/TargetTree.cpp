@@ -57,7 +57,8 @@ void TargetTree::AddNode(const Position& parent, const XmlNode& element, std::si
 TargetTree::Position TargetTree::Insert(const Position& parent, const TreeLevel& level, const std::wstring& id,
                                         const std::wstring& text, const std::wstring& iconSet)
 {
-    Position node{nullptr, NodeKey(parent.key, level, std::to_wstring(ToLongSafe(id)))};
+    const std::int32_t number = ToLongSafe(id);
+    Position node{nullptr, NodeKey(parent.key, level, std::to_wstring(number))};
     TVINSERTSTRUCTW insert{};
     insert.hParent = parent.item;
     insert.hInsertAfter = TVI_LAST;
@@ -69,7 +70,7 @@ TargetTree::Position TargetTree::Insert(const Position& parent, const TreeLevel&
     insert.item.iSelectedImage = insert.item.iImage;
     node.item = TreeView_InsertItem(m_treeView, &insert);
     m_keys.push_back(node.key);
-    if (IsPreselected(node.key, level)) {
+    if (level.isTarget && number == m_preselected.*level.id && IsPreselected(node.key, level)) {
         TreeView_EnsureVisible(m_treeView, node.item);
         TreeView_SelectItem(m_treeView, node.item);
     }
@@ -78,7 +79,6 @@ TargetTree::Position TargetTree::Insert(const Position& parent, const TreeLevel&
 
 bool TargetTree::IsPreselected(const std::wstring& key, const TreeLevel& level) const
 {
-    if (!level.isTarget) return false;
     const auto target = TargetOfKey(m_kind.mode, key);
     if (!target || *target.*level.id != m_preselected.*level.id) return false;
     // Entries for a new target have one id in all projects.
