@@ -60,13 +60,13 @@ private:
     HHOOK m_hook;
 };
 
-// A window of the host's, shown and painted: with it come the system's theme and fonts, which every host has loaded.
+// A small window of the host's, shown and painted: with it come the system's theme and fonts, which every host has
 class HostWindow
 {
 public:
     HostWindow()
-        : m_window{::CreateWindowW(WC_BUTTONW, L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 500, 400, nullptr,
-                                   nullptr, nullptr, nullptr)}
+        : m_window{::CreateWindowW(WC_BUTTONW, L"Host", WS_POPUP | WS_VISIBLE, 0, 0, 100, 40, nullptr, nullptr, nullptr,
+                                   nullptr)}
     {
         ::UpdateWindow(m_window);
         corvane::PumpPending();
