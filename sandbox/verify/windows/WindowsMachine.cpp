@@ -155,9 +155,9 @@ void Empty(const fs::path& folder)
 WindowsMachine::WindowsMachine(fs::path home)
     : m_home{std::move(home)}, m_work{m_home / "work"}, m_note{m_work / "registry.json"}
 {
-    m_note.PutBackAll();
+    CleanUp(m_home);
     fs::create_directories(m_work / "addin");
-    fs::copy_file(m_home / kLibrary, m_work / "addin" / kLibrary, fs::copy_options::overwrite_existing);
+    fs::copy_file(m_home / kLibrary, m_work / "addin" / kLibrary);
     Register();
 }
 
