@@ -67,6 +67,7 @@ kit: all
 
 test-package: all
 	tests/package/run $(ARCH)
+	tests/package/kit $(ARCH)
 
 sandbox: all
 	sandbox/open $(ARCH)
