@@ -23,17 +23,18 @@ test: packages
 	@tools/build native
 	tests/run $(ARCH)
 
-# Every fault of the server: in each call, and in each request of each dialog; and the faults of our own that show only
-# where they are trapped.
+# Every fault of the server: in each call, and in each request of each dialog; what can be played in any host, by the
+# library that does so; and the faults of our own that show only where they are trapped.
 faults: all
 	tests/faults/run $(ARCH)
 	tests/scenarios/run $(ARCH) stories
+	tests/scenarios/run $(ARCH) --companion
 	$(MAKE) --no-print-directory checked
 
 # The scenarios with a library and a host that end at undefined behaviour and at misused containers.
 checked: all
 	@[ -e build/checked/build.ninja ] || cmake --preset checked >/dev/null
-	ninja -C build/checked --quiet addin corvane-host help-file
+	ninja -C build/checked --quiet addin corvane-host companion help-file
 	tests/scenarios/run checked
 
 # A thousand saves in one host; what it holds after each round is in build/scenarios/soak/host.txt.

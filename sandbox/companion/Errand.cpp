@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include "companion/Agreement.h"
 #include "platform/Utf8.h"
 
 namespace corvane::companion

@@ -1,6 +1,6 @@
 // The library's entry points.
+#include "companion/Agreement.h"
 #include "companion/Connection.h"
-#include "companion/Registration.h"
 #include "platform/ClassFactory.h"
 #include "platform/Procedure.h"
 

@@ -2,6 +2,7 @@
 
 #include <climits>
 
+#include "companion/Agreement.h"
 #include "companion/Suitability.h"
 #include "platform/MessageLoop.h"
 #include "platform/Procedure.h"
@@ -64,7 +65,7 @@ std::wstring Performance::PlayIfSuitable()
         FindMisfit(steps, m_errand.settings, run.OnUi([this] { return m_stage.HostVersion(); }));
     if (!misfit.empty()) {
         run.Quit();
-        return L"not for this host: " + misfit;
+        return kMisfitWords + misfit;
     }
     const player::Outcome outcome = player::Play(m_stage, m_errand.scenario, m_errand.settings);
     if (outcome.failure.empty())

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "companion/Agreement.h"
 #include "platform/Utf8.h"
 
 namespace corvane::companion

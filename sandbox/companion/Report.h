@@ -8,8 +8,6 @@
 namespace corvane::companion
 {
 
-constexpr wchar_t kReportName[] = L"player.txt"; // in the errand's folder
-
 // Writes line by line in UTF-8, so that all is there when the process ends at once. Any thread.
 //
 // The last line is the verdict: "scenario passed: FILE (N steps, 64-bit)", "scenario failed: FILE" behind what went

@@ -1,8 +1,6 @@
 #include "companion/Suitability.h"
 
-#include <algorithm>
-#include <cctype>
-
+#include "companion/Agreement.h"
 #include "platform/Utf8.h"
 
 namespace corvane::companion
@@ -38,16 +36,9 @@ constexpr Misfit kMenuMisfits[] = {
 
 constexpr wchar_t kNotChanged[] = L"what the host offers and how its documents are is not the player's to change";
 
-// Words that a scenario leaves open are in capitals; the other names mean something to a stand-in or to the player.
-bool IsPlayersOwn(std::string_view setting)
-{
-    return setting == "patience" || setting == "progress" ||
-           std::ranges::none_of(setting, [](unsigned char c) { return std::islower(c) != 0; });
-}
-
 const wchar_t* WhyNot(const player::Step& step, int hostVersion)
 {
-    if (step.row->name == "set") return IsPlayersOwn(ToUtf8(step.At(0))) ? nullptr : kNotChanged;
+    if (step.row->name == "set") return IsForPlayer(ToUtf8(step.At(0))) ? nullptr : kNotChanged;
     for (const Misfit& row : kMisfits)
         if (row.step == step.row->name) return row.why;
     for (const Misfit& row : kMenuMisfits)
@@ -60,7 +51,7 @@ const wchar_t* WhyNot(const player::Step& step, int hostVersion)
 std::wstring FindMisfit(const std::vector<player::Step>& steps, const player::Settings& settings, int hostVersion)
 {
     for (const auto& [name, value] : settings)
-        if (!IsPlayersOwn(name)) return L"set " + FromUtf8(name) + L" \"" + FromUtf8(value) + L"\": " + kNotChanged;
+        if (!IsForPlayer(name)) return L"set " + FromUtf8(name) + L" \"" + FromUtf8(value) + L"\": " + kNotChanged;
     for (const player::Step& step : steps)
         if (const wchar_t* why = WhyNot(step, hostVersion)) return step.source + L": " + why;
     return {};

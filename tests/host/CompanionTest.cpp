@@ -8,6 +8,7 @@
 #include "base/Text.h"
 #include "companion/AddInCommands.h"
 #include "companion/ObjectModelStage.h"
+#include "companion/Suitability.h"
 #include "documents/Files.h"
 #include "objects/AddInObjects.h"
 #include "objects/Application.h"
@@ -17,37 +18,9 @@ namespace host
 namespace
 {
 
-using Names = std::set<std::string>;
-
-// An object that notes which members are asked for by name, of itself and of every object that it gives.
-class Noting final : public corvane::ComObject<Noting, IDispatch>
-{
-public:
-    Noting(ComPtr<IDispatch> object, Names& names) : m_object{std::move(object)}, m_names{names} {}
-
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID id, LPOLESTR* names, UINT count, LCID locale, DISPID* ids) override
-    {
-        m_names.insert(Narrow(*names));
-        return m_object->GetIDsOfNames(id, names, count, locale, ids);
-    }
-    STDMETHODIMP Invoke(DISPID member, REFIID id, LCID locale, WORD kind, DISPPARAMS* arguments, VARIANT* result,
-                        EXCEPINFO* exception, UINT* wrong) override
-    {
-        const HRESULT answered = m_object->Invoke(member, id, locale, kind, arguments, result, exception, wrong);
-        if (SUCCEEDED(answered) && result != nullptr && result->vt == VT_DISPATCH && result->pdispVal != nullptr) {
-            ComPtr<IDispatch> given;
-            given.Attach(result->pdispVal);
-            result->pdispVal = MakeObject<Noting>(given, m_names).Detach();
-        }
-        return answered;
-    }
-
-private:
-    ComPtr<IDispatch> m_object;
-    Names& m_names;
-};
+namespace player = corvane::player;
+using corvane::companion::FindMisfit;
+using Names = std::set<std::wstring>;
 
 // The members that the page lists, as `Object.Member`.
 Names Listed()
@@ -58,7 +31,7 @@ Names Listed()
     Names names;
     const std::regex member{"`[A-Z][A-Za-z]+\\.([A-Z][A-Za-z]+)`"};
     for (std::sregex_iterator at{page.begin(), page.end(), member}; at != std::sregex_iterator{}; ++at)
-        names.insert((*at)[1]);
+        names.insert(Widen((*at)[1].str()));
     return names;
 }
 
@@ -71,8 +44,9 @@ TEST(Companion, AsksOfItsHostForWhatThePageListsAndNothingElse)
     session.AddAddIn(MakeObject<ComAddInObject>(corvane::companion::kAddInProgId, L""));
     const test::TemporaryFolder folder;
     corvane::companion::Report report{folder.Path()};
-    corvane::companion::ObjectModelStage stage{corvane::LateBound{MakeObject<Noting>(&session.Application(), asked)},
+    corvane::companion::ObjectModelStage stage{corvane::LateBound{ComPtr<IDispatch>{&session.Application()}},
                                                folder.Path(), report};
+    ObjectCore::NoteNames(&asked);
     stage.SetReady();
     EXPECT_EQ(stage.HostVersion(), 16);
     EXPECT_EQ(stage.AddInState(), L"failed");
@@ -91,7 +65,31 @@ TEST(Companion, AsksOfItsHostForWhatThePageListsAndNothingElse)
     EXPECT_THROW(static_cast<void>(stage.LastMail()), corvane::Error);
     stage.Quit();
     EXPECT_TRUE(hasQuit && session.OpenDocuments().empty());
+    ObjectCore::NoteNames(nullptr);
     EXPECT_EQ(asked, Listed());
+}
+
+TEST(Companion, KnowsBeforehandWhatOnlyAStandInCanDo)
+{
+    const struct
+    {
+        const char* script;
+        int version;
+        player::Settings settings;
+        std::wstring_view misfit;
+    } cases[] = {
+        {"new\nset patience 3\ncommand DelivAct\nquit", 16, {{"SERVER", "x"}, {"progress", "on"}}, L""},
+        {"new\nset document.final true", 16, {}, L"set document.final true: "},
+        {"new", 16, {{"outlook", "new"}}, L"set outlook \"new\": "},
+        {"new\ncommand DelivAct", 11, {}, L"command DelivAct: "},
+        {"disconnect", 16, {}, L"disconnect: "},
+        {"new\nmail To \"x\"\nexit", 16, {}, L"mail To \"x\": "},
+    };
+    const auto rows = player::AllSteps();
+    for (const auto& [script, version, settings, misfit] : cases) {
+        const auto found = FindMisfit(player::ParseScript(script, settings, rows), settings, version);
+        EXPECT_TRUE(misfit.empty() ? found.empty() : found.starts_with(misfit)) << script << ": " << Narrow(found);
+    }
 }
 
 } // namespace

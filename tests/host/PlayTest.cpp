@@ -9,11 +9,7 @@
 #include "FakeAddIn.h"
 #include "TemporaryFolder.h"
 #include "base/Text.h"
-#include "companion/Errand.h"
-#include "companion/Registration.h"
-#include "companion/Report.h"
 #include "documents/Files.h"
-#include "platform/Files.h"
 #include "platform/Registry.h"
 
 namespace host
@@ -78,36 +74,11 @@ protected:
     Outcome Play(const std::string& script, const std::wstring& arguments = {})
     {
         WriteWholeFile(folder.File(L"play.txt"), script);
-        return Run(L" --play \"" + folder.File(L"play.txt") + L"\" --set \"FOLDER=" + folder.Path() +
-                   L"\" --set macro.Fake.BeforeSave=ok " + arguments);
-    }
-
-    // The library of its own plays in a host that is not told to play; what it reports.
-    Outcome PlayByLibrary(const std::string& script)
-    {
-        namespace companion = corvane::companion;
-        WriteWholeFile(folder.File(L"play.txt"), script);
-        for (const auto& [key, name, content] : companion::RegistryValues(PLAYER_LIBRARY))
-            std::holds_alternative<std::wstring>(content)
-                ? Registry::WriteText(key, name, std::get<std::wstring>(content))
-                : Registry::WriteNumber(key, name, std::get<std::int32_t>(content));
-        ::SetEnvironmentVariableW(companion::kScenarioVariable, folder.File(L"play.txt").c_str());
-        ::SetEnvironmentVariableW(companion::kFolderVariable, folder.Path().c_str());
-        ::SetEnvironmentVariableW(companion::kSettingsVariable, (L"FOLDER=" + folder.Path() + L"\nROUNDS=2").c_str());
-        Outcome outcome = Run(L"");
-        ::SetEnvironmentVariableW(companion::kScenarioVariable, nullptr);
-        for (const std::wstring& key : companion::RegistryKeys())
-            Registry::DeleteTree(key);
-        outcome.output += ReadWholeFile(folder.File(companion::kReportName));
-        return outcome;
-    }
-
-    Outcome Run(const std::wstring& arguments)
-    {
         SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
         UniqueFile log{::CreateFileW(folder.File(L"log.txt").c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
                                      &inherited, CREATE_ALWAYS, 0, nullptr)};
-        std::wstring line = L"\"" HOST_PROGRAM L"\"" + arguments;
+        std::wstring line = L"\"" HOST_PROGRAM L"\" --play \"" + folder.File(L"play.txt") + L"\" --set \"FOLDER=" +
+                            folder.Path() + L"\" --set macro.Fake.BeforeSave=ok " + arguments;
         STARTUPINFOW start{};
         start.cb = sizeof start;
         start.dwFlags = STARTF_USESTDHANDLES;
@@ -276,19 +247,6 @@ TEST_F(PlayTest, LoadsTheAddInsOfTheHostThatItIs)
         ExpectPassed(Play("new\nset author Bo\ncommand Hello\nmessage \"0 activations\" No\n", L"--host " + host));
         ::RegDeleteTreeW(HKEY_CURRENT_USER, key.c_str());
     }
-}
-
-TEST_F(PlayTest, IsPlayedByALibraryThatAsksForItsObjectModelAlone)
-{
-    ExpectPassed(
-        PlayByLibrary("repeat ${ROUNDS}\nnew\nend\nsaveas \"${FOLDER}\\one\"\ngive Node \"x\"\n"
-                      "activate Presentation1\nactivate one.pptx\nproperty Node \"x\"\nexpect addin absent\n"));
-    const Outcome failed = PlayByLibrary("new\nset patience 0\nexpect document \"none\"\n");
-    EXPECT_NE(failed.output.find("it is Presentation1"), std::string::npos) << failed.output;
-    EXPECT_TRUE(failed.output.ends_with("scenario failed: play.txt\r\n")) << failed.output;
-    const Outcome misfit = PlayByLibrary("new\nsaveas \"${FOLDER}\\two\"\nmail To \"x\"\n");
-    EXPECT_NE(misfit.output.find("not for this host: mail To \"x\": the"), std::string::npos) << misfit.output;
-    EXPECT_FALSE(corvane::FileExists(folder.File(L"two.pptx"))) << "a part of it was played";
 }
 
 TEST_F(PlayTest, OffersTheSiblingsLoginOnlyWhileItRuns)

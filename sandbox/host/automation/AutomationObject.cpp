@@ -17,6 +17,12 @@ std::wstring& Source()
     return source;
 }
 
+std::set<std::wstring>*& Noted()
+{
+    static std::set<std::wstring>* noted = nullptr;
+    return noted;
+}
+
 std::map<std::wstring, int>& Ledger()
 {
     static std::map<std::wstring, int> ledger;
@@ -51,6 +57,8 @@ ObjectCore::~ObjectCore() { --Ledger()[m_className]; }
 
 void ObjectCore::SetSource(const std::wstring& source) { Source() = source; }
 
+void ObjectCore::NoteNames(std::set<std::wstring>* names) { Noted() = names; }
+
 std::wstring ObjectCore::StillReferenced()
 {
     std::wstring text;
@@ -62,6 +70,7 @@ std::wstring ObjectCore::StillReferenced()
 HRESULT ObjectCore::FindNames(LPOLESTR* names, UINT count, DISPID* ids) const noexcept
 {
     if (names == nullptr || ids == nullptr || count == 0) return E_INVALIDARG;
+    if (Noted() != nullptr) Noted()->insert(names[0]);
     std::fill(ids, ids + count, DISPID_UNKNOWN);
     const auto found = std::ranges::find_if(m_members, [&](const Member& m) { return SameText(m.name, names[0]); });
     if (found == m_members.end()) return DISP_E_UNKNOWNNAME;

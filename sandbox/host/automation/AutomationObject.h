@@ -6,6 +6,7 @@
 #include "platform/Variant.h"
 
 #include <functional>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -70,6 +71,9 @@ public:
 
     // What all objects of this process name as the source of their errors.
     static void SetSource(const std::wstring& source);
+
+    // Adds the names of members that programs ask for to a set that the caller owns; null ends it.
+    static void NoteNames(std::set<std::wstring>* names);
 
     // The objects that are still referred to, as "Application x1, Presentation x2"; an empty text where none is.
     static std::wstring StillReferenced();

@@ -20,6 +20,7 @@ struct Play
     std::filesystem::path folder;                 // the scenario's own; "documents" in it is the user's folder
     std::vector<std::string> settings;            // NAME=VALUE
     std::optional<std::chrono::seconds> patience; // none: for ever
+    bool byCompanion = false;                     // the player's library plays; the host is not told to
 };
 
 struct Played

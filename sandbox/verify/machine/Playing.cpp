@@ -1,10 +1,12 @@
 #include "machine/Playing.h"
 
+#include "companion/Agreement.h"
 #include "judge/Checks.h"
 #include "judge/Failure.h"
 #include "judge/Text.h"
 #include "machine/Files.h"
 #include "machine/Server.h"
+#include "platform/Utf8.h"
 
 #include <array>
 #include <atomic>
@@ -32,6 +34,21 @@ std::string Today()
     return text.data();
 }
 
+// The registration of the player's library, each value as a scenario would ask for it.
+std::vector<std::string> RegistrationOf(const std::string& library)
+{
+    std::vector<std::string> values;
+    for (const auto& [key, name, content] : corvane::companion::RegistryValues(corvane::FromUtf8(library))) {
+        auto value = corvane::ToUtf8(key).append(" ").append(corvane::ToUtf8(name)).append("=");
+        if (const auto* text = std::get_if<std::wstring>(&content))
+            value += corvane::ToUtf8(*text);
+        else
+            value += "dword:" + std::to_string(std::get<std::int32_t>(content));
+        values.push_back(std::move(value));
+    }
+    return values;
+}
+
 std::vector<std::string> ProfileOf(const Scenario& scenario, const std::string& server)
 {
     auto values = scenario.All("registry");
@@ -53,7 +70,7 @@ std::vector<std::string> SettingsOf(const Machine& machine, const Scenario& scen
 }
 
 // The host's own words prove that it ran at all: Wine reports success for a program that it cannot run.
-void RequirePassed(const Played& played, const Scenario& scenario, int bits)
+void RequirePassed(const Played& played, const Scenario& scenario, int bits, bool byCompanion)
 {
     const auto width = std::to_string(bits) + "-bit";
     const auto passed = "scenario passed: " + Utf8Of(scenario.file.filename()) + " (";
@@ -64,6 +81,15 @@ void RequirePassed(const Played& played, const Scenario& scenario, int bits)
             "no " + width + " host passed: exit status " + status);
     Require(played.printed.find("DllCanUnloadNow: S_OK") != std::string::npos,
             "the add-in's library cannot be unloaded after the disconnection");
+    Require(!byCompanion || played.printed.find("DllCanUnloadNow: S_FALSE") == std::string::npos,
+            "a library cannot be unloaded after the disconnection");
+}
+
+// What the player's library found that only a stand-in can do, of a scenario that it has not played.
+std::string MisfitIn(const std::string& printed)
+{
+    const auto misfit = CutAt(printed, corvane::ToUtf8(corvane::companion::kMisfitWords)).second;
+    return CutAt(misfit, "\r").first;
 }
 
 void RequireNoTemporaryFiles(const Machine& machine)
@@ -93,17 +119,26 @@ Outcome Collected(const Machine& machine, const Server& server, const std::files
 void Judge(Machine& machine, const Scenario& scenario, const RunPlan& plan, Result& result)
 {
     const auto folder = plan.out / PathOf(scenario.name);
+    const bool byCompanion = !plan.companion.empty() && (plan.byCompanion || scenario.Wants("companion"));
     Server server{plan.server, folder};
     Played played;
     try {
         server.Start(scenario);
-        machine.Reset(folder, ProfileOf(scenario, server.Address()));
+        auto values = ProfileOf(scenario, server.Address());
+        if (byCompanion)
+            std::ranges::move(RegistrationOf(machine.HostPath(plan.companion)), std::back_inserter(values));
+        machine.Reset(folder, values);
         auto settings = SettingsOf(machine, scenario, folder, server.Address());
         settings.insert(settings.end(), plan.settings.begin(), plan.settings.end());
-        played =
-            machine.Run({scenario, folder, settings, plan.settings.empty() ? std::optional{kPatience} : std::nullopt});
+        played = machine.Run(
+            {scenario, folder, settings, plan.settings.empty() ? std::optional{kPatience} : std::nullopt, byCompanion});
         server.Stop();
-        RequirePassed(played, scenario, plan.bits);
+        if (byCompanion) result.words = MisfitIn(played.printed);
+        if (!result.words.empty()) {
+            result.verdict = Verdict::NotHere;
+            return;
+        }
+        RequirePassed(played, scenario, plan.bits, byCompanion);
         RequireNoTemporaryFiles(machine);
         result.remarks = Check(scenario, Collected(machine, server, folder, played));
     } catch (const std::exception& problem) {
@@ -134,7 +169,9 @@ void Tell(const Result& result)
 Result PlayScenario(Machine& machine, const Scenario& scenario, const RunPlan& plan)
 {
     Result result{.name = scenario.name, .about = FirstComment(scenario)};
-    if (result.words = machine.Refuses(scenario); !result.words.empty()) {
+    result.words = machine.Refuses(scenario);
+    if (plan.byCompanion && scenario.Wants("host")) result.words = "its host is another: " + scenario.One("host");
+    if (!result.words.empty()) {
         result.verdict = Verdict::NotHere;
         return result;
     }

@@ -21,6 +21,8 @@ struct RunPlan
     std::filesystem::path out;    // receives a folder for each scenario
     int bits = 64;                // of the host
     std::vector<std::string> settings{};
+    std::filesystem::path companion{}; // the player's library; empty where there is none
+    bool byCompanion = false;          // it plays all scenarios, not only those that ask for it
 };
 
 // Plays the scenario against a fresh server by a user with a fresh profile, and checks it.

@@ -1,8 +1,10 @@
 #include "windows/WindowsMachine.h"
 
+#include "companion/Agreement.h"
 #include "judge/Failure.h"
 #include "judge/Text.h"
 #include "machine/Files.h"
+#include "machine/Order.h"
 #include "machine/Process.h"
 #include "platform/Owners.h"
 #include "platform/Registry.h"
@@ -182,6 +184,7 @@ void WindowsMachine::Register()
     const Library library{m_work / "addin" / kLibrary};
     std::vector<std::wstring> keys{std::begin(kOfHosts), std::end(kOfHosts)};
     keys.insert(keys.end(), {kTrial, kOwn, kPolicies});
+    std::ranges::move(corvane::companion::RegistryKeys(), std::back_inserter(keys));
     m_note.Add(keys, {{kUserShellFolders, L"Personal"}, {kShellFolders, L"Personal"}});
     m_note.Add(KeysOf(library), {});
     library.Register();
@@ -198,6 +201,8 @@ std::string WindowsMachine::HostPath(const fs::path& path) const { return Utf8Of
 void WindowsMachine::Reset(const fs::path& folder, const std::vector<std::string>& values)
 {
     for (const wchar_t* key : kOfHosts)
+        m_note.PutBack(key);
+    for (const auto& key : corvane::companion::RegistryKeys())
         m_note.PutBack(key);
     Empty(m_work / "temp");
     Empty(m_work / "appdata");
@@ -230,13 +235,10 @@ Played WindowsMachine::Run(const Play& play)
 {
     const auto& scenario = play.scenario;
     WriteSettings(Words(scenario.One("run")));
-    Command command{.words = {Utf8Of(m_home / "corvane-host.exe"), "--play", HostPath(scenario.file), "--out",
-                              HostPath(play.folder)},
-                    .settings = Environment(),
-                    .output = play.folder / "host.txt"};
-    std::ranges::move(Words(scenario.One("host")), std::back_inserter(command.words));
-    for (const auto& setting : play.settings)
-        command.words.insert(command.words.end(), {"--set", setting});
+    auto order = OrderOf(*this, play);
+    order.words.insert(order.words.begin(), Utf8Of(m_home / "corvane-host.exe"));
+    order.settings.merge(Environment());
+    const Command command{.words = order.words, .settings = order.settings, .output = play.folder / "host.txt"};
     Played played;
     {
         Process host{command};
@@ -247,7 +249,7 @@ Played WindowsMachine::Run(const Play& play)
             played.status = host.Wait(measured ? kMeasured : std::chrono::milliseconds{1000});
         }
     }
-    played.printed = ReadableUtf8(ReadOrEmpty(command.output));
+    played.printed = ReadableUtf8(ReadOrEmpty(command.output)) + ReportedBy(play);
     return played;
 }
 

@@ -22,7 +22,7 @@ namespace fs = std::filesystem;
 
 constexpr int kBits = CHAR_BIT * sizeof(void*);
 constexpr int kBadArguments = 2;
-constexpr const char* kUsage = "usage: corvane-verify --verify [NAME|FILE|FOLDER]... [SETTING=VALUE]...\n"
+constexpr const char* kUsage = "usage: corvane-verify --verify [--companion] [NAME|FILE|FOLDER]... [SETTING=VALUE]...\n"
                                "       corvane-verify --try | --clean\n";
 
 // One at a time changes what a user has in the registry.
@@ -77,10 +77,16 @@ std::string SystemName()
 
 Report PlayBeside(const fs::path& home, const std::vector<std::string>& words)
 {
-    RunPlan plan{.server = home / "corvane-server.exe", .out = home / "report/scenarios", .bits = kBits};
+    RunPlan plan{.server = home / "corvane-server.exe",
+                 .out = home / "report/scenarios",
+                 .bits = kBits,
+                 .companion = home / "CorvanePlayer.dll"};
     std::vector<std::string> names;
     for (const auto& word : words)
-        (word.find('=') == std::string::npos ? names : plan.settings).push_back(word);
+        if (word == "--companion")
+            plan.byCompanion = true;
+        else
+            (word.find('=') == std::string::npos ? names : plan.settings).push_back(word);
     const auto choice = Choose({home / "scenarios/made", home / "scenarios"}, names);
     Report report{.facts = {{"Add-in", CORVANE_VERSION ", " + std::to_string(kBits) + "-bit"},
                             {"Host", "corvane-host, the stand-in"},

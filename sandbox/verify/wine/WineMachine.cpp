@@ -1,8 +1,11 @@
 #include "wine/WineMachine.h"
 
+#include "companion/Agreement.h"
 #include "judge/Failure.h"
 #include "judge/Text.h"
 #include "machine/Files.h"
+#include "machine/Order.h"
+#include "platform/Utf8.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -24,7 +27,8 @@ std::string ValueLine(const std::string& value)
 {
     const auto [name, text] = CutAt(value, "=");
     const bool number = text.starts_with("dword:");
-    return "\"" + name + "\"=" + (number ? text : "\"" + Replaced(Replaced(text, "\\", "\\\\"), "\"", "\\\"") + "\"");
+    return (name.empty() ? "@=" : "\"" + name + "\"=") +
+           (number ? text : "\"" + Replaced(Replaced(text, "\\", "\\\\"), "\"", "\\\"") + "\"");
 }
 
 // As .reg files are written: UTF-16 with a mark in front.
@@ -135,6 +139,8 @@ void WineMachine::Reset(const fs::path& folder, const std::vector<std::string>& 
                                    R"([-HKEY_CURRENT_USER\Software\Policies\Halvex])",
                                    std::string{R"([HKEY_CURRENT_USER\)"} + kShellFolders + "]",
                                    ValueLine("Personal=" + HostPath(folder / "documents"))};
+    for (const auto& key : corvane::companion::RegistryKeys())
+        lines.push_back("[-HKEY_CURRENT_USER\\" + corvane::ToUtf8(key) + "]");
     for (const auto& line : values) {
         const auto [key, value] = CutAt(line, " ");
         lines.push_back("[HKEY_CURRENT_USER\\" + key + "]");
@@ -156,10 +162,10 @@ Played WineMachine::Run(const Play& play)
         command.words.insert(command.words.end(), words.begin(), words.end());
     };
     add(Words(scenario.One("run")));
-    add({"--", "--play", HostPath(scenario.file), "--out", HostPath(play.folder)});
-    add(Words(scenario.One("host")));
-    for (const auto& setting : play.settings)
-        add({"--set", setting});
+    add({"--"});
+    const auto order = OrderOf(*this, play);
+    add(order.words);
+    command.settings.insert(order.settings.begin(), order.settings.end());
     command.output = play.folder / "host.txt";
     WriteBytes(m_playing, "");
     Played played;
@@ -173,7 +179,7 @@ Played WineMachine::Run(const Play& play)
         }
     }
     if (played.status) fs::remove(m_playing);
-    played.printed = ReadableUtf8(ReadOrEmpty(command.output));
+    played.printed = ReadableUtf8(ReadOrEmpty(command.output)) + ReportedBy(play);
     return played;
 }
 

@@ -17,11 +17,12 @@ namespace fs = std::filesystem;
 constexpr std::size_t kDesks = 6; // scenarios played at a time; they mostly wait
 constexpr int kBadArguments = 2;
 constexpr const char* kUsage =
-    "usage: corvane-verify [--arch x64|x86|checked] [NAME|FILE|FOLDER]... [SETTING=VALUE]...\n";
+    "usage: corvane-verify [--arch x64|x86|checked] [--companion] [NAME|FILE|FOLDER]... [SETTING=VALUE]...\n";
 
 struct Options
 {
     std::string arch = "x64";
+    bool byCompanion = false;
     std::vector<std::string> names;
     std::vector<std::string> settings;
 };
@@ -32,6 +33,8 @@ Options ReadOptions(const std::vector<std::string>& words)
     for (std::size_t at = 0; at < words.size(); ++at) {
         if (words[at] == "--arch" && at + 1 < words.size())
             options.arch = words[++at];
+        else if (words[at] == "--companion")
+            options.byCompanion = true;
         else if (words[at].starts_with("--"))
             throw std::invalid_argument{"unknown option " + words[at]};
         else
@@ -67,7 +70,9 @@ std::vector<Result> PlayChosen(const fs::path& top, const Options& options, cons
     const RunPlan plan{.server = top / "build/native/sandbox/server/corvane-server",
                        .out = top / "build/scenarios",
                        .bits = options.arch == "x86" ? 32 : 64,
-                       .settings = options.settings};
+                       .settings = options.settings,
+                       .companion = top / "build" / options.arch / "sandbox/companion/CorvanePlayer.dll",
+                       .byCompanion = options.byCompanion};
     std::vector<Scenario> others;
     std::vector<Scenario> alone;
     for (const auto& scenario : scenarios)

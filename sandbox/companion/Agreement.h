@@ -1,9 +1,11 @@
-// Under which names a host finds the player. Whoever wants a scenario played writes these values and removes them
-// afterwards; the library registers nothing by itself.
+// What the player and whoever starts its host agree on: the registration, the order to play, the report's verdict. The
+// starter writes the registration and removes it afterwards; the library registers nothing by itself.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -12,6 +14,23 @@ namespace corvane::companion
 
 constexpr wchar_t kProgId[] = L"CorvanePlayer.Connect";
 constexpr wchar_t kClassId[] = L"{6F4B8E52-0D3A-4C1F-9B77-5A2E9C64D1B8}";
+
+// In the environment of the host's process, whose end nothing of it outlives: a player that is left registered does
+// nothing in another one.
+constexpr wchar_t kScenarioVariable[] = L"CORVANE_PLAYER_SCENARIO"; // the scenario's file
+constexpr wchar_t kFolderVariable[] = L"CORVANE_PLAYER_FOLDER";     // for the report and all that the scenario writes
+constexpr wchar_t kSettingsVariable[] = L"CORVANE_PLAYER_SETTINGS"; // NAME=VALUE, one a line
+
+constexpr wchar_t kReportName[] = L"player.txt"; // in that folder
+constexpr wchar_t kMisfitWords[] = L"not for this host: ";
+
+// Whether a setting is for the player: words that a scenario leaves open are in capitals; of the other names, which
+// mean something to a stand-in, two do so to the player.
+[[nodiscard]] inline bool IsForPlayer(std::string_view setting)
+{
+    return setting == "patience" || setting == "progress" ||
+           std::ranges::none_of(setting, [](char c) { return c >= 'a' && c <= 'z'; });
+}
 
 // A value below HKEY_CURRENT_USER; an empty name is the key's default value.
 struct RegistryValue

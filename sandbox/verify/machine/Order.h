@@ -1,0 +1,24 @@
+// How a host is started for a play.
+#pragma once
+
+#include "machine/Machine.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace verify
+{
+
+struct Order
+{
+    std::vector<std::string> words;              // of the host's command line, behind its name
+    std::map<std::string, std::string> settings; // added to its environment
+};
+
+[[nodiscard]] Order OrderOf(const Machine& machine, const Play& play);
+
+// What the player's library has reported; empty where it did not play.
+[[nodiscard]] std::string ReportedBy(const Play& play);
+
+} // namespace verify
