@@ -19,21 +19,12 @@ namespace
 constexpr long kPptx = 24;
 
 // Presses Save in the dialog of this process as soon as it can be pressed, as an instant user would; again while it
-// still can, because a dialog that is still loading overhears it. Looks at every message, and where none comes by a
-// timer.
+// still can, because a dialog that is still loading overhears it.
 class InstantUser
 {
 public:
-    InstantUser()
-        : m_timer{::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, &Look)}, m_hook{::SetWindowsHookExW(
-                                                                          WH_GETMESSAGE, &Overhear, nullptr,
-                                                                          ::GetCurrentThreadId())}
-    {}
-    ~InstantUser()
-    {
-        ::UnhookWindowsHookEx(m_hook);
-        ::KillTimer(nullptr, m_timer);
-    }
+    InstantUser() : m_timer{::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, &Look)} {}
+    ~InstantUser() { ::KillTimer(nullptr, m_timer); }
     InstantUser(const InstantUser&) = delete;
     InstantUser& operator=(const InstantUser&) = delete;
 
@@ -41,11 +32,6 @@ private:
     static void CALLBACK Look(HWND, UINT, UINT_PTR, DWORD)
     {
         ::EnumThreadWindows(::GetCurrentThreadId(), &PressSave, 0);
-    }
-    static LRESULT CALLBACK Overhear(int code, WPARAM word, LPARAM data)
-    {
-        Look(nullptr, WM_TIMER, 0, 0);
-        return ::CallNextHookEx(nullptr, code, word, data);
     }
     static BOOL CALLBACK PressSave(HWND window, LPARAM)
     {
@@ -57,7 +43,6 @@ private:
     }
 
     UINT_PTR m_timer;
-    HHOOK m_hook;
 };
 
 // A small window of the host's, shown and painted: with it come the system's theme and fonts, which every host has
