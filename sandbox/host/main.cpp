@@ -83,7 +83,10 @@ int Run(Options options)
     if (!options.outFolder.empty()) ::CreateDirectoryW(options.outFolder.c_str(), nullptr);
     Host host{std::move(options)};
     host.Show();
-    host.Queue().Post([&host] { host.LoadAddIns(); });
+    host.Queue().Post([&host] {
+        host.LoadAddIns();
+        if (host.Settings().Setting("open") == "new") host.New();
+    });
     if (!script.empty()) return RunScenario(host, script);
     return host.RunMessages() ? kSuccess : kFailure;
 }

@@ -256,7 +256,7 @@ Played WindowsMachine::Run(const Play& play)
 void WindowsMachine::RunForPerson()
 {
     WriteSettings({"--trace"});
-    Process host{{.words = {Utf8Of(m_home / "corvane-host.exe")}, .settings = Environment()}};
+    Process host{{.words = {Utf8Of(m_home / "corvane-host.exe"), "--set", "open=new"}, .settings = Environment()}};
     while (!host.Wait(std::chrono::hours{1}) && !Stopping()) {
     }
 }

@@ -119,7 +119,7 @@ int Try(const fs::path& home)
     WindowsMachine machine{home};
     machine.Reset(folder, {R"(Software\Halvex\Corvane\ServerURLMRU MRUServerURL1=)" + server.Address()});
     std::cout << "The server runs at " << server.Address() << " (user Dana Reyes).\n"
-              << "  In the host: New, then File, Save to Corvane, Save as a Deliverable or Activity.\n"
+              << "  In the host: File, Save to Corvane, Save as a Deliverable or Activity.\n"
               << "Presentations go to " << Utf8Of(folder / "documents") << ",\nversions to " << Utf8Of(folder / "data")
               << ".\nClose the host's window to end." << std::endl;
     machine.RunForPerson();
