@@ -91,7 +91,8 @@ std::string SafeFileName(std::string_view name)
         safe +=
             MustBeEscaped(name, at) ? Hex(static_cast<unsigned char>(name[at]), "%%%02X") : std::string(1, name[at]);
     if (safe.empty()) return "%";
-    return safe.size() <= kLongestFileName ? safe : std::string{Start(safe, kLongestFileName)} + '%' + Crc32(name);
+    if (safe.size() <= kLongestFileName) return safe;
+    return std::string{Start(safe, kLongestFileName)} + '%' + Crc32(name);
 }
 
 std::string Crc32(std::string_view bytes)
