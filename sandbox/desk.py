@@ -24,7 +24,7 @@ class Desk:
         with os.fdopen(reading) as answer:
             display = ":" + answer.readline().strip()
         self.environment = dict(os.environ, CORVANE_WINEPREFIX=str(self.path), WINEPREFIX=str(self.path), DISPLAY=display,
-                                WINEDEBUG="-all", WINEDLLOVERRIDES="mscoree,mshtml=;winedbg.exe=d", LC_ALL="C.UTF-8",
+                                WINEDEBUG="-all", WINEDLLOVERRIDES="mscoree,mshtml=;winedbg.exe,winemenubuilder.exe=d", LC_ALL="C.UTF-8",
                                 PATH=path.strip(), WINEARCH="win64")
         self.renew() if fresh else self.prepare()
 

@@ -3,7 +3,7 @@
 
 export WINEPREFIX=${CORVANE_WINEPREFIX:-$top/build/wine/$arch} WINEDEBUG=${WINEDEBUG:--all}
 # Without the debugger a program that crashes is gone; with it, it would wait for somebody to close a window.
-export WINEDLLOVERRIDES="mscoree,mshtml=;winedbg.exe=d"
+export WINEDLLOVERRIDES="mscoree,mshtml=;winedbg.exe,winemenubuilder.exe=d"
 # Wine names its files in the locale's encoding and takes its language from it; both are the same on every machine.
 export LC_ALL=C.UTF-8
 export WINEARCH=win64 # the commands of the 32-bit Wine set their own
