@@ -1,5 +1,6 @@
 #include "player/Player.h"
 
+#include "platform/Procedure.h"
 #include "platform/Utf8.h"
 #include "player/Run.h"
 #include "player/Screen.h"
@@ -34,6 +35,13 @@ std::wstring At(const std::wstring& path, int line, const std::wstring& source, 
     return path + L":" + std::to_wstring(line) + L": " + source + L"\n  " + why;
 }
 
+// The host's window and what stands before it, for whoever reads of the failure.
+void KeepPicture(const Stage& stage)
+{
+    const std::wstring folder = stage.OutFolder();
+    if (!folder.empty()) Ignoring([&] { SaveScreenshot(folder + L"\\failed.png", stage.Window()); });
+}
+
 } // namespace
 
 std::vector<StepRow> AllSteps()
@@ -52,6 +60,7 @@ Outcome Play(Stage& stage, const std::wstring& path, const Settings& settings)
     const Step none;
     const Step* current = &none;
     const auto failed = [&](const std::wstring& why) {
+        KeepPicture(stage);
         return Outcome{0, At(path, current->line, current->source, why) + L"\n" + DescribeScreen()};
     };
     try {

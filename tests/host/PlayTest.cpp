@@ -127,11 +127,13 @@ class FailingStepTest : public PlayTest, public testing::WithParamInterface<Fail
 
 TEST_P(FailingStepTest, IsReportedWithWhatIsThereInstead)
 {
-    const Outcome outcome = Play(std::string{kOpenForm} + "press cmdGo\n" + kImpatient + GetParam().step + "\n");
+    const Outcome outcome = Play(std::string{kOpenForm} + "press cmdGo\n" + kImpatient + GetParam().step + "\n",
+                                 L"--out \"" + folder.Path() + L"\"");
     ExpectFailed(outcome, std::string{"play.txt:7: "} + GetParam().step);
     EXPECT_NE(outcome.output.find(GetParam().reason), std::string::npos) << outcome.output;
     EXPECT_NE(outcome.output.find("frmSaveTo \"Fake form\""), std::string::npos) << outcome.output;
     EXPECT_NE(outcome.output.find("txtName Edit \"old name\""), std::string::npos) << outcome.output;
+    EXPECT_GT(WidthOf(ReadWholeFile(folder.File(L"failed.png"))), 0);
 }
 
 constexpr FailingStep kFailingSteps[] = {

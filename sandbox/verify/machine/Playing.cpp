@@ -76,7 +76,9 @@ void RequirePassed(const Played& played, const Scenario& scenario, int bits, boo
     const auto passed = "scenario passed: " + Utf8Of(scenario.file.filename()) + " (";
     const auto at = played.printed.find(passed);
     const auto line = at == std::string::npos ? "" : CutAt(std::string_view{played.printed}.substr(at), "\n").first;
-    const auto status = played.status ? std::to_string(*played.status) : "none in time";
+    const auto status = played.status ? std::to_string(*played.status)
+                        : Stopping()  ? "none, it was stopped"
+                                      : "none in time";
     Require(played.status == 0 && line.find(", " + width + ")") != std::string::npos,
             "no " + width + " host passed: exit status " + status);
     Require(played.printed.find("DllCanUnloadNow: S_OK") != std::string::npos,
@@ -123,6 +125,8 @@ void Judge(Machine& machine, const Scenario& scenario, const RunPlan& plan, Resu
     Server server{plan.server, folder};
     Played played;
     try {
+        std::filesystem::remove_all(folder);
+        std::filesystem::create_directories(folder / "documents");
         server.Start(scenario);
         auto values = ProfileOf(scenario, server.Address());
         if (byCompanion)
@@ -176,8 +180,6 @@ Result PlayScenario(Machine& machine, const Scenario& scenario, const RunPlan& p
         return result;
     }
     const auto folder = plan.out / PathOf(scenario.name);
-    std::filesystem::remove_all(folder);
-    std::filesystem::create_directories(folder / "documents");
     const auto start = Clock::now();
     Judge(machine, scenario, plan, result);
     result.seconds = std::chrono::duration<double>(Clock::now() - start).count();

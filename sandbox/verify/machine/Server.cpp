@@ -53,8 +53,12 @@ nlohmann::json Server::Versions() const
 std::string Server::Told() const
 {
     std::string told = ReadableUtf8(ReadOrEmpty(m_folder / "server.txt"));
-    for (const auto& request : Requests())
-        told += "\n" + std::to_string(request.status) + " " + RequestLine(request).substr(0, kToldOfRequest);
+    try {
+        for (const auto& request : Requests())
+            told += "\n" + std::to_string(request.status) + " " + RequestLine(request).substr(0, kToldOfRequest);
+    } catch (const std::exception& problem) {
+        told.append("\nits log cannot be read: ").append(problem.what());
+    }
     return told;
 }
 

@@ -160,7 +160,12 @@ WindowsMachine::WindowsMachine(fs::path home)
     CleanUp(m_home);
     fs::create_directories(m_work / "addin");
     fs::copy_file(m_home / kLibrary, m_work / "addin" / kLibrary);
-    Register();
+    try {
+        Register();
+    } catch (const std::exception&) {
+        CleanUp(m_home);
+        throw;
+    }
 }
 
 WindowsMachine::~WindowsMachine()
