@@ -3,8 +3,12 @@
 #include "shell/DataFolder.h"
 
 #include <fstream>
+#include <future>
 #include <gtest/gtest.h>
 #include <set>
+#ifdef _WIN32
+#include <windows.h>
+#endif
 
 namespace server
 {
@@ -34,6 +38,25 @@ TEST(Storage, FileNamesStayInTheirFolderAndDiffer)
     EXPECT_TRUE(safe.empty()) << *safe.begin() << " is not in the folder";
     EXPECT_EQ(SafeFileName("Größe.pptx"), "Größe.pptx");
 }
+
+#ifdef _WIN32
+TEST(Storage, WaitsForAFileThatAnotherProgramHolds)
+{
+    const DataFolder folder{""};
+    const auto list = folder.Path() / "list";
+    const auto held = [&] {
+        const HANDLE file = ::CreateFileW(list.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+        return std::async(std::launch::async, [file] { return ::Sleep(100), ::CloseHandle(file); });
+    };
+    WriteFile(list, "old");
+    WriteFile(folder.Path() / "fresh", "new");
+    auto hold = held();
+    EXPECT_EQ(ReadIfThere(list), "old");
+    hold = held();
+    Rename(folder.Path() / "fresh", list);
+    EXPECT_EQ(ReadIfThere(list), "new");
+}
+#endif
 
 TEST(Storage, SaysWhenAListCannotBeReadInsteadOfStartingAnew)
 {

@@ -67,7 +67,11 @@ std::optional<Fault> Faults::Next(std::string_view target, std::string_view body
 bool Faults::Holds(const Fault& fault)
 {
     if (!fault.heldIn) return false;
-    Read();
+    try {
+        Read();
+    } catch (const std::runtime_error&) {
+        return true; // it is looked at again
+    }
     return m_edition == *fault.heldIn;
 }
 
