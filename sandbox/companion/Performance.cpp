@@ -34,15 +34,23 @@ bool IsInTheWay(HWND window)
 } // namespace
 
 Performance::Performance(LateBound application, Errand errand)
-    : m_errand{std::move(errand)}, m_report{m_errand.folder},
-      m_stage{std::move(application), m_errand.folder, m_report}, m_thread{[this] { Play(); }}
+    : m_errand{std::move(errand)}, m_report{m_errand.folder}, m_stage{std::move(application), m_errand.folder, m_report}
 {}
 
 Performance::~Performance()
 {
+    if (!m_thread.joinable()) return;
     if (!m_ended) m_stage.AddFault(L"the host has let go of the player");
     static_cast<void>(PumpUntil([this] { return m_ended; }));
     m_thread.join();
+}
+
+// A host that loads for long does not serve its windows meanwhile, which would look like one that hangs.
+void Performance::AddInsLoaded()
+{
+    if (m_thread.joinable()) return;
+    m_stage.SetReady();
+    m_thread = std::thread{[this] { Play(); }};
 }
 
 void Performance::Play()

@@ -9,9 +9,9 @@
 namespace corvane::companion
 {
 
-// Plays from its making on, on a thread of its own, and makes the host quit at the end. A scenario that failed leaves
-// windows open: they are closed first, and a host that does not end is ended. All but the playing itself belongs to
-// the user-interface thread.
+// Plays from when the host has loaded its add-ins, on a thread of its own, and makes the host quit at the end. A
+// scenario that failed leaves windows open: they are closed first, and a host that does not end is ended. All but the
+// playing itself belongs to the user-interface thread.
 class Performance
 {
 public:
@@ -20,7 +20,7 @@ public:
     Performance& operator=(const Performance&) = delete;
     ~Performance(); // the host lets go of the player: a scenario that is still played fails
 
-    void AddInsLoaded() { m_stage.SetReady(); }
+    void AddInsLoaded();
 
 private:
     void Play();
