@@ -32,7 +32,7 @@ public:
     // What it prints up to the end of the first line; empty where it ends before.
     [[nodiscard]] std::string FirstLine();
 
-    // Its exit status; nothing while it runs at the end of this time, or as soon as the user stops everything.
+    // Its exit status; nothing while it runs at the end of this time.
     [[nodiscard]] std::optional<int> Wait(std::chrono::milliseconds limit);
 
     void AskToEnd() noexcept; // in order
@@ -46,10 +46,7 @@ private:
     std::unique_ptr<State> m_state;
 };
 
-// Runs it to its end; its exit status, or -1 where it has none.
-int Run(const Command& command);
-
-// From here on Ctrl+C, and what else asks a program to end, only makes Stopping true, which ends all waiting.
+// From here on Ctrl+C, and what else asks a program to end, only makes Stopping true.
 void WatchForStop();
 [[nodiscard]] bool Stopping() noexcept;
 

@@ -19,13 +19,7 @@ constexpr DWORD kPatienceOfSystem = 10000; // ms; it ends a program that takes l
 
 std::atomic<bool> g_stopping = false;
 
-// Set from then on; events live as long as the program.
-HANDLE StopEvent()
-{
-    static const UniqueFile event{::CreateEventW(nullptr, TRUE, FALSE, nullptr)};
-    return event.Get();
-}
-
+// It lives as long as the program.
 HANDLE StoppedEvent()
 {
     static const UniqueFile event{::CreateEventW(nullptr, TRUE, FALSE, nullptr)};
@@ -35,7 +29,6 @@ HANDLE StoppedEvent()
 BOOL WINAPI OnConsole(DWORD what)
 {
     g_stopping = true;
-    ::SetEvent(StopEvent());
     if (what != CTRL_C_EVENT && what != CTRL_BREAK_EVENT) ::WaitForSingleObject(StoppedEvent(), kPatienceOfSystem);
     return TRUE;
 }
@@ -159,10 +152,8 @@ std::string Process::FirstLine()
 
 std::optional<int> Process::Wait(std::chrono::milliseconds limit)
 {
-    const HANDLE ends[] = {m_state->process.Get(), StopEvent()};
     const auto time = static_cast<DWORD>(std::clamp<long long>(limit.count(), 0, INFINITE - 1));
-    const DWORD count = Stopping() ? 1 : 2; // what is being stopped is waited for all the same
-    if (!m_state->status && ::WaitForMultipleObjects(count, ends, FALSE, time) == WAIT_OBJECT_0) {
+    if (!m_state->status && ::WaitForSingleObject(m_state->process.Get(), time) == WAIT_OBJECT_0) {
         DWORD status = 0;
         ::GetExitCodeProcess(m_state->process.Get(), &status);
         m_state->status = static_cast<int>(status);
@@ -187,19 +178,8 @@ void Process::End() noexcept
 
 long Process::Id() const { return static_cast<long>(m_state->id); }
 
-int Run(const Command& command)
-{
-    Process process{command};
-    for (;;)
-        if (const auto status = process.Wait(std::chrono::minutes{10}))
-            return *status;
-        else if (Stopping())
-            return -1;
-}
-
 void WatchForStop()
 {
-    (void)StopEvent();
     (void)StoppedEvent();
     ::SetConsoleCtrlHandler(&OnConsole, TRUE);
 }

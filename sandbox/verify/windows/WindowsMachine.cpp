@@ -262,7 +262,7 @@ void WindowsMachine::RunForPerson()
 {
     WriteSettings({"--trace"});
     Process host{{.words = {Utf8Of(m_home / "corvane-host.exe"), "--set", "open=new"}, .settings = Environment()}};
-    while (!host.Wait(std::chrono::hours{1}) && !Stopping()) {
+    while (!host.Wait(std::chrono::milliseconds{500}) && !Stopping()) {
     }
 }
 

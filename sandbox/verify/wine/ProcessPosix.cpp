@@ -164,9 +164,9 @@ std::optional<int> Process::Wait(std::chrono::milliseconds limit)
             break;
         }
         const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now()).count();
-        if (left <= 0 || Stopping()) break;
+        if (left <= 0) break;
         pollfd ended{m_state->handle.Get(), POLLIN, 0};
-        ::poll(&ended, 1, static_cast<int>(std::min<long long>(left, 200)));
+        ::poll(&ended, 1, static_cast<int>(left));
     }
     return m_state->status;
 }
@@ -187,16 +187,6 @@ void Process::End() noexcept
 }
 
 long Process::Id() const { return m_state->id; }
-
-int Run(const Command& command)
-{
-    Process process{command};
-    for (;;)
-        if (const auto status = process.Wait(std::chrono::minutes{10}))
-            return *status;
-        else if (Stopping())
-            return -1;
-}
 
 void WatchForStop()
 {

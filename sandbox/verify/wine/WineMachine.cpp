@@ -19,6 +19,7 @@ namespace
 namespace fs = std::filesystem;
 using Clock = std::chrono::steady_clock;
 
+constexpr auto kForEver = std::chrono::hours{24}; // a first use may fetch a Wine
 constexpr auto kMeasured = std::chrono::milliseconds{50};
 constexpr const char* kShellFolders = R"(Software\Microsoft\Windows\CurrentVersion\Explorer\User Shell Folders)";
 
@@ -42,6 +43,8 @@ std::string Utf16Of(const std::string& text)
     }
     return bytes;
 }
+
+int StatusOf(const Command& command) { return Process{command}.Wait(kForEver).value_or(-1); }
 
 double Now() { return std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch()).count(); }
 
@@ -105,7 +108,7 @@ Command WineMachine::Inside(std::vector<std::string> words) const
 
 int WineMachine::InShell(const std::string& script) const
 {
-    return verify::Run(Inside({"bash", "-euc", script, m_top.string(), m_arch}));
+    return StatusOf(Inside({"bash", "-euc", script, m_top.string(), m_arch}));
 }
 
 void WineMachine::Prepare() const
@@ -147,7 +150,7 @@ void WineMachine::Reset(const fs::path& folder, const std::vector<std::string>& 
         lines.push_back(ValueLine(value));
     }
     WriteBytes(folder / "profile.reg", Utf16Of(Joined(lines, "\r\n") + "\r\n"));
-    (void)verify::Run(Inside({m_top / "sandbox/wine", m_arch, "regedit", "/S", HostPath(folder / "profile.reg")}));
+    (void)StatusOf(Inside({m_top / "sandbox/wine", m_arch, "regedit", "/S", HostPath(folder / "profile.reg")}));
     const auto share = m_wine / "dosdevices/unc/corvane/documents";
     fs::create_directories(share.parent_path());
     fs::remove(share);
@@ -204,7 +207,7 @@ std::optional<std::string> WineMachine::RibbonFaults(const fs::path& folder, con
 {
     const auto said = folder / "ribbon.txt";
     const int status =
-        verify::Run({.words = {m_top / "tests/ribbon/check", edition, folder / "customUI.xml"}, .output = said});
+        StatusOf({.words = {m_top / "tests/ribbon/check", edition, folder / "customUI.xml"}, .output = said});
     return status == 0 ? "" : ReadOrEmpty(said);
 }
 
