@@ -1,5 +1,7 @@
-#include "judge/Report.h"
-#include "judge/Scenario.h"
+#include "judge/LoadTimes.h"
+#include "judge/PageText.h"
+#include "judge/Questions.h"
+#include "machine/Suits.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -46,6 +48,43 @@ TEST(Reports, ThePageShowsWhatFailedFirstAndEscapesIt)
     const auto json = nlohmann::json::parse(ReportJson(kReport));
     EXPECT_EQ(json["failed"], 1);
     EXPECT_EQ(json["results"][1]["pictures"][0], "bad/end.png");
+}
+
+TEST(Questions, AreAnsweredWhenAllTheirScenariosPassInARealHost)
+{
+    const auto questions = QuestionsIn("| x |\n|-|\n| y |\n## A\n| Question | Scenarios |\n|--|\n| Q1 | `a`, `b` |\n"
+                                       "## B\n| Question | Check | Minutes |\n|--|\n| Q2 | look | 5 |\n");
+    const auto text = [&](Verdict second, bool real) {
+        const std::vector<Result> results{{.name = "a", .about = ""}, {.name = "b", .about = "", .verdict = second}};
+        return QuestionsText({.facts = {}, .results = {}, .questions = Answered(questions, results, real)});
+    };
+    EXPECT_EQ(text(Verdict::Passed, true), "\nA\n  [x] Q1: answered by a, b\n\nB\n  [ ] Q2: look (5 min)\n");
+    EXPECT_EQ(text(Verdict::Passed, false).find("[x]"), std::string::npos);
+    EXPECT_EQ(text(Verdict::Failed, true).find("[x]"), std::string::npos);
+}
+
+TEST(Questions, EachOfThePageIsAPersonsOrThatOfScenariosThatCanAnswerIt)
+{
+    const auto questions = QuestionsIn(QuestionsText());
+    EXPECT_GE(questions.size(), 60U);
+    for (const auto& one : questions) {
+        EXPECT_EQ(one.scenarios.empty(), !one.check.empty() && std::stoi("0" + one.minutes) > 0) << one.name;
+        for (const auto& name : one.scenarios)
+            EXPECT_TRUE(std::filesystem::exists(SCENARIOS "/" + name + ".txt")) << name;
+    }
+}
+
+TEST(ForeignHosts, TakeNoOrdersAndTellByTheTrace)
+{
+    const auto scenario = ReadScenario("x", "#! run --trace\n#! set WORD=a\n");
+    EXPECT_EQ(WhyNotInForeignHost(scenario, false), "");
+    EXPECT_NE(WhyNotInForeignHost(scenario, true), "");
+    EXPECT_NE(WhyNotInForeignHost(ReadScenario("x", "#! set mail.client=outlook"), false), "");
+    const std::string trace = "2026-05-04 23:59:59\t--> Connect.AddinInstance_OnConnection\r\n"
+                              "2026-05-05 00:00:01\t<-- Connect.AddinInstance_OnConnection\r\n";
+    EXPECT_EQ(LoadTimesText({"-"}, {trace, "-"}), "at most 3 s in 1 start");
+    const std::string id = "connected CorvaneMSOfficePowerPoint.Connect in ";
+    EXPECT_EQ(LoadTimesText({id + "12 ms\n", id + "3 ms\n"}, {trace}), "3 to 12 ms in 2 starts");
 }
 
 TEST(Scenarios, HeadAndTailAreReadWhereverTheyStand)

@@ -91,6 +91,23 @@ std::string ResultsHtml(const Report& report)
     return html;
 }
 
+std::string QuestionHtml(const ReportedQuestion& question)
+{
+    return std::string{"<li class=\""} + (question.answered ? "passed" : "absent") +
+           "\"><div class=\"line\"><span class=\"verdict\">" + (question.answered ? "answered" : "open") +
+           "</span><h2>" + Escaped(question.name) + "</h2><span class=\"time\">" + Escaped(question.area) +
+           "</span></div><p>" + Escaped(question.words) + "</p></li>\n";
+}
+
+std::string QuestionsHtml(const Report& report)
+{
+    if (report.questions.empty()) return {};
+    std::string html = "<section><h2>What only Windows and PowerPoint can answer</h2><ul>\n";
+    for (const auto& question : report.questions)
+        html += QuestionHtml(question);
+    return html + "</ul></section>\n";
+}
+
 } // namespace
 
 std::size_t Report::Count(Verdict verdict) const
@@ -115,6 +132,18 @@ std::string SummaryText(const Report& report)
            " failed" + (absent == 0 ? "" : ", " + std::to_string(absent) + " not here");
 }
 
+std::string QuestionsText(const Report& report)
+{
+    std::string text;
+    std::string area;
+    for (const auto& one : report.questions) {
+        if (one.area != area) text.append("\n").append(one.area).append("\n");
+        area = one.area;
+        text.append(one.answered ? "  [x] " : "  [ ] ").append(one.name + ": " + one.words + "\n");
+    }
+    return text;
+}
+
 std::string ReportText(const Report& report)
 {
     std::string text;
@@ -126,7 +155,7 @@ std::string ReportText(const Report& report)
         for (const auto& remark : result.remarks)
             text.append("  ").append(remark).append("\n");
     }
-    return text + SummaryText(report) + "\n";
+    return text + SummaryText(report) + "\n" + QuestionsText(report);
 }
 
 std::string ReportJson(const Report& report)
@@ -148,6 +177,11 @@ std::string ReportJson(const Report& report)
                                    {"remarks", result.remarks},
                                    {"pictures", std::move(pictures)}});
     }
+    for (const auto& question : report.questions)
+        json["questions"].push_back({{"area", question.area},
+                                     {"question", question.name},
+                                     {"answered", question.answered},
+                                     {"words", question.words}});
     return json.dump(1, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
 }
 
@@ -160,6 +194,7 @@ std::string ReportPage(const Report& report)
     page = Replaced(std::move(page), "{{absent}}", std::to_string(report.Count(Verdict::NotHere)));
     page = Replaced(std::move(page), "{{all}}", std::to_string(report.results.size()));
     page = Replaced(std::move(page), "{{facts}}", FactsHtml(report));
+    page = Replaced(std::move(page), "{{questions}}", QuestionsHtml(report));
     return Replaced(std::move(page), "{{results}}", ResultsHtml(report));
 }
 

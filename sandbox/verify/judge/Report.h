@@ -32,10 +32,19 @@ struct Result
     std::vector<Picture> pictures{};
 };
 
+struct ReportedQuestion
+{
+    std::string area;
+    std::string name;
+    bool answered = false;
+    std::string words; // what answered it, or what a person does
+};
+
 struct Report
 {
     std::vector<std::pair<std::string, std::string>> facts; // what was played, where and when
     std::vector<Result> results;
+    std::vector<ReportedQuestion> questions{}; // of a run in a host that is not the stand-in
 
     [[nodiscard]] std::size_t Count(Verdict verdict) const;
 
@@ -46,6 +55,9 @@ struct Report
 // The lines for one result, and for them all: "N passed, M failed", and how many were not played.
 [[nodiscard]] std::string ResultText(const Result& result);
 [[nodiscard]] std::string SummaryText(const Report& report);
+
+// Each question with what answered it or what is to be done, below its area.
+[[nodiscard]] std::string QuestionsText(const Report& report);
 
 [[nodiscard]] std::string ReportText(const Report& report);
 [[nodiscard]] std::string ReportJson(const Report& report); // without the pictures, which it names

@@ -21,6 +21,7 @@ struct Play
     std::vector<std::string> settings;            // NAME=VALUE
     std::optional<std::chrono::seconds> patience; // none: for ever
     bool byCompanion = false;                     // the player's library plays; the host is not told to
+    bool foreign = false;                         // nor anything else: it is not the stand-in
 };
 
 struct Played

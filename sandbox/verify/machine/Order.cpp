@@ -17,12 +17,13 @@ Order OrderOf(const Machine& machine, const Play& play)
 {
     const auto file = machine.HostPath(play.scenario.file);
     const auto folder = machine.HostPath(play.folder);
-    Order order{.words = {"--out", folder}, .settings = {}};
+    Order order;
+    if (!play.foreign) order.words = {"--out", folder};
     if (!play.byCompanion) order.words.insert(order.words.end(), {"--play", file});
     std::ranges::move(Words(play.scenario.One("host")), std::back_inserter(order.words));
     std::string players;
     for (const auto& setting : play.settings)
-        if (play.byCompanion && companion::IsForPlayer(CutAt(setting, "=").first))
+        if (play.foreign || (play.byCompanion && companion::IsForPlayer(CutAt(setting, "=").first)))
             players.append(setting).append("\n");
         else
             order.words.insert(order.words.end(), {"--set", setting});

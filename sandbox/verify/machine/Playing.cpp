@@ -70,9 +70,9 @@ std::vector<std::string> SettingsOf(const Machine& machine, const Scenario& scen
 }
 
 // The host's own words prove that it ran at all: Wine reports success for a program that it cannot run.
-void RequirePassed(const Played& played, const Scenario& scenario, int bits, bool byCompanion)
+void RequirePassed(const Played& played, const Scenario& scenario, const RunPlan& plan, bool byCompanion)
 {
-    const auto width = std::to_string(bits) + "-bit";
+    const auto width = std::to_string(plan.bits) + "-bit";
     const auto passed = "scenario passed: " + Utf8Of(scenario.file.filename()) + " (";
     const auto at = played.printed.find(passed);
     const auto line = at == std::string::npos ? "" : CutAt(std::string_view{played.printed}.substr(at), "\n").first;
@@ -81,7 +81,7 @@ void RequirePassed(const Played& played, const Scenario& scenario, int bits, boo
                                       : "none in time";
     Require(played.status == 0 && line.find(", " + width + ")") != std::string::npos,
             "no " + width + " host passed: exit status " + status);
-    Require(played.printed.find("DllCanUnloadNow: S_OK") != std::string::npos,
+    Require(plan.foreign || played.printed.find("DllCanUnloadNow: S_OK") != std::string::npos,
             "the add-in's library cannot be unloaded after the disconnection");
     Require(!byCompanion || played.printed.find("DllCanUnloadNow: S_FALSE") == std::string::npos,
             "a library cannot be unloaded after the disconnection");
@@ -134,15 +134,17 @@ void Judge(Machine& machine, const Scenario& scenario, const RunPlan& plan, Resu
         machine.Reset(folder, values);
         auto settings = SettingsOf(machine, scenario, folder, server.Address());
         settings.insert(settings.end(), plan.settings.begin(), plan.settings.end());
-        played = machine.Run(
-            {scenario, folder, settings, plan.settings.empty() ? std::optional{kPatience} : std::nullopt, byCompanion});
+        played =
+            machine.Run({scenario, folder, settings, plan.settings.empty() ? std::optional{kPatience} : std::nullopt,
+                         byCompanion, plan.foreign});
         server.Stop();
         if (byCompanion) result.words = MisfitIn(played.printed);
         if (!result.words.empty()) {
+            if (plan.foreign) result.words.insert(0, corvane::ToUtf8(corvane::companion::kMisfitWords));
             result.verdict = Verdict::NotHere;
             return;
         }
-        RequirePassed(played, scenario, plan.bits, byCompanion);
+        RequirePassed(played, scenario, plan, byCompanion);
         RequireNoTemporaryFiles(machine);
         result.remarks = Check(scenario, Collected(machine, server, folder, played));
     } catch (const std::exception& problem) {
@@ -174,7 +176,8 @@ Result PlayScenario(Machine& machine, const Scenario& scenario, const RunPlan& p
 {
     Result result{.name = scenario.name, .about = FirstComment(scenario)};
     result.words = machine.Refuses(scenario);
-    if (plan.byCompanion && scenario.Wants("host")) result.words = "its host is another: " + scenario.One("host");
+    if (result.words.empty() && plan.byCompanion && scenario.Wants("host"))
+        result.words = "its host is another: " + scenario.One("host");
     if (!result.words.empty()) {
         result.verdict = Verdict::NotHere;
         return result;

@@ -23,6 +23,7 @@ struct RunPlan
     std::vector<std::string> settings{};
     std::filesystem::path companion{}; // the player's library; empty where there is none
     bool byCompanion = false;          // it plays all scenarios, not only those that ask for it
+    bool foreign = false;              // in a host that takes no orders and prints nothing
 };
 
 // Plays the scenario against a fresh server by a user with a fresh profile, and checks it.

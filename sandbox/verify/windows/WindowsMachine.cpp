@@ -154,8 +154,8 @@ void Empty(const fs::path& folder)
 
 } // namespace
 
-WindowsMachine::WindowsMachine(fs::path home)
-    : m_home{std::move(home)}, m_work{m_home / "work"}, m_note{m_work / "registry.json"}
+WindowsMachine::WindowsMachine(fs::path home, Subject subject)
+    : m_home{std::move(home)}, m_work{m_home / "work"}, m_subject{std::move(subject)}, m_note{m_work / "registry.json"}
 {
     CleanUp(m_home);
     fs::create_directories(m_work / "addin");
@@ -186,11 +186,12 @@ void WindowsMachine::CleanUp(const fs::path& home)
 
 void WindowsMachine::Register()
 {
-    const Library library{m_work / "addin" / kLibrary};
     std::vector<std::wstring> keys{std::begin(kOfHosts), std::end(kOfHosts)};
     keys.insert(keys.end(), {kTrial, kOwn, kPolicies});
     std::ranges::move(corvane::companion::RegistryKeys(), std::back_inserter(keys));
     m_note.Add(keys, {{kUserShellFolders, L"Personal"}, {kShellFolders, L"Personal"}});
+    if (m_subject.hasAddIn) return;
+    const Library library{m_work / "addin" / kLibrary};
     m_note.Add(KeysOf(library), {});
     library.Register();
 }
@@ -239,9 +240,13 @@ std::map<std::string, std::string> WindowsMachine::Environment() const
 Played WindowsMachine::Run(const Play& play)
 {
     const auto& scenario = play.scenario;
-    WriteSettings(Words(scenario.One("run")));
+    auto wanted = Words(scenario.One("run"));
+    // A host that prints nothing tells by the add-in's trace how long it loaded it.
+    if (play.foreign && !scenario.IsChecked("trace")) wanted.emplace_back("--trace");
+    WriteSettings(wanted);
     auto order = OrderOf(*this, play);
-    order.words.insert(order.words.begin(), Utf8Of(m_home / "corvane-host.exe"));
+    order.words.insert(order.words.begin(),
+                       Utf8Of(m_subject.program.empty() ? m_home / "corvane-host.exe" : m_subject.program));
     order.settings.merge(Environment());
     const Command command{.words = order.words, .settings = order.settings, .output = play.folder / "host.txt"};
     Played played;

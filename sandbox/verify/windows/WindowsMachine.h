@@ -9,13 +9,20 @@
 namespace verify
 {
 
+// In what the scenarios are played.
+struct Subject
+{
+    std::filesystem::path program{}; // none: the stand-in host of the runner's folder
+    bool hasAddIn = false;           // the add-in is installed for it, and taken as it is
+};
+
 // Registers the add-in for the user and takes that back, with all that hosts and scenarios change in the registry.
 // Writes nothing outside of HKEY_CURRENT_USER and of "work" in its folder.
-class WindowsMachine final : public Machine
+class WindowsMachine : public Machine
 {
 public:
     // Puts back first what a program that was killed has left. Throws what keeps it from a sound start.
-    explicit WindowsMachine(std::filesystem::path home);
+    explicit WindowsMachine(std::filesystem::path home, Subject subject = {});
     ~WindowsMachine() override;
     WindowsMachine(const WindowsMachine&) = delete;
     WindowsMachine& operator=(const WindowsMachine&) = delete;
@@ -45,6 +52,7 @@ private:
 
     std::filesystem::path m_home;
     std::filesystem::path m_work;
+    Subject m_subject;
     RegistryNote m_note;
 };
 

@@ -7,6 +7,8 @@
 #include "machine/Server.h"
 #include "platform/Owners.h"
 #include "platform/Utf8.h"
+#include "windows/InPowerPoint.h"
+#include "windows/System.h"
 #include "windows/WindowsMachine.h"
 
 #include <algorithm>
@@ -22,8 +24,10 @@ namespace fs = std::filesystem;
 
 constexpr int kBits = CHAR_BIT * sizeof(void*);
 constexpr int kBadArguments = 2;
-constexpr const char* kUsage = "usage: corvane-verify --verify [--companion] [NAME|FILE|FOLDER]... [SETTING=VALUE]...\n"
-                               "       corvane-verify --try | --clean\n";
+constexpr const char* kUsage =
+    "usage: corvane-verify --verify [--companion] [NAME|FILE|FOLDER]... [SETTING=VALUE]...\n"
+    "       corvane-verify --powerpoint [PROGRAM.exe] [NAME|FILE|FOLDER]... [SETTING=VALUE]...\n"
+    "       corvane-verify --try | --clean\n";
 
 // One at a time changes what a user has in the registry.
 class OnlyOne
@@ -56,57 +60,69 @@ fs::path Home()
     return fs::path{path}.parent_path();
 }
 
-template<class Function>
-Function FunctionOf(const char* name)
+struct Wanted
 {
-    return reinterpret_cast<Function>(
-        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), name)));
-}
+    RunPlan plan;
+    Choice choice;
+};
 
-// The system's own number, which GetVersionEx hides, and whether it is Wine that says so.
-std::string SystemName()
+Wanted ReadWanted(const fs::path& home, const std::vector<std::string>& words)
 {
-    OSVERSIONINFOW version{};
-    version.dwOSVersionInfoSize = sizeof version;
-    if (const auto get = FunctionOf<LONG(WINAPI*)(OSVERSIONINFOW*)>("RtlGetVersion")) get(&version);
-    const auto name = "Windows " + std::to_string(version.dwMajorVersion) + "." +
-                      std::to_string(version.dwMinorVersion) + "." + std::to_string(version.dwBuildNumber);
-    const auto wine = FunctionOf<const char*(CDECL*)()>("wine_get_version");
-    return wine == nullptr ? name : std::string{"Wine "} + wine() + ", which says " + name;
-}
-
-Report PlayBeside(const fs::path& home, const std::vector<std::string>& words)
-{
-    RunPlan plan{.server = home / "corvane-server.exe",
-                 .out = home / "report/scenarios",
-                 .bits = kBits,
-                 .companion = home / "CorvanePlayer.dll"};
+    Wanted wanted{.plan = {.server = home / "corvane-server.exe",
+                           .out = home / "report/scenarios",
+                           .bits = kBits,
+                           .companion = home / "CorvanePlayer.dll"},
+                  .choice = {}};
     std::vector<std::string> names;
     for (const auto& word : words)
         if (word == "--companion")
-            plan.byCompanion = true;
+            wanted.plan.byCompanion = true;
         else
-            (word.find('=') == std::string::npos ? names : plan.settings).push_back(word);
-    const auto choice = Choose({home / "scenarios/made", home / "scenarios"}, names);
+            (word.find('=') == std::string::npos ? names : wanted.plan.settings).push_back(word);
+    wanted.choice = Choose({home / "scenarios/made", home / "scenarios"}, names);
+    return wanted;
+}
+
+Report PlayBeside(const fs::path& home, const Wanted& wanted)
+{
     Report report{.facts = {{"Add-in", CORVANE_VERSION ", " + std::to_string(kBits) + "-bit"},
                             {"Host", "corvane-host, the stand-in"},
                             {"System", SystemName()},
                             {"Played", TimeHere()}},
                   .results = {}};
-    for (const auto& name : choice.unknown)
-        report.results.push_back({.name = name, .about = "", .verdict = Verdict::Failed, .words = "is no scenario"});
     Machines machines;
     machines.push_back(std::make_unique<WindowsMachine>(home));
-    std::ranges::move(PlayAll(machines, choice.scenarios, plan), std::back_inserter(report.results));
+    report.results = PlayAll(machines, wanted.choice.scenarios, wanted.plan);
     return report;
+}
+
+int Tell(const fs::path& home, const Wanted& wanted, Report report)
+{
+    for (const auto& name : wanted.choice.unknown)
+        report.results.push_back({.name = name, .about = "", .verdict = Verdict::Failed, .words = "is no scenario"});
+    WriteReports(home / "report", report);
+    std::cout << QuestionsText(report) << SummaryText(report)
+              << "\nThe report: " << Utf8Of(home / "report" / "report.html") << std::endl;
+    return report.AllPassed() && !Stopping() ? 0 : 1;
 }
 
 int Verify(const fs::path& home, const std::vector<std::string>& words)
 {
-    const auto report = PlayBeside(home, words);
-    WriteReports(home / "report", report);
-    std::cout << SummaryText(report) << "\nThe report: " << Utf8Of(home / "report" / "report.html") << std::endl;
-    return report.AllPassed() && !Stopping() ? 0 : 1;
+    const auto wanted = ReadWanted(home, words);
+    return Tell(home, wanted, PlayBeside(home, wanted));
+}
+
+// The first word may name the program.
+int VerifyInPowerPoint(const fs::path& home, std::vector<std::string> words)
+{
+    fs::remove(home / "report/report.html"); // lest one of another run is opened where PowerPoint cannot be played in
+    fs::path program;
+    if (!words.empty() && words.front().ends_with(".exe")) {
+        program = PathOf(words.front());
+        words.erase(words.begin());
+    }
+    const auto wanted = ReadWanted(home, words);
+    return Tell(home, wanted, PlayInPowerPoint(home, program, wanted.plan, wanted.choice.scenarios));
 }
 
 // The server and what is saved stay in "try" of the folder for the next time.
@@ -133,6 +149,7 @@ int Perform(const std::vector<std::string>& words)
     const auto mode = words.empty() ? "" : words.front();
     if (mode == "--verify") return Verify(home, {words.begin() + 1, words.end()});
     if (mode == "--try" && words.size() == 1) return Try(home);
+    if (mode == "--powerpoint") return VerifyInPowerPoint(home, {words.begin() + 1, words.end()});
     if (mode != "--clean" || words.size() != 1) throw std::invalid_argument{"it needs to know what to do"};
     WindowsMachine::CleanUp(home);
     return 0;
