@@ -5,6 +5,7 @@
 #include "platform/Owners.h"
 #include "platform/Registry.h"
 
+#include <algorithm>
 #include <climits>
 #include <optional>
 #include <stdexcept>
@@ -102,17 +103,15 @@ void RequireNotRunning(const HostProgram& program)
 
 fs::path InstalledAddIn()
 {
-    constexpr Registry::Place kMerged{Hive::Classes, View::Own};
     const std::wstring id = corvane::companion::kAddInProgId;
     const auto listed = L"Software\\Microsoft\\Office\\PowerPoint\\Addins\\" + id;
-    bool isListed = false;
-    for (const auto place : kPlaces)
-        isListed = isListed || Registry::KeyExists(listed, place);
-    const auto classId = Registry::ReadText(id + L"\\CLSID", L"", kMerged);
-    if (!isListed || !classId) return {};
-    const fs::path library =
-        Registry::ReadText(L"CLSID\\" + *classId + L"\\InprocServer32", L"", kMerged).value_or(L"");
-    return fs::exists(library) ? library : fs::path{};
+    if (std::ranges::none_of(kPlaces, [&](const auto place) { return Registry::KeyExists(listed, place); })) return {};
+    const auto classId = FirstText(L"Software\\Classes\\" + id + L"\\CLSID");
+    const auto server = L"Software\\Classes\\CLSID\\" + classId + L"\\InprocServer32";
+    for (const auto hive : {Hive::User, Hive::Machine})
+        if (const auto library = Registry::ReadText(server, L"", {hive, View::Own}); library && fs::exists(*library))
+            return *library;
+    return {};
 }
 
 } // namespace verify
