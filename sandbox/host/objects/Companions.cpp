@@ -13,9 +13,9 @@ constexpr HRESULT kDeclined = static_cast<HRESULT>(0x800A011FL);
 
 } // namespace
 
-const Member LoginObject::kMembers[] = {
-    {1, L"IsLoggedIn", kGetPut, Answer<[](LoginObject& own, A value) { return ReadOrWrite(value, own.m_loggedIn); }>},
-};
+const Member LoginObject::kMembers[] = {{1, L"IsLoggedIn", kGetPut, Answer<&LoginObject::IsLoggedIn>}};
+
+Variant LoginObject::IsLoggedIn(const Arguments& arguments) { return ReadOrWrite(arguments, m_loggedIn); }
 
 const Member OutlookObject::kMembers[] = {
     {1, L"CreateItem", kMethod, Answer<&OutlookObject::CreateItem>},

@@ -20,6 +20,8 @@ public:
 private:
     static const Member kMembers[1];
 
+    Variant IsLoggedIn(const Arguments& arguments);
+
     bool m_loggedIn;
 };
 
