@@ -13,7 +13,8 @@ std::string WhyNotInForeignHost(const Scenario& scenario, bool addInIsInstalled)
     if (scenario.Wants("host")) return words + ("its host is another: " + scenario.One("host"));
     for (const auto& set : scenario.All("set"))
         if (!corvane::companion::IsForPlayer(CutAt(set, "=").first))
-            return words + ("set " + set + ": only a stand-in is told what to offer and how to fail");
+            return std::string{words}.append("set ").append(set).append(
+                ": only a stand-in is told what to offer and how to fail");
     if (addInIsInstalled && scenario.Wants("run"))
         return words + ("the installed add-in keeps its settings: " + scenario.One("run"));
     return {};
