@@ -45,24 +45,15 @@ private:
     UINT_PTR m_timer;
 };
 
-// A small window of the host's, shown and painted: with it come the system's theme and fonts, which every host has
-class HostWindow
+// Shows a button and ends it: with it come the system's theme and fonts, which every host has loaded.
+void LoadTheme()
 {
-public:
-    HostWindow()
-        : m_window{::CreateWindowW(WC_BUTTONW, L"Host", WS_POPUP | WS_VISIBLE, 0, 0, 100, 40, nullptr, nullptr, nullptr,
-                                   nullptr)}
-    {
-        ::UpdateWindow(m_window);
-        corvane::PumpPending();
-    }
-    ~HostWindow() { ::DestroyWindow(m_window); }
-    HostWindow(const HostWindow&) = delete;
-    HostWindow& operator=(const HostWindow&) = delete;
-
-private:
-    HWND m_window;
-};
+    const HWND window =
+        ::CreateWindowW(WC_BUTTONW, L"Host", WS_POPUP | WS_VISIBLE, 0, 0, 100, 40, nullptr, nullptr, nullptr, nullptr);
+    ::UpdateWindow(window);
+    ::DestroyWindow(window);
+    corvane::PumpPending();
+}
 
 } // namespace
 
@@ -79,7 +70,7 @@ void SaveBoundDocument(const Words& words)
     corvane::SetBindingProperties(document, binding);
     presentation.SaveAs(words[2], kPptx);
     WarmUp();
-    const HostWindow window;
+    LoadTheme();
     const InstantUser user;
     const Stopwatch watch;
     addIn.Press(L"DelivAct");
