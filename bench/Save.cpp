@@ -35,9 +35,9 @@ private:
     }
     static BOOL CALLBACK PressSave(HWND window, LPARAM)
     {
+        if (!::IsWindowVisible(window) || !::IsWindowEnabled(window)) return TRUE;
         const HWND button = ::GetDlgItem(window, cmdSave);
-        if (button == nullptr || !::IsWindowVisible(window) || !::IsWindowEnabled(window) || !::IsWindowEnabled(button))
-            return TRUE;
+        if (button == nullptr || !::IsWindowEnabled(button)) return TRUE;
         ::PostMessageW(window, WM_COMMAND, MAKEWPARAM(cmdSave, BN_CLICKED), reinterpret_cast<LPARAM>(button));
         return FALSE;
     }

@@ -134,11 +134,10 @@ void SaveDialog::SetControlsEnabled(bool enabled)
 {
     const std::wstring procedure = std::wstring{m_kind.name} + L".SetControlsEnabled";
     const ProcedureScope scope{procedure};
-    for (const int control : {cmdSave, cmdCancel, cmdHelp, cmdChange})
-        Enable(control, enabled);
-    for (const int control : m_kind.controls)
-        Enable(control, enabled);
-    if (IsShown(cmdSaveAndSend)) Enable(cmdSaveAndSend, enabled);
+    std::vector<int> controls{cmdSave, cmdCancel, cmdHelp, cmdChange};
+    controls.insert(controls.end(), m_kind.controls.begin(), m_kind.controls.end());
+    if (IsShown(cmdSaveAndSend)) controls.push_back(cmdSaveAndSend);
+    Enable(controls, enabled);
     EnableCloseButton(Window(), enabled);
 }
 

@@ -98,6 +98,8 @@ protected:
     void SetText(int control, const std::wstring& text, const std::wstring& more = {}) const;
     void SetCaption(const std::wstring& text);
     void Enable(int control, bool enabled) const noexcept;
+    // The keyboard leaves the controls in one step, not from one to the next.
+    void Enable(std::span<const int> controls, bool enabled) const noexcept;
     void SetFocusTo(int control) const noexcept;
     // The control that has the keyboard; 0 for none of the form's.
     [[nodiscard]] int FocusedControl() const noexcept;

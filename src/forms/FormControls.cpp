@@ -4,6 +4,8 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
 namespace corvane
 {
 namespace
@@ -41,11 +43,20 @@ void Form::SetCaption(const std::wstring& text)
 void Form::Enable(int control, bool enabled) const noexcept
 {
     const HWND window = Control(control);
+    if ((::IsWindowEnabled(window) != FALSE) == enabled) return;
     // The keyboard must not stay in a control that goes out of use.
     const HWND focus = ::GetFocus();
     const bool holdsFocus = focus == window || ::IsChild(window, focus);
     if (!enabled && holdsFocus) ::SendMessageW(m_window, WM_NEXTDLGCTL, 0, FALSE);
     ::EnableWindow(window, enabled);
+}
+
+void Form::Enable(std::span<const int> controls, bool enabled) const noexcept
+{
+    const int focused = FocusedControl();
+    for (const int control : controls)
+        if (control != focused) Enable(control, enabled);
+    if (std::ranges::find(controls, focused) != controls.end()) Enable(focused, enabled);
 }
 
 void Form::SetFocusTo(int control) const noexcept

@@ -121,11 +121,8 @@ TTTOOLINFOW ToolOf(HWND form, HWND control) noexcept
 
 } // namespace
 
-FormTips::FormTips(HWND form) : m_form{form}, m_tooltip{CreateTooltipWindow(form)}
+FormTips::FormTips(HWND form) : m_form{form}
 {
-    const TextRuler ruler{form};
-    const int width = kTipLettersALine * static_cast<int>(ruler.Measure(L"0", DT_SINGLELINE, 0).cx);
-    ::SendMessageW(m_tooltip, TTM_SETMAXTIPWIDTH, 0, width);
     for (HWND control = ::GetWindow(form, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT)) {
         NameBehind(control, WithoutAccessKeys(WindowText(control)));
         if (KindOf(control) == TextKind::Shown) EndInEllipsis(control);
@@ -176,15 +173,26 @@ void FormTips::DrawEntry(const DRAWITEMSTRUCT& entry) const
     if (isCut) AddTip(entry.hwndItem, FormList{entry.hwndItem}.Text(static_cast<int>(entry.itemID)));
 }
 
+HWND FormTips::Tooltip() const noexcept
+{
+    if (m_tooltip != nullptr) return m_tooltip;
+    m_tooltip = CreateTooltipWindow(m_form);
+    const TextRuler ruler{m_form};
+    const int width = kTipLettersALine * static_cast<int>(ruler.Measure(L"0", DT_SINGLELINE, 0).cx);
+    ::SendMessageW(m_tooltip, TTM_SETMAXTIPWIDTH, 0, width);
+    return m_tooltip;
+}
+
 void FormTips::AddTip(HWND control, std::wstring text) const noexcept
 {
     TTTOOLINFOW tool = ToolOf(m_form, control);
     tool.lpszText = text.data();
-    ::SendMessageW(m_tooltip, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    ::SendMessageW(Tooltip(), TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 void FormTips::TakeBack(HWND control) const noexcept
 {
+    if (m_tooltip == nullptr) return;
     TTTOOLINFOW tool = ToolOf(m_form, control);
     const auto argument = reinterpret_cast<LPARAM>(&tool);
     if (::SendMessageW(m_tooltip, TTM_GETTOOLINFOW, 0, argument) == FALSE) return;
@@ -214,6 +222,7 @@ void FormTips::TakeAllBack() const noexcept
 
 void FormTips::FollowControls() const noexcept
 {
+    if (m_tooltip == nullptr) return;
     for (HWND control = ::GetWindow(m_form, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT))
     {
         TTTOOLINFOW tool = ToolOf(m_form, control);

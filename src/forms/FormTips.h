@@ -38,11 +38,12 @@ public:
     void TakeAllBack() const noexcept;
 
 private:
+    [[nodiscard]] HWND Tooltip() const noexcept;
     void AddTip(HWND control, std::wstring text) const noexcept;
     void TakeBack(HWND control) const noexcept;
 
     HWND m_form = nullptr;
-    HWND m_tooltip = nullptr;
+    mutable HWND m_tooltip = nullptr; // made with the first tip
 };
 
 } // namespace corvane

@@ -27,9 +27,8 @@ bool IsEsc(const MSG& message) noexcept
 
 bool IsKeyOfDialog(HWND dialog, MSG& message)
 {
-    const HWND cancel = ::GetDlgItem(dialog, IDCANCEL);
-    if (!IsEsc(message) || cancel == nullptr || ::IsWindowEnabled(cancel))
-        return ::IsDialogMessageW(dialog, &message) != FALSE;
+    const HWND cancel = IsEsc(message) ? ::GetDlgItem(dialog, IDCANCEL) : nullptr;
+    if (cancel == nullptr || ::IsWindowEnabled(cancel)) return ::IsDialogMessageW(dialog, &message) != FALSE;
     // The system would only beep.
     ::SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), reinterpret_cast<LPARAM>(cancel));
     return true;

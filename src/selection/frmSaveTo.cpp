@@ -10,6 +10,8 @@
 #include "support/ServerPolicy.h"
 #include "webservice/Operations.h"
 
+#include <array>
+
 namespace corvane
 {
 namespace
@@ -126,10 +128,8 @@ void frmSaveTo::cmdGo_Click() { Go(); }
 
 void frmSaveTo::SetWorking(bool working)
 {
-    for (const int control : {TreeView1, txtTree, cmdFilter, cmdOK})
-        Enable(control, !working && m_treeLoaded);
-    for (const int control : {cmbServerURL, cmdGo})
-        Enable(control, !working);
+    Enable(std::array{TreeView1, txtTree, cmdFilter, cmdOK}, !working && m_treeLoaded);
+    Enable(std::array{cmbServerURL, cmdGo}, !working);
     if (!working) SetStatus(StatusBar1, L"Ready");
 }
 
