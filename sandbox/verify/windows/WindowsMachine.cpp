@@ -127,7 +127,8 @@ struct Lack
     const char* reason;
 };
 constexpr Lack kLacks[] = {
-    {[](const Scenario& one) { return Mentions(one, R"(\\corvane\)"); }, R"(there is no share \\corvane\documents)"},
+    {[](const Scenario& one) { return Mentions(one, R"(\\corvane\documents\)"); },
+     R"(there is no share \\corvane\documents)"},
     {[](const Scenario& one) { return one.One("run").find("--dpi") != std::string::npos; },
      "it wants another resolution of the screen"},
     {[](const Scenario& one) { return Mentions(one, "mail.client=outlook") && HasOutlook(); },
