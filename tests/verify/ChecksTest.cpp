@@ -62,11 +62,11 @@ std::string Played(const std::string& tail)
     const Outcome outcome{
         .server = "http://h:1",
         .requests = {{10, "GET", "/WebServices/offi.asp?Op=A", {{"Name", "value"}}, "", 200},
-                     {10, "POST", "/WebServices/UploadToTransfer.ashx", {}, sent, 200},
+                     {30, "POST", "/WebServices/UploadToTransfer.ashx", {}, sent, 200},
                      {20, "POST", "/WebServices/offi.asp", {}, "Op=B&P1=\xFF", 200}},
         .versions = nlohmann::json::parse(R"([{"id": 1, "storedAs": "1"}, {"id": 2, "storedAs": "1"}])"),
         .traces = {"1\tone\r\n2\ttwo \x80\r\n3\tthree h:1\r\n"},
-        .processor = {{10.4, 1.0}, {11.6, 1.012}, {13.0, 9.0}},
+        .processor = {{10.35, 1.0}, {11.65, 1.013}, {13.0, 9.0}, {20.4, 9.0}, {21.5, 9.011}},
         .file = [&](const std::string& name) -> std::optional<std::string> {
             const auto found = files.find(name);
             return found == files.end() ? std::nullopt : std::optional{found->second};
@@ -123,9 +123,10 @@ TEST(Checks, EachHoldsForWhatIsRightAndFailsForWhatIsNot)
         {"#= trace one\n#= trace three ${HOST}", ""},
         {"#= trace two \xE2\x82\xAC\n#= trace one", "failed: no line \"one\" in its turn"},
         {"#= trace none", "failed: trace files: 1"},
-        {"#= cpu-below 2 Op=A", "the host used 1.00 % of a core"},
-        {"#= cpu-below 1 Op=A", "failed: the host used 1.00 % of a core"},
-        {"#= cpu-below 9 Op=B", "failed: the delay was not measured"},
+        {"#= cpu-below 2 Op=A\n#= ribbon none", "the host used 1.00 % of a core\nribbon"},
+        {"#= cpu-below 2 Op=B", "the host used 1.00 % of a core, measured for 1.1 of 2.0 s"},
+        {"#= cpu-below 0.9 Op=A", "failed: the host used 1.00 % of a core"},
+        {"#= cpu-below 9 Upload", "failed: the delay was not measured"},
         {"#= sound", "failed: no check is named sound"},
     };
     for (const auto& [tail, said] : kCases) {
