@@ -29,15 +29,10 @@ void TargetTree::AddProjects(const std::vector<XmlNode>& projects, const Target&
     const PaintingOff paintingOff{m_treeView};
     for (const XmlNode& project : projects) {
         if (!wanted()) return;
-        AddProject(project, wanted);
+        const std::wstring iconSet = project.Text(L"IconSet");
+        if (m_iconSets.insert(iconSet).second) m_loadIcons(m_images, iconSet);
+        AddNode({TVI_ROOT, {}}, project, 0, iconSet, wanted);
     }
-}
-
-void TargetTree::AddProject(const XmlNode& project, const Wanted& wanted)
-{
-    const std::wstring iconSet = project.Text(L"IconSet");
-    if (m_iconSets.insert(iconSet).second) m_loadIcons(m_images, iconSet);
-    AddNode({TVI_ROOT, {}}, project, 0, iconSet, wanted);
 }
 
 void TargetTree::AddNode(const Position& parent, const XmlNode& element, std::size_t depth, const std::wstring& iconSet,

@@ -48,7 +48,6 @@ private:
         std::wstring key;
     };
 
-    void AddProject(const XmlNode& project, const Wanted& wanted);
     void AddNode(const Position& parent, const XmlNode& element, std::size_t depth, const std::wstring& iconSet,
                  const Wanted& wanted);
     Position Insert(const Position& parent, const TreeLevel& level, const std::wstring& id, const std::wstring& text,

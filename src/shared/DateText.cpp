@@ -2,10 +2,12 @@
 
 #include "support/Conversions.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cmath>
 #include <limits>
+#include <span>
 #include <vector>
 
 namespace corvane
@@ -36,12 +38,9 @@ constexpr std::wstring_view kIsoNames[] = {L"UTC", L"yyyy-MM-ddTHH:mm:ss.nnn"};
 constexpr DateLayout kIsoLayout{{}, L'-', 2, 1, 0, false};
 constexpr std::size_t kIsoDateLength = 10;
 
-bool IsTime(std::wstring_view name)
+bool IsOneOf(std::span<const std::wstring_view> names, std::wstring_view name)
 {
-    for (const std::wstring_view time : kTimes) {
-        if (name == time) return true;
-    }
-    return false;
+    return std::ranges::find(names, name) != names.end();
 }
 
 // A layout and the part of the text that it reads.
@@ -53,13 +52,12 @@ struct DateSource
 
 DateSource SourceOf(std::wstring_view text, std::wstring_view layout)
 {
-    for (const std::wstring_view name : kIsoNames) {
-        if (layout == name) return {&kIsoLayout, text.substr(0, kIsoDateLength)};
-    }
+    if (IsOneOf(kIsoNames, layout)) return {&kIsoLayout, text.substr(0, kIsoDateLength)};
     for (const DateLayout& candidate : kLayouts) {
         for (const std::wstring_view name : candidate.names) {
             if (layout == name) return {&candidate, text};
-            const bool timed = candidate.mayHaveTime && layout.starts_with(name) && IsTime(layout.substr(name.size()));
+            const bool timed =
+                candidate.mayHaveTime && layout.starts_with(name) && IsOneOf(kTimes, layout.substr(name.size()));
             if (timed && text.find(L' ') != std::wstring_view::npos)
                 return {&candidate, text.substr(0, text.find(L' '))};
         }

@@ -53,12 +53,11 @@ bool IsWebAddress(std::wstring_view fullName)
 std::wstring AsFileName(std::wstring_view title)
 {
     std::wstring name = Trim(title);
-    std::replace_if(
-        name.begin(), name.end(),
-        [](wchar_t letter) {
-            return letter < L' ' || std::wstring_view{L"\\/:*?\"<>|"}.find(letter) != std::wstring_view::npos;
-        },
-        L'_');
+    constexpr std::wstring_view kForbidden = L"\\/:*?\"<>|";
+    const auto isForbidden = [&](wchar_t letter) {
+        return letter < L' ' || kForbidden.find(letter) != std::wstring_view::npos;
+    };
+    std::ranges::replace_if(name, isForbidden, L'_');
     name.resize(std::min(name.size(), kLongestName));
     while (!name.empty() && (name.back() == L'.' || name.back() == L' '))
         name.pop_back();

@@ -1,14 +1,14 @@
 #include "shared/HostVersion.h"
 
+#include <algorithm>
+
 namespace corvane
 {
 
 int MajorVersion(std::wstring_view version) noexcept
 {
     constexpr int kLargest = 10000;
-    version.remove_prefix(version.find_first_not_of(L" \t") == std::wstring_view::npos
-                              ? version.size()
-                              : version.find_first_not_of(L" \t"));
+    version.remove_prefix(std::min(version.find_first_not_of(L" \t"), version.size()));
     int number = 0;
     for (const wchar_t letter : version) {
         if (letter < L'0' || letter > L'9' || number > kLargest) break;

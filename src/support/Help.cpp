@@ -25,23 +25,14 @@ constexpr UINT kClosePatience = 1000; // milliseconds: the viewer's windows may 
 
 using HtmlHelp = HWND(WINAPI*)(HWND owner, LPCSTR file, UINT command, DWORD_PTR data);
 
-std::wstring& HelpFile()
-{
-    static std::wstring file;
-    return file;
-}
+std::wstring g_helpFile;
+HtmlHelp g_viewer = nullptr; // once it was needed; it stays loaded, since its windows outlive the call
+std::set<HWND> g_ownWindows; // those of the viewer's that we have opened
 
 // The viewer takes paths in the ANSI code page; a path with other letters has a short form without them.
 std::string AnsiPath(const std::wstring& longPath)
 {
     return ToCodePage(FitsCodePage(longPath) ? longPath : ShortPath(longPath));
-}
-
-// The viewer, once it was needed. It stays loaded: its windows outlive the call.
-HtmlHelp& Viewer() noexcept
-{
-    static HtmlHelp viewer = nullptr;
-    return viewer;
 }
 
 // The viewer's windows in this process.
@@ -56,37 +47,24 @@ std::set<HWND> OpenWindows()
     return windows;
 }
 
-// Those of them that we have opened.
-std::set<HWND>& OwnWindows()
-{
-    static std::set<HWND> windows;
-    return windows;
-}
-
-void LoadViewer()
-{
-    if (Viewer() != nullptr) return;
-    Viewer() = SystemFunction{L"hhctrl.ocx", "HtmlHelpA"};
-}
-
 void Show(HWND owner, UINT command, DWORD_PTR data)
 {
-    if (!FileExists(HelpFile())) {
-        ShowMessage(L"The help file \"" + HelpFile() + L"\" was not found.", kStyleExclamation);
+    if (!FileExists(g_helpFile)) {
+        ShowMessage(L"The help file \"" + g_helpFile + L"\" was not found.", kStyleExclamation);
         return;
     }
-    LoadViewer();
+    if (g_viewer == nullptr) g_viewer = SystemFunction{L"hhctrl.ocx", "HtmlHelpA"};
     const std::set<HWND> before = OpenWindows();
-    const HWND window = Viewer()(owner, AnsiPath(HelpFile()).c_str(), command, data);
+    const HWND window = g_viewer(owner, AnsiPath(g_helpFile).c_str(), command, data);
     if (window == nullptr)
-        ShowMessage(L"The help file \"" + HelpFile() + L"\" could not be opened.", kStyleExclamation);
+        ShowMessage(L"The help file \"" + g_helpFile + L"\" could not be opened.", kStyleExclamation);
     else if (!before.contains(window))
-        OwnWindows().insert(window);
+        g_ownWindows.insert(window);
 }
 
 } // namespace
 
-void SetHelpFile(std::wstring path) { HelpFile() = std::move(path); }
+void SetHelpFile(std::wstring path) { g_helpFile = std::move(path); }
 
 void ShowHelpContents() { Show(nullptr, kDisplayContents, 0); }
 
@@ -101,10 +79,10 @@ void CloseHelp() noexcept
     Ignoring([] {
         for (const HWND window : OpenWindows()) {
             DWORD_PTR result = 0;
-            if (OwnWindows().contains(window))
+            if (g_ownWindows.contains(window))
                 ::SendMessageTimeoutW(window, WM_CLOSE, 0, 0, SMTO_ABORTIFHUNG, kClosePatience, &result);
         }
-        OwnWindows().clear();
+        g_ownWindows.clear();
     });
 }
 

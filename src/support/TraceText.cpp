@@ -6,18 +6,23 @@
 
 namespace corvane
 {
+namespace
+{
+
+// The six numbers of a time, from the year on, in a format of the C library.
+std::wstring Formatted(const wchar_t* format, const LocalTime& time)
+{
+    std::array<wchar_t, 80> text{};
+    const int length = std::swprintf(text.data(), text.size(), format, time.year, time.month, time.day, time.hour,
+                                     time.minute, time.second);
+    return {text.data(), static_cast<std::size_t>(length)};
+}
+
+} // namespace
 
 std::wstring TraceFileName(std::wstring_view application, const LocalTime& time)
 {
-    std::wstring name{application};
-    const auto add = [&name](const wchar_t* separator, int number) { name += separator + std::to_wstring(number); };
-    add(L"_", time.year);
-    add(L"_", time.month);
-    add(L"_", time.day);
-    add(L"__", time.hour);
-    add(L"_", time.minute);
-    add(L"_", time.second);
-    return name + L".log";
+    return std::wstring{application} + Formatted(L"_%d_%d_%d__%d_%d_%d.log", time);
 }
 
 bool IsTraceFileName(std::wstring_view application, std::wstring_view name)
@@ -33,13 +38,7 @@ bool IsTraceFileName(std::wstring_view application, std::wstring_view name)
     return name.empty();
 }
 
-std::wstring SortableTime(const LocalTime& time)
-{
-    std::array<wchar_t, 80> text{};
-    const int length = std::swprintf(text.data(), text.size(), L"%04d-%02d-%02d %02d:%02d:%02d", time.year, time.month,
-                                     time.day, time.hour, time.minute, time.second);
-    return {text.data(), static_cast<std::size_t>(length)};
-}
+std::wstring SortableTime(const LocalTime& time) { return Formatted(L"%04d-%02d-%02d %02d:%02d:%02d", time); }
 
 std::wstring TraceTabs(std::int32_t level)
 {

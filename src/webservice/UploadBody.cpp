@@ -10,20 +10,11 @@ namespace corvane
 std::string UploadHeader(std::wstring_view uploadName)
 {
     std::wstring header = L"--";
-    header.append(kUploadBoundary).append(L"\r\n");
-    header.append(L"Content-Disposition: form-data; name=\"FileField\"; filename=\"")
-        .append(uploadName)
-        .append(L"\"\r\n");
-    header.append(L"Content-Type: application/upload\r\n\r\n");
-    return ToUtf8(header);
+    header.append(kUploadBoundary).append(L"\r\nContent-Disposition: form-data; name=\"FileField\"; filename=\"");
+    return ToUtf8(header.append(uploadName).append(L"\"\r\nContent-Type: application/upload\r\n\r\n"));
 }
 
-std::string UploadTrailer()
-{
-    std::wstring trailer = L"\r\n--";
-    trailer.append(kUploadBoundary).append(L"--\r\n");
-    return ToUtf8(trailer);
-}
+std::string UploadTrailer() { return ToUtf8(L"\r\n--" + std::wstring{kUploadBoundary} + L"--\r\n"); }
 
 bool AllZero(std::span<const std::byte> bytes) noexcept
 {
