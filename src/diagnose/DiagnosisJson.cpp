@@ -1,81 +1,112 @@
 #include "diagnose/Diagnosis.h"
-#include "diagnose/JsonObject.h"
+
+#include <concepts>
+#include <string_view>
+#include <utility>
 
 namespace diagnose
 {
 namespace
 {
 
-JsonObject Json(const PowerPoint& powerPoint)
+std::wstring Json(std::wstring_view text)
 {
-    return JsonObject{}.Text(L"program", powerPoint.program).Number(L"bits", powerPoint.bits);
+    constexpr std::wstring_view kDigits = L"0123456789abcdef";
+    std::wstring quoted = L"\"";
+    for (const wchar_t letter : text) {
+        const auto code = static_cast<unsigned>(letter);
+        if (letter == L'"' || letter == L'\\')
+            quoted.append(L"\\").append(1, letter);
+        else if (code < L' ')
+            quoted.append(L"\\u00").append(1, kDigits[code >> 4U]).append(1, kDigits[code & 0xFU]);
+        else
+            quoted += letter;
+    }
+    return quoted + L'"';
 }
 
-JsonObject Json(const Registration& entry)
+template<std::integral Value>
+std::wstring Json(Value value)
 {
-    return JsonObject{}
-        .Text(L"where", entry.where)
-        .Number(L"bits", entry.bits)
-        .Text(L"library", entry.library)
-        .Flag(L"libraryExists", entry.libraryExists)
-        .Number(L"libraryBits", entry.libraryBits)
-        .Text(L"libraryVersion", entry.libraryVersion);
+    if constexpr (std::same_as<Value, bool>)
+        return value ? L"true" : L"false";
+    else
+        return std::to_wstring(value);
 }
 
-JsonObject Json(const AddInEntry& entry)
+// An object's members: their names and what stands behind them, in order.
+using Members = std::vector<std::pair<std::wstring_view, std::wstring>>;
+
+std::wstring Object(const Members& members)
 {
-    return JsonObject{}
-        .Text(L"where", entry.where)
-        .Number(L"bits", entry.bits)
-        .Number(L"loadBehavior", entry.loadBehavior);
+    std::wstring object;
+    for (const auto& [name, value] : members)
+        object.append(object.empty() ? L"" : L",").append(Json(name)).append(L":").append(value);
+    return L"{" + object + L"}";
 }
 
-JsonObject Json(const OfficeEntry& entry)
+std::wstring Json(const PowerPoint& powerPoint)
 {
-    return JsonObject{}.Text(L"where", entry.where).Flag(L"blocks", entry.blocks);
+    return Object({{L"program", Json(powerPoint.program)}, {L"bits", Json(powerPoint.bits)}});
 }
 
-JsonObject Json(const ServerAnswer& answer)
+std::wstring Json(const Registration& entry)
 {
-    return JsonObject{}
-        .Text(L"address", answer.server)
-        .Text(L"outcome", answer.outcome)
-        .Number(L"status", answer.status)
-        .Flag(L"good", answer.good);
+    return Object({{L"where", Json(entry.where)},
+                   {L"bits", Json(entry.bits)},
+                   {L"library", Json(entry.library)},
+                   {L"libraryExists", Json(entry.libraryExists)},
+                   {L"libraryBits", Json(entry.libraryBits)},
+                   {L"libraryVersion", Json(entry.libraryVersion)}});
 }
 
-JsonObject Json(const LastTrace& trace)
+std::wstring Json(const AddInEntry& entry)
 {
-    return JsonObject{}
-        .Text(L"file", trace.file)
-        .Number(L"errors", static_cast<std::int64_t>(trace.errors))
-        .Text(L"lastNumber", trace.lastNumber);
+    return Object(
+        {{L"where", Json(entry.where)}, {L"bits", Json(entry.bits)}, {L"loadBehavior", Json(entry.loadBehavior)}});
 }
 
-JsonObject Json(const Configuration& configuration)
+std::wstring Json(const OfficeEntry& entry)
 {
-    return JsonObject{}
-        .Text(L"file", configuration.settingsFile)
-        .Flag(L"fileExists", configuration.settingsFileExists)
-        .Flag(L"trace", configuration.traceEnabled)
-        .Flag(L"traceByPolicy", configuration.traceByPolicy)
-        .Number(L"timeoutSeconds", configuration.timeoutSeconds)
-        .Flag(L"timeoutByPolicy", configuration.timeoutByPolicy)
-        .Texts(L"offeredServers", configuration.offeredServers)
-        .Flag(L"offeredServersOnly", configuration.offeredServersOnly)
-        .Flag(L"requireHttps", configuration.requiresHttps)
-        .Texts(L"serverRenames", configuration.serverRenames)
-        .Flag(L"clientEvents", configuration.allowsClientEvents);
+    return Object({{L"where", Json(entry.where)}, {L"blocks", Json(entry.blocks)}});
+}
+
+std::wstring Json(const ServerAnswer& answer)
+{
+    return Object({{L"address", Json(answer.server)},
+                   {L"outcome", Json(answer.outcome)},
+                   {L"status", Json(answer.status)},
+                   {L"good", Json(answer.good)}});
+}
+
+std::wstring Json(const LastTrace& trace)
+{
+    return Object(
+        {{L"file", Json(trace.file)}, {L"errors", Json(trace.errors)}, {L"lastNumber", Json(trace.lastNumber)}});
 }
 
 template<class Value>
-std::vector<JsonObject> Json(const std::vector<Value>& values)
+std::wstring Json(const std::vector<Value>& values)
 {
-    std::vector<JsonObject> objects;
-    objects.reserve(values.size());
+    std::wstring list;
     for (const Value& value : values)
-        objects.push_back(Json(value));
-    return objects;
+        list += (list.empty() ? L"" : L",") + Json(value);
+    return L"[" + list + L"]";
+}
+
+std::wstring Json(const Configuration& configuration)
+{
+    return Object({{L"file", Json(configuration.settingsFile)},
+                   {L"fileExists", Json(configuration.settingsFileExists)},
+                   {L"trace", Json(configuration.traceEnabled)},
+                   {L"traceByPolicy", Json(configuration.traceByPolicy)},
+                   {L"timeoutSeconds", Json(configuration.timeoutSeconds)},
+                   {L"timeoutByPolicy", Json(configuration.timeoutByPolicy)},
+                   {L"offeredServers", Json(configuration.offeredServers)},
+                   {L"offeredServersOnly", Json(configuration.offeredServersOnly)},
+                   {L"requireHttps", Json(configuration.requiresHttps)},
+                   {L"serverRenames", Json(configuration.serverRenames)},
+                   {L"clientEvents", Json(configuration.allowsClientEvents)}});
 }
 
 } // namespace
@@ -83,20 +114,20 @@ std::vector<JsonObject> Json(const std::vector<Value>& values)
 std::wstring JsonOf(const Diagnosis& diagnosis)
 {
     const auto& [machine, switchedOn, facts, configuration, lastTrace, findings] = diagnosis;
-    JsonObject all;
-    all.Object(L"program", JsonObject{}.Text(L"version", machine.version).Number(L"bits", machine.bits));
-    all.Object(L"windows", JsonObject{}.Text(L"name", machine.windows).Text(L"build", machine.build));
-    if (switchedOn) all.Text(L"switchedOn", *switchedOn);
-    all.Object(L"powerPoint", Json(facts.powerPoint));
-    all.Objects(L"registrations", Json(facts.registrations));
-    all.Objects(L"addIns", Json(facts.addIns));
-    all.Objects(L"office", Json(facts.officeEntries));
-    all.Texts(L"missingComponents", facts.missingComponents);
-    all.Object(L"settings", Json(configuration));
-    all.Texts(L"msxml", configuration.parsers);
-    if (facts.server) all.Object(L"server", Json(*facts.server));
-    if (lastTrace) all.Object(L"lastTrace", Json(*lastTrace));
-    return all.Texts(L"findings", findings).Written() + L"\r\n";
+    Members all{{L"program", Object({{L"version", Json(machine.version)}, {L"bits", Json(machine.bits)}})},
+                {L"windows", Object({{L"name", Json(machine.windows)}, {L"build", Json(machine.build)}})}};
+    if (switchedOn) all.emplace_back(L"switchedOn", Json(*switchedOn));
+    all.emplace_back(L"powerPoint", Json(facts.powerPoint));
+    all.emplace_back(L"registrations", Json(facts.registrations));
+    all.emplace_back(L"addIns", Json(facts.addIns));
+    all.emplace_back(L"office", Json(facts.officeEntries));
+    all.emplace_back(L"missingComponents", Json(facts.missingComponents));
+    all.emplace_back(L"settings", Json(configuration));
+    all.emplace_back(L"msxml", Json(configuration.parsers));
+    if (facts.server) all.emplace_back(L"server", Json(*facts.server));
+    if (lastTrace) all.emplace_back(L"lastTrace", Json(*lastTrace));
+    all.emplace_back(L"findings", Json(findings));
+    return Object(all) + L"\r\n";
 }
 
 } // namespace diagnose
