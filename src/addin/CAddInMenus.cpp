@@ -14,7 +14,7 @@
 #include "support/CTraceLog.h"
 #include "support/Conversions.h"
 #include "support/Help.h"
-#include "support/ServerPolicy.h"
+#include "support/Policy.h"
 #include "support/frmAbout.h"
 
 namespace corvane

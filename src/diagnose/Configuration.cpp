@@ -7,7 +7,6 @@
 #include "platform/Registry.h"
 #include "support/Policy.h"
 #include "support/ServerList.h"
-#include "support/ServerPolicy.h"
 #include "support/Settings.h"
 
 namespace diagnose

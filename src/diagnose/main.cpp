@@ -17,8 +17,8 @@
 #include "platform/SystemLibrary.h"
 #include "support/CMRUServers.h"
 #include "support/Conversions.h"
+#include "support/Policy.h"
 #include "support/ServerList.h"
-#include "support/ServerPolicy.h"
 
 namespace diagnose
 {

@@ -7,7 +7,7 @@
 #include "support/CCustomNames.h"
 #include "support/Conversions.h"
 #include "support/Help.h"
-#include "support/ServerPolicy.h"
+#include "support/Policy.h"
 #include "webservice/Operations.h"
 
 #include <array>

@@ -4,7 +4,6 @@
 #include "platform/Registry.h"
 #include "support/Policy.h"
 #include "support/ServerList.h"
-#include "support/ServerPolicy.h"
 
 namespace corvane
 {

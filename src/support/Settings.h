@@ -30,7 +30,14 @@ struct Settings
     [[nodiscard]] static Settings ReadFrom(const std::wstring& folder) noexcept;
 
     // These settings with the policy's decisions in their place.
-    [[nodiscard]] Settings Under(const SettingsPolicy& policy) const noexcept;
+    [[nodiscard]] Settings Under(const SettingsPolicy& policy) const noexcept
+    {
+        Settings decided = *this;
+        if (policy.trace) decided.traceEnabled = *policy.trace != 0;
+        if (policy.requestTimeout.value_or(-1) >= 0)
+            decided.requestTimeout = std::chrono::seconds{*policy.requestTimeout};
+        return decided;
+    }
 };
 
 } // namespace corvane
