@@ -1,10 +1,10 @@
 #include "addin/CAddInMenus.h"
 
-#include "addin/RibbonXml.h"
 #include "forms/Messages.h"
 #include "platform/ComObject.h"
 #include "platform/Error.h"
 #include "platform/Procedure.h"
+#include "platform/XmlDocument.h"
 #include "selection/frmSaveTo.h"
 #include "shared/DocumentProperties.h"
 #include "shared/HostDocument.h"
@@ -28,6 +28,17 @@ HWND WindowOf(const LateBound& application) noexcept
     HWND window = nullptr;
     Ignoring([&] { window = reinterpret_cast<HWND>(static_cast<INT_PTR>(application.Number(L"HWND"))); });
     return window;
+}
+
+// The ribbon's data as nodes of a document, all in one namespace.
+XmlNode NodeOf(const XmlDocument& document, const RibbonElement& element, const std::wstring& namespaceUri)
+{
+    XmlNode node = document.CreateElement(element.name.c_str(), namespaceUri);
+    for (const auto& [name, value] : element.attributes)
+        node.SetAttribute(name.c_str(), value);
+    for (const RibbonElement& child : element.children)
+        node.Append(NodeOf(document, child, namespaceUri));
+    return node;
 }
 
 // Follows a command for macros that ask how it ended.
@@ -65,7 +76,9 @@ std::wstring CAddInMenus::RibbonXml(std::wstring_view procedure, RibbonTab tab) 
     std::wstring xml;
     AtHostBoundary(procedure, [&] {
         const int version = HostVersion();
-        xml = RibbonXmlText(BuildRibbon(version, m_captions, tab), CustomUINamespaceFor(version));
+        XmlDocument document;
+        document.Append(NodeOf(document, BuildRibbon(version, m_captions, tab), CustomUINamespaceFor(version)));
+        xml = document.Text();
     });
     return xml;
 }
