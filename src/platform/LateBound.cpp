@@ -20,9 +20,8 @@ public:
     ExceptionInfo& operator=(const ExceptionInfo&) = delete;
     ~ExceptionInfo()
     {
-        const Bstr source = Own(m_info.bstrSource);
-        const Bstr description = Own(m_info.bstrDescription);
-        const Bstr helpFile = Own(m_info.bstrHelpFile);
+        for (const BSTR text : {m_info.bstrSource, m_info.bstrDescription, m_info.bstrHelpFile})
+            ::SysFreeString(text);
     }
 
     [[nodiscard]] EXCEPINFO* Put() noexcept { return &m_info; }
@@ -39,13 +38,6 @@ public:
     }
 
 private:
-    static Bstr Own(BSTR text)
-    {
-        Bstr owner;
-        *owner.Put() = text;
-        return owner;
-    }
-
     EXCEPINFO m_info{};
 };
 
@@ -84,6 +76,16 @@ std::int32_t LateBound::Number(const wchar_t* name) const
 }
 
 void LateBound::Put(const wchar_t* name, Variant value) const { Invoke(name, DISPATCH_PROPERTYPUT, {&value, 1}); }
+
+void LateBound::SavePersistedCopy(const std::wstring& path) const
+{
+    constexpr const wchar_t* kSource = L"SavePersistedCopy";
+    constexpr std::int32_t kNotSupported = 438;
+    ComPtr<IPersistFile> file;
+    if (m_object == nullptr || FAILED(m_object->QueryInterface(IID_IPersistFile, &file)))
+        throw Error{kNotSupported, kSource, L"Object doesn't support this property or method"};
+    Check(file->Save(path.c_str(), FALSE), kSource);
+}
 
 Variant LateBound::Invoke(const wchar_t* name, int kind, std::span<Variant> arguments) const
 {

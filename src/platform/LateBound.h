@@ -51,6 +51,10 @@ public:
     }
     void Put(const wchar_t* name, Variant value) const;
 
+    // Writes a copy of a document in its own format, by the system's interface for objects that live in files; the
+    // document stays where it was. Number 438 when the object has no such interface.
+    void SavePersistedCopy(const std::wstring& path) const;
+
 private:
     template<class... Arguments>
     Variant InvokeWith(const wchar_t* name, int kind, Arguments&&... arguments) const

@@ -1,7 +1,6 @@
 #include "shared/HostDocument.h"
 
 #include "forms/HostCall.h"
-#include "platform/PersistedFile.h"
 #include "platform/Procedure.h"
 #include "shared/DocumentNames.h"
 #include "shared/HostTraits.h"
@@ -213,7 +212,7 @@ SavedDocument HostDocument::SaveTemporaryCopy(const LateBound& subject) const
     const auto& [member, takesFormat] = Host().copy;
     const HostCall call;
     if (member == nullptr) // SaveAs would make the copy the user's document
-        SavePersistedCopy(subject, path);
+        subject.SavePersistedCopy(path);
     else if (takesFormat)
         subject.Call(member, path, FormatArgument(Host(), m_version, extension));
     else
