@@ -84,20 +84,6 @@ HttpRequest::HttpRequest()
                 L"The HTTP component of the system cannot be created."};
 }
 
-HttpRequest::HttpRequest(HttpRequest&& other) noexcept
-    : m_request{std::move(other.m_request)}, m_facts{other.m_facts}, m_sent{other.m_sent}, m_underWay{std::exchange(
-                                                                                               other.m_underWay, false)}
-{}
-
-HttpRequest& HttpRequest::operator=(HttpRequest other) noexcept
-{
-    std::swap(m_request, other.m_request);
-    std::swap(m_facts, other.m_facts);
-    std::swap(m_sent, other.m_sent);
-    std::swap(m_underWay, other.m_underWay);
-    return *this;
-}
-
 HttpRequest::~HttpRequest()
 {
     if (m_underWay) LetGoOf(std::move(m_request));

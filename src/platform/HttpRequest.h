@@ -24,8 +24,8 @@ class HttpRequest
 public:
     // Throws Error when the machine has no XMLHTTP component.
     HttpRequest();
-    HttpRequest(HttpRequest&& other) noexcept;
-    HttpRequest& operator=(HttpRequest other) noexcept;
+    HttpRequest(const HttpRequest&) = delete;
+    HttpRequest& operator=(const HttpRequest&) = delete;
     // A request still under way is let go of (OwnerlessRequests.h).
     ~HttpRequest();
 

@@ -62,20 +62,19 @@ void UpdateUserLog(const std::wstring& sServer, const std::wstring& sWebService)
     const ProcedureScope scope{L"WebService.UpdateUserLog"};
     if (!AccessLogPending()) return;
     const std::wstring url = Endpoint(sServer, sWebService) + L"?" + RequestQuery(Operations::kUpdateUserAccessLog, {});
-    HttpRequest request;
-    OpenRequest(kAccessLogCall, [&] { request.Open(L"POST", url); });
+    std::optional<HttpRequest> request{std::in_place};
+    OpenRequest(kAccessLogCall, [&] { request->Open(L"POST", url); });
     const XmlDocument empty;
     const auto failure = Catch([&] {
-        Exchange(request, kAccessLogCall, Operations::kUpdateUserAccessLog, sServer, RequestLimit(), [&] {
-            if (!Catch([&] { request.Send(empty); })) return;
+        Exchange(*request, kAccessLogCall, Operations::kUpdateUserAccessLog, sServer, RequestLimit(), [&] {
+            if (!Catch([&] { request->Send(empty); })) return;
             // A component may refuse the document of another version, and forget with it what was opened. Without a
             // document the request is the same.
-            request = HttpRequest{};
-            request.Open(L"POST", url);
-            request.Send();
+            request.emplace().Open(L"POST", url);
+            request->Send();
         });
     });
-    if (request.Status() == kFailedDependency) SetAccessLogged(false);
+    if (request->Status() == kFailedDependency) SetAccessLogged(false);
     if (failure) throw *failure;
     SetAccessLogged(true);
 }
