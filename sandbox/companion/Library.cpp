@@ -2,7 +2,6 @@
 #include "companion/Agreement.h"
 #include "companion/Connection.h"
 #include "platform/ClassFactory.h"
-#include "platform/Procedure.h"
 
 using corvane::Library;
 
@@ -21,13 +20,9 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID id, void** object)
     *object = nullptr;
     if (corvane::GuidText(classId) != corvane::companion::kClassId) return CLASS_E_CLASSNOTAVAILABLE;
     const auto create = [](REFIID wanted, void** made) {
-        return corvane::MakeObject<corvane::companion::Connection>()->QueryInterface(wanted, made);
+        return corvane::CreateObject<corvane::companion::Connection>(wanted, made);
     };
-    HRESULT result = E_OUTOFMEMORY;
-    corvane::Ignoring([&] {
-        result = corvane::MakeObject<corvane::ClassFactory<decltype(create)>>(create)->QueryInterface(id, object);
-    });
-    return result;
+    return corvane::CreateObject<corvane::ClassFactory<decltype(create)>>(id, object, create);
 }
 
 STDAPI DllCanUnloadNow() { return Library::IsIdle() ? S_OK : S_FALSE; }

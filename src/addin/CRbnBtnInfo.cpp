@@ -1,6 +1,5 @@
 #include "addin/CRbnBtnInfo.h"
 
-#include "platform/HandOut.h"
 #include "platform/Procedure.h"
 
 namespace corvane

@@ -3,6 +3,7 @@
 
 #include "addin.h"
 #include "platform/ComObject.h"
+#include "shared/SaveResult.h"
 
 namespace corvane
 {
@@ -14,20 +15,18 @@ public:
     STDMETHODIMP get_Outcome(LONG* Value) noexcept override;
     STDMETHODIMP get_ErrorNumber(LONG* Value) noexcept override;
     STDMETHODIMP get_ErrorDescription(BSTR* Value) noexcept override;
-    STDMETHODIMP get_Server(BSTR* Value) noexcept override;
-    STDMETHODIMP get_ProjectID(LONG* Value) noexcept override;
-    STDMETHODIMP get_DeliverableID(LONG* Value) noexcept override;
-    STDMETHODIMP get_ActivityID(LONG* Value) noexcept override;
-    STDMETHODIMP get_RelatedDocumentID(LONG* Value) noexcept override;
-    STDMETHODIMP get_GateDocumentID(LONG* Value) noexcept override;
-    STDMETHODIMP get_VersionLink(BSTR* Value) noexcept override;
-    STDMETHODIMP get_UploadedName(BSTR* Value) noexcept override;
+    STDMETHODIMP get_Server(BSTR* Value) noexcept override { return Get(&SavedVersion::server, Value); }
+    STDMETHODIMP get_ProjectID(LONG* Value) noexcept override { return Get(&Target::projectId, Value); }
+    STDMETHODIMP get_DeliverableID(LONG* Value) noexcept override { return Get(&Target::deliverableId, Value); }
+    STDMETHODIMP get_ActivityID(LONG* Value) noexcept override { return Get(&Target::activityId, Value); }
+    STDMETHODIMP get_RelatedDocumentID(LONG* Value) noexcept override { return Get(&Target::relatedFileId, Value); }
+    STDMETHODIMP get_GateDocumentID(LONG* Value) noexcept override { return Get(&Target::gateDocumentId, Value); }
+    STDMETHODIMP get_VersionLink(BSTR* Value) noexcept override { return Get(&SavedVersion::link, Value); }
+    STDMETHODIMP get_UploadedName(BSTR* Value) noexcept override { return Get(&SavedVersion::fileName, Value); }
 
 private:
-    template<class Read>
-    HRESULT Number(Read read, LONG* into) const noexcept;
-    template<class Read>
-    HRESULT Text(Read read, BSTR* into) const noexcept;
+    HRESULT Get(std::int32_t Target::*id, LONG* into) const noexcept;
+    HRESULT Get(std::wstring SavedVersion::*text, BSTR* into) const noexcept;
 };
 
 } // namespace corvane

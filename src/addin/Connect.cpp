@@ -6,7 +6,6 @@
 #include "addin/UICaptions.h"
 #include "forms/Messages.h"
 #include "platform/HResult.h"
-#include "platform/HandOut.h"
 #include "platform/OwnerlessRequests.h"
 #include "platform/Procedure.h"
 #include "shared/HostVersion.h"
@@ -48,12 +47,10 @@ void TraceProperty(const wchar_t* label, const LateBound& object, const wchar_t*
 // An object argument of an event, by its position from the last.
 LateBound ObjectArgument(const DISPPARAMS& arguments, UINT fromLast)
 {
-    if (fromLast >= arguments.cArgs) return {};
-    VARIANT plain{};
-    if (FAILED(::VariantCopyInd(&plain, &arguments.rgvarg[fromLast]))) return {};
-    Variant owner;
-    *owner.Put() = plain;
-    return LateBound{owner.Object()};
+    LateBound object;
+    if (fromLast < arguments.cArgs)
+        Ignoring([&] { object = LateBound{Variant::Of(arguments.rgvarg[fromLast]).Object()}; });
+    return object;
 }
 
 } // namespace
@@ -146,17 +143,7 @@ void Connect::Disconnected() noexcept
     SetHostWindow(nullptr);
 }
 
-STDMETHODIMP Connect::OnAddInsUpdate(SAFEARRAY** /*custom*/) noexcept
-{
-    return Serve([] {});
-}
-
-STDMETHODIMP Connect::OnStartupComplete(SAFEARRAY** /*custom*/) noexcept
-{
-    return Serve([] {});
-}
-
-STDMETHODIMP Connect::OnBeginShutdown(SAFEARRAY** /*custom*/) noexcept
+HRESULT Connect::Nothing() const noexcept
 {
     return Serve([] {});
 }
@@ -185,18 +172,8 @@ STDMETHODIMP Connect::RibbonHandler(IDispatch* control) noexcept
 
 STDMETHODIMP Connect::GetEnabled(IDispatch* /*control*/, VARIANT_BOOL* enabled) noexcept
 {
-    return Serve([&] {
-        if (enabled == nullptr) return E_POINTER;
-        *enabled = VARIANT_FALSE;
-        return S_OK;
-    });
+    return Serve([&] { return HandOutValue(VARIANT_FALSE, enabled); });
 }
-
-STDMETHODIMP Connect::GetLabel(IDispatch* /*control*/, BSTR* label) noexcept { return NoText(label); }
-
-STDMETHODIMP Connect::GetScreentip(IDispatch* /*control*/, BSTR* screentip) noexcept { return NoText(screentip); }
-
-STDMETHODIMP Connect::GetSupertip(IDispatch* /*control*/, BSTR* supertip) noexcept { return NoText(supertip); }
 
 HRESULT Connect::NoText(BSTR* text) const noexcept
 {

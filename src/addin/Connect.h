@@ -24,9 +24,9 @@ public:
     STDMETHODIMP OnConnection(IDispatch* Application, LONG ConnectMode, IDispatch* AddInInst,
                               SAFEARRAY** custom) noexcept override;
     STDMETHODIMP OnDisconnection(LONG RemoveMode, SAFEARRAY** custom) noexcept override;
-    STDMETHODIMP OnAddInsUpdate(SAFEARRAY** custom) noexcept override;
-    STDMETHODIMP OnStartupComplete(SAFEARRAY** custom) noexcept override;
-    STDMETHODIMP OnBeginShutdown(SAFEARRAY** custom) noexcept override;
+    STDMETHODIMP OnAddInsUpdate(SAFEARRAY** /*custom*/) noexcept override { return Nothing(); }
+    STDMETHODIMP OnStartupComplete(SAFEARRAY** /*custom*/) noexcept override { return Nothing(); }
+    STDMETHODIMP OnBeginShutdown(SAFEARRAY** /*custom*/) noexcept override { return Nothing(); }
 
     // IRibbonExtensibility
     STDMETHODIMP GetCustomUI(BSTR RibbonID, BSTR* RibbonXml) noexcept override;
@@ -34,9 +34,9 @@ public:
     // Ribbon callbacks. The four tips and states are there for any XML that names them; ours names none.
     STDMETHODIMP RibbonHandler(IDispatch* control) noexcept override;
     STDMETHODIMP GetEnabled(IDispatch* control, VARIANT_BOOL* enabled) noexcept override;
-    STDMETHODIMP GetLabel(IDispatch* control, BSTR* label) noexcept override;
-    STDMETHODIMP GetScreentip(IDispatch* control, BSTR* screentip) noexcept override;
-    STDMETHODIMP GetSupertip(IDispatch* control, BSTR* supertip) noexcept override;
+    STDMETHODIMP GetLabel(IDispatch* /*control*/, BSTR* label) noexcept override { return NoText(label); }
+    STDMETHODIMP GetScreentip(IDispatch* /*control*/, BSTR* screentip) noexcept override { return NoText(screentip); }
+    STDMETHODIMP GetSupertip(IDispatch* /*control*/, BSTR* supertip) noexcept override { return NoText(supertip); }
     STDMETHODIMP onLoad(IDispatch* ribbon, VARIANT* result) noexcept override;
 
 private:
@@ -44,6 +44,7 @@ private:
     void Disconnected() noexcept;
     void ConnectToHost(const LateBound& application, LONG connectMode, const LateBound& addInInstance);
     void StartUp(const LateBound& application);
+    [[nodiscard]] HRESULT Nothing() const noexcept; // to be done
     [[nodiscard]] HRESULT NoText(BSTR* text) const noexcept;
     void Offer(const LateBound& addInInstance);
     void OnApplicationEvent(DISPID member, const DISPPARAMS& arguments) noexcept;

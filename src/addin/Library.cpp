@@ -23,10 +23,7 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID id, void** object)
     *object = nullptr;
     const corvane::PublicClass* entry = corvane::FindClass(classId);
     if (entry == nullptr) return CLASS_E_CLASSNOTAVAILABLE;
-    HRESULT result = E_OUTOFMEMORY;
-    using Factory = corvane::ClassFactory<decltype(entry->create)>;
-    corvane::Ignoring([&] { result = corvane::MakeObject<Factory>(entry->create)->QueryInterface(id, object); });
-    return result;
+    return corvane::CreateObject<corvane::ClassFactory<decltype(entry->create)>>(id, object, entry->create);
 }
 
 STDAPI DllCanUnloadNow() { return Library::IsIdle() ? S_OK : S_FALSE; }

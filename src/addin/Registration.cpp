@@ -24,20 +24,12 @@ constexpr const wchar_t* kDescription = L"Corvane Addin for MS Office Documents 
 constexpr const wchar_t* kPlatformKey = sizeof(void*) == 8 ? L"\\0\\win64" : L"\\0\\win32";
 constexpr std::int32_t kLoadAtStartUp = 3;
 
-template<class Object>
-HRESULT Create(REFIID id, void** object) noexcept
-{
-    HRESULT result = E_OUTOFMEMORY;
-    Ignoring([&] { result = MakeObject<Object>()->QueryInterface(id, object); });
-    return result;
-}
-
 const PublicClass kPublicClasses[] = {
-    {L"Connect", CLSID_Connect, &Create<Connect>},
-    {L"CController", CLSID_CController, &Create<CController>},
-    {L"CTraceLog", CLSID_CTraceLog, &Create<TraceLogObject>},
-    {L"CRbnBtnInfo", CLSID_CRbnBtnInfo, &Create<CRbnBtnInfo>},
-    {L"CSaveResult", CLSID_CSaveResult, &Create<CSaveResult>},
+    {L"Connect", CLSID_Connect, &CreateObject<Connect>},
+    {L"CController", CLSID_CController, &CreateObject<CController>},
+    {L"CTraceLog", CLSID_CTraceLog, &CreateObject<TraceLogObject>},
+    {L"CRbnBtnInfo", CLSID_CRbnBtnInfo, &CreateObject<CRbnBtnInfo>},
+    {L"CSaveResult", CLSID_CSaveResult, &CreateObject<CSaveResult>},
 };
 
 std::wstring ProgId(const PublicClass& entry) { return std::wstring{kProject} + entry.name; }

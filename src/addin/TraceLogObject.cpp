@@ -1,6 +1,5 @@
 #include "addin/TraceLogObject.h"
 
-#include "platform/HandOut.h"
 #include "platform/Procedure.h"
 #include "platform/Variant.h"
 
@@ -52,11 +51,7 @@ STDMETHODIMP TraceLogObject::WriteLine(BSTR Text, LONG ExtraIndent) noexcept
 
 STDMETHODIMP TraceLogObject::get_bTimeStamp(VARIANT_BOOL* TimeStamp) noexcept
 {
-    return Serve([&] {
-        if (TimeStamp == nullptr) return E_POINTER;
-        *TimeStamp = m_log.bTimeStamp() ? VARIANT_TRUE : VARIANT_FALSE;
-        return S_OK;
-    });
+    return Serve([&] { return HandOutValue(m_log.bTimeStamp() ? VARIANT_TRUE : VARIANT_FALSE, TimeStamp); });
 }
 
 } // namespace corvane

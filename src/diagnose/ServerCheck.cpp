@@ -38,13 +38,8 @@ const Internet& WinInet()
     return functions;
 }
 
-struct InternetTraits
-{
-    using Value = HINTERNET;
-    static constexpr Value kEmpty = nullptr;
-    static void Free(Value handle) noexcept { WinInet().closeHandle(handle); }
-};
-using UniqueInternet = corvane::Unique<InternetTraits>;
+void Close(HINTERNET handle) noexcept { WinInet().closeHandle(handle); }
+using UniqueInternet = corvane::Unique<HINTERNET, Close>;
 
 struct Meaning
 {

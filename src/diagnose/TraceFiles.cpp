@@ -11,13 +11,6 @@ namespace diagnose
 namespace
 {
 
-struct FindTraits
-{
-    using Value = HANDLE;
-    static constexpr Value kEmpty = nullptr;
-    static void Free(Value search) noexcept { ::FindClose(search); }
-};
-
 std::wstring TraceFolder()
 {
     std::wstring folder = corvane::ApplicationDataFolder();
@@ -49,7 +42,7 @@ std::vector<TraceFile> FindTraces()
     WIN32_FIND_DATAW entry{};
     const HANDLE first = ::FindFirstFileW((TraceFolder() + L"*.log").c_str(), &entry);
     if (first == INVALID_HANDLE_VALUE) return files;
-    const corvane::Unique<FindTraits> search{first};
+    const corvane::Unique<HANDLE, ::FindClose> search{first};
     do {
         if (IsTrace(entry))
             files.push_back({entry.cFileName, Wide(entry.nFileSizeHigh, entry.nFileSizeLow),

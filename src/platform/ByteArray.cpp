@@ -17,29 +17,16 @@ std::span<std::byte> BytesOf(const SAFEARRAY& array) noexcept
 
 ByteArray::ByteArray(std::size_t size) : m_array{::SafeArrayCreateVector(VT_UI1, 0, static_cast<ULONG>(size))}
 {
-    if (m_array == nullptr) throw std::bad_alloc{};
+    if (!m_array) throw std::bad_alloc{};
 }
 
-ByteArray::ByteArray(ByteArray&& other) noexcept : m_array{std::exchange(other.m_array, nullptr)} {}
-
-ByteArray& ByteArray::operator=(ByteArray other) noexcept
-{
-    std::swap(m_array, other.m_array);
-    return *this;
-}
-
-ByteArray::~ByteArray()
-{
-    if (m_array != nullptr) ::SafeArrayDestroy(m_array);
-}
-
-std::span<std::byte> ByteArray::Bytes() noexcept { return BytesOf(*m_array); }
+std::span<std::byte> ByteArray::Bytes() noexcept { return BytesOf(*m_array.Get()); }
 
 Variant ByteArray::Detach() noexcept
 {
     Variant value;
     value.Put()->vt = VT_ARRAY | VT_UI1;
-    const_cast<VARIANT&>(value.Get()).parray = std::exchange(m_array, nullptr);
+    const_cast<VARIANT&>(value.Get()).parray = m_array.Detach();
     return value;
 }
 

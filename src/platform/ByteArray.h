@@ -16,9 +16,6 @@ class ByteArray
 public:
     // size bytes of zero; throws std::bad_alloc when there is no memory for them.
     explicit ByteArray(std::size_t size);
-    ByteArray(ByteArray&& other) noexcept;
-    ByteArray& operator=(ByteArray other) noexcept;
-    ~ByteArray();
 
     [[nodiscard]] std::span<std::byte> Bytes() noexcept;
 
@@ -26,7 +23,7 @@ public:
     [[nodiscard]] Variant Detach() noexcept;
 
 private:
-    SAFEARRAY* m_array = nullptr;
+    Unique<SAFEARRAY*, ::SafeArrayDestroy> m_array;
 };
 
 // The bytes inside a value, which owns them; empty where it holds no array of bytes.

@@ -112,12 +112,7 @@ template<class Interface>
 class Dispatched : public Interface
 {
 public:
-    STDMETHODIMP GetTypeInfoCount(UINT* count) noexcept override
-    {
-        if (count == nullptr) return E_POINTER;
-        *count = 1;
-        return S_OK;
-    }
+    STDMETHODIMP GetTypeInfoCount(UINT* count) noexcept override { return HandOutValue(1U, count); }
     STDMETHODIMP GetTypeInfo(UINT index, LCID, ITypeInfo** info) noexcept override
     {
         if (info == nullptr) return E_POINTER;
@@ -183,6 +178,15 @@ template<class Object, class... Arguments>
 [[nodiscard]] ComPtr<Object> MakeObject(Arguments&&... arguments)
 {
     return ComPtr<Object>{new Object{std::forward<Arguments>(arguments)...}};
+}
+
+// Makes an object and hands out one of its interfaces; the result of a COM method that does so.
+template<class Object, class... Arguments>
+[[nodiscard]] HRESULT CreateObject(REFIID id, void** object, Arguments... arguments) noexcept
+{
+    HRESULT result = E_OUTOFMEMORY;
+    Ignoring([&] { result = MakeObject<Object>(std::move(arguments)...)->QueryInterface(id, object); });
+    return result;
 }
 
 } // namespace corvane

@@ -18,12 +18,7 @@ public:
     {
         return ComObject::QueryInterface(id == m_events ? __uuidof(IDispatch) : id, object);
     }
-    STDMETHODIMP GetTypeInfoCount(UINT* count) noexcept override
-    {
-        if (count == nullptr) return E_POINTER;
-        *count = 0;
-        return S_OK;
-    }
+    STDMETHODIMP GetTypeInfoCount(UINT* count) noexcept override { return HandOutValue(0U, count); }
     STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) noexcept override { return E_NOTIMPL; }
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) noexcept override { return E_NOTIMPL; }
     STDMETHODIMP Invoke(DISPID member, REFIID, LCID, WORD, DISPPARAMS* arguments, VARIANT*, EXCEPINFO*,
@@ -51,10 +46,6 @@ EventSubscription::EventSubscription(IUnknown* source, REFIID events, EventHandl
     Check(m_point->Advise(sink.Get(), &m_cookie), kSource);
 }
 
-EventSubscription::EventSubscription(EventSubscription&& other) noexcept
-    : m_point{std::move(other.m_point)}, m_cookie{std::exchange(other.m_cookie, 0)}
-{}
-
 EventSubscription& EventSubscription::operator=(EventSubscription other) noexcept
 {
     std::swap(m_point, other.m_point);
@@ -64,7 +55,7 @@ EventSubscription& EventSubscription::operator=(EventSubscription other) noexcep
 
 EventSubscription::~EventSubscription()
 {
-    if (m_point != nullptr && m_cookie != 0) m_point->Unadvise(m_cookie);
+    if (m_point != nullptr) m_point->Unadvise(m_cookie);
 }
 
 } // namespace corvane

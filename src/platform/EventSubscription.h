@@ -20,7 +20,7 @@ public:
     EventSubscription() = default;
     // Connects handler to the source's events of the given event interface; throws Error when the source has none.
     EventSubscription(IUnknown* source, REFIID events, EventHandler handler);
-    EventSubscription(EventSubscription&& other) noexcept;
+    EventSubscription(EventSubscription&& other) noexcept = default;
     EventSubscription& operator=(EventSubscription other) noexcept;
     ~EventSubscription();
 

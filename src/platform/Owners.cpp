@@ -6,9 +6,16 @@
 namespace corvane
 {
 
-Bstr::Bstr(std::wstring_view text) : m_text{::SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))}
+Bstr::Bstr(std::wstring_view text) : Unique{::SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))}
 {
-    if (m_text == nullptr) throw std::bad_alloc{};
+    if (Get() == nullptr) throw std::bad_alloc{};
+}
+
+HRESULT HandOut(std::wstring_view text, BSTR* into) noexcept
+{
+    if (into == nullptr) return E_POINTER;
+    *into = ::SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
+    return *into == nullptr ? E_OUTOFMEMORY : S_OK;
 }
 
 std::wstring GuidText(REFGUID id)

@@ -8,6 +8,7 @@
 
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 
 namespace corvane
@@ -15,16 +16,14 @@ namespace corvane
 
 using Microsoft::WRL::ComPtr;
 
-// Owns one handle of the kind that Traits describes: its type, its empty value and how it is freed.
-template<class Traits>
+// Owns one handle, null for none, which a function of the system frees.
+template<class Value, auto kFree>
 class Unique
 {
 public:
-    using Value = typename Traits::Value;
-
     Unique() = default;
     explicit Unique(Value value) noexcept : m_value{value} {}
-    Unique(Unique&& other) noexcept : m_value{std::exchange(other.m_value, Traits::kEmpty)} {}
+    Unique(Unique&& other) noexcept : m_value{std::exchange(other.m_value, nullptr)} {}
     Unique& operator=(Unique other) noexcept
     {
         std::swap(m_value, other.m_value);
@@ -32,7 +31,7 @@ public:
     }
     ~Unique()
     {
-        if (m_value != Traits::kEmpty) Traits::Free(m_value);
+        if (m_value != nullptr) kFree(m_value);
     }
 
     [[nodiscard]] Value Get() const noexcept { return m_value; }
@@ -41,46 +40,20 @@ public:
         *this = Unique{};
         return &m_value;
     }
-    [[nodiscard]] Value Detach() noexcept { return std::exchange(m_value, Traits::kEmpty); }
-    explicit operator bool() const noexcept { return m_value != Traits::kEmpty; }
+    [[nodiscard]] Value Detach() noexcept { return std::exchange(m_value, nullptr); }
+    explicit operator bool() const noexcept { return m_value != nullptr; }
 
 private:
-    Value m_value = Traits::kEmpty;
+    Value m_value = nullptr;
 };
 
-struct FileTraits
-{
-    using Value = HANDLE;
-    static constexpr Value kEmpty = nullptr;
-    static void Free(Value file) noexcept { ::CloseHandle(file); }
-};
-struct RegistryKeyTraits
-{
-    using Value = HKEY;
-    static constexpr Value kEmpty = nullptr;
-    static void Free(Value key) noexcept { ::RegCloseKey(key); }
-};
-template<class Kind>
-struct GdiTraits
-{
-    using Value = Kind;
-    static constexpr Value kEmpty = nullptr;
-    static void Free(Value object) noexcept { ::DeleteObject(object); }
-};
-struct DeviceContextTraits
-{
-    using Value = HDC;
-    static constexpr Value kEmpty = nullptr;
-    static void Free(Value context) noexcept { ::DeleteDC(context); }
-};
-
-using UniqueFile = Unique<FileTraits>;
-using UniqueRegistryKey = Unique<RegistryKeyTraits>;
-using UniqueFont = Unique<GdiTraits<HFONT>>;
-using UniqueBrush = Unique<GdiTraits<HBRUSH>>;
-using UniquePen = Unique<GdiTraits<HPEN>>;
-using UniqueBitmap = Unique<GdiTraits<HBITMAP>>;
-using UniqueDeviceContext = Unique<DeviceContextTraits>;
+using UniqueFile = Unique<HANDLE, ::CloseHandle>;
+using UniqueRegistryKey = Unique<HKEY, ::RegCloseKey>;
+using UniqueFont = Unique<HFONT, ::DeleteObject>;
+using UniqueBrush = Unique<HBRUSH, ::DeleteObject>;
+using UniquePen = Unique<HPEN, ::DeleteObject>;
+using UniqueBitmap = Unique<HBITMAP, ::DeleteObject>;
+using UniqueDeviceContext = Unique<HDC, ::DeleteDC>;
 
 // The device context of a window's client area, without one of the screen, for as long as it lives.
 class WindowContext
@@ -112,40 +85,30 @@ private:
     HGDIOBJ m_before;
 };
 
+// The text of a BSTR that somebody else owns; null reads as empty.
+[[nodiscard]] std::wstring_view ViewOf(BSTR text) noexcept;
+
 // Owns a BSTR. Put() is for out-parameters; Detach() gives the text to a callee that frees it.
-class Bstr
+class Bstr : public Unique<BSTR, ::SysFreeString>
 {
 public:
     Bstr() = default;
     explicit Bstr(std::wstring_view text); // throws std::bad_alloc
-    Bstr(Bstr&& other) noexcept : m_text{std::exchange(other.m_text, nullptr)} {}
-    Bstr& operator=(Bstr other) noexcept
-    {
-        std::swap(m_text, other.m_text);
-        return *this;
-    }
-    ~Bstr() { ::SysFreeString(m_text); }
 
-    [[nodiscard]] BSTR Get() const noexcept { return m_text; }
-    [[nodiscard]] BSTR* Put() noexcept
-    {
-        *this = Bstr{};
-        return &m_text;
-    }
-    [[nodiscard]] BSTR Detach() noexcept { return std::exchange(m_text, nullptr); }
-    [[nodiscard]] std::wstring Text() const
-    {
-        return m_text == nullptr ? L"" : std::wstring(m_text, ::SysStringLen(m_text));
-    }
-
-private:
-    BSTR m_text = nullptr;
+    [[nodiscard]] std::wstring Text() const { return std::wstring{ViewOf(Get())}; }
 };
+
+// Hands a text, to be freed by the caller, or a plain value out of a COM method; the method's result.
+[[nodiscard]] HRESULT HandOut(std::wstring_view text, BSTR* into) noexcept;
+template<class Value>
+[[nodiscard]] HRESULT HandOutValue(std::type_identity_t<Value> value, Value* into) noexcept
+{
+    if (into == nullptr) return E_POINTER;
+    *into = value;
+    return S_OK;
+}
 
 // The text of an id, in braces.
 [[nodiscard]] std::wstring GuidText(REFGUID id);
-
-// The text of a BSTR that somebody else owns; null reads as empty.
-[[nodiscard]] std::wstring_view ViewOf(BSTR text) noexcept;
 
 } // namespace corvane

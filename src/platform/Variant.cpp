@@ -5,54 +5,22 @@
 namespace corvane
 {
 
-Variant::Variant(std::int32_t number) noexcept : Variant{}
-{
-    m_value.vt = VT_I4;
-    m_value.lVal = number;
-}
+Variant::Variant(std::int32_t number) noexcept : Variant{VT_I4, &VARIANT::lVal, number} {}
 
 Variant::Variant(long number) noexcept : Variant{static_cast<std::int32_t>(number)} {}
 
-Variant::Variant(double number) noexcept : Variant{}
-{
-    m_value.vt = VT_R8;
-    m_value.dblVal = number;
-}
+Variant::Variant(bool value) noexcept : Variant{VT_BOOL, &VARIANT::boolVal, value ? VARIANT_TRUE : VARIANT_FALSE} {}
 
-Variant::Variant(bool value) noexcept : Variant{}
-{
-    m_value.vt = VT_BOOL;
-    m_value.boolVal = value ? VARIANT_TRUE : VARIANT_FALSE;
-}
+Variant::Variant(std::wstring_view text) : Variant{VT_BSTR, &VARIANT::bstrVal, Bstr{text}.Detach()} {}
 
-Variant::Variant(std::wstring_view text) : Variant{}
+Variant::Variant(IDispatch* object) noexcept : Variant{VT_DISPATCH, &VARIANT::pdispVal, object}
 {
-    m_value.bstrVal = Bstr{text}.Detach();
-    m_value.vt = VT_BSTR;
-}
-
-Variant::Variant(IDispatch* object) noexcept : Variant{}
-{
-    m_value.vt = VT_DISPATCH;
-    m_value.pdispVal = object;
     if (object != nullptr) object->AddRef();
 }
 
-Variant Variant::Missing() noexcept
-{
-    Variant missing;
-    missing.m_value.vt = VT_ERROR;
-    missing.m_value.scode = DISP_E_PARAMNOTFOUND;
-    return missing;
-}
+Variant Variant::Missing() noexcept { return {VT_ERROR, &VARIANT::scode, DISP_E_PARAMNOTFOUND}; }
 
-Variant Variant::OfDate(DATE date) noexcept
-{
-    Variant value;
-    value.m_value.vt = VT_DATE;
-    value.m_value.date = date;
-    return value;
-}
+Variant Variant::OfDate(DATE date) noexcept { return {VT_DATE, &VARIANT::date, date}; }
 
 bool Variant::IsMissing() const noexcept
 {

@@ -17,7 +17,6 @@ public:
     Variant() noexcept { ::VariantInit(&m_value); }
     Variant(std::int32_t number) noexcept; // NOLINT(google-explicit-constructor): arguments of late-bound calls
     Variant(long number) noexcept;         // NOLINT(google-explicit-constructor): idem
-    Variant(double number) noexcept;       // NOLINT(google-explicit-constructor): idem
     Variant(bool value) noexcept;          // NOLINT(google-explicit-constructor): idem
     Variant(std::wstring_view text);       // NOLINT(google-explicit-constructor): idem
     Variant(const wchar_t* text) : Variant{std::wstring_view{text}} {}      // NOLINT(google-explicit-constructor): idem
@@ -71,6 +70,13 @@ public:
     [[nodiscard]] static std::wstring TextOf(const VARIANT& value);
 
 private:
+    template<class Value>
+    Variant(VARTYPE type, Value VARIANT::*member, std::type_identity_t<Value> value) noexcept : Variant{}
+    {
+        m_value.vt = type;
+        m_value.*member = value;
+    }
+
     VARIANT m_value;
 };
 

@@ -15,14 +15,6 @@
 namespace corvane
 {
 
-struct ImageListTraits
-{
-    using Value = HIMAGELIST;
-    static constexpr Value kEmpty = nullptr;
-    static void Free(Value list) noexcept { ::ImageList_Destroy(list); }
-};
-using UniqueImageList = Unique<ImageListTraits>;
-
 // An image list of the add-in's own pictures and of those that have a key.
 class TreeImages
 {
@@ -44,7 +36,7 @@ private:
     void AddResource(int id);
 
     int m_size;
-    UniqueImageList m_list;
+    Unique<HIMAGELIST, ::ImageList_Destroy> m_list;
     std::map<std::wstring, int> m_keys;
 };
 

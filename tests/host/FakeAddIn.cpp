@@ -8,7 +8,6 @@
 #include "automation/EventSource.h"
 #include "automation/OfficeInterfaces.h"
 #include "platform/ClassFactory.h"
-#include "platform/HandOut.h"
 #include "platform/LateBound.h"
 
 namespace host::test

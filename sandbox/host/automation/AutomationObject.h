@@ -103,12 +103,7 @@ public:
         this->AddRef();
         return S_OK;
     }
-    STDMETHODIMP GetTypeInfoCount(UINT* count) override
-    {
-        if (count == nullptr) return E_POINTER;
-        *count = 0;
-        return S_OK;
-    }
+    STDMETHODIMP GetTypeInfoCount(UINT* count) override { return corvane::HandOutValue(0U, count); }
     STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo** info) override
     {
         if (info != nullptr) *info = nullptr;

@@ -18,14 +18,6 @@ using Microsoft::WRL::ComPtr;
 constexpr DWORD kExclusive = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
 constexpr char kSignature[] = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1";
 
-// A text that COM hands over to be freed.
-struct TaskTextTraits
-{
-    using Value = wchar_t*;
-    static constexpr Value kEmpty = nullptr;
-    static void Free(Value text) noexcept { ::CoTaskMemFree(text); }
-};
-
 void Ensure(HRESULT result) { ThrowIfFailed(result, L"The compound file could not be processed."); }
 
 ComPtr<ILockBytes> MemoryWith(const std::string& bytes)
@@ -69,7 +61,7 @@ bool NextStream(IEnumSTATSTG& elements, std::wstring& name)
 {
     STATSTG element{};
     while (elements.Next(1, &element, nullptr) == S_OK) {
-        const corvane::Unique<TaskTextTraits> found{element.pwcsName};
+        const corvane::Unique<wchar_t*, ::CoTaskMemFree> found{element.pwcsName};
         name = found.Get();
         if (element.type == STGTY_STREAM) return true;
     }

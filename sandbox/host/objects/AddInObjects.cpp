@@ -2,7 +2,6 @@
 
 #include "objects/Collections.h"
 #include "objects/Session.h"
-#include "platform/HandOut.h"
 
 namespace host
 {

@@ -10,7 +10,7 @@
 
 #include "automation/AutomationObject.h"
 #include "base/Text.h"
-#include "platform/HandOut.h"
+#include "platform/Owners.h"
 
 __CRT_UUID_DECL(IXMLHTTPRequest, 0xED8C108D, 0x4349, 0x11D2, 0x91, 0xA4, 0x00, 0xC0, 0x4F, 0x79, 0x69, 0xE8)
 
@@ -20,13 +20,7 @@ namespace host
 // The platform's XMLHTTP class 3.0.
 inline constexpr CLSID kXmlHttpClass{0xF5078F35, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
 
-struct HttpTraits
-{
-    using Value = HINTERNET;
-    static constexpr Value kEmpty = nullptr;
-    static void Free(Value handle) noexcept { ::WinHttpCloseHandle(handle); }
-};
-using HttpHandle = corvane::Unique<HttpTraits>;
+using HttpHandle = corvane::Unique<HINTERNET, ::WinHttpCloseHandle>;
 
 // An XMLHTTP object over WinHTTP, for one request. It stands in where Wine's own, which keeps every body that it sent,
 // would hide what an add-in keeps. Answers are text in UTF-8 or bytes; there are no documents and no events.

@@ -7,7 +7,6 @@
 #include <oleacc.h>
 
 #include "automation/AutomationObject.h"
-#include "platform/HandOut.h"
 
 namespace host
 {

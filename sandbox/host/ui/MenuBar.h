@@ -12,13 +12,7 @@ namespace host
 {
 
 // Of a menu that no window has taken over.
-struct MenuTraits
-{
-    using Value = HMENU;
-    static constexpr Value kEmpty = nullptr;
-    static void Free(Value menu) noexcept { ::DestroyMenu(menu); }
-};
-using UniqueMenu = corvane::Unique<MenuTraits>;
+using UniqueMenu = corvane::Unique<HMENU, ::DestroyMenu>;
 
 // Turns menus of the host and its add-ins into window menus and remembers what each entry does.
 class MenuBuilder
