@@ -104,7 +104,10 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int)
         Options options = ParseOptions(words);
         const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES};
         ::InitCommonControlsEx(&controls);
-        if (FAILED(::OleInitialize(nullptr))) return kFailure;
+        if (FAILED(::OleInitialize(nullptr))) {
+            PrintError(L"OLE cannot be initialised");
+            return kFailure;
+        }
         const int status = Run(std::move(options));
         ::OleUninitialize();
         return status;

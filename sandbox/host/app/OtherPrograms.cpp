@@ -30,7 +30,6 @@ constexpr OutlookSetting kOutlookSettings[] = {
     {"new", MailMood::Willing, false},
     {"running", MailMood::Willing, true},
     {"refusing", MailMood::Refusing, false},
-    {"failing", MailMood::Failing, false},
 };
 
 struct MailClientSetting

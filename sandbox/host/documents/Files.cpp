@@ -19,7 +19,6 @@ namespace
 using corvane::AsLongPath;
 
 constexpr std::chrono::milliseconds kGrowthTime{2500};
-constexpr std::chrono::milliseconds kSlowTime{3000};
 
 struct FaultRow
 {
@@ -32,11 +31,9 @@ constexpr FaultRow kFaults[] = {
     {SaveFault::Empty, "empty"},
     {SaveFault::Zeros, "zeros"},
     {SaveFault::Growing, "growing"},
-    {SaveFault::Error, "error", ERROR_WRITE_FAULT},
     {SaveFault::Locked, "locked", ERROR_SHARING_VIOLATION},
     {SaveFault::Full, "full", ERROR_DISK_FULL},
     {SaveFault::Denied, "denied", ERROR_ACCESS_DENIED},
-    {SaveFault::Slow, "slow"},
     {SaveFault::Gone, "gone"},
     {SaveFault::Refused, "refused"},
     {SaveFault::Held, "held"},
@@ -101,7 +98,6 @@ UniqueFile WriteDocumentFile(const std::wstring& path, const std::string& bytes,
 {
     const auto row = std::ranges::find(kFaults, fault, &FaultRow::fault);
     if (row != std::end(kFaults) && row->error != ERROR_SUCCESS) Fail(row->error, path);
-    if (fault == SaveFault::Slow) std::this_thread::sleep_for(kSlowTime);
     const std::size_t zeros = fault == SaveFault::Zeros     ? bytes.size()
                               : fault == SaveFault::Growing ? bytes.size() / 2
                                                             : 0;

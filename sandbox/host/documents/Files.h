@@ -18,11 +18,9 @@ enum class SaveFault
     Empty,   // no bytes at all
     Zeros,   // the right length, all zero
     Growing, // half of it in zeros first, the real bytes 2.5 s later
-    Error,   // the save fails
     Locked,  // another program has the file open
     Full,    // there is no room
     Denied,  // the folder may not be written to
-    Slow,    // it takes three seconds
     Gone,    // right after the save the file is deleted
     Refused, // nothing is written, and nobody says so
     Held,    // right after the save another program opens it for itself alone
