@@ -34,14 +34,12 @@ std::wstring Json(Value value)
         return std::to_wstring(value);
 }
 
-// An object's members: their names and what stands behind them, in order.
-using Members = std::vector<std::pair<std::wstring_view, std::wstring>>;
-
-std::wstring Object(const Members& members)
+// Members by their names, in order; what has no value is left out.
+std::wstring Object(std::initializer_list<std::pair<std::wstring_view, std::wstring>> members)
 {
     std::wstring object;
     for (const auto& [name, value] : members)
-        object.append(object.empty() ? L"" : L",").append(Json(name)).append(L":").append(value);
+        if (!value.empty()) object.append(object.empty() ? L"" : L",").append(Json(name)).append(L":").append(value);
     return L"{" + object + L"}";
 }
 
@@ -86,6 +84,12 @@ std::wstring Json(const LastTrace& trace)
 }
 
 template<class Value>
+std::wstring Json(const std::optional<Value>& value)
+{
+    return value ? Json(*value) : std::wstring{};
+}
+
+template<class Value>
 std::wstring Json(const std::vector<Value>& values)
 {
     std::wstring list;
@@ -114,20 +118,20 @@ std::wstring Json(const Configuration& configuration)
 std::wstring JsonOf(const Diagnosis& diagnosis)
 {
     const auto& [machine, switchedOn, facts, configuration, lastTrace, findings] = diagnosis;
-    Members all{{L"program", Object({{L"version", Json(machine.version)}, {L"bits", Json(machine.bits)}})},
-                {L"windows", Object({{L"name", Json(machine.windows)}, {L"build", Json(machine.build)}})}};
-    if (switchedOn) all.emplace_back(L"switchedOn", Json(*switchedOn));
-    all.emplace_back(L"powerPoint", Json(facts.powerPoint));
-    all.emplace_back(L"registrations", Json(facts.registrations));
-    all.emplace_back(L"addIns", Json(facts.addIns));
-    all.emplace_back(L"office", Json(facts.officeEntries));
-    all.emplace_back(L"missingComponents", Json(facts.missingComponents));
-    all.emplace_back(L"settings", Json(configuration));
-    all.emplace_back(L"msxml", Json(configuration.parsers));
-    if (facts.server) all.emplace_back(L"server", Json(*facts.server));
-    if (lastTrace) all.emplace_back(L"lastTrace", Json(*lastTrace));
-    all.emplace_back(L"findings", Json(findings));
-    return Object(all) + L"\r\n";
+    return Object({{L"program", Object({{L"version", Json(machine.version)}, {L"bits", Json(machine.bits)}})},
+                   {L"windows", Object({{L"name", Json(machine.windows)}, {L"build", Json(machine.build)}})},
+                   {L"switchedOn", Json(switchedOn)},
+                   {L"powerPoint", Json(facts.powerPoint)},
+                   {L"registrations", Json(facts.registrations)},
+                   {L"addIns", Json(facts.addIns)},
+                   {L"office", Json(facts.officeEntries)},
+                   {L"missingComponents", Json(facts.missingComponents)},
+                   {L"settings", Json(configuration)},
+                   {L"msxml", Json(configuration.parsers)},
+                   {L"server", Json(facts.server)},
+                   {L"lastTrace", Json(lastTrace)},
+                   {L"findings", Json(findings)}}) +
+           L"\r\n";
 }
 
 } // namespace diagnose
