@@ -14,18 +14,6 @@ namespace diagnose
 namespace
 {
 
-corvane::LocalTime AsLocalTime(const SYSTEMTIME& time)
-{
-    return {time.wYear, time.wMonth, time.wDay, time.wHour, time.wMinute, time.wSecond};
-}
-
-corvane::LocalTime Now()
-{
-    SYSTEMTIME now{};
-    ::GetLocalTime(&now);
-    return AsLocalTime(now);
-}
-
 corvane::LocalTime LocalTimeOf(std::uint64_t written)
 {
     const FILETIME time{static_cast<DWORD>(written), static_cast<DWORD>(written >> 32U)};
@@ -33,7 +21,7 @@ corvane::LocalTime LocalTimeOf(std::uint64_t written)
     SYSTEMTIME local{};
     ::FileTimeToSystemTime(&time, &universal);
     ::SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local);
-    return AsLocalTime(local);
+    return {local.wYear, local.wMonth, local.wDay, local.wHour, local.wMinute, local.wSecond};
 }
 
 // An 8-bit text as it was found where there is nothing to mask, whatever its code page.
@@ -54,7 +42,7 @@ std::string SettingsText(const std::wstring& file)
 
 std::vector<ArchivedFile> FilesOf(const Diagnosis& diagnosis)
 {
-    const corvane::LocalTime now = Now();
+    const corvane::LocalTime now = LocalTimeOf(corvane::FileTimeNow());
     std::vector<ArchivedFile> files{{"report.txt", corvane::ToUtf8(Masked(TextOf(diagnosis))), now},
                                     {"policy.txt", corvane::ToUtf8(PolicyText()), now}};
     const Configuration& configuration = diagnosis.configuration;

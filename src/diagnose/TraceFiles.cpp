@@ -19,15 +19,6 @@ std::wstring TraceFolder()
     return folder + L"\\";
 }
 
-std::uint64_t Wide(DWORD high, DWORD low) { return std::uint64_t{high} << 32U | low; }
-
-std::uint64_t Now()
-{
-    FILETIME now{};
-    ::GetSystemTimeAsFileTime(&now);
-    return Wide(now.dwHighDateTime, now.dwLowDateTime);
-}
-
 bool IsTrace(const WIN32_FIND_DATAW& entry)
 {
     return (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 &&
@@ -45,8 +36,8 @@ std::vector<TraceFile> FindTraces()
     const corvane::Unique<HANDLE, ::FindClose> search{first};
     do {
         if (IsTrace(entry))
-            files.push_back({entry.cFileName, Wide(entry.nFileSizeHigh, entry.nFileSizeLow),
-                             Wide(entry.ftLastWriteTime.dwHighDateTime, entry.ftLastWriteTime.dwLowDateTime)});
+            files.push_back({entry.cFileName, (std::uint64_t{entry.nFileSizeHigh} << 32U) | entry.nFileSizeLow,
+                             corvane::FileTimeOf(entry.ftLastWriteTime)});
     } while (::FindNextFileW(search.Get(), &entry));
     std::ranges::sort(files, std::ranges::greater{}, &TraceFile::written);
     return files;
@@ -81,7 +72,7 @@ std::string ReadTrace(const TraceEnd& end)
 TraceRemoval RemoveTraces(int days)
 {
     TraceRemoval removal;
-    const std::uint64_t now = Now();
+    const std::uint64_t now = corvane::FileTimeNow();
     for (const TraceFile& file : FindTraces()) {
         const bool isOld = IsOlder(file, days, now);
         const bool isGone = isOld && ::DeleteFileW((TraceFolder() + file.name).c_str());

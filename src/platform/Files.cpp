@@ -95,11 +95,18 @@ std::optional<std::uint64_t> FileLength(const std::wstring& path) noexcept
     return static_cast<std::uint64_t>(length.QuadPart);
 }
 
+std::uint64_t FileTimeNow() noexcept
+{
+    FILETIME now{};
+    ::GetSystemTimeAsFileTime(&now);
+    return FileTimeOf(now);
+}
+
 std::optional<std::uint64_t> LastWriteTime(const std::wstring& path) noexcept
 {
     WIN32_FILE_ATTRIBUTE_DATA facts{};
     if (!::GetFileAttributesExW(AsLongPath(path).c_str(), GetFileExInfoStandard, &facts)) return std::nullopt;
-    return (std::uint64_t{facts.ftLastWriteTime.dwHighDateTime} << 32U) | facts.ftLastWriteTime.dwLowDateTime;
+    return FileTimeOf(facts.ftLastWriteTime);
 }
 
 std::size_t ReadFile(const std::wstring& path, std::span<std::byte> into, std::uint64_t from) noexcept

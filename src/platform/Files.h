@@ -38,7 +38,13 @@ namespace corvane
 // The file's length in bytes; nothing when it cannot be told.
 [[nodiscard]] std::optional<std::uint64_t> FileLength(const std::wstring& path) noexcept;
 
-// When the file was last written, in units of 100 ns; nothing when it cannot be told.
+// Times of files, in units of 100 ns: as the system splits one, that of now, and when a file was last written; nothing
+// when it cannot be told.
+[[nodiscard]] constexpr std::uint64_t FileTimeOf(const FILETIME& time) noexcept
+{
+    return (std::uint64_t{time.dwHighDateTime} << 32U) | time.dwLowDateTime;
+}
+[[nodiscard]] std::uint64_t FileTimeNow() noexcept;
 [[nodiscard]] std::optional<std::uint64_t> LastWriteTime(const std::wstring& path) noexcept;
 
 // Reads the file from that place on, letting others read, write and delete it meanwhile; returns how much was read.
