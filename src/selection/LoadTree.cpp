@@ -93,7 +93,7 @@ void frmSaveTo::LoadTree(const std::wstring& server)
     m_tree->Clear();
     const auto projects = QueryTree().Select(L"//project");
     ShowTree(!projects.empty());
-    SetText(txtTree, m_captions.emptyText);
+    SetText(txtTree, Kind().emptyText);
     m_tree->AddProjects(projects, target, [this] { return IsWanted(); });
     ShowTreeLabel();
     m_treeLoaded = true;

@@ -32,9 +32,7 @@ TreeCaptions TreeCaptionsFor(TreeMode mode, const NameLookup& name)
     return {.serverLabel = EscapeAmpersands(Filled(L"<PENCorvane> Server URL", name)),
             .caption = Filled(kind.caption, name),
             .treeLabel = EscapeAmpersands(Filled(kind.treeLabel, name)),
-            .nothingSelected = Filled(kind.nothingSelected, name),
-            .emptyText = kind.emptyText,
-            .refusalIsCritical = kind.refusalIsCritical};
+            .nothingSelected = Filled(kind.nothingSelected, name)};
 }
 
 std::wstring WithFilterMark(std::wstring label)

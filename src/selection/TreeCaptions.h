@@ -13,14 +13,13 @@ namespace corvane
 // Gives the customer's word for a term.
 using NameLookup = std::function<std::wstring(std::wstring_view term)>;
 
+// Those texts that hold words of the customer's.
 struct TreeCaptions
 {
     std::wstring serverLabel;
     std::wstring caption;
     std::wstring treeLabel;
     std::wstring nothingSelected;
-    std::wstring emptyText;
-    bool refusalIsCritical = true;
 };
 
 // The texts of a mode in the customer's words, which name looks up.

@@ -14,7 +14,7 @@ frmFilter::frmFilter() noexcept : Form{L"frmFilter", IDD_frmFilter} {}
 std::span<const FormHandler> frmFilter::Handlers() const
 {
     static const FormHandler kHandlers[] = {
-        Handle(btnApplyFilter, BN_CLICKED, L"btnApplyFilter_Click", &frmFilter::btnApplyFilter_Click),
+        Handle(btnApplyFilter, BN_CLICKED, L"btnApplyFilter_Click", &frmFilter::Apply),
         Handle(btnClearFilter, BN_CLICKED, L"btnClearFilter_Click", &frmFilter::btnClearFilter_Click),
         Handle(btnCancel, BN_CLICKED, L"btnCancel_Click", &frmFilter::btnCancel_Click),
     };
@@ -51,8 +51,6 @@ void frmFilter::Apply()
     m_lastApplied = filter;
     Hide();
 }
-
-void frmFilter::btnApplyFilter_Click() { Apply(); }
 
 void frmFilter::btnClearFilter_Click()
 {

@@ -32,7 +32,6 @@ private:
     [[nodiscard]] std::span<const FormHandler> Handlers() const override;
     void Form_Load() override;
 
-    void btnApplyFilter_Click();
     void btnClearFilter_Click();
     void btnCancel_Click();
 

@@ -38,7 +38,7 @@ std::span<const FormHandler> frmSaveTo::Handlers() const
         Handle(cmdGo, BN_CLICKED, L"cmdGo_Click", &frmSaveTo::cmdGo_Click),
         Handle(cmdFilter, BN_CLICKED, L"cmdFilter_Click", &frmSaveTo::cmdFilter_Click),
         Handle(cmdOK, BN_CLICKED, L"cmdOK_Click", &frmSaveTo::cmdOK_Click),
-        Handle(cmdCancel, BN_CLICKED, L"cmdCancel_Click", &frmSaveTo::cmdCancel_Click),
+        Handle(cmdCancel, BN_CLICKED, L"cmdCancel_Click", &frmSaveTo::Hide),
         Handle(cmdHelp, BN_CLICKED, L"cmdHelp_Click", &frmSaveTo::cmdHelp_Click),
         Handle(TreeView1, static_cast<UINT>(NM_DBLCLK), L"TreeView1_DblClick", &frmSaveTo::TreeView1_DblClick),
     };
@@ -188,7 +188,7 @@ void frmSaveTo::cmdOK_Click()
     if (!m_tree) return; // it could not be made
     const auto picked = TargetOfKey(Mode(), m_tree->SelectedKey());
     if (!picked) {
-        ShowMessage(m_captions.nothingSelected, m_captions.refusalIsCritical ? kStyleCritical : kStylePlain);
+        ShowMessage(m_captions.nothingSelected, Kind().refusalIsCritical ? kStyleCritical : kStylePlain);
         return;
     }
     // When this fails, or the user leaves meanwhile, nothing is chosen.
@@ -204,8 +204,6 @@ void frmSaveTo::TreeView1_DblClick()
         return;
     cmdOK_Click();
 }
-
-void frmSaveTo::cmdCancel_Click() { Hide(); }
 
 void frmSaveTo::cmdHelp_Click() { ShowHelpTopic(Window(), Kind().helpTopic); }
 

@@ -54,7 +54,6 @@ private:
     void cmdFilter_Click();
     void cmdOK_Click();
     void cmdHelp_Click();
-    void cmdCancel_Click();
     void TreeView1_DblClick();
 
     [[nodiscard]] TreeMode Mode() const noexcept { return static_cast<TreeMode>(DialogType); }

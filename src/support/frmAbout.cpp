@@ -15,8 +15,8 @@ frmAbout::~frmAbout() { Unload(); }
 std::span<const FormHandler> frmAbout::Handlers() const
 {
     static const FormHandler kHandlers[] = {
-        Handle(cmkOK, BN_CLICKED, L"cmkOK_Click", &frmAbout::cmkOK_Click),
-        Handle(IDCANCEL, BN_CLICKED, L"cmkOK_Click", &frmAbout::cmkOK_Click),
+        Handle(cmkOK, BN_CLICKED, L"cmkOK_Click", &frmAbout::Hide),
+        Handle(IDCANCEL, BN_CLICKED, L"cmkOK_Click", &frmAbout::Hide),
     };
     return kHandlers;
 }
@@ -39,7 +39,5 @@ void frmAbout::SetLabelFont()
     for (const int label : {lblComponentName, lblVersion, lblRights, lblLegalNotice})
         SetFont(label, m_labelFont.Get());
 }
-
-void frmAbout::cmkOK_Click() { Hide(); }
 
 } // namespace corvane

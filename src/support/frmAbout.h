@@ -17,7 +17,6 @@ public:
 private:
     [[nodiscard]] std::span<const FormHandler> Handlers() const override;
     void Form_Load() override;
-    void cmkOK_Click();
     void SetLabelFont();
 
     UniqueFont m_labelFont;

@@ -10,9 +10,9 @@ TEST(TreeCaptions, TellOfAnEmptyTreeAndOfWhatIsNoTargetByTheMode)
     const auto captions = [](TreeMode mode) {
         return TreeCaptionsFor(mode, [](std::wstring_view term) { return std::wstring{term}; });
     };
-    EXPECT_EQ(captions(TreeMode::RelatedDocument).emptyText, L"There are no projects.");
-    EXPECT_EQ(captions(TreeMode::GateDocument).emptyText, L"There are no assignments.");
-    EXPECT_TRUE(captions(TreeMode::RelatedDocument).refusalIsCritical);
+    EXPECT_EQ(TreeKindOf(TreeMode::RelatedDocument).emptyText, L"There are no projects.");
+    EXPECT_EQ(TreeKindOf(TreeMode::GateDocument).emptyText, L"There are no assignments.");
+    EXPECT_TRUE(TreeKindOf(TreeMode::RelatedDocument).refusalIsCritical);
 }
 
 TEST(TreeCaptions, TellOfAnActiveFilterOnce)
