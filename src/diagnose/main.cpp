@@ -36,8 +36,7 @@ Machine ReadMachine()
         return corvane::Registry::ReadText(kWindows, name, {.hive = corvane::Registry::Hive::Machine}).value_or(L"?");
     };
     const std::wstring build = windows(L"CurrentBuild");
-    return {.version = std::to_wstring(corvane::kVersionMajor) + L"." + std::to_wstring(corvane::kVersionMinor) + L"." +
-                       std::to_wstring(corvane::kVersionRevision),
+    return {.version = corvane::kVersion,
             .bits = 8 * static_cast<int>(sizeof(void*)),
             .windows = WindowsName(windows(L"ProductName"), corvane::ToLongSafe(build)),
             .build = build};

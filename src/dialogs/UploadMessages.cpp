@@ -1,5 +1,6 @@
 #include "dialogs/UploadMessages.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace corvane
@@ -37,10 +38,7 @@ constexpr RefusalText kTexts[] = {
 
 constexpr const wchar_t* TextOf(Refusal refusal)
 {
-    for (const RefusalText& row : kTexts) {
-        if (row.refusal == refusal) return row.text;
-    }
-    return L"";
+    return std::ranges::find(kTexts, refusal, &RefusalText::refusal)->text;
 }
 
 // The server's numbers lie above the base of application-defined errors, 0x80040000.

@@ -2,6 +2,8 @@
 
 #include "support/ServerRules.h"
 
+#include <algorithm>
+
 namespace corvane
 {
 namespace
@@ -44,14 +46,9 @@ std::wstring VersionLines(const NotificationFacts& facts)
 
 std::wstring NotificationLink(const NotificationFacts& facts)
 {
-    std::wstring page;
-    std::wstring idField = L"&DID=";
-    for (const LinkRow& row : kLinks) {
-        if (row.kind != facts.kind) continue;
-        page = row.page;
-        idField = row.idField;
-    }
-    return WithoutCredentials(facts.server) + L"/?P=" + page + std::to_wstring(facts.projectId) + idField +
+    const auto* const known = std::ranges::find(kLinks, facts.kind, &LinkRow::kind);
+    const LinkRow row = known == std::end(kLinks) ? LinkRow{facts.kind, L"", L"&DID="} : *known;
+    return WithoutCredentials(facts.server) + L"/?P=" + row.page + std::to_wstring(facts.projectId) + row.idField +
            std::to_wstring(facts.targetId);
 }
 

@@ -1,15 +1,19 @@
 // What the user and the trace get to see of an error that nobody handled.
 #pragma once
 
+#include "platform/Error.h"
+
 #include <string>
 
 namespace corvane
 {
 
-class Error;
-
 // The text of the critical message for an error.
-[[nodiscard]] std::wstring ErrorReportText(const Error& error);
+[[nodiscard]] inline std::wstring ErrorReportText(const Error& error)
+{
+    return L"ERROR\r\nNumber: " + std::to_wstring(error.Number()) + L"\r\nDescription: " + error.Description() +
+           L"\r\nSource: " + error.Source();
+}
 
 // Hears of every error that is shown, after the trace and before the user; nobody does at first.
 using ErrorListener = void (*)(const Error& error) noexcept;

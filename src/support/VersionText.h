@@ -7,6 +7,11 @@ namespace corvane
 {
 
 // "Version 8.50.100": major, minor with at least two digits, revision.
-[[nodiscard]] std::wstring VersionText(int major, int minor, int revision);
+[[nodiscard]] inline std::wstring VersionText(int major, int minor, int revision)
+{
+    const std::wstring padding = minor < 10 ? L"0" : L"";
+    return L"Version " + std::to_wstring(major) + L"." + padding + std::to_wstring(minor) + L"." +
+           std::to_wstring(revision);
+}
 
 } // namespace corvane
