@@ -8,6 +8,6 @@ WORKDIR /corvane
 RUN apt-get update && apt-get install -y --no-install-recommends ca-certificates git make
 # Before the sources, so that a change of these needs no new packages.
 COPY tools/install-packages tools/progress tools/
-RUN tools/install-packages
+RUN tools/install-packages && apt-get clean
 COPY . .
 CMD ["make", "demo"]

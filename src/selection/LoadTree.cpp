@@ -32,6 +32,7 @@ void LoadIcon(TreeImages& images, const std::wstring& server, const std::wstring
 
 XmlDocument frmSaveTo::QueryTree() const
 {
+    SetStatus(StatusBar1, L"Contacting the server...");
     return QueryXml(m_currentServer, Kind().operation, {FilterClassID, FilterProjectSearchName});
 }
 
@@ -39,6 +40,7 @@ bool frmSaveTo::CheckEntryCount()
 {
     const ProcedureScope scope{L"frmSaveTo.CheckEntryCount"};
     while (ForcesFilter(QueryTree().Select(L"//project").size())) {
+        SetStatus(StatusBar1, L"Ready"); // the user is to answer
         if (IsWanted()) ShowFilter(true);
         if (!IsWanted() || !FilterChanged) return false;
     }
@@ -88,7 +90,6 @@ void frmSaveTo::ShowTree(bool shown)
 void frmSaveTo::LoadTree(const std::wstring& server)
 {
     const ProcedureScope scope{L"frmSaveTo.LoadTree"};
-    SetStatus(StatusBar1, L"Contacting the server...");
     m_currentServer = server;
     m_tree->Clear();
     const auto projects = QueryTree().Select(L"//project");
