@@ -67,12 +67,6 @@ void ReadList(const std::wstring& version, const std::wstring& list, std::vector
             entries.push_back({where, IsBlockingList(list), key, value});
 }
 
-void ReadResiliency(const std::wstring& version, std::vector<OfficeEntry>& entries)
-{
-    for (const std::wstring& list : KeyNames(kOffice + version + L"\\PowerPoint\\Resiliency"))
-        ReadList(version, list, entries);
-}
-
 void ReadPolicy(const std::wstring& office, const std::wstring& whose, Place place, std::vector<OfficeEntry>& entries)
 {
     const std::wstring key = office + L"\\PowerPoint\\Resiliency";
@@ -122,7 +116,8 @@ std::vector<OfficeEntry> FindOfficeEntries()
     std::vector<OfficeEntry> entries;
     for (const std::wstring& version : KeyNames(L"Software\\Microsoft\\Office")) {
         if (!IsVersion(version)) continue;
-        ReadResiliency(version, entries);
+        for (const std::wstring& list : KeyNames(kOffice + version + L"\\PowerPoint\\Resiliency"))
+            ReadList(version, list, entries);
         ReadTrust(kOffice + version, L"settings of PowerPoint " + version, {.hive = Hive::User}, entries);
     }
     for (const PolicyRoot& root : kPolicies)

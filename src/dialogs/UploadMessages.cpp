@@ -73,15 +73,11 @@ std::wstring Filled(std::wstring_view text, const UploadTerms& terms)
                                                                      {L"<Project>", terms.projectName}};
     std::wstring filled;
     while (!text.empty()) {
-        std::size_t taken = 1;
-        std::wstring_view put = text.substr(0, 1);
-        for (const auto& [mark, word] : words) {
-            if (!text.starts_with(mark)) continue;
-            taken = mark.size();
-            put = word;
-        }
-        filled += put;
-        text.remove_prefix(taken);
+        const auto* const word =
+            std::ranges::find_if(words, [&](const auto& one) { return text.starts_with(one.first); });
+        const bool isMark = word != std::end(words);
+        filled += isMark ? word->second : text.substr(0, 1);
+        text.remove_prefix(isMark ? word->first.size() : 1);
     }
     return filled;
 }

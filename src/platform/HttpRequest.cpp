@@ -68,8 +68,6 @@ WaitEnd PumpBySeconds(const std::function<bool()>& done, std::optional<std::chro
     }
 }
 
-[[noreturn]] void ThrowTransportFailure() { throw Error{ErrorNumberOf(E_FAIL), kWaitSource, MessageOf(E_FAIL)}; }
-
 } // namespace
 
 HttpRequest::HttpRequest()
@@ -128,7 +126,7 @@ void HttpRequest::Wait(std::optional<std::chrono::milliseconds> limit)
     const auto time = std::chrono::steady_clock::now() - m_sent;
     m_facts.milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(time).count();
     if (m_facts.end == RequestEnd::Answered) ReadStatus();
-    if (m_facts.end != RequestEnd::Answered) ThrowTransportFailure();
+    if (m_facts.end != RequestEnd::Answered) throw Error{ErrorNumberOf(E_FAIL), kWaitSource, MessageOf(E_FAIL)};
 }
 
 void HttpRequest::AwaitEnd(std::optional<std::chrono::milliseconds> limit)

@@ -65,10 +65,8 @@ bool IsHost(std::wstring_view host)
 bool IsPort(std::wstring_view port)
 {
     constexpr std::size_t kMostDigits = 5;
-    if (port.empty() || port.size() > kMostDigits || !std::ranges::all_of(port, IsDigit)) return false;
-    std::int32_t number = 0;
-    for (const wchar_t digit : port)
-        number = number * 10 + static_cast<std::int32_t>(digit - L'0');
+    if (port.size() > kMostDigits || !std::ranges::all_of(port, IsDigit)) return false;
+    const std::int32_t number = ToLongSafe(port); // 0 for no text
     return number >= 1 && number <= kLastPort;
 }
 
