@@ -5,13 +5,10 @@
 namespace corvane
 {
 
-TEST(TreeCaptions, TellOfAnEmptyTreeAndOfWhatIsNoTargetByTheMode)
+TEST(TreeKinds, TellOfAnEmptyTreeAndOfWhatIsNoTargetByTheMode)
 {
-    const auto captions = [](TreeMode mode) {
-        return TreeCaptionsFor(mode, [](std::wstring_view term) { return std::wstring{term}; });
-    };
-    EXPECT_EQ(TreeKindOf(TreeMode::RelatedDocument).emptyText, L"There are no projects.");
-    EXPECT_EQ(TreeKindOf(TreeMode::GateDocument).emptyText, L"There are no assignments.");
+    EXPECT_STREQ(TreeKindOf(TreeMode::RelatedDocument).emptyText, L"There are no projects.");
+    EXPECT_STREQ(TreeKindOf(TreeMode::GateDocument).emptyText, L"There are no assignments.");
     EXPECT_TRUE(TreeKindOf(TreeMode::RelatedDocument).refusalIsCritical);
 }
 
