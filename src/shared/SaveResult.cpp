@@ -26,16 +26,16 @@ void SaveResult::Save(SavedVersion version)
     m_errorDescription.clear();
 }
 
-void SaveResult::Refuse(std::wstring why, std::int32_t number) { Told(SaveOutcome::Refused, number, std::move(why)); }
+void SaveResult::Refuse(const std::wstring& why, std::int32_t number) { Told(SaveOutcome::Refused, number, why); }
 
 void SaveResult::Fail(const Error& error) { Told(SaveOutcome::Failed, error.Number(), error.Description()); }
 
-void SaveResult::Told(SaveOutcome outcome, std::int32_t number, std::wstring description)
+void SaveResult::Told(SaveOutcome outcome, std::int32_t number, const std::wstring& description)
 {
     if (m_outcome == SaveOutcome::Saved) return;
     m_outcome = outcome;
     m_errorNumber = number;
-    m_errorDescription = std::move(description);
+    m_errorDescription = WithoutCredentialsInText(description);
 }
 
 void SaveResult::End() noexcept

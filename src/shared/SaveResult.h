@@ -35,7 +35,7 @@ class SaveResult
 public:
     void Begin();
     void Save(SavedVersion version);
-    void Refuse(std::wstring why, std::int32_t number = 0);
+    void Refuse(const std::wstring& why, std::int32_t number = 0);
     void Fail(const Error& error);
     void End() noexcept;
 
@@ -47,7 +47,7 @@ public:
     [[nodiscard]] const SavedVersion& Version() const noexcept { return m_version; }
 
 private:
-    void Told(SaveOutcome outcome, std::int32_t number, std::wstring description);
+    void Told(SaveOutcome outcome, std::int32_t number, const std::wstring& description);
 
     SaveOutcome m_outcome = SaveOutcome::None;
     bool m_running = false;

@@ -3,6 +3,7 @@
 #include "forms/Messages.h"
 #include "platform/Procedure.h"
 #include "support/CTraceLog.h"
+#include "support/ServerRules.h"
 
 namespace corvane
 {
@@ -26,7 +27,7 @@ public:
     {
         if (g_oTraceLog != nullptr) g_oTraceLog->WriteError(error);
         if (g_listener != nullptr) g_listener(error);
-        Ignoring([&] { ShowMessage(ErrorReportText(error), kStyleCritical); });
+        Ignoring([&] { ShowMessage(WithoutCredentialsInText(ErrorReportText(error)), kStyleCritical); });
     }
 };
 
