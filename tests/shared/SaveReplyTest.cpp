@@ -68,7 +68,7 @@ TEST(HostVersion, DecidesBetweenCommandBarsOfficeMenuAndBackstage)
 {
     constexpr std::tuple<const wchar_t*, int, bool, bool> kCases[] = {
         {L"11.0", 11, false, false},    {L"12.0", 12, true, false}, {L"14.0", 14, true, true},
-        {L"15.0.4420", 15, true, true}, {L"16.0", 16, true, true},  {L"16", 16, true, true},
+        {L"15.0.4420", 15, true, true}, {L"16.0", 16, true, true},  {L" \t16", 16, true, true},
         {L"", 0, false, false},         {L"beta", 0, false, false}, {L"9.0", 9, false, false},
     };
     for (const auto& [version, expected, ribbon, backstage] : kCases) {
