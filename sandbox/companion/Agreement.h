@@ -23,12 +23,36 @@ constexpr wchar_t kSettingsVariable[] = L"CORVANE_PLAYER_SETTINGS"; // NAME=VALU
 
 constexpr wchar_t kReportName[] = L"player.txt"; // in that folder
 constexpr wchar_t kMisfitWords[] = L"not for this host: ";
+constexpr wchar_t kLeftWords[] = L"left running: "; // and why
+constexpr wchar_t kOthersWords[] = L"a presentation is open that somebody else has opened";
+constexpr wchar_t kNewNameWords[] = L"a new presentation is called: "; // without its number
+constexpr wchar_t kStopName[] =
+    L"stop"; // a file that is put into the folder to have the scenario fail and the host quit
 
-// Whether a setting is for the player: words that a scenario leaves open are in capitals; of the other names, which
-// mean something to a stand-in, two do so to the player.
+// What scenarios call a new presentation, with a number behind. Each language has another word.
+constexpr wchar_t kNewName[] = L"Presentation";
+
+// The text with another word for a new presentation.
+template<class Text>
+[[nodiscard]] Text Renamed(Text text, const Text& from, const Text& to)
+{
+    for (auto at = text.find(from); at != Text::npos; at = text.find(from, at + 1))
+        if (const auto end = at + from.size(); end < text.size() && text[end] >= '0' && text[end] <= '9')
+            text.replace(at, from.size(), to);
+    return text;
+}
+
+// Of the names that mean something to a stand-in, those of documents that the object model makes alike, and those that
+// the player knows itself.
+[[nodiscard]] inline bool IsForDocuments(std::string_view setting)
+{
+    return setting == "author" || setting == "document.readonly";
+}
+
+// Whether a setting is for the player; words that a scenario leaves open are in capitals.
 [[nodiscard]] inline bool IsForPlayer(std::string_view setting)
 {
-    return setting == "patience" || setting == "progress" ||
+    return setting == "patience" || setting == "progress" || IsForDocuments(setting) ||
            std::ranges::none_of(setting, [](char c) { return c >= 'a' && c <= 'z'; });
 }
 

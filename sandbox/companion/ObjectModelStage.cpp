@@ -1,5 +1,6 @@
 #include "companion/ObjectModelStage.h"
 
+#include <algorithm>
 #include <span>
 
 #include "companion/AddInCommands.h"
@@ -15,6 +16,15 @@ namespace
 
 constexpr long kTextProperty = 4;  // msoPropertyTypeString
 constexpr std::int32_t kTrue = -1; // msoTrue
+
+// The name that tells open presentations apart; empty of one that is closed, or where there is none.
+template<class Find>
+std::wstring FullNameOf(Find presentation)
+{
+    std::wstring name;
+    Ignoring([&] { name = presentation().Text(L"FullName"); });
+    return name;
+}
 
 [[noreturn]] void Refuse(const wchar_t* what) { player::Fail(std::wstring{what} + L" is not for this host"); }
 
@@ -43,6 +53,7 @@ void ObjectModelStage::AddFault(const std::wstring& fault)
 std::vector<std::wstring> ObjectModelStage::TakeFaults()
 {
     const std::lock_guard lock{m_faultsMutex};
+    if (FileExists(m_folder + L"\\" + kStopName)) m_faults.push_back(L"it was stopped");
     return std::exchange(m_faults, {});
 }
 
@@ -65,27 +76,77 @@ std::wstring ObjectModelStage::AddInState() const
     return state;
 }
 
+void ObjectModelStage::Keep(LateBound presentation)
+{
+    m_own.push_back(std::move(presentation));
+    LookForWindow();
+}
+
+bool ObjectModelStage::IsOwn(const LateBound& presentation) const
+{
+    const auto name = presentation.Text(L"FullName");
+    return std::ranges::any_of(m_own, [&](const auto& own) { return FullNameOf([&] { return own; }) == name; });
+}
+
+bool ObjectModelStage::HasOthers() const
+{
+    if (!m_application) return false; // it was told to quit
+    bool others = true;
+    Ignoring([&] {
+        const LateBound presentations = m_application.Object(L"Presentations");
+        std::int32_t number = presentations.Number(L"Count");
+        while (number > 0 && IsOwn(presentations.Object(L"Item", number)))
+            --number;
+        others = number > 0;
+    });
+    return others;
+}
+
+void ObjectModelStage::RequireOwn() const
+{
+    if (!FullNameOf([&] { return Active(); }).empty() && !IsOwn(Active()))
+        player::Fail(L"the active presentation is none that the player has opened");
+}
+
 void ObjectModelStage::New()
 {
-    m_application.Object(L"Presentations").Call(L"Add");
-    LookForWindow();
+    const LateBound made{m_application.Object(L"Presentations").Call(L"Add").Object()};
+    const std::wstring name = made.Text(L"Name");
+    const std::wstring word = name.substr(0, name.find_last_not_of(L"0123456789") + 1);
+    if (word != name && word != std::exchange(m_newName, word)) m_report.Tell(kNewNameWords + word);
+    if (m_author) {
+        const std::int32_t saved = made.Number(L"Saved");
+        made.Object(L"BuiltInDocumentProperties").Object(L"Item", L"Author").Put(L"Value", *m_author);
+        made.Put(L"Saved", saved);
+    }
+    Keep(made);
+}
+
+std::wstring ObjectModelStage::InItsWords(const std::wstring& text) const
+{
+    return Renamed(text, std::wstring{kNewName}, m_newName);
 }
 
 void ObjectModelStage::Open(const std::wstring& path)
 {
-    m_application.Object(L"Presentations").Call(L"Open", path);
-    LookForWindow();
+    Keep(LateBound{m_application.Object(L"Presentations").Call(L"Open", path, m_readOnly ? kTrue : 0).Object()});
 }
 
-void ObjectModelStage::Save() { Active().Call(L"Save"); }
+void ObjectModelStage::Save()
+{
+    RequireOwn();
+    Active().Call(L"Save");
+}
 
 void ObjectModelStage::SaveAs(const std::wstring& path, std::optional<long> format)
 {
+    RequireOwn();
     format ? Active().Call(L"SaveAs", path, *format) : Active().Call(L"SaveAs", path);
 }
 
 void ObjectModelStage::Close()
 {
+    RequireOwn();
     Active().Call(L"Close");
     LookForWindow();
 }
@@ -117,6 +178,7 @@ std::optional<std::wstring> ObjectModelStage::Property(const std::wstring& name)
 
 void ObjectModelStage::SetProperty(const std::wstring& name, const std::wstring& text)
 {
+    RequireOwn();
     const LateBound presentation = Active();
     const std::int32_t saved = presentation.Number(L"Saved"); // whoever sends a presentation has saved it
     const LateBound properties = presentation.Object(L"CustomDocumentProperties");
@@ -141,13 +203,19 @@ bool ObjectModelStage::HasCommand(const std::wstring& name) const { return !Call
 void ObjectModelStage::Press(const std::wstring& name)
 {
     LookForWindow();
-    Guarded([&] { CallBack(CallbackOf(Ribbon(), name), name); });
+    Guarded([&] {
+        RequireOwn();
+        CallBack(CallbackOf(Ribbon(), name), name);
+    });
 }
 
 void ObjectModelStage::CallController(const std::wstring& method)
 {
     LookForWindow();
-    Guarded([&] { companion::CallController(method); });
+    Guarded([&] {
+        RequireOwn();
+        companion::CallController(method);
+    });
 }
 
 void ObjectModelStage::Guarded(const std::function<void()>& action)
@@ -162,19 +230,36 @@ std::optional<std::wstring> ObjectModelStage::MenuEntries(const std::vector<std:
 bool ObjectModelStage::ShowPage(const std::wstring&) { Refuse(L"a page of the window"); }
 bool ObjectModelStage::HasRun(const std::wstring&) const { Refuse(L"what became of a macro"); }
 player::Mail ObjectModelStage::LastMail() const { Refuse(L"another program's mail"); }
-void ObjectModelStage::Set(const std::wstring&, const std::wstring&) { Refuse(L"a change of its setting"); }
-void ObjectModelStage::DisconnectAddIns() { Refuse(L"a disconnection"); }
+
+void ObjectModelStage::Set(const std::wstring& name, const std::wstring& value)
+{
+    if (name == L"author")
+        m_author = value;
+    else if (name == L"document.readonly")
+        m_readOnly = value == L"true";
+    else
+        Refuse(L"a change of its setting");
+}
+
+void ObjectModelStage::DisconnectAddIns() { AddIn().Put(L"Connect", false); }
+
+void ObjectModelStage::CloseOwn()
+{
+    for (const LateBound& presentation : std::exchange(m_own, {}))
+        Ignoring([&] {
+            presentation.Put(L"Saved", kTrue);
+            presentation.Call(L"Close");
+        });
+}
 
 void ObjectModelStage::Quit()
 {
+    CloseOwn();
     const LateBound application = std::exchange(m_application, {}); // the host may let go of the player in between
-    const LateBound presentations = application.Object(L"Presentations");
-    for (std::int32_t left = presentations.Number(L"Count"); left > 0; --left) {
-        const LateBound presentation = presentations.Object(L"Item", 1L);
-        presentation.Put(L"Saved", kTrue);
-        presentation.Call(L"Close");
-    }
-    application.Call(L"Quit");
+    if (application.Object(L"Presentations").Number(L"Count") == 0)
+        application.Call(L"Quit");
+    else
+        m_report.Tell(kLeftWords + std::wstring{kOthersWords});
 }
 
 } // namespace corvane::companion

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <mutex>
 
+#include "companion/Agreement.h"
 #include "companion/Report.h"
 #include "platform/LateBound.h"
 #include "player/Stage.h"
@@ -26,6 +27,10 @@ public:
 
     // What ends a playing, whatever its next step is.
     void AddFault(const std::wstring& fault);
+
+    // Whether presentations are open that the player has not opened. It never touches them: a step that would is
+    // thrown as Error, and Quit leaves the host running.
+    [[nodiscard]] bool HasOthers() const;
 
     [[nodiscard]] const player::UiQueue& Queue() const override { return m_queue; }
     [[nodiscard]] HWND Window() const override { return m_window; }
@@ -54,9 +59,14 @@ public:
     [[nodiscard]] player::Mail LastMail() const override;
     void Set(const std::wstring& name, const std::wstring& value) override;
     void DisconnectAddIns() override;
-    void Quit() override; // no presentation is saved
+    void Quit() override; // closes the player's presentations without saving them
+    [[nodiscard]] std::wstring InItsWords(const std::wstring& text) const override;
 
 private:
+    void Keep(LateBound presentation);
+    void RequireOwn() const;
+    [[nodiscard]] bool IsOwn(const LateBound& presentation) const;
+    void CloseOwn();
     [[nodiscard]] LateBound Active() const;
     [[nodiscard]] LateBound AddIn() const;
     [[nodiscard]] std::wstring Ribbon() const; // empty where the add-in has no commands
@@ -70,6 +80,10 @@ private:
     std::atomic<HWND> m_window{nullptr};
     bool m_ready = false;
     int m_running = 0;
+    std::vector<LateBound> m_own; // the presentations that the player has opened; a closed one has no name
+    std::optional<std::wstring> m_author;
+    bool m_readOnly = false;
+    std::wstring m_newName = kNewName;
     std::mutex m_faultsMutex;
     std::vector<std::wstring> m_faults;
 };

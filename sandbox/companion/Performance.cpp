@@ -6,6 +6,7 @@
 #include "companion/Suitability.h"
 #include "platform/MessageLoop.h"
 #include "platform/Procedure.h"
+#include "platform/Utf8.h"
 #include "player/Player.h"
 #include "player/Run.h"
 #include "player/Screen.h"
@@ -23,6 +24,12 @@ constexpr DWORD kClosePoll = 100; // milliseconds
 constexpr int kFailure = 1;
 
 std::wstring NameOf(const std::wstring& path) { return path.substr(path.find_last_of(L"\\/") + 1); }
+
+struct HostState
+{
+    bool busy = true;
+    bool hasOthers = true;
+};
 
 // A form of the add-in's or a message box.
 bool IsInTheWay(HWND window)
@@ -75,6 +82,8 @@ std::wstring Performance::PlayIfSuitable()
         run.Quit();
         return kMisfitWords + misfit;
     }
+    for (const auto& [name, value] : m_errand.settings)
+        if (IsForDocuments(name)) run.OnUi([&] { m_stage.Set(FromUtf8(name), FromUtf8(value)); });
     const player::Outcome outcome = player::Play(m_stage, m_errand.scenario, m_errand.settings);
     if (outcome.failure.empty())
         return L"scenario passed: " + NameOf(m_errand.scenario) + L" (" + std::to_wstring(outcome.steps) + L" steps, " +
@@ -86,23 +95,31 @@ std::wstring Performance::PlayIfSuitable()
 
 std::wstring Performance::Failed() const { return L"scenario failed: " + NameOf(m_errand.scenario); }
 
-// Ends the host behind a scenario that has failed.
+// Ends the host behind a scenario that has failed. One that cannot be asked what is open in it is left alone.
 void Performance::Abandon()
 {
     const auto end = std::chrono::steady_clock::now() + kClosePatience;
-    bool busy = true;
-    while (m_stage.Queue().Run([&stage = m_stage, &busy] { busy = stage.IsBusy(); }, kAnswerPatience) && busy &&
-           std::chrono::steady_clock::now() < end)
+    const auto state = std::make_shared<HostState>(); // for a host that answers too late
+    while (m_stage.Queue().Run(
+        [&stage = m_stage, state] {
+            *state = {stage.IsBusy(), stage.HasOthers()};
+        },
+        kAnswerPatience))
     {
+        if (!state->busy) return m_stage.Queue().Post([&stage = m_stage] { stage.Quit(); });
+        if (std::chrono::steady_clock::now() > end) return EndBusy(state->hasOthers);
         for (const HWND window : player::VisibleWindows())
             if (IsInTheWay(window)) ::PostMessageW(window, WM_CLOSE, 0, 0);
         ::Sleep(kClosePoll);
     }
-    if (busy) {
-        m_report.Tell(Failed());
-        ::TerminateProcess(::GetCurrentProcess(), kFailure);
-    }
-    m_stage.Queue().Post([&stage = m_stage] { stage.Quit(); });
+    m_report.Tell(kLeftWords + std::wstring{L"it does not answer"});
+}
+
+void Performance::EndBusy(bool hasOthers)
+{
+    if (hasOthers) return m_report.Tell(kLeftWords + std::wstring{kOthersWords});
+    m_report.Tell(Failed());
+    ::TerminateProcess(::GetCurrentProcess(), kFailure);
 }
 
 } // namespace corvane::companion

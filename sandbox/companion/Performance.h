@@ -1,6 +1,7 @@
 // One scenario, played in the host that this library is loaded into.
 #pragma once
 
+#include <memory>
 #include <thread>
 
 #include "companion/Errand.h"
@@ -10,8 +11,8 @@ namespace corvane::companion
 {
 
 // Plays from when the host has loaded its add-ins, on a thread of its own, and makes the host quit at the end. A
-// scenario that failed leaves windows open: they are closed first, and a host that does not end is ended. All but the
-// playing itself belongs to the user-interface thread.
+// scenario that failed leaves windows open: they are closed first, and a host that does not end is ended, unless
+// somebody else may have something open in it. All but the playing itself belongs to the user-interface thread.
 class Performance
 {
 public:
@@ -26,6 +27,7 @@ private:
     void Play();
     [[nodiscard]] std::wstring PlayIfSuitable();
     void Abandon();
+    void EndBusy(bool hasOthers);
     [[nodiscard]] std::wstring Failed() const;
 
     Errand m_errand;

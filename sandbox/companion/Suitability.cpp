@@ -17,7 +17,6 @@ struct Misfit
 };
 
 constexpr Misfit kMisfits[] = {
-    {"disconnect", L"switching an add-in off changes how the user has set it up"},
     {"exit", L"a host that is closed like that asks whether to save"},
     {"macro", L"the host runs the macros of presentations, not those of a text"},
     {"show", L"no program turns the pages of the host's window"},

@@ -30,8 +30,11 @@ constexpr wchar_t kUsageText[] = L"usage: corvane-host.exe [--host powerpoint] [
 
 std::vector<std::wstring> CommandLineWords()
 {
+    // What the environment says is for a host that is started in another's place, without words of its own.
+    const wchar_t* const more = ::_wgetenv(L"CORVANE_HOST_OPTIONS");
+    const std::wstring line = std::wstring{::GetCommandLineW()} + L" " + (more == nullptr ? L"" : more);
     int count = 0;
-    LPWSTR* words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    LPWSTR* words = ::CommandLineToArgvW(line.c_str(), &count);
     std::vector<std::wstring> list(words + 1, words + count);
     ::LocalFree(words);
     return list;

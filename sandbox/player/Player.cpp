@@ -17,14 +17,15 @@ void PerformAll(Stage& stage, const std::vector<Step>& steps, const Settings& se
     if (const auto patience = settings.find("patience"); patience != settings.end())
         run.SetPatience(FromUtf8(patience->second));
     const bool tells = settings.contains("progress");
-    std::size_t number = 0;
     for (const Step& step : steps) {
         current = &step;
-        ++number;
-        const std::wstring place = std::to_wstring(number) + L"/" + std::to_wstring(steps.size());
-        if (tells) stage.Tell(L"[" + place + L"] " + step.source);
+        const std::wstring number = std::to_wstring(&step - steps.data() + 1);
+        if (tells) stage.Tell(L"[" + number + L"/" + std::to_wstring(steps.size()) + L"] " + step.source);
         if (run.HasQuit()) Fail(L"the host has quit");
-        step.row->perform(stage, run, step);
+        Step worded = step;
+        for (Word& word : worded.words)
+            word.text = stage.InItsWords(word.text);
+        step.row->perform(stage, run, worded);
         run.CheckFaults();
     }
     if (!run.HasQuit()) run.Quit();

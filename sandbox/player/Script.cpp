@@ -35,8 +35,7 @@ public:
     {
         while (SkipBlanks())
             ReadWord();
-        const StepRow* const row = FindRow();
-        return {m_line, FromUtf8(m_source), row, std::move(m_words)};
+        return {m_line, FromUtf8(m_source), FindRow(), std::move(m_words)}; // in this order
     }
 
 private:

@@ -69,6 +69,9 @@ public:
     // Changes what the host offers and how its documents are; which names it knows is told by its own pages.
     virtual void Set(const std::wstring& name, const std::wstring& value) = 0;
 
+    // A text of a scenario as this host says it: its language has another word for a new presentation.
+    [[nodiscard]] virtual std::wstring InItsWords(const std::wstring& text) const { return text; }
+
     virtual void DisconnectAddIns() = 0;
     virtual void Quit() = 0; // closes all and ends
 

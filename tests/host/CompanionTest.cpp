@@ -1,4 +1,5 @@
 // What the player in any host asks of it.
+#include <algorithm>
 #include <regex>
 #include <set>
 
@@ -41,7 +42,10 @@ TEST(Companion, AsksOfItsHostForWhatThePageListsAndNothingElse)
     Session session{{}};
     bool hasQuit = false;
     session.onQuit = [&] { hasQuit = true; };
-    session.AddAddIn(MakeObject<ComAddInObject>(corvane::companion::kAddInProgId, L""));
+    const auto addIn = MakeObject<ComAddInObject>(corvane::companion::kAddInProgId, L"");
+    bool isSwitchedOff = false;
+    addIn->onDisconnect = [&] { isSwitchedOff = true; };
+    session.AddAddIn(addIn);
     const test::TemporaryFolder folder;
     corvane::companion::Report report{folder.Path()};
     corvane::companion::ObjectModelStage stage{corvane::LateBound{ComPtr<IDispatch>{&session.Application()}},
@@ -51,7 +55,9 @@ TEST(Companion, AsksOfItsHostForWhatThePageListsAndNothingElse)
     EXPECT_EQ(stage.HostVersion(), 16);
     EXPECT_EQ(stage.AddInState(), L"failed");
     EXPECT_FALSE(stage.HasCommand(L"DelivAct"));
+    stage.Set(L"author", L"Zoë");
     stage.New();
+    EXPECT_EQ(std::ranges::find(session.Active()->File().BuiltIn(), "Author", &CustomProperty::name)->value, "Zoë");
     stage.SaveAs(folder.File(L"one.pptx"), 24);
     for (const wchar_t* text : {L"y", L"x"})
         stage.SetProperty(L"Node", text);
@@ -60,13 +66,48 @@ TEST(Companion, AsksOfItsHostForWhatThePageListsAndNothingElse)
     stage.Activate(L"one.pptx");
     EXPECT_EQ(stage.Property(L"Node"), L"x");
     stage.Close();
+    stage.Set(L"document.readonly", L"true");
     stage.Open(folder.File(L"one.pptx"));
     EXPECT_EQ(stage.ActiveName(), L"one.pptx");
+    EXPECT_TRUE(session.Active()->File().IsReadOnly());
+    stage.DisconnectAddIns();
+    EXPECT_TRUE(isSwitchedOff);
     EXPECT_THROW(static_cast<void>(stage.LastMail()), corvane::Error);
     stage.Quit();
     EXPECT_TRUE(hasQuit && session.OpenDocuments().empty());
     ObjectCore::NoteNames(nullptr);
     EXPECT_EQ(asked, Listed());
+}
+
+TEST(Companion, LeavesAloneWhatSomebodyElseHasOpened)
+{
+    Session session{{}};
+    bool hasQuit = false;
+    session.onQuit = [&] { hasQuit = true; };
+    const test::TemporaryFolder folder;
+    corvane::companion::Report report{folder.Path()};
+    corvane::companion::ObjectModelStage stage{corvane::LateBound{ComPtr<IDispatch>{&session.Application()}},
+                                               folder.Path(), report};
+    stage.New();
+    stage.SaveAs(folder.File(L"own.pptx"), 24);
+    EXPECT_FALSE(stage.HasOthers());
+    DocumentObject& others = session.New();
+    others.File().SetSaved(false);
+    EXPECT_TRUE(stage.HasOthers());
+    EXPECT_THROW(stage.Save(), corvane::Error);
+    EXPECT_THROW(stage.SaveAs(folder.File(L"two.pptx"), 24), corvane::Error);
+    EXPECT_THROW(stage.SetProperty(L"Node", L"x"), corvane::Error);
+    EXPECT_THROW(stage.Close(), corvane::Error);
+    for (const auto press : {+[](player::Stage& one) { one.Press(L"DelivAct"); },
+                             +[](player::Stage& one) { one.CallController(L"SaveGateDoc"); }})
+    {
+        press(stage);
+        EXPECT_NE(stage.TakeFaults().at(0).find(L"none that the player has opened"), std::wstring::npos);
+    }
+    stage.Quit();
+    ASSERT_EQ(session.OpenDocuments().size(), 1U);
+    EXPECT_TRUE(session.Active() == &others && !others.File().IsSaved() && !hasQuit);
+    EXPECT_NE(ReadWholeFile(folder.File(L"player.txt")).find("left running: "), std::string::npos);
 }
 
 TEST(Companion, KnowsBeforehandWhatOnlyAStandInCanDo)
@@ -82,7 +123,7 @@ TEST(Companion, KnowsBeforehandWhatOnlyAStandInCanDo)
         {"new\nset document.final true", 16, {}, L"set document.final true: "},
         {"new", 16, {{"outlook", "new"}}, L"set outlook \"new\": "},
         {"new\ncommand DelivAct", 11, {}, L"command DelivAct: "},
-        {"disconnect", 16, {}, L"disconnect: "},
+        {"set author x\nset document.readonly true\ndisconnect", 16, {{"author", ""}}, L""},
         {"new\nmail To \"x\"\nexit", 16, {}, L"mail To \"x\": "},
     };
     const auto rows = player::AllSteps();

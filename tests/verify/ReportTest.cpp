@@ -79,12 +79,26 @@ TEST(ForeignHosts, TakeNoOrdersAndTellByTheTrace)
     const auto scenario = ReadScenario("x", "#! run --trace\n#! set WORD=a\n");
     EXPECT_EQ(WhyNotInForeignHost(scenario, false), "");
     EXPECT_NE(WhyNotInForeignHost(scenario, true), "");
-    EXPECT_NE(WhyNotInForeignHost(ReadScenario("x", "#! set mail.client=outlook"), false), "");
+    EXPECT_NE(WhyNotInForeignHost(ReadScenario("x", "#! set outlook=new"), false), "");
+    EXPECT_EQ(WhyNotInForeignHost(ReadScenario("x", "#! set mail.client=outlook\nnew\ndisconnect"), false), "");
+    EXPECT_NE(WhyNotInForeignHost(ReadScenario("x", "new\ndisconnect\n"), true), "");
     const std::string trace = "2026-05-04 23:59:59\t--> Connect.AddinInstance_OnConnection\r\n"
                               "2026-05-05 00:00:01\t<-- Connect.AddinInstance_OnConnection\r\n";
     EXPECT_EQ(LoadTimesText({"-"}, {trace, "-"}), "at most 3 s in 1 start");
     const std::string id = "connected CorvaneMSOfficePowerPoint.Connect in ";
     EXPECT_EQ(LoadTimesText({id + "12 ms\n", id + "3 ms\n"}, {trace}), "3 to 12 ms in 2 starts");
+}
+
+TEST(Scenarios, ChecksAreWordedAsTheHostNamesANewPresentation)
+{
+    const auto scenario = ReadScenario("x.txt", "#> POST x|P8=Presentation1%2Epptx\n#= bound Presentation12.pptx\n"
+                                                "#= trace Presentations\n");
+    const auto worded = [&](const char* name) {
+        const auto words = Worded(scenario, name);
+        return words.requests[0] + "; " + words.checks[0].rest + "; " + words.checks[1].rest;
+    };
+    EXPECT_EQ(worded("Präsentation"), "POST x|P8=Präsentation1%2Epptx; Präsentation12.pptx; Presentations");
+    EXPECT_EQ(worded("Bản 報"), "POST x|P8=B%E1%BA%A3n+%E5%A0%B11%2Epptx; Bản 報12.pptx; Presentations");
 }
 
 TEST(Scenarios, HeadAndTailAreReadWhereverTheyStand)

@@ -15,7 +15,7 @@ namespace
 
 namespace Registry = corvane::Registry;
 
-constexpr std::int32_t kFailedLoadBehavior = 2;
+constexpr std::int32_t kOffLoadBehavior = 2;
 constexpr LONG kHostShutdown = 0;
 constexpr long kConnectAtStart = 1;
 
@@ -67,6 +67,10 @@ AddIn::AddIn(Session& session, ClassLoader& classes, AddInEntry entry)
     : m_session{session}, m_classes{classes}, m_entry{std::move(entry)}, m_registration{MakeObject<ComAddInObject>(
                                                                              m_entry.progId, m_entry.friendlyName)}
 {
+    m_registration->onDisconnect = [this] {
+        SwitchOff();
+        Disconnect();
+    };
     m_session.AddAddIn(m_registration);
 }
 
@@ -199,6 +203,12 @@ void AddIn::Disconnect()
     m_session.Changed();
 }
 
+void AddIn::SwitchOff()
+{
+    const std::wstring key = AddInsKey(m_session.Facts()) + L"\\" + m_entry.progId;
+    corvane::Ignoring([&] { Registry::WriteNumber(key, L"LoadBehavior", kOffLoadBehavior); });
+}
+
 void AddIn::Fail(const std::wstring& why)
 {
     const std::wstring text = m_entry.progId + L": " + why;
@@ -208,8 +218,7 @@ void AddIn::Fail(const std::wstring& why)
         m_registration->SetConnected(false);
         m_callbacks.Reset();
         m_extensibility.Reset();
-        const std::wstring key = AddInsKey(m_session.Facts()) + L"\\" + m_entry.progId;
-        corvane::Ignoring([&] { Registry::WriteNumber(key, L"LoadBehavior", kFailedLoadBehavior); });
+        SwitchOff();
         PrintError(L"the add-in could not be loaded: " + text);
     }
     if (onFault) onFault(text);

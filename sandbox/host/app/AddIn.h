@@ -69,6 +69,7 @@ private:
     void ReadRibbonXml();
     void ReadDynamic(const std::vector<RibbonControl>& controls);
     void ReadDynamicStates();
+    void SwitchOff();
     void Fail(const std::wstring& why);
     [[nodiscard]] ComPtr<RibbonControlObject> ControlObject(const RibbonControl& control) const;
     Variant Callback(const std::string& name, IDispatch* argument);

@@ -15,9 +15,15 @@ const Member ComAddInObject::kMembers[] = {
     {0, L"Description", kGet, Answer<[](const ComAddInObject& addIn) { return addIn.m_description; }>},
     {3, L"ProgId", kGet, Answer<&ComAddInObject::ProgId>},
     {4, L"Guid", kGet, Answer<[](const ComAddInObject& addIn) { return corvane::GuidText(addIn.m_classId); }>},
-    {6, L"Connect", kGet, Answer<[](const ComAddInObject& addIn) { return addIn.m_connected; }>},
+    {6, L"Connect", kGetPut, Answer<&ComAddInObject::Connect>},
     {7, L"Object", kGetPut, Answer<&ComAddInObject::Offered>},
 };
+
+bool ComAddInObject::Connect(const Arguments& arguments)
+{
+    if (arguments.IsPut() && !arguments.At(0).Boolean() && onDisconnect) onDisconnect();
+    return m_connected;
+}
 
 Variant ComAddInObject::Offered(const Arguments& arguments)
 {

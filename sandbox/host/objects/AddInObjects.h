@@ -24,9 +24,12 @@ public:
     // Forgets the object that the add-in offers to programs.
     void DropOffered() { m_offered.Reset(); }
 
+    std::function<void()> onDisconnect; // what a program does that switches the add-in off
+
 private:
     static const Member kMembers[5];
 
+    bool Connect(const Arguments& arguments);
     Variant Offered(const Arguments& arguments);
 
     std::wstring m_progId;

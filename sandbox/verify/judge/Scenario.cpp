@@ -6,7 +6,6 @@
 
 namespace verify
 {
-
 std::vector<std::string> Scenario::All(std::string_view wish) const
 {
     std::vector<std::string> said;

@@ -27,8 +27,9 @@ struct Play
 struct Played
 {
     std::optional<int> status; // nothing where the host did not end in time
-    std::string printed;
-    std::vector<ProcessorNote> processor; // while the scenario wants to know
+    std::string left{};        // why a host that is not the stand-in was left running; empty: it was not
+    std::string printed{};
+    std::vector<ProcessorNote> processor{}; // while the scenario wants to know
 };
 
 // What differs by system: how a host is started, by which user, and what it leaves.
@@ -47,7 +48,7 @@ public:
     // written "KEY NAME=TEXT" or "KEY NAME=dword:HEX".
     virtual void Reset(const std::filesystem::path& folder, const std::vector<std::string>& values) = 0;
 
-    // Runs the host until it ends; one that does not is ended.
+    // Runs the host until it ends; one that does not is ended, unless it is not the stand-in.
     [[nodiscard]] virtual Played Run(const Play& play) = 0;
 
     // What the add-in has left in the user's profile.

@@ -23,9 +23,9 @@ Order OrderOf(const Machine& machine, const Play& play)
     std::ranges::move(Words(play.scenario.One("host")), std::back_inserter(order.words));
     std::string players;
     for (const auto& setting : play.settings)
-        if (play.foreign || (play.byCompanion && companion::IsForPlayer(CutAt(setting, "=").first)))
+        if (const auto name = CutAt(setting, "=").first; play.byCompanion && companion::IsForPlayer(name))
             players.append(setting).append("\n");
-        else
+        else if (!play.foreign)
             order.words.insert(order.words.end(), {"--set", setting});
     if (play.byCompanion)
         order.settings = {{ToUtf8(companion::kScenarioVariable), file},
@@ -37,6 +37,11 @@ Order OrderOf(const Machine& machine, const Play& play)
 std::string ReportedBy(const Play& play)
 {
     return play.byCompanion ? ReadOrEmpty(play.folder / ToUtf8(companion::kReportName)) : std::string{};
+}
+
+std::string ReportedBehind(const std::string& report, const wchar_t* words)
+{
+    return CutAt(CutAt(report, ToUtf8(words)).second, "\r").first;
 }
 
 } // namespace verify

@@ -21,4 +21,7 @@ struct Order
 // What the player's library has reported; empty where it did not play.
 [[nodiscard]] std::string ReportedBy(const Play& play);
 
+// What a report says behind these words of the agreement, to the end of the line; empty where they are not there.
+[[nodiscard]] std::string ReportedBehind(const std::string& report, const wchar_t* words);
+
 } // namespace verify

@@ -5,7 +5,9 @@
 #include "judge/Failure.h"
 #include "judge/Text.h"
 #include "machine/Files.h"
+#include "machine/Order.h"
 #include "machine/Server.h"
+#include "machine/Suits.h"
 #include "platform/Utf8.h"
 
 #include <array>
@@ -23,6 +25,8 @@ namespace
 using Clock = std::chrono::steady_clock;
 
 constexpr auto kPatience = std::chrono::seconds{300};
+constexpr const char* kUnloaded = "DllCanUnloadNow: S_OK"; // of a library
+const std::string kMailLinks = R"(Software\Classes\mailto\shell\open\command =)";
 constexpr const char* kUsedServer = R"(Software\Halvex\Corvane\ServerURLMRU MRUServerURL1=${SERVER})";
 
 // The day as mails show it.
@@ -49,9 +53,11 @@ std::vector<std::string> RegistrationOf(const std::string& library)
     return values;
 }
 
-std::vector<std::string> ProfileOf(const Scenario& scenario, const std::string& server)
+std::vector<std::string> ProfileOf(const Scenario& scenario, const std::string& server, bool foreign)
 {
     auto values = scenario.All("registry");
+    if (const auto command = MailClientOf(scenario); foreign && !command.empty())
+        values.push_back(kMailLinks + command); // a stand-in writes it itself
     if (scenario.One("servers") != "none") values.insert(values.begin(), kUsedServer);
     for (auto& value : values)
         value = Replaced(value, "${SERVER}", server);
@@ -79,19 +85,12 @@ void RequirePassed(const Played& played, const Scenario& scenario, const RunPlan
     const auto status = played.status ? std::to_string(*played.status)
                         : Stopping()  ? "none, it was stopped"
                                       : "none in time";
-    Require(played.status == 0 && line.find(", " + width + ")") != std::string::npos,
+    Require((played.status == 0 || !played.left.empty()) && line.find(", " + width + ")") != std::string::npos,
             "no " + width + " host passed: exit status " + status);
-    Require(plan.foreign || played.printed.find("DllCanUnloadNow: S_OK") != std::string::npos,
-            "the add-in's library cannot be unloaded after the disconnection");
-    Require(!byCompanion || played.printed.find("DllCanUnloadNow: S_FALSE") == std::string::npos,
+    const auto first = played.printed.find(kUnloaded);
+    const bool second = first != std::string::npos && played.printed.find(kUnloaded, first + 1) != std::string::npos;
+    Require(plan.foreign || (byCompanion ? second : first != std::string::npos),
             "a library cannot be unloaded after the disconnection");
-}
-
-// What the player's library found that only a stand-in can do, of a scenario that it has not played.
-std::string MisfitIn(const std::string& printed)
-{
-    const auto misfit = CutAt(printed, corvane::ToUtf8(corvane::companion::kMisfitWords)).second;
-    return CutAt(misfit, "\r").first;
 }
 
 void RequireNoTemporaryFiles(const Machine& machine)
@@ -128,7 +127,7 @@ void Judge(Machine& machine, const Scenario& scenario, const RunPlan& plan, Resu
         std::filesystem::remove_all(folder);
         std::filesystem::create_directories(folder / "documents");
         server.Start(scenario);
-        auto values = ProfileOf(scenario, server.Address());
+        auto values = ProfileOf(scenario, server.Address(), plan.foreign);
         if (byCompanion)
             std::ranges::move(RegistrationOf(machine.HostPath(plan.companion)), std::back_inserter(values));
         machine.Reset(folder, values);
@@ -138,7 +137,7 @@ void Judge(Machine& machine, const Scenario& scenario, const RunPlan& plan, Resu
             machine.Run({scenario, folder, settings, plan.settings.empty() ? std::optional{kPatience} : std::nullopt,
                          byCompanion, plan.foreign});
         server.Stop();
-        if (byCompanion) result.words = MisfitIn(played.printed);
+        if (byCompanion) result.words = ReportedBehind(played.printed, corvane::companion::kMisfitWords);
         if (!result.words.empty()) {
             if (plan.foreign) result.words.insert(0, corvane::ToUtf8(corvane::companion::kMisfitWords));
             result.verdict = Verdict::NotHere;
@@ -146,7 +145,9 @@ void Judge(Machine& machine, const Scenario& scenario, const RunPlan& plan, Resu
         }
         RequirePassed(played, scenario, plan, byCompanion);
         RequireNoTemporaryFiles(machine);
-        result.remarks = Check(scenario, Collected(machine, server, folder, played));
+        const auto newName = ReportedBehind(played.printed, corvane::companion::kNewNameWords);
+        result.remarks =
+            Check(newName.empty() ? scenario : Worded(scenario, newName), Collected(machine, server, folder, played));
     } catch (const std::exception& problem) {
         server.Stop();
         result.verdict = Verdict::Failed;

@@ -18,6 +18,7 @@ struct Command
     std::map<std::string, std::string> settings{}; // added to the environment
     std::filesystem::path output{};                // receives all that it prints; empty: it goes nowhere
     bool answers = false;                          // its first line is read by Process::FirstLine instead
+    bool stays = false;                            // it is not ended with the Process; on Windows only
 };
 
 // A program and all that it starts, which is ended with this.

@@ -30,7 +30,10 @@ public:
 
     [[nodiscard]] std::string Refuses(const Scenario& scenario) const override
     {
+        if (!m_left.empty()) return "the program was left running: " + m_left;
         auto why = WhyNotInForeignHost(scenario, m_addInIsInstalled);
+        if (why.empty() && !MailClientOf(scenario).empty() && !m_showsUsersClasses)
+            why = "this system does not show programs the mail client that a user has chosen";
         return why.empty() ? WindowsMachine::Refuses(scenario) : why;
     }
 
@@ -38,16 +41,20 @@ public:
     {
         RequireNotRunning(m_program);
         auto played = WindowsMachine::Run(play);
+        m_left = played.left;
         m_printed.push_back(played.printed);
         std::ranges::transform(Traces(), std::back_inserter(m_traces), ReadOrEmpty);
         return played;
     }
 
+    [[nodiscard]] const std::string& WhyLeft() const { return m_left; }
     [[nodiscard]] std::string LoadTimes() const { return LoadTimesText(m_printed, m_traces); }
 
 private:
     HostProgram m_program;
     bool m_addInIsInstalled;
+    bool m_showsUsersClasses = ShowsUsersClasses();
+    std::string m_left;
     std::vector<std::string> m_printed;
     std::vector<std::string> m_traces;
 };
@@ -82,14 +89,18 @@ Report PlayInPowerPoint(const fs::path& home, const fs::path& named, RunPlan pla
     machines.push_back(std::move(machine));
     auto results = PlayAll(machines, scenarios, plan);
     auto questions = Answered(QuestionsIn(QuestionsText()), results, program.isPowerPoint && !IsWine());
-    return {.facts = {{"Add-in", AddInText(installed)},
-                      {"Host", HostText(program)},
-                      {"System", SystemName()},
-                      {"MSXML", MsxmlVersions()},
-                      {"The add-in's load time", host.LoadTimes()},
-                      {"Played", TimeHere()}},
-            .results = std::move(results),
-            .questions = std::move(questions)};
+    Report report{.facts = {{"Add-in", AddInText(installed)},
+                            {"Host", HostText(program)},
+                            {"System", SystemName()},
+                            {"MSXML", MsxmlVersions()},
+                            {"The add-in's load time", host.LoadTimes()},
+                            {"Played", TimeHere()}},
+                  .results = std::move(results),
+                  .questions = std::move(questions)};
+    if (!host.WhyLeft().empty())
+        report.facts.emplace_back("Left running", Utf8Of(program.file.filename()) + ", because " + host.WhyLeft() +
+                                                      "; please close it yourself.");
+    return report;
 }
 
 } // namespace verify

@@ -97,11 +97,15 @@ struct Process::State
     UniqueFile job;
     UniqueFile answer;
     DWORD id = 0;
+    bool stays = false;
     std::optional<int> status;
 };
 
 Process::Process(const Command& command) : m_state{std::make_unique<State>()}
 {
+    // A program that stays would keep open what this one prints to.
+    for (const DWORD own : {STD_INPUT_HANDLE, STD_OUTPUT_HANDLE, STD_ERROR_HANDLE})
+        ::SetHandleInformation(::GetStdHandle(own), HANDLE_FLAG_INHERIT, 0);
     const auto input = Inheritable(L"NUL", GENERIC_READ, OPEN_EXISTING);
     const auto output = command.output.empty() ? Inheritable(L"NUL", GENERIC_WRITE, OPEN_EXISTING)
                                                : Inheritable(command.output.wstring(), GENERIC_WRITE, CREATE_ALWAYS);
@@ -128,8 +132,11 @@ Process::Process(const Command& command) : m_state{std::make_unique<State>()}
     const UniqueFile thread{made.hThread};
     m_state->process = UniqueFile{made.hProcess};
     m_state->id = made.dwProcessId;
-    m_state->job = EndingJob();
-    ::AssignProcessToJobObject(m_state->job.Get(), made.hProcess);
+    m_state->stays = command.stays;
+    if (!command.stays) {
+        m_state->job = EndingJob();
+        ::AssignProcessToJobObject(m_state->job.Get(), made.hProcess);
+    }
     ::ResumeThread(thread.Get());
 }
 
@@ -137,7 +144,7 @@ Process::Process(Process&& other) noexcept = default;
 
 Process::~Process()
 {
-    if (m_state) End();
+    if (m_state && !m_state->stays) End();
 }
 
 std::string Process::FirstLine()

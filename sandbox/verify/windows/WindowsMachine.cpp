@@ -23,17 +23,21 @@ using corvane::FromUtf8;
 using Clock = std::chrono::steady_clock;
 
 constexpr auto kMeasured = std::chrono::milliseconds{50};
+constexpr auto kFarewell = std::chrono::seconds{8}; // the system gives 10 to a program whose window is closed
 constexpr wchar_t kTrial[] = L"Software\\Corvane Verify";
 constexpr wchar_t kPolicies[] = L"Software\\Policies\\Halvex";
 constexpr wchar_t kOwn[] = L"Software\\Halvex";
 constexpr wchar_t kUserShellFolders[] = L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders";
 constexpr wchar_t kShellFolders[] = L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
+constexpr wchar_t kMailLinks[] = L"Software\\Classes\\mailto\\shell\\open\\command";
 constexpr const char* kLibrary = "CorvaneMSOfficePowerPoint.dll";
 constexpr const char* kHelp = "CorvaneMSOfficeAddin.chm";
 
 // What a host writes while it stands in for other programs, and takes back unless it is killed.
 constexpr const wchar_t* kOfHosts[] = {L"Software\\Classes\\mailto", L"Software\\Classes\\Outlook.Application",
                                        L"Software\\Classes\\CorvaneMSOfficeExcel.CLogin"};
+
+std::string WhyLeft(const Play& play) { return ReportedBehind(ReportedBy(play), corvane::companion::kLeftWords); }
 
 class Library
 {
@@ -131,8 +135,10 @@ constexpr Lack kLacks[] = {
      R"(there is no share \\corvane\documents)"},
     {[](const Scenario& one) { return one.One("run").find("--dpi") != std::string::npos; },
      "it wants another resolution of the screen"},
-    {[](const Scenario& one) { return Mentions(one, "mail.client=outlook") && HasOutlook(); },
+    {[](const Scenario& one) { return Mentions(one, "#! set outlook=") && HasOutlook(); },
      "Outlook is installed, where a stand-in is wanted"},
+    {[](const Scenario& one) { return Mentions(one, "mail.client=express") && HasOutlook(); },
+     "Outlook is installed, where none is wanted"},
     {[](const Scenario& one) { return WritesPolicies(one) && !MayWriteBelow(L"Software\\Policies"); },
      "only an administrator may write the policies that it wants"}};
 
@@ -173,7 +179,7 @@ WindowsMachine::~WindowsMachine()
 {
     try {
         m_note.PutBackAll();
-        fs::remove_all(m_work);
+        if (!m_isLeft) fs::remove_all(m_work); // a program that was left running works with it
     } catch (const std::exception&) {
         return; // the note is there for the next start
     }
@@ -215,9 +221,20 @@ void WindowsMachine::Reset(const fs::path& folder, const std::vector<std::string
     Empty(m_work / "appdata");
     Registry::DeleteTree(kOwn);
     Registry::DeleteTree(kPolicies);
+    if (!m_subject.hasAddIn) Library{m_work / "addin" / kLibrary}.Register(); // a scenario may have switched it off
+    Registry::WriteText(kMailLinks, L"", L"mail.exe \"%1\"");                 // no mail client that is known
     Registry::WriteText(kUserShellFolders, L"Personal", (folder / "documents").wstring());
     for (const auto& value : values)
         WriteWish(value);
+}
+
+bool WindowsMachine::ShowsUsersClasses() const
+{
+    const std::wstring mark = L"corvane-verify";
+    Registry::WriteText(kMailLinks, L"", mark);
+    const auto shown = Registry::ReadText(L"mailto\\shell\\open\\command", L"", {Registry::Hive::Classes});
+    m_note.PutBack(kOfHosts[0]);
+    return shown == mark;
 }
 
 void WindowsMachine::WriteSettings(const std::vector<std::string>& options) const
@@ -238,6 +255,18 @@ std::map<std::string, std::string> WindowsMachine::Environment() const
     return {{"APPDATA", Utf8Of(m_work / "appdata")}, {"TEMP", temporary}, {"TMP", temporary}};
 }
 
+// The player decides whether the program ends: it knows whose presentations are open in it.
+std::string WindowsMachine::LeaveOrAwait(Process& host, const Play& play, std::optional<int>& status)
+{
+    WriteBytes(play.folder / corvane::ToUtf8(corvane::companion::kStopName), "");
+    const auto end = Clock::now() + kFarewell;
+    while (!status && Clock::now() < end && WhyLeft(play).empty())
+        status = host.Wait(std::chrono::milliseconds{100});
+    if (status) return {};
+    const auto why = WhyLeft(play);
+    return why.empty() ? "it does not end" : why;
+}
+
 Played WindowsMachine::Run(const Play& play)
 {
     const auto& scenario = play.scenario;
@@ -249,7 +278,8 @@ Played WindowsMachine::Run(const Play& play)
     order.words.insert(order.words.begin(),
                        Utf8Of(m_subject.program.empty() ? m_home / "corvane-host.exe" : m_subject.program));
     order.settings.merge(Environment());
-    const Command command{.words = order.words, .settings = order.settings, .output = play.folder / "host.txt"};
+    const Command command{
+        .words = order.words, .settings = order.settings, .output = play.folder / "host.txt", .stays = play.foreign};
     Played played;
     {
         Process host{command};
@@ -258,8 +288,11 @@ Played WindowsMachine::Run(const Play& play)
         while (!played.status && Clock::now() < end && !Stopping()) {
             if (measured) played.processor.push_back(NoteOf(host.Id()));
             played.status = host.Wait(measured ? kMeasured : std::chrono::milliseconds{1000});
+            if (play.foreign && !WhyLeft(play).empty()) break;
         }
+        if (play.foreign && !played.status) played.left = LeaveOrAwait(host, play, played.status);
     }
+    m_isLeft = !played.left.empty();
     played.printed = ReadableUtf8(ReadOrEmpty(command.output)) + ReportedBy(play);
     return played;
 }

@@ -9,6 +9,8 @@
 namespace verify
 {
 
+class Process;
+
 // In what the scenarios are played.
 struct Subject
 {
@@ -42,11 +44,15 @@ public:
     // The host for a person, until it is closed.
     void RunForPerson();
 
+    // Whether programs find a class of the user's among all classes, which not every system merges.
+    [[nodiscard]] bool ShowsUsersClasses() const;
+
     // Puts back what was left in the registry by a program that was killed, and removes the folder "work".
     static void CleanUp(const std::filesystem::path& home);
 
 private:
     void Register();
+    static std::string LeaveOrAwait(Process& host, const Play& play, std::optional<int>& status);
     void WriteSettings(const std::vector<std::string>& options) const;
     [[nodiscard]] std::map<std::string, std::string> Environment() const;
 
@@ -54,6 +60,7 @@ private:
     std::filesystem::path m_work;
     Subject m_subject;
     RegistryNote m_note;
+    bool m_isLeft = false; // what was started last runs on
 };
 
 } // namespace verify

@@ -142,6 +142,10 @@ void WineMachine::Reset(const fs::path& folder, const std::vector<std::string>& 
                                    R"([-HKEY_CURRENT_USER\Software\Policies\Halvex])",
                                    std::string{R"([HKEY_CURRENT_USER\)"} + kShellFolders + "]",
                                    ValueLine("Personal=" + HostPath(folder / "documents"))};
+    // A scenario may have switched it off.
+    lines.insert(lines.end(), {R"([HKEY_CURRENT_USER\Software\Microsoft\Office\PowerPoint\Addins\)"
+                               R"(CorvaneMSOfficePowerPoint.Connect])",
+                               R"("LoadBehavior"=dword:3)"});
     for (const auto& key : corvane::companion::RegistryKeys())
         lines.push_back("[-HKEY_CURRENT_USER\\" + corvane::ToUtf8(key) + "]");
     for (const auto& line : values) {
