@@ -90,20 +90,16 @@ TEST(Companion, LeavesAloneWhatSomebodyElseHasOpened)
                                                folder.Path(), report};
     stage.New();
     stage.SaveAs(folder.File(L"own.pptx"), 24);
-    EXPECT_FALSE(stage.HasOthers());
     DocumentObject& others = session.New();
     others.File().SetSaved(false);
     EXPECT_TRUE(stage.HasOthers());
     EXPECT_THROW(stage.Save(), corvane::Error);
-    EXPECT_THROW(stage.SaveAs(folder.File(L"two.pptx"), 24), corvane::Error);
     EXPECT_THROW(stage.SetProperty(L"Node", L"x"), corvane::Error);
     EXPECT_THROW(stage.Close(), corvane::Error);
-    for (const auto press : {+[](player::Stage& one) { one.Press(L"DelivAct"); },
-                             +[](player::Stage& one) { one.CallController(L"SaveGateDoc"); }})
-    {
-        press(stage);
-        EXPECT_NE(stage.TakeFaults().at(0).find(L"none that the player has opened"), std::wstring::npos);
-    }
+    stage.Press(L"DelivAct");
+    stage.CallController(L"SaveGateDoc");
+    EXPECT_EQ(stage.TakeFaults(),
+              std::vector<std::wstring>(2, L"the active presentation is none that the player has opened"));
     stage.Quit();
     ASSERT_EQ(session.OpenDocuments().size(), 1U);
     EXPECT_TRUE(session.Active() == &others && !others.File().IsSaved() && !hasQuit);
