@@ -82,8 +82,9 @@ std::wstring Performance::PlayIfSuitable()
         run.Quit();
         return kMisfitWords + misfit;
     }
-    for (const auto& [name, value] : m_errand.settings)
-        if (IsForDocuments(name)) run.OnUi([&] { m_stage.Set(FromUtf8(name), FromUtf8(value)); });
+    for (const auto& setting : m_errand.settings)
+        if (IsForDocuments(setting.first))
+            run.OnUi([&] { m_stage.Set(FromUtf8(setting.first), FromUtf8(setting.second)); });
     const player::Outcome outcome = player::Play(m_stage, m_errand.scenario, m_errand.settings);
     if (outcome.failure.empty())
         return L"scenario passed: " + NameOf(m_errand.scenario) + L" (" + std::to_wstring(outcome.steps) + L" steps, " +
