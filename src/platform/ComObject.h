@@ -182,10 +182,10 @@ template<class Object, class... Arguments>
 
 // Makes an object and hands out one of its interfaces; the result of a COM method that does so.
 template<class Object, class... Arguments>
-[[nodiscard]] HRESULT CreateObject(REFIID id, void** object, Arguments... arguments) noexcept
+[[nodiscard]] HRESULT CreateObject(REFIID id, void** object, const Arguments&... arguments) noexcept
 {
     HRESULT result = E_OUTOFMEMORY;
-    Ignoring([&] { result = MakeObject<Object>(std::move(arguments)...)->QueryInterface(id, object); });
+    Ignoring([&] { result = MakeObject<Object>(arguments...)->QueryInterface(id, object); });
     return result;
 }
 
