@@ -44,7 +44,7 @@ private:
     void Disconnected() noexcept;
     void ConnectToHost(const LateBound& application, LONG connectMode, const LateBound& addInInstance);
     void StartUp(const LateBound& application);
-    [[nodiscard]] HRESULT Nothing() const noexcept; // to be done
+    [[nodiscard]] HRESULT Nothing() const noexcept; // answers what the add-in takes no part in
     [[nodiscard]] HRESULT NoText(BSTR* text) const noexcept;
     void Offer(const LateBound& addInInstance);
     void OnApplicationEvent(DISPID member, const DISPPARAMS& arguments) noexcept;

@@ -36,6 +36,9 @@ constexpr RefusalText kTexts[] = {
     {Refusal::RelatedProjectClosed, L"<Refused>  because the project is closed."},
 };
 
+// None is without a text.
+static_assert(std::size(kTexts) == static_cast<std::size_t>(Refusal::RelatedProjectClosed) + 1);
+
 constexpr const wchar_t* TextOf(Refusal refusal)
 {
     return std::ranges::find(kTexts, refusal, &RefusalText::refusal)->text;

@@ -5,7 +5,6 @@
 
 #include "addin/CAddInMenus.h"
 #include "addin/CRbnBtnInfo.h"
-#include "addin/CSaveResult.h"
 #include "addin/Connect.h"
 #include "platform/Procedure.h"
 #include "platform/Registry.h"
@@ -286,22 +285,6 @@ TEST_F(ConnectTest, AnswersCallbacksThatNoControlNames)
         EXPECT_EQ(((*m_connect.Get()).*callback)(nullptr, text.Put()), S_OK);
         EXPECT_NE(text.Get(), nullptr);
         EXPECT_EQ(text.Text(), L"");
-    }
-}
-
-TEST(SaveResultObject, TellsEachIdOfTheTarget)
-{
-    LastSave().Begin();
-    LastSave().Save({L"http://server", {1, 2, 3, 4, 5}, L"", L""});
-    LastSave().End();
-    const auto object = MakeObject<corvane::CSaveResult>();
-    LONG expected = 0;
-    for (const auto id : {&_CSaveResult::get_ProjectID, &_CSaveResult::get_DeliverableID, &_CSaveResult::get_ActivityID,
-                          &_CSaveResult::get_RelatedDocumentID, &_CSaveResult::get_GateDocumentID})
-    {
-        LONG told = 0;
-        EXPECT_EQ(((*object.Get()).*id)(&told), S_OK);
-        EXPECT_EQ(told, ++expected);
     }
 }
 

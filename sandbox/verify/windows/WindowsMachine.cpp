@@ -6,9 +6,11 @@
 #include "machine/Files.h"
 #include "machine/Order.h"
 #include "machine/Process.h"
+#include "platform/Files.h"
 #include "platform/Owners.h"
 #include "platform/Registry.h"
 #include "platform/Utf8.h"
+#include "windows/Lacks.h"
 
 #include <algorithm>
 
@@ -90,10 +92,7 @@ std::vector<std::wstring> KeysOf(const Library& library)
     return keys;
 }
 
-double SecondsOf(const FILETIME& time)
-{
-    return static_cast<double>((static_cast<std::uint64_t>(time.dwHighDateTime) << 32U) | time.dwLowDateTime) / 1e7;
-}
+double SecondsOf(const FILETIME& time) { return static_cast<double>(corvane::FileTimeOf(time)) / 1e7; }
 
 ProcessorNote NoteOf(long process)
 {
@@ -107,40 +106,6 @@ ProcessorNote NoteOf(long process)
     const auto now = std::chrono::system_clock::now().time_since_epoch();
     return {std::chrono::duration<double>(now).count(), SecondsOf(kernel) + SecondsOf(user)};
 }
-
-bool HasOutlook()
-{
-    CLSID found{};
-    return SUCCEEDED(::CLSIDFromProgID(L"Outlook.Application", &found));
-}
-
-bool Mentions(const Scenario& scenario, std::string_view words)
-{
-    return scenario.text.find(words) != std::string::npos;
-}
-
-bool WritesPolicies(const Scenario& scenario)
-{
-    const auto values = scenario.All("registry");
-    return std::ranges::any_of(values, [](const auto& one) { return one.starts_with("Software\\Policies"); });
-}
-
-struct Lack
-{
-    bool (*keepsOff)(const Scenario& scenario);
-    const char* reason;
-};
-constexpr Lack kLacks[] = {
-    {[](const Scenario& one) { return Mentions(one, R"(\\corvane\documents\)"); },
-     R"(there is no share \\corvane\documents)"},
-    {[](const Scenario& one) { return one.One("run").find("--dpi") != std::string::npos; },
-     "it wants another resolution of the screen"},
-    {[](const Scenario& one) { return Mentions(one, "#! set outlook=") && HasOutlook(); },
-     "Outlook is installed, where a stand-in is wanted"},
-    {[](const Scenario& one) { return Mentions(one, "mail.client=express") && HasOutlook(); },
-     "Outlook is installed, where none is wanted"},
-    {[](const Scenario& one) { return WritesPolicies(one) && !MayWriteBelow(L"Software\\Policies"); },
-     "only an administrator may write the policies that it wants"}};
 
 void WriteWish(const std::string& wish)
 {
@@ -203,11 +168,7 @@ void WindowsMachine::Register()
     library.Register();
 }
 
-std::string WindowsMachine::Refuses(const Scenario& scenario) const
-{
-    const auto lack = std::ranges::find_if(kLacks, [&](const Lack& one) { return one.keepsOff(scenario); });
-    return lack == std::end(kLacks) ? "" : lack->reason;
-}
+std::string WindowsMachine::Refuses(const Scenario& scenario) const { return LackFor(scenario); }
 
 std::string WindowsMachine::HostPath(const fs::path& path) const { return Utf8Of(path); }
 
