@@ -192,9 +192,11 @@ bool Form::OnNotification(int control, UINT notification) noexcept
         return entry.control == control && entry.notification == notification;
     });
     // Esc and Enter press their buttons even while these are out of use, and where there are none.
-    const HWND window = Control(control);
-    const bool isUsable = window == nullptr || (::IsWindowEnabled(window) && IsShown(control));
-    if (notification == BN_CLICKED && (handler == handlers.end() || !isUsable)) {
+    const auto isUsable = [this, control] {
+        const HWND window = Control(control);
+        return window == nullptr || (::IsWindowEnabled(window) && IsShown(control));
+    };
+    if (notification == BN_CLICKED && (handler == handlers.end() || !isUsable())) {
         if (control == IDCANCEL) AnswerWait::End(); // the form cannot be left
         return handler != handlers.end();
     }

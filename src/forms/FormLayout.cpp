@@ -1,9 +1,20 @@
 #include "forms/FormLayout.h"
 
 #include "platform/Owners.h"
+#include "platform/Procedure.h"
 
 namespace corvane
 {
+namespace
+{
+
+BOOL CALLBACK Add(HWND window, LPARAM windows) noexcept
+{
+    Ignoring([&] { reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window); });
+    return TRUE;
+}
+
+} // namespace
 
 RECT ControlPlace(HWND control) noexcept
 {
@@ -11,6 +22,14 @@ RECT ControlPlace(HWND control) noexcept
     ::GetWindowRect(control, &place);
     ::MapWindowPoints(nullptr, ::GetParent(control), reinterpret_cast<POINT*>(&place), 2);
     return place;
+}
+
+std::vector<HWND> ControlsOf(HWND form) noexcept
+{
+    std::vector<HWND> controls;
+    ::EnumChildWindows(form, &Add, reinterpret_cast<LPARAM>(&controls));
+    std::erase_if(controls, [form](HWND window) { return ::GetAncestor(window, GA_PARENT) != form; });
+    return controls;
 }
 
 int HeightOf(HWND window) noexcept
@@ -22,7 +41,7 @@ int HeightOf(HWND window) noexcept
 
 void ShiftBelow(HWND form, int y, int delta) noexcept
 {
-    for (HWND control = ::GetWindow(form, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT)) {
+    for (const HWND control : ControlsOf(form)) {
         const RECT place = ControlPlace(control);
         if (place.top < y) continue;
         ::SetWindowPos(control, nullptr, place.left, place.top + delta, 0, 0,

@@ -3,11 +3,16 @@
 
 #include <windows.h>
 
+#include <vector>
+
 namespace corvane
 {
 
 // A control's rectangle in the client coordinates of its form.
 [[nodiscard]] RECT ControlPlace(HWND control) noexcept;
+
+// The controls of a form in tab order.
+[[nodiscard]] std::vector<HWND> ControlsOf(HWND form) noexcept;
 
 // The height of a control, or of a form with its frame.
 [[nodiscard]] int HeightOf(HWND window) noexcept;

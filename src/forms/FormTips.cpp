@@ -95,8 +95,9 @@ bool IsNamedByLabel(HWND control) noexcept
 
 void NameBehind(HWND label, const std::wstring& text) noexcept
 {
+    if (!IsClass(label, WC_STATICW)) return;
     const HWND control = ::GetWindow(label, GW_HWNDNEXT);
-    if (IsClass(label, WC_STATICW) && IsNamedByLabel(control)) NameForReaders(control, text);
+    if (IsNamedByLabel(control)) NameForReaders(control, text);
 }
 
 // Labels and frames let the mouse through to the form, and the title bar is the form's: there the tooltip watches a
@@ -123,10 +124,8 @@ TTTOOLINFOW ToolOf(HWND form, HWND control) noexcept
 
 FormTips::FormTips(HWND form) : m_form{form}
 {
-    for (HWND control = ::GetWindow(form, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT)) {
+    for (const HWND control : ControlsOf(form))
         NameBehind(control, WithoutAccessKeys(WindowText(control)));
-        if (KindOf(control) == TextKind::Shown) EndInEllipsis(control);
-    }
 }
 
 void FormTips::SetText(HWND control, const std::wstring& text, const std::wstring& more) const
@@ -137,6 +136,7 @@ void FormTips::SetText(HWND control, const std::wstring& text, const std::wstrin
     ::SetWindowTextW(control, text.c_str());
     const bool hasRoom = kind == TextKind::Typed || fits(text);
     const bool drawsAll = hasRoom || kind == TextKind::Line || kind == TextKind::Shown;
+    if (!hasRoom && kind == TextKind::Shown) EndInEllipsis(control);
     if (!drawsAll) ::SetWindowTextW(control, Shortened(text, fits).c_str());
     const bool isLiteral = kind == TextKind::Shown || kind == TextKind::Caption;
     std::wstring whole = isLiteral ? text : WithoutAccessKeys(text);
@@ -213,8 +213,7 @@ void FormTips::OnMouseOverFrame(POINT point) const noexcept
 void FormTips::TakeAllBack() const noexcept
 {
     TakeBack(m_form);
-    for (HWND control = ::GetWindow(m_form, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT))
-    {
+    for (const HWND control : ControlsOf(m_form)) {
         TakeBack(control);
         if (IsNamedByLabel(control)) NameForReaders(control, {});
     }
@@ -223,8 +222,7 @@ void FormTips::TakeAllBack() const noexcept
 void FormTips::FollowControls() const noexcept
 {
     if (m_tooltip == nullptr) return;
-    for (HWND control = ::GetWindow(m_form, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT))
-    {
+    for (const HWND control : ControlsOf(m_form)) {
         TTTOOLINFOW tool = ToolOf(m_form, control);
         ::SendMessageW(m_tooltip, TTM_NEWTOOLRECTW, 0, reinterpret_cast<LPARAM>(&tool));
     }
