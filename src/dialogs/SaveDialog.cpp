@@ -59,8 +59,6 @@ void SaveDialog::LoadInputs()
     m_terms.gateDocument = CustomName(L"Gate Document");
     m_terms.completed = CustomName(L"Completed");
     ShowTerms();
-    for (const int textBox : {txtAuthor, txtComments, txtNotes, txtName, txtDescription})
-        SelectAllOnCtrlA(textBox);
     const auto failure = Catch([this] {
         if (m_kind.asksForUser && !ServerURL.empty()) static_cast<void>(UserId());
     });

@@ -111,8 +111,6 @@ protected:
     void Check(int control, bool checked) const noexcept;
     // Makes a button the one that Enter presses; 0 for none.
     void SetDefaultButton(int control) const noexcept;
-    // Ctrl+A selects the whole text of this text box.
-    void SelectAllOnCtrlA(int control) const noexcept;
     // Shows text in the status bar at once.
     void SetStatus(int statusBar, const std::wstring& text) const noexcept;
     // Shows text in a part of its own at the status bar's end; without text there is no such part.

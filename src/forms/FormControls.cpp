@@ -11,19 +11,7 @@ namespace corvane
 namespace
 {
 
-constexpr UINT_PTR kSelectAllSubclass = 1;
 constexpr UINT_PTR kTimer = 1;
-constexpr WPARAM kCtrlA = 1; // the character that Ctrl+A types
-
-LRESULT CALLBACK SelectAllProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR)
-{
-    if (message == WM_CHAR && wParam == kCtrlA) {
-        ::SendMessageW(window, EM_SETSEL, 0, -1);
-        return 0;
-    }
-    if (message == WM_NCDESTROY) ::RemoveWindowSubclass(window, &SelectAllProcedure, kSelectAllSubclass);
-    return ::DefSubclassProc(window, message, wParam, lParam);
-}
 
 } // namespace
 
@@ -101,11 +89,6 @@ void Form::Check(int control, bool checked) const noexcept
 void Form::SetDefaultButton(int control) const noexcept
 {
     ::SendMessageW(m_window, DM_SETDEFID, static_cast<WPARAM>(control), 0);
-}
-
-void Form::SelectAllOnCtrlA(int control) const noexcept
-{
-    ::SetWindowSubclass(Control(control), &SelectAllProcedure, kSelectAllSubclass, 0);
 }
 
 void Form::SetStatus(int statusBar, const std::wstring& text) const noexcept

@@ -25,8 +25,19 @@ bool IsEsc(const MSG& message) noexcept
     return isDown && message.wParam == VK_ESCAPE;
 }
 
+// Ctrl+A selects a text box's whole text; not every edition of the control does so by itself.
+bool SelectsAll(const MSG& message) noexcept
+{
+    constexpr WPARAM kCtrlA = 1; // the character that it types
+    if (message.message != WM_CHAR || message.wParam != kCtrlA) return false;
+    if ((::SendMessageW(message.hwnd, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) == 0) return false;
+    ::SendMessageW(message.hwnd, EM_SETSEL, 0, -1);
+    return true;
+}
+
 bool IsKeyOfDialog(HWND dialog, MSG& message)
 {
+    if (SelectsAll(message)) return true;
     const HWND cancel = IsEsc(message) ? ::GetDlgItem(dialog, IDCANCEL) : nullptr;
     if (cancel == nullptr || ::IsWindowEnabled(cancel)) return ::IsDialogMessageW(dialog, &message) != FALSE;
     // The system would only beep.

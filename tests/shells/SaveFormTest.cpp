@@ -6,9 +6,12 @@
 #include "dialogs/frmSaveAssignment.h"
 #include "forms/FormLayout.h"
 #include "platform/ComObject.h"
+#include "platform/MessageLoop.h"
 #include "resources/resource.h"
 #include "support/CCustomNames.h"
 #include "webservice/WebService.h"
+
+#include <commctrl.h>
 
 using namespace corvane;
 
@@ -90,6 +93,27 @@ TEST_F(AssignmentForm, OffersWhatItsTargetAllows)
         EXPECT_EQ(HeightOf(dialog.Window()) == PixelsOfTwips(7875), !target.isActivity);
     }
     ::KillTimer(nullptr, timer);
+}
+
+// Not every edition of the control knows the key.
+LRESULT CALLBACK IgnoreCharacters(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR)
+{
+    return message == WM_CHAR ? 0 : ::DefSubclassProc(box, message, wParam, lParam);
+}
+
+TEST_F(AssignmentForm, SelectsATextWithCtrlA)
+{
+    constexpr WPARAM kCtrlA = 1;
+    frmSaveAssignment dialog;
+    Load(dialog, kCases[5]);
+    const HWND notes = ::GetDlgItem(dialog.Window(), txtNotes);
+    ::SetWindowSubclass(notes, &IgnoreCharacters, 1, 0);
+    for (const auto& [character, end] : {std::pair{kCtrlA + 1, 0}, std::pair{kCtrlA, 1}}) {
+        ::PostMessageW(notes, WM_CHAR, character, 0);
+        PumpPending();
+        EXPECT_EQ(HIWORD(::SendMessageW(notes, EM_GETSEL, 0, 0)), end);
+    }
+    ::RemoveWindowSubclass(notes, &IgnoreCharacters, 1);
 }
 
 } // namespace
