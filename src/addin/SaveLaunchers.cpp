@@ -4,6 +4,7 @@
 #include "dialogs/frmSaveAssignment.h"
 #include "dialogs/frmSaveGateDoc.h"
 #include "dialogs/frmSaveRelatedDoc.h"
+#include "platform/AnswerWait.h"
 #include "platform/Procedure.h"
 #include "support/CCustomNames.h"
 #include "support/Conversions.h"
@@ -14,16 +15,17 @@ namespace corvane
 namespace
 {
 
-// What every launch does before its dialog, and what it hands to it.
+// What every launch does before its dialog, and what it hands to it. The window is made while the server answers.
 void Prepare(SaveDialog& dialog, const frmBusy& busy)
 {
+    dialog.ServerURL = busy.sServer;
+    dialog.target = busy.target;
+    dialog.Document = busy.oDocument;
+    const Meanwhile window{[&dialog] { dialog.MakeWindow(); }};
     CustomNames().RefreshOnce(busy.sServer, kServicePage);
     AddInMenus()->SetUICaptions();
     dialog.AutomaticallySetPublishCheckbox = ToBooleanSafe(QueryText(
         busy.sServer, Operations::kIsAutoSetPublishCheckbox, {std::wstring{L"AutomaticallySetPublishCheckbox"}}));
-    dialog.ServerURL = busy.sServer;
-    dialog.target = busy.target;
-    dialog.Document = busy.oDocument;
 }
 
 template<class Dialog>

@@ -26,6 +26,12 @@ bool Flag(const XmlNode& row, const wchar_t* attribute) { return ToBooleanSafe(r
 
 } // namespace
 
+void frmSaveAssignment::Form_Initialize()
+{
+    SaveDialog::Form_Initialize();
+    if (DeliverableID > 0 && !IsActivity() && !ServerURL.empty()) ShowActivityRow(false);
+}
+
 SaveDialog::TargetState frmSaveAssignment::LoadTarget()
 {
     const ProcedureScope scope{L"frmSaveAssignment.LoadAssignment"};

@@ -40,6 +40,15 @@ int SaveDialog::FirstControl() const noexcept { return Control(txtName) != nullp
 
 int SaveDialog::HelpControl() const noexcept { return cmdHelp; }
 
+void SaveDialog::Form_Initialize()
+{
+    m_mailClientIsOutlook = IsMailClientOutlook();
+    Show(cmdSaveAndSend, m_mailClientIsOutlook);
+    SetStatus(StatusBar1, L"Ready");
+    ShowStatusDetail();
+    ShowProject({});
+}
+
 void SaveDialog::Form_Load()
 {
     if (const auto failure = Catch([this] { LoadInputs(); })) ReportError(*failure);
@@ -49,8 +58,6 @@ void SaveDialog::Form_Load()
 
 void SaveDialog::LoadInputs()
 {
-    SetStatus(StatusBar1, L"Ready");
-    ShowStatusDetail();
     m_terms.corvane = CustomName(L"Corvane");
     m_terms.deliverable = CustomName(L"Deliverable");
     m_terms.activity = CustomName(L"Activity");
@@ -65,8 +72,6 @@ void SaveDialog::LoadInputs()
     // What needs no server is there all the same: Change may lead to another one when this one fails.
     m_clientEvents = ClientEventsEnabled(Document);
     Check(chkPublish, AutomaticallySetPublishCheckbox);
-    m_mailClientIsOutlook = IsMailClientOutlook();
-    Show(cmdSaveAndSend, m_mailClientIsOutlook);
     if (failure) throw *failure;
     if (!ServerURL.empty()) ReloadTarget();
 }

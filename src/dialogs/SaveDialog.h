@@ -116,6 +116,7 @@ protected:
     [[nodiscard]] UploadTerms& Terms() noexcept { return m_terms; }
     [[nodiscard]] const UploadTerms& Terms() const noexcept { return m_terms; }
 
+    void Form_Initialize() override;
     void Form_Load() override;
 
 private:

@@ -17,6 +17,7 @@ public:
     std::int32_t& ActivityID = target.activityId;
 
 private:
+    void Form_Initialize() override;
     void ShowTerms() override;
     [[nodiscard]] TargetState LoadTarget() override;
     [[nodiscard]] SaveStart BeginSave() override;

@@ -32,10 +32,18 @@ void Form::CreateWindowFromTemplate(HWND owner)
     m_tips = FormTips{m_window};
 }
 
-void Form::Load()
+void Form::MakeWindow()
 {
     if (m_window != nullptr) return;
     CreateWindowFromTemplate(NextOwner());
+    Run(L"Form_Initialize", &Form::Form_Initialize);
+}
+
+void Form::Load()
+{
+    if (m_loaded) return;
+    MakeWindow();
+    m_loaded = true;
     Run(L"Form_Load", &Form::Form_Load);
 }
 
@@ -102,6 +110,7 @@ void Form::OnWindowGone() noexcept
 {
     EnableOthers();
     m_shown = false;
+    m_loaded = false;
     std::erase(OpenForms(), this);
     RemoveDialogWindow(m_window);
     m_window = nullptr;
@@ -111,7 +120,7 @@ void Form::Unload() noexcept
 {
     if (m_window == nullptr) return;
     Hide();
-    Run(L"Form_Unload", &Form::Form_Unload);
+    if (std::exchange(m_loaded, false)) Run(L"Form_Unload", &Form::Form_Unload);
     std::erase(OpenForms(), this);
     m_tips.TakeAllBack();
     RemoveDialogWindow(m_window);

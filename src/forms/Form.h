@@ -45,8 +45,12 @@ public:
     Form& operator=(const Form&) = delete;
     virtual ~Form();
 
-    // Makes the window, hidden, in the user's message font, and runs Form_Load. Does nothing when that is done.
-    // Throws Error when the window cannot be made; an error of Form_Load is reported and the form stays.
+    // Makes the window, hidden, in the user's message font, and runs Form_Initialize. Does nothing when that is done.
+    // Throws Error when the window cannot be made.
+    void MakeWindow();
+
+    // Makes the window if need be and runs Form_Load. Does nothing when that is done. Throws what making throws; an
+    // error of Form_Load is reported and the form stays.
     void Load();
 
     // Loads the form if need be, shows it in front of its owner and centred on it, and returns when it is hidden or
@@ -76,6 +80,7 @@ protected:
 
     // None while the form is being destroyed, when its window still tells of what goes with it.
     [[nodiscard]] virtual std::span<const FormHandler> Handlers() const { return {}; }
+    virtual void Form_Initialize() {} // asks no server
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
     virtual void Form_Unload() {}
@@ -152,6 +157,7 @@ private:
     std::wstring m_caption;       // the whole text
     FormTips m_tips;
     FormScroll m_scroll;
+    bool m_loaded = false;
     bool m_shown = false;
     bool m_hourglass = false;
 };

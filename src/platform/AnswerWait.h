@@ -1,8 +1,11 @@
-// The wait for an answer, which a key of the user may end and whoever shows it hears of.
+// The wait for an answer, which a key of the user may end, whoever shows it hears of, and other work may fill.
 #pragma once
+
+#include "platform/Procedure.h"
 
 #include <chrono>
 #include <cstddef>
+#include <functional>
 #include <utility>
 
 namespace corvane
@@ -55,6 +58,30 @@ private:
     AnswerWait* m_outer;
     bool m_isEnded = false;
     bool m_wasTold = false;
+};
+
+// Work that the next wait for an answer begins with, while the server is busy. Nobody does it where no wait comes
+// before this goes, or where it fails: who needs it done does it then.
+class Meanwhile
+{
+public:
+    explicit Meanwhile(std::function<void()> work) : m_work{std::move(work)} { s_next = this; }
+    Meanwhile(const Meanwhile&) = delete;
+    Meanwhile& operator=(const Meanwhile&) = delete;
+    ~Meanwhile()
+    {
+        if (s_next == this) s_next = nullptr;
+    }
+
+    static void Do() noexcept
+    {
+        if (const Meanwhile* const next = std::exchange(s_next, nullptr)) Ignoring(next->m_work);
+    }
+
+private:
+    static inline const Meanwhile* s_next = nullptr;
+
+    std::function<void()> m_work;
 };
 
 } // namespace corvane

@@ -132,6 +132,7 @@ void HttpRequest::Wait(std::optional<std::chrono::milliseconds> limit)
 void HttpRequest::AwaitEnd(std::optional<std::chrono::milliseconds> limit)
 {
     AnswerWait wait;
+    Meanwhile::Do();
     const auto hasEnded = [&] { return wait.IsEnded() || StateOf(*m_request.Get()) == kComplete || PromisesTooMuch(); };
     // Progress arrives as messages on this thread, so asking after each message misses nothing.
     const WaitEnd end = PumpBySeconds(hasEnded, limit, [&] {

@@ -5,6 +5,7 @@
 
 #include "dialogs/frmSaveAssignment.h"
 #include "forms/FormLayout.h"
+#include "platform/AnswerWait.h"
 #include "platform/ComObject.h"
 #include "platform/MessageLoop.h"
 #include "resources/resource.h"
@@ -93,6 +94,25 @@ TEST_F(AssignmentForm, OffersWhatItsTargetAllows)
         EXPECT_EQ(HeightOf(dialog.Window()) == PixelsOfTwips(7875), !target.isActivity);
     }
     ::KillTimer(nullptr, timer);
+}
+
+TEST_F(AssignmentForm, MayBeMadeWhileTheServerIsAsked)
+{
+    frmSaveAssignment dialog;
+    static_cast<void>(Meanwhile{[&] { dialog.MakeWindow(); }});
+    static_cast<void>(QueryText(L"http://h", Operations::kGetUserId, {}));
+    EXPECT_EQ(dialog.Window(), nullptr); // nothing waited before it went
+    m_transport.onSend = [&] { EXPECT_EQ(dialog.Window(), nullptr); };
+    {
+        const Meanwhile window{[&] { dialog.MakeWindow(); }};
+        static_cast<void>(QueryText(L"http://h", Operations::kGetUserId, {}));
+    }
+    m_transport.onSend = {};
+    const HWND made = dialog.Window();
+    ASSERT_NE(made, nullptr);
+    Load(dialog, kCases[5]);
+    EXPECT_EQ(dialog.Window(), made);
+    EXPECT_EQ(::GetWindowTextLengthW(::GetDlgItem(made, txtNotes)), 1); // its target was loaded
 }
 
 // Not every edition of the control knows the key.
