@@ -38,6 +38,7 @@ public:
     void Step();
 
 private:
+    std::size_t m_steps = 0;
     std::chrono::steady_clock::time_point m_last; // long ago: what came before the first step may have taken long
 };
 

@@ -75,11 +75,11 @@ XmlNode XmlNode::NextElement() const
     return ElementFrom(next);
 }
 
-std::wstring XmlNode::Name() const
+bool XmlNode::IsNamed(std::wstring_view name) const
 {
-    Bstr name;
-    if (m_node != nullptr) m_node->get_nodeName(name.Put());
-    return name.Text();
+    Bstr own;
+    if (m_node != nullptr) m_node->get_nodeName(own.Put());
+    return ViewOf(own.Get()) == name;
 }
 
 void XmlNode::SetAttribute(const wchar_t* name, std::wstring_view value)

@@ -30,7 +30,7 @@ public:
     // The node's first child element, and the next element after the node; empty at the end.
     [[nodiscard]] XmlNode FirstElement() const;
     [[nodiscard]] XmlNode NextElement() const;
-    [[nodiscard]] std::wstring Name() const;
+    [[nodiscard]] bool IsNamed(std::wstring_view name) const;
 
     // Sets an attribute of an element; attributes keep the order in which they are set.
     void SetAttribute(const wchar_t* name, std::wstring_view value);

@@ -31,7 +31,7 @@ void TargetTree::AddProjects(const std::vector<XmlNode>& projects, const Target&
         if (!wanted()) return;
         const std::wstring iconSet = project.Text(L"IconSet");
         if (m_iconSets.insert(iconSet).second) m_loadIcons(m_images, iconSet);
-        AddNode({TVI_ROOT, {}}, project, 0, iconSet, wanted);
+        AddNode({}, project, 0, iconSet, wanted);
     }
 }
 
@@ -45,7 +45,7 @@ void TargetTree::AddNode(const Position& parent, const XmlNode& element, std::si
     const TreeLevel& below = m_kind.levels[depth + 1];
     if (m_kind.newEntry != nullptr) Insert(node, below, L"0", m_kind.newEntry, iconSet);
     for (XmlNode child = element.FirstElement(); child && wanted(); child = child.NextElement()) {
-        if (child.Name() == below.element) AddNode(node, child, depth + 1, iconSet, wanted);
+        if (child.IsNamed(below.element)) AddNode(node, child, depth + 1, iconSet, wanted);
     }
 }
 
@@ -53,23 +53,29 @@ TargetTree::Position TargetTree::Insert(const Position& parent, const TreeLevel&
                                         const std::wstring& text, const std::wstring& iconSet)
 {
     const std::int32_t number = ToLongSafe(id);
-    Position node{nullptr, NodeKey(parent.key, level, std::to_wstring(number))};
+    Position node{nullptr, m_keys.size()};
+    m_keys.push_back(NodeKey(KeyOf(parent), level, std::to_wstring(number)));
     TVINSERTSTRUCTW insert{};
     insert.hParent = parent.item;
     insert.hInsertAfter = TVI_LAST;
     insert.item.mask = TVIF_TEXT | TVIF_PARAM | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
     insert.item.pszText = const_cast<LPWSTR>(text.c_str());
-    insert.item.lParam = static_cast<LPARAM>(m_keys.size());
+    insert.item.lParam = static_cast<LPARAM>(node.number);
     insert.item.iImage =
         level.isTarget ? TreeImages::IndexOf(level.picture) : m_images.IndexOf(level.element + iconSet);
     insert.item.iSelectedImage = insert.item.iImage;
     node.item = TreeView_InsertItem(m_treeView, &insert);
-    m_keys.push_back(node.key);
-    if (level.isTarget && number == m_preselected.*level.id && IsPreselected(node.key, level)) {
+    if (level.isTarget && number == m_preselected.*level.id && IsPreselected(m_keys.back(), level)) {
         TreeView_EnsureVisible(m_treeView, node.item);
         TreeView_SelectItem(m_treeView, node.item);
     }
     return node;
+}
+
+// Nothing for the root, and where the tree was cleared meanwhile.
+std::wstring_view TargetTree::KeyOf(const Position& node) const noexcept
+{
+    return node.number < m_keys.size() ? std::wstring_view{m_keys[node.number]} : std::wstring_view{};
 }
 
 bool TargetTree::IsPreselected(const std::wstring& key, const TreeLevel& level) const

@@ -42,16 +42,18 @@ public:
     [[nodiscard]] bool IsPointed() const noexcept;
 
 private:
+    static constexpr auto kNone = static_cast<std::size_t>(-1);
     struct Position
     {
-        HTREEITEM item;
-        std::wstring key;
+        HTREEITEM item = TVI_ROOT;
+        std::size_t number = kNone; // of its key
     };
 
     void AddNode(const Position& parent, const XmlNode& element, std::size_t depth, const std::wstring& iconSet,
                  const Wanted& wanted);
     Position Insert(const Position& parent, const TreeLevel& level, const std::wstring& id, const std::wstring& text,
                     const std::wstring& iconSet);
+    [[nodiscard]] std::wstring_view KeyOf(const Position& node) const noexcept;
     [[nodiscard]] bool IsPreselected(const std::wstring& key, const TreeLevel& level) const;
 
     HWND m_treeView;
