@@ -17,8 +17,21 @@ namespace
 
 const std::wstring kUploadName = L"bench.pptx";
 
+// What every upload asks first.
+void AskForLimit(const std::wstring& server)
+{
+    const auto& operation = corvane::Operations::kMaxFileUploadSize;
+    BareRequest request;
+    request.Open(L"GET", corvane::Endpoint(server, corvane::kServicePage) + L"?" +
+                             corvane::RequestQuery(operation.name, {std::wstring{L"MaxFileUploadSize"}}));
+    request.Send(nullptr);
+}
+
 void SendBare(const std::wstring& server, const std::filesystem::path& path)
 {
+    const Stopwatch watch;
+    AskForLimit(server);
+    Tell("question", watch.Milliseconds());
     const std::string header = corvane::UploadHeader(kUploadName);
     const std::string trailer = corvane::UploadTrailer();
     const auto length = static_cast<std::size_t>(std::filesystem::file_size(path));
