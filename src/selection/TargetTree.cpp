@@ -27,26 +27,35 @@ void TargetTree::AddProjects(const std::vector<XmlNode>& projects, const Target&
     m_preselected = preselected;
     m_pauses = WorkPauses{};
     const PaintingOff paintingOff{m_treeView};
+    std::vector<Branch> branches;
     for (const XmlNode& project : projects) {
         if (!wanted()) return;
-        const std::wstring iconSet = project.Text(L"IconSet");
-        if (m_iconSets.insert(iconSet).second) m_loadIcons(m_images, iconSet);
-        AddNode({}, project, 0, iconSet, wanted);
+        const auto [iconSet, isNew] = m_iconSets.insert(project.Text(L"IconSet"));
+        if (isNew) m_loadIcons(m_images, *iconSet);
+        branches.push_back({project, {}, *iconSet});
     }
+    // Level by level: a tree view may look a parent up from its first node on.
+    for (std::size_t depth = 0; !branches.empty(); ++depth)
+        branches = AddLevel(branches, depth, wanted);
 }
 
-void TargetTree::AddNode(const Position& parent, const XmlNode& element, std::size_t depth, const std::wstring& iconSet,
-                         const Wanted& wanted)
+std::vector<TargetTree::Branch> TargetTree::AddLevel(const std::vector<Branch>& branches, std::size_t depth,
+                                                     const Wanted& wanted)
 {
     const TreeLevel& level = m_kind.levels[depth];
-    const Position node = Insert(parent, level, element.Text(level.idAttribute), element.Text(L"name"), iconSet);
-    m_pauses.Step();
-    if (depth + 1 == m_kind.levels.size()) return;
-    const TreeLevel& below = m_kind.levels[depth + 1];
-    if (m_kind.newEntry != nullptr) Insert(node, below, L"0", m_kind.newEntry, iconSet);
-    for (XmlNode child = element.FirstElement(); child && wanted(); child = child.NextElement()) {
-        if (child.IsNamed(below.element)) AddNode(node, child, depth + 1, iconSet, wanted);
+    const bool isLast = depth + 1 == m_kind.levels.size();
+    std::vector<Branch> next;
+    for (const auto& [element, parent, iconSet] : branches) {
+        if (!wanted()) return {};
+        const Position node = Insert(parent, level, element.Text(level.idAttribute), element.Text(L"name"), iconSet);
+        m_pauses.Step();
+        if (isLast) continue;
+        const TreeLevel& below = m_kind.levels[depth + 1];
+        if (m_kind.newEntry != nullptr) Insert(node, below, L"0", m_kind.newEntry, iconSet);
+        for (XmlNode child = element.FirstElement(); child; child = child.NextElement())
+            if (child.IsNamed(below.element)) next.push_back({child, node, iconSet});
     }
+    return next;
 }
 
 TargetTree::Position TargetTree::Insert(const Position& parent, const TreeLevel& level, const std::wstring& id,

@@ -49,8 +49,17 @@ private:
         std::size_t number = kNone; // of its key
     };
 
-    void AddNode(const Position& parent, const XmlNode& element, std::size_t depth, const std::wstring& iconSet,
-                 const Wanted& wanted);
+    // An element that is to become a node.
+    struct Branch
+    {
+        XmlNode element;
+        Position parent;
+        const std::wstring& iconSet;
+    };
+
+    // Adds nodes of one level; what there is below them.
+    [[nodiscard]] std::vector<Branch> AddLevel(const std::vector<Branch>& branches, std::size_t depth,
+                                               const Wanted& wanted);
     Position Insert(const Position& parent, const TreeLevel& level, const std::wstring& id, const std::wstring& text,
                     const std::wstring& iconSet);
     [[nodiscard]] std::wstring_view KeyOf(const Position& node) const noexcept;
