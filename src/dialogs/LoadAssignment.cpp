@@ -29,6 +29,7 @@ bool Flag(const XmlNode& row, const wchar_t* attribute) { return ToBooleanSafe(r
 void frmSaveAssignment::Form_Initialize()
 {
     SaveDialog::Form_Initialize();
+    m_activityRowShown = true; // as the template has it, also where the window is made anew
     if (DeliverableID > 0 && !IsActivity() && !ServerURL.empty()) ShowActivityRow(false);
 }
 

@@ -46,7 +46,7 @@ void SaveDialog::Form_Initialize()
     Show(cmdSaveAndSend, m_mailClientIsOutlook);
     SetStatus(StatusBar1, L"Ready");
     ShowStatusDetail();
-    ShowProject({});
+    ShowProject({}); // the tooltip's server is known before the name
 }
 
 void SaveDialog::Form_Load()

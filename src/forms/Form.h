@@ -64,7 +64,7 @@ public:
     // Unloads the open form of that name, the last opened where there are several.
     static void UnloadNamed(std::wstring_view name) noexcept;
 
-    // Whether the window is a loaded form's.
+    // Whether the window is a form's.
     [[nodiscard]] static bool IsForm(HWND window) noexcept;
 
     // The visible form in front of the others, or null.
